@@ -1,0 +1,15 @@
+# Single precision exactly as written, on every target: no contraction, no reassociation, no excess
+# precision. The last two flags change no value and let loops vectorise.
+include(CheckCXXCompilerFlag)
+
+add_library(quorvel_arithmetic INTERFACE)
+target_compile_options(quorvel_arithmetic INTERFACE
+    -ffp-contract=off -fno-fast-math -fno-math-errno -fno-trapping-math
+    -Wall -Wextra -Wpedantic
+    -Werror=double-promotion -Werror=conversion -Werror=float-conversion
+    -Werror=missing-declarations)
+
+check_cxx_compiler_flag(-fexcess-precision=standard QUORVEL_HAS_EXCESS_PRECISION)
+if(QUORVEL_HAS_EXCESS_PRECISION)
+    target_compile_options(quorvel_arithmetic INTERFACE -fexcess-precision=standard)
+endif()

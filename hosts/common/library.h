@@ -1,0 +1,82 @@
+// The Quorvel library as a host sees it: loaded at run time by name, every routine callable by
+// value.
+//
+//     quorvel::host::load_library();
+//     const float ps = lib::PSSVP(20.0f);
+//     float direct, diffuse;
+//     lib::CLSNNR(altitude, azimuth, height, sky, direct, diffuse);
+//
+// Inputs are given by value, outputs as variables, arrays as std::array, C array or pointer.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <type_traits>
+
+#include "quorvel.h"
+
+namespace quorvel::host {
+
+// Loads quorvel.dll or libquorvel.so as the loader finds it (beside the program first), or the file
+// named by the environment variable QUORVEL_LIBRARY. Throws std::runtime_error with the reason.
+void load_library();
+
+// Address of an exported routine; throws std::runtime_error when the library does not export it.
+void* routine_address(const char* name);
+
+// One argument of a call: an input by value or by address, an output by variable or by address.
+template <class Pointer>
+class Argument {
+    using Value = std::remove_const_t<std::remove_pointer_t<Pointer>>;
+    static constexpr bool input = std::is_const_v<std::remove_pointer_t<Pointer>>;
+
+  public:
+    Argument(Value value) requires(input) : value_(value), address_(&value_) {}
+    Argument(Value& variable) requires(!input) : address_(&variable) {}
+    Argument(Pointer address) : address_(address) {}
+    template <std::size_t n>
+    Argument(const std::array<Value, n>& values) requires(input) : address_(values.data()) {}
+    template <std::size_t n>
+    Argument(std::array<Value, n>& values) requires(!input) : address_(values.data()) {}
+    Argument(const Argument&) = delete;
+    Argument& operator=(const Argument&) = delete;
+
+    Pointer address() const { return address_; }
+
+  private:
+    Value value_{};
+    Pointer address_;
+};
+
+// A routine, looked up at its first call.
+template <class Function>
+class Routine;
+
+template <class Result, class... Pointers>
+class Routine<Result (*)(Pointers...)> {
+  public:
+    explicit constexpr Routine(const char* name) : name_(name) {}
+
+    Result operator()(const Argument<Pointers>&... arguments) const {
+        return address()(arguments.address()...);
+    }
+
+    auto address() const -> Result (*)(Pointers...) {
+        if (!function_)
+            function_ = reinterpret_cast<Result (*)(Pointers...)>(routine_address(name_));
+        return function_;
+    }
+
+  private:
+    const char* name_;
+    mutable Result (*function_)(Pointers...) = nullptr;
+};
+
+}  // namespace quorvel::host
+
+// lib::PSSVP, lib::PSVP, ...: all exported routines.
+namespace lib {
+#define QUORVEL_ROUTINE(name) inline const quorvel::host::Routine<decltype(&::name)> name{#name};
+#include "routine_names.inc"
+#undef QUORVEL_ROUTINE
+}  // namespace lib

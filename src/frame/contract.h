@@ -1,0 +1,34 @@
+// The calling contract: types, conventions and constants that every exported routine shares.
+//
+// Exported routines are declared in quorvel.h, which is produced from the catalogue; the shells
+// (*_shell.cpp) define them, so that the compiler holds every definition against its declaration.
+#pragma once
+
+#include <cfloat>
+#include <cstdint>
+
+#include "quorvel.h"
+
+namespace quorvel {
+
+using Real = float;
+using DoubleReal = double;
+using Integer = std::int32_t;
+
+static_assert(FLT_EVAL_METHOD == 0, "single precision must be evaluated in single precision");
+static_assert(sizeof(Real) == 4 && sizeof(DoubleReal) == 8, "IEEE floats are assumed");
+
+// The library's own pi is the decimal 3.141593 as a float, which is one step above the float
+// nearest to pi; results depend on it.
+inline constexpr Real pi = 3.141593f;
+
+inline constexpr Real zero_celsius = 273.15f;  // K
+
+// Written for a quantity that does not exist; anything above the limit is read as such.
+inline constexpr Real undefined = 1.0e20f;
+inline constexpr Real undefined_limit = 1.0e10f;
+constexpr bool is_undefined(Real value) noexcept { return value > undefined_limit; }
+
+constexpr Integer logical(bool value) noexcept { return value ? -1 : 0; }
+
+}  // namespace quorvel

@@ -1,0 +1,88 @@
+#!/usr/bin/env python3
+"""Hold the corpus hashes of one or more builds of the library against the committed ones.
+
+    check_hashes.py [--write] HASHES PROGRAM [LIBRARY ...]
+
+PROGRAM is the corpus program (with its emulator in front, if any). Without LIBRARY it runs on the
+library it finds itself; with libraries, on each in turn. A build that differs from the committed
+hashes is compared case by case with the first one, and the first differing case is shown.
+"""
+
+import argparse
+import os
+import shlex
+import struct
+import subprocess
+import sys
+from pathlib import Path
+
+CPU_FLAGS = {"x86-64-v3": {"avx2", "bmi2", "fma"}, "x86-64-v4": {"avx512f", "avx512bw", "avx512cd", "avx512dq", "avx512vl"}}
+
+
+def run(program, library, *arguments):
+    environment = dict(os.environ, **({"QUORVEL_LIBRARY": library} if library else {}))
+    done = subprocess.run([*program, *arguments], env=environment, capture_output=True, text=True)
+    if done.returncode:
+        sys.exit(f"{' '.join(program)} on {library or 'its library'}: {done.stderr.strip()}")
+    return done.stdout.replace("\r", "").splitlines()
+
+
+def runs_here(library):
+    """Whether this CPU has the instruction set that the file's name asks for."""
+    for level, flags in CPU_FLAGS.items():
+        if library and level in library:
+            return flags <= set(Path("/proc/cpuinfo").read_text().split())
+    return True
+
+
+def readable(words):
+    def number(word):
+        real = struct.unpack(">f", bytes.fromhex(word))[0]
+        return f"{word} ({real:.9g} or {struct.unpack('>i', bytes.fromhex(word))[0]})"
+
+    return ", ".join(number(word) for word in words.split())
+
+
+def first_difference(program, routine, reference, library):
+    for ours, theirs in zip(run(program, reference, routine), run(program, library, routine)):
+        if ours != theirs:
+            given, _, result = ours.partition(" : ")
+            return (
+                f"    arguments   {readable(given)}\n"
+                f"    {reference}  {readable(result)}\n"
+                f"    {library}  {readable(theirs.partition(' : ')[2])}"
+            )
+    return "    both give the same results: the committed hash is another one"
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--write", action="store_true", help="write HASHES anew (say why in the changelog)")
+    parser.add_argument("hashes", type=Path)
+    parser.add_argument("program", type=shlex.split)
+    parser.add_argument("libraries", nargs="*")
+    options = parser.parse_args()
+    libraries = options.libraries or [""]
+
+    if options.write:
+        options.hashes.write_text("".join(f"{line}\n" for line in run(options.program, libraries[0])))
+        return
+    committed = options.hashes.read_text().splitlines()
+    failed = False
+    for library in libraries:
+        label = library or " ".join(options.program)
+        if not runs_here(library):
+            print(f"skipped   {label}: this CPU lacks its instruction set")
+            continue
+        differing = sorted(set(run(options.program, library)) ^ set(committed))
+        print(f"{'DIFFERS' if differing else 'the same'}  {label}")
+        for routine in dict.fromkeys(line.split()[0] for line in differing):
+            print(f"  {routine}")
+            if len(libraries) > 1:
+                print(first_difference(options.program, routine, libraries[0], library))
+        failed = failed or bool(differing)
+    sys.exit(failed)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,131 @@
+#include "support/random_arguments.h"
+
+#include <bit>
+#include <cmath>
+#include <limits>
+
+namespace quorvel::test {
+namespace {
+
+constexpr std::uint32_t untouched = 0xC5C5C5C5u;
+// Counts go this far beyond their range, and arrays are that much longer.
+constexpr int beyond = 2;
+
+double edge(const Argument& argument, Random& random) {
+    const double width = argument.high - argument.low;
+    const double edges[] = {argument.low,
+                            argument.high,
+                            0.0,
+                            -0.0,
+                            1.0,
+                            -1.0,
+                            argument.low - 0.01 * width,
+                            argument.high + 0.01 * width,
+                            argument.low + 0.5 * width,
+                            1e-3,
+                            1e-30,
+                            1e20,
+                            -1e20,
+                            std::numeric_limits<double>::infinity(),
+                            -std::numeric_limits<double>::infinity(),
+                            std::numeric_limits<double>::quiet_NaN()};
+    return edges[random.below(std::size(edges))];
+}
+
+double within(const Argument& argument, Random& random) {
+    return argument.low + (argument.high - argument.low) * random.unit();
+}
+
+std::int32_t integer_within(const Argument& argument, int margin, Random& random) {
+    const auto low = static_cast<std::int32_t>(argument.low) - margin;
+    const auto high = static_cast<std::int32_t>(argument.high) + margin;
+    return low + random.below(high - low + 1);
+}
+
+// A value within the range, a whole one, one on an edge, or any bits.
+template <class Float, class Bits>
+Bits any_real(const Argument& argument, Random& random) {
+    const int kind = random.below(100);
+    if (kind >= 94) return static_cast<Bits>(random.bits());
+    double value = kind >= 82 ? edge(argument, random) : within(argument, random);
+    if (kind >= 75 && kind < 82) value = std::round(value);
+    return std::bit_cast<Bits>(static_cast<Float>(value));
+}
+
+}  // namespace
+
+int ArgumentSet::largest_extent(const Extent& extent) const {
+    if (extent.argument < 0) return extent.fixed;
+    return static_cast<int>(routine_.arguments[static_cast<std::size_t>(extent.argument)].high) +
+           beyond;
+}
+
+bool ArgumentSet::is_extent(std::size_t argument) const {
+    for (const Argument& other : routine_.arguments)
+        for (const Extent& extent : other.shape)
+            if (extent.argument == static_cast<int>(argument)) return true;
+    return false;
+}
+
+ArgumentSet::ArgumentSet(const Routine& routine) : routine_(routine) {
+    for (const Argument& argument : routine.arguments) {
+        std::size_t words = size_of(argument.type) / 4;
+        for (const Extent& extent : argument.shape)
+            words *= static_cast<std::size_t>(largest_extent(extent));
+        words_.emplace_back(words);
+    }
+    for (auto& block : words_) addresses_.push_back(block.data());
+}
+
+std::uint32_t ArgumentSet::any_integer(std::size_t argument, Random& random) const {
+    constexpr std::int32_t wild[] = {std::numeric_limits<std::int32_t>::min(),
+                                     std::numeric_limits<std::int32_t>::max(), -1, 0};
+    const Argument& description = routine_.arguments[argument];
+    const int kind = random.below(100);
+    if (kind < 80) return static_cast<std::uint32_t>(integer_within(description, 0, random));
+    if (kind < 95 || is_extent(argument))
+        return static_cast<std::uint32_t>(integer_within(description, beyond, random));
+    const int choice = random.below(8);
+    return choice < 4 ? static_cast<std::uint32_t>(wild[choice])
+                      : static_cast<std::uint32_t>(random.bits());
+}
+
+template <class SingleWord, class DoubleWord, class IntegerWord>
+void ArgumentSet::draw(SingleWord single, DoubleWord pair, IntegerWord integer) {
+    for (std::size_t i = 0; i < words_.size(); ++i) {
+        const Argument& argument = routine_.arguments[i];
+        auto& block = words_[i];
+        for (std::size_t j = 0; j < block.size(); ++j) {
+            if (argument.direction == Direction::Out) {
+                block[j] = untouched;
+            } else if (argument.type == Type::Integer) {
+                block[j] = integer(i);
+            } else if (argument.type == Type::Real) {
+                block[j] = single(argument);
+            } else {
+                const std::uint64_t bits = pair(argument);
+                block[j] = static_cast<std::uint32_t>(bits);
+                block[++j] = static_cast<std::uint32_t>(bits >> 32);
+            }
+        }
+    }
+}
+
+void ArgumentSet::draw_valid(Random& random) {
+    draw(
+        [&](const Argument& a) {
+            return std::bit_cast<std::uint32_t>(static_cast<float>(within(a, random)));
+        },
+        [&](const Argument& a) { return std::bit_cast<std::uint64_t>(within(a, random)); },
+        [&](std::size_t i) {
+            return static_cast<std::uint32_t>(integer_within(routine_.arguments[i], 0, random));
+        });
+}
+
+void ArgumentSet::draw_any(Random& random) {
+    draw([&](const Argument& a) { return any_real<float, std::uint32_t>(a, random); },
+         [&](const Argument& a) { return any_real<double, std::uint64_t>(a, random); },
+         [&](std::size_t i) { return any_integer(i, random); });
+}
+
+}  // namespace quorvel::test

@@ -1,0 +1,126 @@
+"""quorvel.h: the documented C header."""
+
+import textwrap
+
+from catalogue import C_TYPES
+
+PREAMBLE = """\
+/*
+ * Quorvel - building-physics and building-services calculations.
+ *
+ * Produced from the catalogue of routines (catalogue/); do not edit.
+ *
+ * Every argument is passed by reference, inputs are never written, and arrays are one-based in the
+ * texts and stored column by column. Angles are in radians; azimuths run from north, clockwise seen
+ * from above (east pi/2, south pi); tilt and solar altitude are measured from the horizontal.
+ * Routines report no errors: what an argument outside its range gets is said in the notes.
+ * Logical results are -1 (true) and 0 (false); 1.0e20 stands for a quantity that does not exist.
+ * Every routine is re-entrant.
+ */
+#ifndef QUORVEL_H
+#define QUORVEL_H
+
+#include <stdint.h>
+
+#if defined(QUORVEL_STATIC)
+#define QUORVEL_API
+#elif defined(_WIN32) && defined(QUORVEL_BUILDING)
+#define QUORVEL_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define QUORVEL_API __declspec(dllimport)
+#else
+#define QUORVEL_API __attribute__((visibility("default")))
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+"""
+
+POSTAMBLE = """
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* QUORVEL_H */
+"""
+
+WIDTH = 100
+
+
+def _number(value):
+    return f"{value:g}" if isinstance(value, float) else str(value)
+
+
+def _domain(arg):
+    if arg.ignored:
+        return "not used"
+    if arg.values:
+        return "selector"
+    return f"{_number(arg.range[0])} .. {_number(arg.range[1])}" if arg.range else ""
+
+
+def _meaning(arg):
+    text = arg.meaning
+    if arg.values:
+        text += ": " + ", ".join(f"{key} {meaning}" for key, meaning in arg.values.items())
+    if arg.shape:
+        text += f" [{', '.join(str(extent) for extent in arg.shape)}]"
+    return text
+
+
+def _rows(args):
+    cells = [(arg.name, C_TYPES[arg.type], arg.unit, _domain(arg), _meaning(arg)) for arg in args]
+    widths = [max(len(row[column]) for row in cells) for column in range(4)]
+    for row in cells:
+        lead = "    " + "  ".join(cell.ljust(width) for cell, width in zip(row, widths)) + "  "
+        yield from textwrap.wrap(row[4], WIDTH - 3, initial_indent=lead, subsequent_indent=" " * len(lead))
+
+
+def _paragraph(text, first, rest):
+    return textwrap.wrap(text, WIDTH - 3, initial_indent=first, subsequent_indent=rest)
+
+
+def comment(routine):
+    """The routine's block, always in one order: purpose, given, returned, notes, source."""
+    lines = _paragraph(f"{routine.export} ({routine.name}): {routine.summary}", "", "    ")
+    given = [arg for arg in routine.args if arg.dir != "out"]
+    returned = [arg for arg in routine.args if arg.dir != "in"]
+    if given:
+        lines += ["Given:", *_rows(given)]
+    if returned:
+        lines += ["Returned:", *_rows(returned)]
+    if routine.result:
+        value = f"{C_TYPES[routine.result.type]}  {routine.result.unit}".rstrip()
+        lines += ["Result:", *_paragraph(routine.result.meaning, f"    {value}  ", "        ")]
+    if routine.notes:
+        lines.append("Notes:")
+        for note in routine.notes:
+            lines += _paragraph(note, "    - ", "      ")
+    lines += _paragraph(f"Source: {routine.source}", "", "    ")
+    return "\n".join(["/*", *(f" * {line}".rstrip() for line in lines), " */"])
+
+
+def _parameter(arg):
+    return f"{'const ' if arg.dir == 'in' else ''}{C_TYPES[arg.type]} *{arg.name}"
+
+
+def prototype(routine):
+    """The declaration, wrapped between parameters."""
+    result = C_TYPES[routine.result.type] if routine.result else "void"
+    lines = [f"QUORVEL_API {result} {routine.export}("]
+    indent = " " * len(lines[0])
+    parameters = [_parameter(arg) for arg in routine.args]
+    for parameter, end in zip(parameters, [", "] * (len(parameters) - 1) + [");"]):
+        if len(lines[-1] + parameter + end) > WIDTH:
+            lines.append(indent)
+        lines[-1] += parameter + end
+    return "\n".join(line.rstrip() for line in lines)
+
+
+def render(families):
+    parts = [PREAMBLE]
+    for family in families:
+        parts.append(f"\n/* ---- {family.title} {'-' * (WIDTH - 12 - len(family.title))} */\n")
+        parts += [f"\n{comment(routine)}\n{prototype(routine)}\n" for routine in family.routines]
+    return "".join(parts) + POSTAMBLE
