@@ -29,7 +29,8 @@ void call_by_reference(benchmark::State& state, const Routine& routine) {
 
 int main(int argc, char** argv) {
     for (const Routine& routine : routines())
-        benchmark::RegisterBenchmark((std::string("Routine/") + routine.name).c_str(), call_by_reference, routine);
+        benchmark::RegisterBenchmark((std::string("Routine/") + routine.name).c_str(),
+                                     call_by_reference, routine);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     benchmark::RunSpecifiedBenchmarks();

@@ -29,6 +29,474 @@
 extern "C" {
 #endif
 
+/* ---- Calendar, sun and sky ------------------------------------------------------------------- */
+
+/*
+ * CLDAY (store_design_day): Design day of a month as a day of the year, into the caller's variable.
+ * Given:
+ *     month  int32_t    1 .. 12  month
+ * Returned:
+ *     day  int32_t      design day of the year
+ * Notes:
+ *     - A month outside 1 to 12 gives 0.
+ *     - The year has 365 days.
+ * Source: Table of customary design days, close to the 21st of each month.
+ */
+QUORVEL_API void CLDAY(const int32_t *month, int32_t *day);
+
+/*
+ * CLDAYEX (store_design_day_by_option): Design day of a month as a day of the year or of the month,
+ *     into the caller's variable.
+ * Given:
+ *     month   int32_t    1 .. 12   month
+ *     option  int32_t    selector  how the day is counted: 1 day of the month, 2 day of the year
+ * Returned:
+ *     day  int32_t      design day
+ * Notes:
+ *     - The two counts are separate sets and not the same date: in February day 52 of the year (the
+ *       21st) stands beside the 20th.
+ *     - A month outside 1 to 12 gives 0; an option other than 1 counts as 2.
+ * Source: Table of customary design days, close to the 21st of each month.
+ */
+QUORVEL_API void CLDAYEX(const int32_t *month, int32_t *day, const int32_t *option);
+
+/*
+ * ICLDAY (design_day): Design day of a month as a day of the year.
+ * Given:
+ *     month  int32_t    1 .. 12  month
+ * Result:
+ *     int32_t  design day of the year
+ * Notes:
+ *     - A month outside 1 to 12 gives 0.
+ *     - The year has 365 days.
+ * Source: Table of customary design days, close to the 21st of each month.
+ */
+QUORVEL_API int32_t ICLDAY(const int32_t *month);
+
+/*
+ * ICLDAYEX (design_day_by_option): Design day of a month as a day of the year or of the month.
+ * Given:
+ *     month   int32_t    1 .. 12   month
+ *     option  int32_t    selector  how the day is counted: 1 day of the month, 2 day of the year
+ * Result:
+ *     int32_t  design day
+ * Notes:
+ *     - The two counts are separate sets and not the same date: in February day 52 of the year (the
+ *       21st) stands beside the 20th.
+ *     - A month outside 1 to 12 gives 0; an option other than 1 counts as 2.
+ * Source: Table of customary design days, close to the 21st of each month.
+ */
+QUORVEL_API int32_t ICLDAYEX(const int32_t *month, const int32_t *option);
+
+/*
+ * ICLDA2 (second_design_day): Second design day of a month as a day of the year.
+ * Given:
+ *     month  int32_t    1 .. 12  month
+ * Result:
+ *     int32_t  second design day of the year
+ * Notes:
+ *     - A month outside 1 to 12 gives 0.
+ *     - The year has 365 days.
+ * Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
+ */
+QUORVEL_API int32_t ICLDA2(const int32_t *month);
+
+/*
+ * ICLDA2EX (second_design_day_by_option): Second design day of a month as a day of the year or of
+ *     the month.
+ * Given:
+ *     month   int32_t    1 .. 12   month
+ *     option  int32_t    selector  how the day is counted: 1 day of the month, 2 day of the year
+ * Result:
+ *     int32_t  second design day
+ * Notes:
+ *     - Both counts are the same date here.
+ *     - A month outside 1 to 12 gives 0; an option other than 1 counts as 2.
+ * Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
+ */
+QUORVEL_API int32_t ICLDA2EX(const int32_t *month, const int32_t *option);
+
+/*
+ * CLCONS (site_constants): Radiation constants of a site class in a month.
+ * Given:
+ *     site_class  int32_t    1 .. 6   site class
+ *     month       int32_t    1 .. 12  month
+ * Returned:
+ *     ground_reflectance          float  1    reflectance of the ground
+ *     beam_factor                 float  1    factor on the direct normal irradiance
+ *     diffuse_factor              float  1    factor on the diffuse horizontal irradiance
+ *     alternative_diffuse_factor  float  1    factor that takes its place where it is 0
+ * Notes:
+ *     - Only class 1 varies over the year. Classes 4 and 6 have a diffuse factor of 0 and the
+ *       alternative one in its place; the caller chooses.
+ *     - A site class outside 1 to 6 or a month outside 1 to 12 gives four zeros.
+ * Source: Table of design constants of the library.
+ */
+QUORVEL_API void CLCONS(const int32_t *site_class, const int32_t *month, float *ground_reflectance,
+                        float *beam_factor, float *diffuse_factor,
+                        float *alternative_diffuse_factor);
+
+/*
+ * CLTCOR (solar_time_correction): What is to be added to clock time to get solar time.
+ * Given:
+ *     offset               float    h    -2 .. 2            hours by which the clock is put
+ *                                                           forward, as in summer time
+ *     day                  int32_t       1 .. 366           day of the year
+ *     longitude            float    rad  -3.1416 .. 3.1416  longitude of the site, positive west
+ *     reference_longitude  float    rad  -3.1416 .. 3.1416  longitude of the clock's meridian,
+ *                                                           positive west
+ * Result:
+ *     float  h  correction: equation of time - offset - (longitude - reference longitude) / 0.2618
+ * Notes:
+ *     - Only the difference of the longitudes counts. Given positive east instead, it enters with
+ *       the wrong sign.
+ *     - The equation of time stays within 0.7 min of the true one.
+ *     - The hour is rounded to 0.2618 rad here and not in CLSNGE; kept.
+ * Source: Fourier series of the equation of time to the third harmonic, of the kind given by J. W.
+ *     Spencer, Search 2 (1971); coefficients refitted.
+ */
+QUORVEL_API float CLTCOR(const float *offset, const int32_t *day, const float *longitude,
+                         const float *reference_longitude);
+
+/*
+ * CLBAND (band_climate): Monthly climate of one of ten bands of days, or interpolated at a
+ *     cumulative percentage of days.
+ * Given:
+ *     band        int32_t     0 .. 10   band, or 0 to interpolate at the percentage
+ *     month       int32_t     1 .. 12   month
+ *     set         int32_t     selector  set of bands: 1 bands from the warmest to the coldest days,
+ *                                       2 bands from the highest to the lowest Q1
+ *     percentage  float    %  0 .. 100  cumulative percentage of days: given with band 0, otherwise
+ *                                       returned
+ * Returned:
+ *     percentage  float  %    0 .. 100  cumulative percentage of days: given with band 0, otherwise
+ *                                       returned
+ *     q1          float  1              quantity Q1: beam factor
+ *     q2          float  1              quantity Q2: diffuse factor
+ *     q3          float  °C             quantity Q3: air temperature at time A
+ *     q4          float  °C             quantity Q4: air temperature at time B
+ *     q5          float  °C             quantity Q5: wet-bulb temperature at time A
+ *     q6          float  °C             quantity Q6: wet-bulb temperature at time B
+ *     time_a      float  h              time A, in the afternoon
+ *     time_b      float  h              time B, about sunrise
+ *     q7          float  %              quantity Q7: cloud-free share of the sky
+ *     q8          float  m/s            quantity Q8: wind speed
+ * Notes:
+ *     - With band 0 the percentage is left as given.
+ *     - A percentage below band 1 extrapolates backwards from it, by the step to band 2 at most;
+ *       one above 100 gives band 10.
+ *     - A band below 0 counts as 1 and above 10 as 10, a month outside 1 to 12 as the nearest, a
+ *       set other than 2 as 1. A percentage that is not a number makes Q1 to Q8 not numbers.
+ *     - The table built in is representative and not measured; data/bands tells how it was made and
+ *       how to build with data of your own. Q1 to Q8 mean what the table's maker says; the meanings
+ *       here are those of the table built in.
+ * Source: Linear interpolation in the band table.
+ */
+QUORVEL_API void CLBAND(const int32_t *band, const int32_t *month, const int32_t *set,
+                        float *percentage, float *q1, float *q2, float *q3, float *q4, float *q5,
+                        float *q6, float *time_a, float *time_b, float *q7, float *q8);
+
+/*
+ * CLBAN1 (locate_band): Where a cumulative fraction of days lies among the ten bands of a month, in
+ *     frequencies of the caller.
+ * Given:
+ *     fraction     float    1  0 .. 1   cumulative fraction of days
+ *     month        int32_t     1 .. 12  month
+ *     frequencies  float    1  0 .. 1   cumulative frequencies by month and band, not falling with
+ *                                       the band [12, 10]
+ * Returned:
+ *     lower   int32_t       lower band, 1 to 9
+ *     upper   int32_t       upper band, 2 to 10
+ *     weight  float    1    (fraction - F(lower)) / (F(upper) - F(lower)), limited to -1 to 1
+ * Notes:
+ *     - Fractions, where CLBAND takes a percentage.
+ *     - At or below the first band's frequency the weight is 0 or negative. Bands of equal
+ *       frequency are skipped upwards, to band 10 at most; for a fraction equal to the frequencies
+ *       of all the rest the weight is not a number.
+ *     - A month outside 1 to 12 counts as the nearest. A fraction that is not a number gives bands
+ *       9 and 10 and a weight that is not a number.
+ * Source: Search for linear interpolation.
+ */
+QUORVEL_API void CLBAN1(const float *fraction, const int32_t *month, const float *frequencies,
+                        int32_t *lower, int32_t *upper, float *weight);
+
+/*
+ * CLBAN2 (interpolate_band_rows): Value between two rows of the band table.
+ * Given:
+ *     base    int32_t     0 .. 174  row before the quantity's band 1: 2 for F, 12 for Q1, 22 for Q2
+ *                                   and so on in set 1; 92 more in set 2
+ *     lower   int32_t     1 .. 10   lower band
+ *     upper   int32_t     1 .. 10   upper band
+ *     month   int32_t     1 .. 12   month
+ *     weight  float    1  -1 .. 1   share of the step from the lower to the upper row
+ * Returned:
+ *     value  float  1    value, in the quantity's unit
+ * Notes:
+ *     - Rows base + lower and base + upper outside 1 to 184 count as the nearest row, a month
+ *       outside 1 to 12 as the nearest month.
+ * Source: Linear interpolation in the band table.
+ */
+QUORVEL_API void CLBAN2(const int32_t *base, const int32_t *lower, const int32_t *upper,
+                        const int32_t *month, const float *weight, float *value);
+
+/*
+ * CLBAN3 (band_row): One row of the band table, a value per month.
+ * Given:
+ *     row  int32_t    1 .. 184  row: 1 to 92 in set 1, 93 to 184 in set 2
+ * Returned:
+ *     values  float  1    values from January to December, in the row's unit [12]
+ * Notes:
+ *     - Rows of a set: 1 time A, 2 time B, 3 to 12 cumulative frequency F of bands 1 to 10, 13 to
+ *       22 Q1, 23 to 32 Q2 and so on to Q8.
+ *     - A row below 1 counts as 1, above 184 as 184.
+ * Source: The band table; see data/bands.
+ */
+QUORVEL_API void CLBAN3(const int32_t *row, float *values);
+
+/*
+ * CLSNGE (solar_geometry): Declination, altitude and azimuth of the sun, sunrise and sunset, by
+ *     latitude, day of the year and solar hour.
+ * Given:
+ *     latitude  float    rad  -1.5708 .. 1.5708  latitude, positive north
+ *     day       int32_t       1 .. 365           day of the year
+ *     hour      float    h    0 .. 24            solar time, noon at 12
+ * Returned:
+ *     declination  float  rad    declination
+ *     altitude     float  rad    altitude, 0 when the sun is below the horizon
+ *     azimuth      float  rad    azimuth, 0 when the sun is below the horizon
+ *     sunrise      float  h      sunrise; 25 when the sun does not rise, 0 when it does not set
+ *     sunset       float  h      sunset; 25 when the sun does not set, 0 when it does not rise
+ * Notes:
+ *     - Latitude, day or hour outside its range (day 366 too) gives a declination, altitude and
+ *       azimuth of 0 and leaves sunrise and sunset as they are.
+ *     - Within 0.5 degrees of the true position; no leap years, no refraction, the sun a point.
+ *     - Noon counts as morning. With the sun in the zenith the azimuth is arbitrary.
+ *     - A latitude of 1.5707964, or its negative, is by rounding just beyond the pole: midnight sun
+ *       and polar night change places there.
+ *     - Not a number for the latitude or the hour makes what depends on it not a number.
+ * Source: Spherical astronomy; sine of the declination as 0.398 times the sine of the sun's
+ *     ecliptic longitude, with the first-order equation of the centre.
+ */
+QUORVEL_API void CLSNGE(const float *latitude, const int32_t *day, const float *hour,
+                        float *declination, float *altitude, float *azimuth, float *sunrise,
+                        float *sunset);
+
+/*
+ * CLSNSR (surface_angles): Angle of incidence of the sun on a surface, and its angles in the
+ *     vertical and the horizontal sense.
+ * Given:
+ *     altitude         float  rad  -1.5708 .. 1.5708  solar altitude
+ *     azimuth          float  rad  0 .. 6.2832        solar azimuth
+ *     surface_azimuth  float  rad  0 .. 6.2832        azimuth of the surface's outward normal
+ *     tilt             float  rad  0 .. 3.1416        tilt from the horizontal
+ * Returned:
+ *     incidence   float  rad    angle of incidence, 0 to pi; above pi/2 the sun is behind the
+ *                               surface
+ *     vertical    float  rad    angle off the normal in the plane of normal and slope, positive up
+ *                               the slope; the profile angle of a vertical surface
+ *     horizontal  float  rad    angle off the normal in the plane of normal and level line,
+ *                               positive clockwise seen from above
+ * Notes:
+ *     - With the sun behind the surface the two angles exceed pi/2 in size.
+ *     - With the sun along the level line the vertical angle is pi/2, with the sun along the slope
+ *       line the horizontal angle is -pi/2: exactly so only where the components vanish, anything
+ *       by rounding otherwise.
+ *     - The components are rounded, so angles below 0.0005 rad are not resolved.
+ * Source: Vector algebra: the sun's direction in the frame of level line, slope line and outward
+ *     normal.
+ */
+QUORVEL_API void CLSNSR(const float *altitude, const float *azimuth, const float *surface_azimuth,
+                        const float *tilt, float *incidence, float *vertical, float *horizontal);
+
+/*
+ * CLSNNR (design_irradiance): Design irradiance by solar altitude: direct normal and diffuse
+ *     horizontal.
+ * Given:
+ *     altitude  float    rad  0 .. 1.5708  solar altitude
+ *     azimuth   float    rad  not used     solar azimuth
+ *     height    float    m    0 .. 4000    height of the site above sea level
+ *     sky_kind  int32_t       selector     kind of sky: 0 clear, 1 cloudy: the larger diffuse
+ *                                          irradiance
+ * Returned:
+ *     direct_normal       float  W/m²    direct normal irradiance, the same for both skies
+ *     diffuse_horizontal  float  W/m²    diffuse irradiance on a horizontal surface
+ * Notes:
+ *     - Both grow with the height by the factor of CLHIGH.
+ *     - Up to 0.087 rad both are proportional to the altitude, also below 0, where they are
+ *       negative. The direct irradiance falls by 2 W/m² where the polynomial takes over.
+ *     - An altitude beyond 1.5707964 in size gives two zeros. A sky kind below 0 counts as 0, above
+ *       1 as 1.
+ * Source: Polynomials through the design irradiances of a clear and a cloudy sky that building
+ *     services guides print.
+ */
+QUORVEL_API void CLSNNR(const float *altitude, const float *azimuth, const float *height,
+                        const int32_t *sky_kind, float *direct_normal, float *diffuse_horizontal);
+
+/*
+ * CLHIGH (height_factor): Factor by which irradiance grows with the height of the site.
+ * Given:
+ *     height    float  m    0 .. 4000    height of the site above sea level
+ *     altitude  float  rad  0 .. 1.5708  solar altitude
+ * Result:
+ *     float  1  factor
+ * Notes:
+ *     - 1 below 300 m, and for suns whose sine of altitude is below 0.08; the factor jumps from 1
+ *       to 1.041 or more at 300 m.
+ * Source: Linear fit to height corrections of design irradiance.
+ */
+QUORVEL_API float CLHIGH(const float *height, const float *altitude);
+
+/*
+ * CLSORD (surface_irradiance): Irradiance on the plane of a surface: direct from the sun, diffuse
+ *     from the sky, reflected from the ground.
+ * Given:
+ *     altitude            float  rad   0 .. 1.5708  solar altitude
+ *     azimuth             float  rad   0 .. 6.2832  solar azimuth
+ *     surface_azimuth     float  rad   0 .. 6.2832  azimuth of the surface's outward normal
+ *     tilt                float  rad   0 .. 3.1416  tilt from the horizontal
+ *     direct_normal       float  W/m²  0 .. 1400    direct normal irradiance
+ *     diffuse_horizontal  float  W/m²  0 .. 1000    diffuse irradiance on a horizontal surface
+ *     ground_reflectance  float  1     0 .. 1       reflectance of the ground
+ *     beam_factor         float  1     0 .. 2       factor on the direct normal irradiance
+ *     diffuse_factor      float  1     0 .. 2       factor on the diffuse horizontal irradiance
+ * Returned:
+ *     direct   float  W/m²    direct irradiance on the surface, 0 with the sun behind it
+ *     diffuse  float  W/m²    diffuse irradiance on the surface
+ *     ground   float  W/m²    ground-reflected irradiance on the surface
+ * Notes:
+ *     - A vertical surface gets up to 20 % less diffuse irradiance the more it faces north,
+ *       whatever the hemisphere.
+ *     - Nothing is limited: a negative altitude or irradiance gives negative parts. An angle that
+ *       is not a number gives a direct irradiance of 0.
+ * Source: Cosine law; isotropic sky and ground by view factors (B. Y. H. Liu and R. C. Jordan,
+ *     Solar Energy 4, 1960), with an empirical darkening to the north.
+ */
+QUORVEL_API void CLSORD(const float *altitude, const float *azimuth, const float *surface_azimuth,
+                        const float *tilt, const float *direct_normal,
+                        const float *diffuse_horizontal, const float *ground_reflectance,
+                        const float *beam_factor, const float *diffuse_factor, float *direct,
+                        float *diffuse, float *ground);
+
+/*
+ * CLSOR2 (surface_irradiance_and_incidence): Irradiance on the plane of a surface as CLSORD, and
+ *     the angle of incidence.
+ * Given:
+ *     altitude            float  rad   0 .. 1.5708  solar altitude
+ *     azimuth             float  rad   0 .. 6.2832  solar azimuth
+ *     surface_azimuth     float  rad   0 .. 6.2832  azimuth of the surface's outward normal
+ *     tilt                float  rad   0 .. 3.1416  tilt from the horizontal
+ *     direct_normal       float  W/m²  0 .. 1400    direct normal irradiance
+ *     diffuse_horizontal  float  W/m²  0 .. 1000    diffuse irradiance on a horizontal surface
+ *     ground_reflectance  float  1     0 .. 1       reflectance of the ground
+ *     beam_factor         float  1     0 .. 2       factor on the direct normal irradiance
+ *     diffuse_factor      float  1     0 .. 2       factor on the diffuse horizontal irradiance
+ * Returned:
+ *     direct     float  W/m²    direct irradiance on the surface, 0 with the sun behind it
+ *     diffuse    float  W/m²    diffuse irradiance on the surface
+ *     ground     float  W/m²    ground-reflected irradiance on the surface
+ *     incidence  float  rad     angle of incidence, 1.5707964 with the sun behind the surface
+ * Notes:
+ *     - The irradiances are those of CLSORD, bit for bit; see there.
+ *     - CLSNSR gives the angle of incidence behind the surface too.
+ * Source: As CLSORD.
+ */
+QUORVEL_API void CLSOR2(const float *altitude, const float *azimuth, const float *surface_azimuth,
+                        const float *tilt, const float *direct_normal,
+                        const float *diffuse_horizontal, const float *ground_reflectance,
+                        const float *beam_factor, const float *diffuse_factor, float *direct,
+                        float *diffuse, float *ground, float *incidence);
+
+/*
+ * CLYALLOP (almanac_position): Altitude, azimuth and declination of the sun by calendar date and
+ *     clock.
+ * Given:
+ *     mode       int32_t       selector           what the hour is: 1 solar time; longitude and
+ *                                                 zone are set to 0, 2 clock of the zone, at the
+ *                                                 longitude, 3 solar time; the zone only dates the
+ *                                                 declination
+ *     year       int32_t       1976 .. 2099       year
+ *     month      int32_t       1 .. 12            month
+ *     day        int32_t       1 .. 31            day of the month
+ *     hour       float    h    0 .. 24            clock hour
+ *     latitude   float    rad  -1.5708 .. 1.5708  latitude, positive north
+ *     longitude  float    rad  -3.1416 .. 3.1416  longitude, positive west; written only in mode 1
+ *     zone       float    rad  -3.1416 .. 3.1416  zone angle, the longitude of the clock's
+ *                                                 meridian, positive west; written only in mode 1
+ * Returned:
+ *     longitude    float  rad  -3.1416 .. 3.1416  longitude, positive west; written only in mode 1
+ *     zone         float  rad  -3.1416 .. 3.1416  zone angle, the longitude of the clock's
+ *                                                 meridian, positive west; written only in mode 1
+ *     altitude     float  rad                     altitude, negative below the horizon; no
+ *                                                 refraction
+ *     azimuth      float  rad                     azimuth
+ *     declination  float  rad                     declination
+ * Notes:
+ *     - Within 0.03 degrees, and of the azimuth 0.1 degrees where the sun is near due south or
+ *       north, since a cosine of azimuth beyond 0.999999 in size counts as 1. Of this 0.02 degrees
+ *       come from a misplaced degree factor in the equation of the centre; kept.
+ *     - The hour angle is not brought into -180 to 180 degrees. Its sign decides between morning
+ *       and afternoon, so within an hour of midnight the azimuth may be the mirror image.
+ *     - A mode other than 1 and 2 counts as 3. Date and hour are not checked: a day beyond the
+ *       month's end counts on into the next month. Before March 1976 three years of four are a day
+ *       late; 2100 is given a leap day.
+ * Source: Low-precision formulas of B. D. Yallop for the sun, as printed in T. Muneer, Solar
+ *     Radiation and Daylight Models for the Energy Efficient Design of Buildings, 1997.
+ */
+QUORVEL_API void CLYALLOP(const int32_t *mode, const int32_t *year, const int32_t *month,
+                          const int32_t *day, const float *hour, const float *latitude,
+                          float *longitude, float *zone, float *altitude, float *azimuth,
+                          float *declination);
+
+/*
+ * CLRISESET (almanac_sun_hours): Sunrise and sunset in solar time by calendar date.
+ * Given:
+ *     year      int32_t       1976 .. 2099       year
+ *     month     int32_t       1 .. 12            month
+ *     day       int32_t       1 .. 31            day of the month
+ *     latitude  float    rad  -1.5708 .. 1.5708  latitude, positive north
+ * Returned:
+ *     sunrise  float  h    sunrise; 25 when the sun does not rise, 0 when it does not set
+ *     sunset   float  h    sunset; 25 when the sun does not set, 0 when it does not rise
+ * Notes:
+ *     - The centre of the sun on a level horizon without refraction, with the declination of noon
+ *       at Greenwich.
+ *     - Dates as in CLYALLOP. A latitude of 1.5707964, or its negative, is by rounding just beyond
+ *       the pole: midnight sun and polar night change places there.
+ * Source: Declination as CLYALLOP; sunrise equation.
+ */
+QUORVEL_API void CLRISESET(const int32_t *year, const int32_t *month, const int32_t *day,
+                           const float *latitude, float *sunrise, float *sunset);
+
+/*
+ * CLETAJ (eccentricity_factor): Irradiance outside the atmosphere on a day, by that at the mean
+ *     distance of the sun.
+ * Given:
+ *     day  int32_t    1 .. 366  day of the year
+ * Result:
+ *     float  1  factor
+ * Notes:
+ *     - 0.967 to 1.033; greatest in the first days of January.
+ * Source: Correction of the European Solar Radiation Atlas, 1 + 0.03344 cos(day angle - 2.8
+ *     degrees).
+ */
+QUORVEL_API float CLETAJ(const int32_t *day);
+
+/*
+ * CLMODUL (clearness_index): Global horizontal irradiance by that outside the atmosphere.
+ * Given:
+ *     day                int32_t        1 .. 366     day of the year
+ *     altitude           float    rad   0 .. 1.5708  solar altitude
+ *     global_horizontal  float    W/m²  0 .. 1400    global horizontal irradiance
+ * Result:
+ *     float  1  clearness index
+ * Notes:
+ *     - An altitude of 0 divides by zero: infinite, or not a number for an irradiance of 0.
+ * Source: B. Y. H. Liu and R. C. Jordan, Solar Energy 4 (1960), with a solar constant of 1367 W/m²
+ *     and the eccentricity of CLETAJ.
+ */
+QUORVEL_API float CLMODUL(const int32_t *day, const float *altitude,
+                          const float *global_horizontal);
+
 /* ---- Glazing --------------------------------------------------------------------------------- */
 
 /*
