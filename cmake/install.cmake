@@ -9,5 +9,7 @@ write_basic_package_version_file(quorvel-config-version.cmake COMPATIBILITY Same
 install(FILES ${PROJECT_BINARY_DIR}/quorvel-config-version.cmake
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/quorvel)
 
+# Relative, so that the installed tree may be moved.
+file(RELATIVE_PATH QUORVEL_UP_FROM_PKGCONFIG /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 configure_file(cmake/quorvel.pc.in quorvel.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/quorvel.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
