@@ -6,7 +6,7 @@ add_library(quorvel_arithmetic INTERFACE)
 target_compile_options(quorvel_arithmetic INTERFACE
     -ffp-contract=off -fno-fast-math -fno-math-errno -fno-trapping-math
     -Wall -Wextra -Wpedantic
-    -Werror=double-promotion -Werror=conversion -Werror=float-conversion
+    -Werror=double-promotion -Werror=conversion -Werror=float-conversion -Wno-sign-conversion
     -Werror=missing-declarations)
 
 check_cxx_compiler_flag(-fexcess-precision=standard QUORVEL_HAS_EXCESS_PRECISION)

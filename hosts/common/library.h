@@ -76,6 +76,7 @@ class Routine<Result (*)(Pointers...)> {
 
 // lib::PSSVP, lib::PSVP, ...: all exported routines.
 namespace lib {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a name being declared takes none
 #define QUORVEL_ROUTINE(name) inline const quorvel::host::Routine<decltype(&::name)> name{#name};
 #include "routine_names.inc"
 #undef QUORVEL_ROUTINE

@@ -1,0 +1,150 @@
+#include "common/chart.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <fstream>
+#include <stdexcept>
+
+#include "common/program.h"
+#include "common/text.h"
+
+namespace quorvel::host {
+namespace {
+
+// Quiet axes: a grey frame at the left and bottom only, light grid lines behind the curves.
+constexpr const char* setup = R"(
+set encoding utf8
+set border 3 linecolor rgb '#8a8f98' linewidth 1
+set tics nomirror out scale 0.6 textcolor rgb '#4b5160'
+set grid xtics ytics back linetype 1 linewidth 1 linecolor rgb '#e9ecf1' dashtype solid
+set key off
+set style fill solid 1 noborder
+set multiplot
+)";
+
+// A text as a gnuplot string.
+std::string quoted(const std::string& text) {
+    std::string result = "'";
+    for (const char c : text) result.append(c == '\'' ? 2 : 1, c);
+    return result + '\'';
+}
+
+std::string font(const Style& style) {
+    return std::string(" textcolor rgb '") + style.colour + "' font 'Arial" +
+           (style.bold ? " Bold," : ",") + std::to_string(style.size) + "' ";
+}
+
+void write_file(const std::string& path, const std::string& text) {
+    std::ofstream stream(path, std::ios::binary);
+    stream << text;
+    stream.flush();
+    if (!stream) throw std::runtime_error("cannot write " + path);
+}
+
+// Removes the script when the picture is done, or not.
+struct TemporaryFile {
+    std::string path;
+    ~TemporaryFile() { std::remove(path.c_str()); }
+};
+
+}  // namespace
+
+Scale round_scale(double low, double high) {
+    const double raw = std::max(high - low, 1.0) / 5.0;
+    double unit = 1;
+    while (unit * 10 <= raw) unit *= 10;
+    const double step = unit * (raw <= unit ? 1 : raw <= 2 * unit ? 2 : raw <= 5 * unit ? 5 : 10);
+    const double bottom = std::floor(low / step) * step;
+    return {bottom, std::max(std::ceil(high / step) * step, bottom + step), step};
+}
+
+std::string curve(const std::string& rows, std::size_t column, const char* colour, double width,
+                  const char* dashes) {
+    return rows + " using 1:" + std::to_string(column) + " with lines linewidth " +
+           shortest(width) + " linecolor rgb '" + colour + "' dashtype " + dashes;
+}
+
+// The edge is drawn once more as a line, since gnuplot has only lines smoothed.
+std::string area(const std::string& rows, std::size_t column, const char* colour) {
+    return rows + " using 1:" + std::to_string(column) + " with filledcurves y1=0 linecolor rgb '" +
+           colour + "', " + curve(rows, column, colour, 1);
+}
+
+Chart::Chart(int width, int height) : width_(width), height_(height) {}
+
+std::string Chart::data(const std::vector<std::vector<double>>& rows) {
+    std::string name = "$rows" + std::to_string(++tables_);
+    data_ += name + " << END\n";
+    for (const auto& row : rows) {
+        for (const double value : row) data_ += (std::isnan(value) ? "NaN" : fixed(value, 4)) + ' ';
+        data_ += '\n';
+    }
+    data_ += "END\n";
+    return name;
+}
+
+void Chart::panel(const Panel& panel) {
+    commands_ += "unset label\nset lmargin at screen " + across(panel.left) +
+                 "\nset rmargin at screen " + across(panel.left + panel.width) +
+                 "\nset tmargin at screen " + up(panel.top) + "\nset bmargin at screen " +
+                 up(panel.top + panel.height) + '\n';
+}
+
+void Chart::horizontal_scale(const Scale& scale) {
+    commands_ += "set xrange [" + shortest(scale.low) + ':' + shortest(scale.high) +
+                 "]\nset xtics 0," + shortest(scale.step) + '\n';
+}
+
+void Chart::vertical_scale(const Scale& scale, bool labelled) {
+    commands_ += "set yrange [" + shortest(scale.low) + ':' + shortest(scale.high) +
+                 "]\nset ytics " + shortest(scale.step) + "\nset format y " +
+                 (labelled ? "'%g'" : "''") + '\n';
+}
+
+void Chart::text(double x, double y, const std::string& text, const Style& style) {
+    commands_ += "set label " + quoted(text) + " at screen " + across(x) + ", screen " + up(y) +
+                 " front " + style.side + font(style) + '\n';
+}
+
+void Chart::keys(double x, double y, const std::vector<Key>& keys) {
+    for (const Key& key : keys) {
+        text(x, y, key.mark, {key.colour, 15, true});
+        text(x + 20, y, key.name, {colour::grey, 12});
+        x += 44 + 6.3 * static_cast<double>(character_count(key.name));
+    }
+}
+
+void Chart::mark(double x, double y, const std::string& text) {
+    commands_ += "set label " + quoted(text) + " at " + shortest(x) + ',' + shortest(y) +
+                 " center offset 0,0.9 front point pointtype 7 pointsize 0.6 linecolor rgb '" +
+                 colour::ink + '\'' + font({.bold = true}) + '\n';
+}
+
+void Chart::plot(const std::vector<std::string>& parts) {
+    commands_ += "plot ";
+    for (const std::string& part : parts)
+        commands_ += part + (&part == &parts.back() ? "\n" : ", ");
+}
+
+void Chart::write(const std::string& path) const {
+    write_file(path, "");  // gnuplot would tell of a bad path at length
+    const TemporaryFile script{path + ".gnuplot"};
+    const std::string size = std::to_string(width_) + ',' + std::to_string(height_);
+    write_file(script.path, "set terminal svg noenhanced size " + size +
+                                " dynamic font 'Arial,13' background rgb '#ffffff' rounded\n"
+                                "set output " +
+                                quoted(path) + setup + data_ + commands_);
+    const auto status = run_program("gnuplot", script.path);
+    if (status != 0) std::remove(path.c_str());
+    if (!status)
+        throw std::runtime_error(
+            "a chart needs gnuplot, which is not installed or not on the path");
+    if (*status != 0) throw std::runtime_error("gnuplot could not draw " + path);
+}
+
+std::string Chart::across(double x) const { return shortest(x / width_); }
+
+std::string Chart::up(double y) const { return shortest(1.0 - y / height_); }
+
+}  // namespace quorvel::host

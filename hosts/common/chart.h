@@ -1,0 +1,91 @@
+// A chart of several panels, drawn by gnuplot and written as an SVG file.
+//
+//     Chart chart(900, 600);
+//     chart.panel({60, 40, 500, 300});
+//     chart.vertical_scale(round_scale(0, 730));
+//     const std::string rows = chart.data({{8, 120}, {9, 340}});
+//     chart.plot({area(rows, 2, "#f5b041"), curve(rows, 2, colour::ink, 2.5)});
+//     chart.write("day.svg");
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorvel::host {
+
+namespace colour {
+inline constexpr const char* ink = "#1f2a44";   // titles, main curves
+inline constexpr const char* grey = "#6b7280";  // secondary text
+}  // namespace colour
+
+// The plotting area inside the axes, in pixels from the upper left corner of the picture.
+struct Panel {
+    double left, top, width, height;
+};
+
+struct Scale {
+    double low, high, step;
+};
+
+// About five round steps that cover a range.
+Scale round_scale(double low, double high);
+
+// How a line of text is set.
+struct Style {
+    const char* colour = colour::ink;
+    int size = 13;
+    bool bold = false;
+    const char* side = "left";  // of the text that stands at the given place: left, center, right
+};
+
+// An entry of a row of keys: a mark in the colour of the curve, then its name.
+struct Key {
+    const char* mark;
+    const char* colour;
+    std::string name;
+};
+
+// What can be plotted from the rows of Chart::data, whose first column is the horizontal coordinate
+// and whose columns count from 1.
+std::string curve(const std::string& rows, std::size_t column, const char* colour, double width,
+                  const char* dashes = "solid");
+
+// Down to zero; so stacked areas are plotted from the uppermost sum down.
+std::string area(const std::string& rows, std::size_t column, const char* colour);
+
+class Chart {
+  public:
+    Chart(int width, int height);
+
+    // Stores rows of numbers (NaN: a gap) and gives the name by which they are plotted.
+    std::string data(const std::vector<std::vector<double>>& rows);
+
+    // Begins the next panel. The scales stay as they are, titles and marks are forgotten.
+    void panel(const Panel& panel);
+    void horizontal_scale(const Scale& scale);
+    void vertical_scale(const Scale& scale, bool labelled = true);
+
+    // At a place of the picture, in pixels.
+    void text(double x, double y, const std::string& text, const Style& style);
+    void keys(double x, double y, const std::vector<Key>& keys);
+
+    // A dot at a point of the panel, with a text above it.
+    void mark(double x, double y, const std::string& text);
+
+    // Ends the panel.
+    void plot(const std::vector<std::string>& parts);
+
+    // Draws the picture. Throws std::runtime_error when gnuplot is missing or the file cannot be
+    // written.
+    void write(const std::string& path) const;
+
+  private:
+    std::string across(double x) const;
+    std::string up(double y) const;
+
+    int width_, height_;
+    int tables_ = 0;
+    std::string data_, commands_;
+};
+
+}  // namespace quorvel::host

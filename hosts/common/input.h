@@ -1,0 +1,80 @@
+// Reading of a host program's input, a TOML file. Every fault of it becomes one line for the user:
+//
+//     london.toml:7: site.latitude: value 95; allowed -90 to 90 degrees north
+#pragma once
+
+#include <toml++/toml.h>
+
+#include <cstddef>
+#include <initializer_list>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvel::host {
+
+// A fault of the user's input, told in one line.
+class InputError : public std::runtime_error {
+  public:
+    explicit InputError(std::string message);
+};
+
+struct Range {
+    double low, high;  // ends included
+    const char* unit;
+};
+
+// One table of the file. Must not outlive its InputFile.
+class InputTable {
+  public:
+    InputTable(const toml::table& table, std::string_view file, std::string path);
+
+    // To be called first: reports a key that is in neither list, and all required ones that are
+    // missing.
+    void expect(std::initializer_list<std::string_view> required,
+                std::initializer_list<std::string_view> optional = {}) const;
+    bool has(std::string_view key) const { return table_->contains(key); }
+
+    double number(std::string_view key, const Range& range) const;
+    double number(std::string_view key, const Range& range, double otherwise) const;
+    int integer(std::string_view key, int low, int high) const;
+    std::string text(std::string_view key) const;
+
+    // The number of one of the names, counted from `first`; the number itself may stand in the file
+    // too.
+    int choice(std::string_view key, std::span<const std::string_view> names, int first) const;
+
+    InputTable table(std::string_view key) const;
+    std::vector<InputTable> tables(std::string_view key, std::size_t low, std::size_t high) const;
+
+    // For rules that concern more than one key: `throw table.error("panes", "...")`; without a key
+    // the fault is the table's.
+    InputError error(std::string_view key, std::string_view message) const;
+
+  private:
+    const toml::node& node(std::string_view key) const { return *table_->get(key); }
+    InputError not_allowed(std::string_view key, std::string_view allowed) const;
+    InputError located(const toml::node& node, const std::string& message) const;
+    std::string path_of(std::string_view key) const;
+
+    const toml::table* table_;
+    std::string_view file_;
+    std::string path_;
+};
+
+class InputFile {
+  public:
+    explicit InputFile(std::string path);
+    InputFile(const InputFile&) = delete;
+    InputFile& operator=(const InputFile&) = delete;
+
+    InputTable root() const { return {table_, path_, ""}; }
+
+  private:
+    std::string path_;
+    toml::table table_;
+};
+
+}  // namespace quorvel::host

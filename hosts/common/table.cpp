@@ -1,0 +1,84 @@
+#include "common/table.h"
+
+#include <algorithm>
+
+#include "common/text.h"
+
+namespace quorvel::host {
+namespace {
+
+constexpr std::size_t gap = 2;        // between columns
+constexpr std::size_t group_gap = 4;  // between groups
+
+std::string repeated(const char* text, std::size_t n) {
+    std::string result;
+    while (n-- > 0) result += text;
+    return result;
+}
+
+}  // namespace
+
+Table::Table(std::vector<Column> columns) : columns_(std::move(columns)) {
+    for (const Column& column : columns_) widths_.push_back(character_count(column.title));
+    for (const Group& group : groups()) {  // a long heading widens its first column
+        const std::size_t heading = character_count(columns_[group.first].group) + 4;
+        const std::size_t now = width(group);
+        if (columns_[group.first].group != "" && heading > now)
+            widths_[group.first] += heading - now;
+    }
+}
+
+void Table::add(std::vector<std::string> cells) {
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        widths_[i] = std::max(widths_[i], character_count(cells[i]));
+    rows_.push_back(std::move(cells));
+}
+
+std::string Table::text() const {
+    std::string headings;
+    std::vector<std::string> titles;
+    for (const Group& group : groups())
+        headings += repeated(" ", group.first == 0 ? gap : group_gap) + heading(group);
+    for (const Column& column : columns_) titles.push_back(column.title);
+
+    std::string result =
+        headings.substr(0, headings.find_last_not_of(' ') + 1) + '\n' + line(titles);
+    for (const auto& row : rows_) result += line(row);
+    return result;
+}
+
+std::vector<Table::Group> Table::groups() const {
+    std::vector<Group> result;
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        const bool continues = i > 0 && columns_[i].group == columns_[i - 1].group;
+        if (!continues) result.push_back({i, i});
+        result.back().last = i + 1;
+    }
+    return result;
+}
+
+std::size_t Table::width(const Group& group) const {
+    std::size_t sum = gap * (group.last - group.first - 1);
+    for (std::size_t i = group.first; i < group.last; ++i) sum += widths_[i];
+    return sum;
+}
+
+std::string Table::heading(const Group& group) const {
+    const std::string& name = columns_[group.first].group;
+    if (name.empty()) return repeated(" ", width(group));
+    const std::size_t rule = width(group) - character_count(name) - 2;
+    return repeated("─", rule / 2) + ' ' + name + ' ' + repeated("─", rule - rule / 2);
+}
+
+std::string Table::line(const std::vector<std::string>& cells) const {
+    std::string result;
+    for (const Group& group : groups()) {
+        for (std::size_t i = group.first; i < group.last; ++i) {
+            const std::size_t before = i > 0 && i == group.first ? group_gap : gap;
+            result += repeated(" ", before + widths_[i] - character_count(cells[i])) + cells[i];
+        }
+    }
+    return result + '\n';
+}
+
+}  // namespace quorvel::host

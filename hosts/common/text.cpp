@@ -1,0 +1,52 @@
+#include "common/text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace quorvel::host {
+
+std::string fixed(double value, int decimals) {
+    if (std::isnan(value)) return absent;
+    char buffer[400];
+    const auto end =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals)
+            .ptr;
+    std::string text(buffer, end);
+    const bool zero = text.find_first_not_of("-0.") == std::string::npos;
+    return zero && text[0] == '-' ? text.substr(1) : text;
+}
+
+std::string shortest(double value) {
+    char buffer[40];
+    return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr};
+}
+
+std::string clock_time(double hours) {
+    const long minutes = ((std::lround(hours * 60.0) % 1440) + 1440) % 1440;
+    const auto digit = [](long n) { return static_cast<char>('0' + n); };
+    const long hour = minutes / 60, minute = minutes % 60;
+    return {digit(hour / 10), digit(hour % 10), ':', digit(minute / 10), digit(minute % 10)};
+}
+
+std::size_t character_count(std::string_view text) {
+    const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
+    return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, continues));
+}
+
+std::string csv_line(const std::vector<std::string>& fields) {
+    std::string line;
+    for (const std::string& field : fields) {
+        if (&field != fields.data()) line += ',';
+        if (field.find_first_of(",\"") == std::string::npos) {
+            line += field;
+            continue;
+        }
+        line += '"';
+        for (const char c : field) line.append(c == '"' ? 2 : 1, c);
+        line += '"';
+    }
+    return line + '\n';
+}
+
+}  // namespace quorvel::host

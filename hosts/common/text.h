@@ -1,0 +1,29 @@
+// Numbers and lines as text, byte for byte the same on every platform (which printf is not).
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvel::host {
+
+// Stands for a quantity that does not exist, such as the sun's direction at night.
+inline constexpr const char* absent = "–";
+
+// With so many decimals, never "-0"; NaN is shown as absent.
+std::string fixed(double value, int decimals);
+
+// As many digits as the value needs: 51.5, 0.01, nan.
+std::string shortest(double value);
+
+// Hours since midnight as hh:mm, wrapped into the day.
+std::string clock_time(double hours);
+
+// Characters of a UTF-8 text.
+std::size_t character_count(std::string_view text);
+
+// One line of a comma-separated file; a field is quoted where it must be.
+std::string csv_line(const std::vector<std::string>& fields);
+
+}  // namespace quorvel::host

@@ -1,0 +1,63 @@
+#include <cmath>
+
+#include "common/text.h"
+#include "designday/report.h"
+
+namespace quorvel::designday {
+namespace {
+
+// Empty where a quantity does not exist.
+std::string number(double value, int decimals) {
+    return std::isnan(value) ? "" : host::fixed(value, decimals);
+}
+
+constexpr const char* header =
+    "window,hour,clock,outdoor_C,sun_altitude_deg,sun_azimuth_deg,direct_normal_W_m2,"
+    "diffuse_horizontal_W_m2,incidence_deg,direct_W_m2,diffuse_W_m2,ground_W_m2,incident_W_m2,"
+    "direct_transmittance,direct_absorptance,transmitted_fraction,transmitted_W,"
+    "absorbed_fraction,absorbed_W,pane1_C,pane2_C,pane3_C,pane4_C,pane5_C\n";
+
+std::string clock(double hour, double solar_minus_clock) {
+    return std::isnan(solar_minus_clock) ? "" : host::clock_time(hour - solar_minus_clock);
+}
+
+std::vector<std::string> fields(const WindowDay& window, std::size_t i, const DesignDay& day) {
+    const WindowHour& at = window.at[i];
+    const SunHour& sun = day.sun[i];
+    std::vector<std::string> fields{
+        window.window->name,
+        number(sun.hour, 0),
+        clock(sun.hour, day.solar_minus_clock),
+        number(sun.outdoor, 2),
+        number(sun.altitude, 3),
+        number(sun.azimuth, 3),
+        number(sun.direct_normal, 2),
+        number(sun.diffuse_horizontal, 2),
+        number(at.incidence, 3),
+        number(at.direct, 2),
+        number(at.diffuse, 2),
+        number(at.ground, 2),
+        number(at.incident(), 2),
+        number(at.direct_transmittance, 4),
+        number(at.direct_absorptance, 4),
+        number(at.transmitted_fraction(), 4),
+        number(window.transmitted_power(i), 2),
+        number(at.absorbed_fraction(), 4),
+        number(window.window->area * at.absorbed, 2),
+    };
+    for (const double temperature : window.panes_at(i)) fields.push_back(number(temperature, 2));
+    for (int pane = window.panes; pane < most_panes; ++pane) fields.push_back("");
+    return fields;
+}
+
+}  // namespace
+
+std::string csv(const DesignDay& day) {
+    std::string text = header;
+    for (const WindowDay& window : day.windows)
+        for (std::size_t i = 0; i < window.at.size(); ++i)
+            text += host::csv_line(fields(window, i, day));
+    return text;
+}
+
+}  // namespace quorvel::designday

@@ -1,0 +1,176 @@
+"""The program around the numbers: faults of the input, the text, the chart."""
+
+import re
+import shutil
+import unittest
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+import host
+from designday_input import SITE, WINDOW, hours, job, window
+
+EXAMPLES = Path(__file__).parents[2] / "hosts" / "designday" / "examples"
+GOOD = job()
+
+
+def without(text, key):
+    return re.sub(rf"^{key} = .*\n", "", text, flags=re.M)
+
+
+def changed(key, value):
+    return re.sub(rf"^{key} = .*$", lambda _: f"{key} = {value}", GOOD, count=1, flags=re.M)
+
+
+def panes(text):
+    return changed("panes", text)
+
+
+# What is wrong; what the one line must name after "job.toml:LINE: ".
+BAD = [
+    (changed("latitude", "95"), "site.latitude: value 95; allowed -90 to 90 degrees north"),
+    (changed("latitude", '"north"'), 'site.latitude: value "north"; allowed -90 to 90'),
+    (changed("longitude", "nan"), "site.longitude: value nan; allowed -180 to 180"),
+    (changed("height", "inf"), "site.height: value inf; allowed -430 to 4000 m"),
+    (changed("class", "7"), "site.class: value 7; allowed whole numbers 1 to 6"),
+    (changed("class", "2.5"), "site.class: value 2.5; allowed whole numbers"),
+    (changed("class", "99999999999"), "site.class: value 99999999999; allowed"),
+    (changed("class", '5\nsky = "grey"'), 'site.sky: value "grey"; allowed clear, bright'),
+    (changed("class", "5\nutc_offset = 25"), "site.utc_offset: value 25; allowed -12 to 14 h"),
+    (changed("name", '""'), 'site.name: value ""; allowed text'),
+    (changed("name", '"two\\nlines"'), "site.name: value"),
+    (changed("name", f'"{"x" * 41}"'), "site.name: value"),
+    (changed("month", "13"), "day.month: value 13; allowed January"),
+    (changed("month", '"june"'), 'day.month: value "june"; allowed January'),
+    (changed("outdoor_min", "25"), "day.outdoor_max: value 20; allowed 25 to 60 °C"),
+    (changed("room", "true"), "day.room: value true; allowed -30 to 60 °C"),
+    (changed("room", "20\nhour_of_max = 6"), "day.hour_of_max: value 6; allowed 13 to 18 h"),
+    (changed("area", "0"), "window[1].area: value 0; allowed 0.01 to 1000 m²"),
+    (changed("area", "-inf"), "window[1].area: value -inf; allowed"),
+    (changed("area", "1\ntilt = 181"), "window[1].tilt: value 181; allowed 0 to 180 degrees"),
+    (changed("orientation", "1979-05-27"), "window[1].orientation: value date or time; allowed 0 to 360"),
+    (panes("[]"), "window[1].panes: value list of 0; allowed 1 to 5 tables"),
+    (panes("[" + "{transmittance = 0.8}," * 6 + "]"), "window[1].panes: value list of 6; allowed 1 to 5"),
+    (panes("[0.8]"), "window[1].panes: value list of 1; allowed"),
+    (panes("0.8"), "window[1].panes: value 0.8; allowed"),
+    (panes("[{transmittance = 0.8}, {transmittance = 0.95}]"),
+     "window[1].panes[2].transmittance: value 0.95; allowed 0.05 to 0.91"),
+    (panes("[{transmittance = 0.8, reflectance = 0.3}]"), "window[1].panes[1].reflectance: value 0.3; allowed 0.01 to 0.2 beside"),
+    (panes("[{}]"), "window[1].panes[1]: missing transmittance"),
+    (GOOD + "shading = { short_wave = 0.5, long_wave = 0, panes = 1 }\n", "window[1]: needs either panes or shading"),
+    (without(GOOD, "panes"), "window[1]: needs either panes or shading"),
+    (without(GOOD, "panes") + "shading = { short_wave = 0.5, long_wave = 0.1, panes = 6 }\n",
+     "window[1].shading.panes: value 6; allowed whole numbers 1 to 5"),
+    (without(GOOD, "panes") + "shading = 0.5\n", "window[1].shading: value 0.5; allowed a table"),
+    (changed("latitude", "50\nlattitude = 50"), "site.lattitude: unknown key; known are name, latitude"),
+    (changed("latitude", '50\n"odd\\nkey" = 1'), "site.odd key: unknown key"),
+    (without(without(GOOD, "latitude"), "height"), "site: missing latitude, height"),
+    (GOOD.replace("[[window]]", "[window]"), "window: value table; allowed 1 to 6 tables"),
+    (GOOD + (host.table("[[window]]", WINDOW) * 6), "window: value list of 7; allowed 1 to 6"),
+    (changed("latitude", "51,5"), "not valid TOML"),
+    (GOOD + "[site]\n", "not valid TOML"),
+    (b"\xff\xfe\x00", "not valid TOML"),
+]
+
+
+class BadInput(unittest.TestCase):
+    def expect(self, process, status, beginning):
+        self.assertEqual(process.returncode, status, process.stderr)
+        self.assertEqual(process.stderr.count(b"\n"), 1, process.stderr)
+        self.assertTrue(process.stderr.endswith(b"\n"))
+        self.assertRegex(process.stderr.decode(), beginning)
+
+    def test_each_fault_gets_one_line_and_status_2(self):
+        for text, message in BAD:
+            with self.subTest(message):
+                process = host.run("job.toml", files={"job.toml": text})
+                self.expect(process, 2, rf"^job\.toml:\d+: {re.escape(message)}")
+                self.assertEqual(process.stdout, b"")
+
+    def test_the_line_is_that_of_the_value(self):
+        text = "# a comment first\n\n" + changed("area", "1e9")
+        line = text.splitlines().index("area = 1e9") + 1
+        process = host.run("job.toml", files={"job.toml": text})
+        self.expect(process, 2, rf"^job\.toml:{line}: window\[1\]\.area: value")
+
+    def test_whole_tables_missing(self):
+        for text, missing in [("", "site, day, window"), (host.table("[site]", SITE), "day, window")]:
+            process = host.run("job.toml", files={"job.toml": text})
+            self.expect(process, 2, rf"^job\.toml(:\d+)?: missing {missing}$")
+
+    def test_arguments_and_files(self):
+        for arguments, line in [(["none.toml"], "none.toml: cannot be read"), (["."], r"\.: cannot be read"),
+                                ([], "FILE is required"), (["job.toml", "more"], "more"),
+                                (["job.toml", "--svg"], "--svg")]:
+            with self.subTest(arguments):
+                process = host.run(*arguments, files={"job.toml": GOOD})
+                self.expect(process, 2, line)
+
+    def test_missing_library(self):
+        process = host.run("job.toml", files={"job.toml": GOOD}, environment={"QUORVEL_LIBRARY": "none.so"})
+        self.expect(process, 1, "^designday: cannot load none.so")
+
+
+class Output(unittest.TestCase):
+    def report(self, text):
+        process = host.run("job.toml", files={"job.toml": text})
+        self.assertEqual((process.returncode, process.stderr), (0, b""))
+        self.assertNotIn(b"\r", process.stdout)
+        return process.stdout.decode()
+
+    def test_totals_and_peak_are_those_of_the_hours(self):
+        windows = [window("South", 180), window("West", 270, area=3.5)]
+        days, text = hours(*windows), self.report(job(*windows))
+        power = {name: [row["transmitted_W"] for row in rows] for name, rows in days.items()}
+        totals = re.findall(r"([\d.]+) kWh transmitted; peak (\d+) W at hour (\d+)", text)
+        power["all"] = [sum(pair) for pair in zip(power["South"], power["West"])]
+        self.assertEqual(len(totals), 3)
+        for (energy, peak, hour), name in zip(totals, power):
+            self.assertAlmostEqual(float(energy), sum(power[name]) / 1000, delta=0.006, msg=name)
+            self.assertAlmostEqual(float(peak), max(power[name]), delta=0.51, msg=name)
+            self.assertEqual(int(hour), power[name].index(max(power[name])) + 1, name)
+
+    def test_tables_are_aligned(self):
+        lines = self.report(job(window("Süd-Glas", 180, panes=[{"transmittance": 0.8}] * 5))).splitlines()
+        for start in (i for i, line in enumerate(lines) if line.startswith("  hour")):
+            block = lines[start:start + 25]
+            self.assertEqual(len({len(line) for line in block}), 1)
+            self.assertEqual([line.split()[0] for line in block[1:]], [str(hour) for hour in range(1, 25)])
+
+    def test_examples_run_and_say_the_same_twice(self):
+        examples = sorted(EXAMPLES.glob("*.toml"))
+        self.assertGreaterEqual(len(examples), 3)
+        for example in examples:
+            first, second = (self.report(example.read_bytes()) for _ in range(2))
+            self.assertEqual(first, second)
+            self.assertNotRegex(first, r"\b(nan|inf)\b")
+
+    def test_help_names_every_key(self):
+        process = host.run("--help")
+        self.assertEqual(process.returncode, 0)
+        text = process.stdout.decode()
+        for key in ("latitude", "class", "utc_offset", "hour_of_max", "transmittance", "short_wave", "--svg"):
+            self.assertIn(key, text)
+        self.assertLessEqual(max(map(len, text.splitlines())), 100)
+
+
+class Chart(unittest.TestCase):
+    @unittest.skipIf(host.EMULATOR or not shutil.which("gnuplot"), "no gnuplot for this program")
+    def test_picture_shows_names_and_numbers_and_is_the_same_twice(self):
+        text = job(window("A_1 & <'B'>", 180), window("Rückseite {^}", 0), site={"name": "St. John's"})
+        pictures = [host.run("--svg", "day.svg", "job.toml", files={"job.toml": text}).written for _ in range(2)]
+        self.assertEqual(pictures[0], pictures[1])
+        self.assertEqual(list(pictures[0]), ["day.svg"])  # and nothing is left behind
+        words = " ".join(ElementTree.fromstring(pictures[0]["day.svg"]).itertext())
+        for part in ("St. John's, 21 June", "A_1 & <'B'>", "Rückseite {^}", "W/m²", "at hour 12", "outdoor air"):
+            self.assertIn(part, words)
+
+    def test_without_gnuplot_one_line_tells(self):
+        process = host.run("--svg", "day.svg", "job.toml", files={"job.toml": GOOD},
+                                    environment={"PATH": "/nowhere"})
+        self.assertEqual(process.returncode, 1)
+        self.assertRegex(process.stderr.decode(), r"^designday: a chart needs gnuplot.*\n$")
+        self.assertEqual(process.written, {})
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,54 @@
+"""Runs a host program on input that a test writes for it."""
+
+import collections
+import csv
+import io
+import os
+import subprocess
+import tempfile
+from pathlib import Path
+
+EMULATOR = os.environ.get("QUORVEL_EMULATOR")  # unset or empty where the program runs by itself
+PROGRAM = [EMULATOR] * bool(EMULATOR) + [os.environ["QUORVEL_HOST"]]
+
+
+Finished = collections.namedtuple("Finished", "returncode stdout stderr written")
+
+
+def run(*arguments, files=None, environment=None):
+    """Runs the program in a folder of its own that holds `files` (name: text or bytes).
+
+    `written` are the files that it left there, by name. Its output goes to files too: an emulator's
+    background processes keep pipes open long after the program has ended."""
+    with tempfile.TemporaryDirectory() as folder, tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as err:
+        for name, text in (files or {}).items():
+            Path(folder, name).write_bytes(text if isinstance(text, bytes) else text.encode())
+        status = subprocess.run([*PROGRAM, *arguments], cwd=folder, env=os.environ | (environment or {}),
+                                stdin=subprocess.DEVNULL, stdout=out, stderr=err, timeout=120).returncode
+        for stream in (out, err):
+            stream.seek(0)
+        written = {path.name: path.read_bytes() for path in Path(folder).iterdir() if path.name not in (files or {})}
+        return Finished(status, out.read(), err.read(), written)
+
+
+def toml(value):
+    """A value as TOML writes it."""
+    if isinstance(value, dict):
+        return "{ " + ", ".join(f"{key} = {toml(part)}" for key, part in value.items()) + " }"
+    if isinstance(value, list):
+        return "[" + ", ".join(map(toml, value)) + "]"
+    return f'"{value}"' if isinstance(value, str) else str(value)
+
+
+def table(heading, keys):
+    return heading + "\n" + "".join(f"{key} = {toml(value)}\n" for key, value in keys.items())
+
+
+def rows(text):
+    """Lines of comma-separated values as dictionaries; numbers as floats, empty fields as None."""
+    def value(field):
+        try:
+            return float(field)
+        except ValueError:
+            return field or None
+    return [{key: value(field) for key, field in row.items()} for row in csv.DictReader(io.StringIO(text))]
