@@ -68,13 +68,12 @@ inline Wide low_product(const Wide& a, std::uint64_t factor) noexcept {
 inline ReducedAngle reduce_large_double(double x) noexcept {
     const int exponent = static_cast<int>(bits(x) >> 52 & 0x7ff) - 1075;
     const std::uint64_t integer = (bits(x) & 0x000fffffffffffff) | 0x0010000000000000;
-    Wide product = low_product(two_over_pi(exponent + 62), integer);
+    const Wide product = low_product(two_over_pi(exponent + 62), integer);
     // nearest count of quarters; the rest is signed
     const std::uint64_t count = (std::uint64_t{product.word[5]} + 0x20000000) >> 30;
     double unit = 0x1p-30;
-    Pair rest = {0.0, 0.0};
     const auto top = static_cast<std::int32_t>(product.word[5] << 2) >> 2;
-    rest.high = static_cast<double>(top) * unit;
+    Pair rest = {static_cast<double>(top) * unit, 0.0};
     for (int i = 4; i >= 0; --i) {
         unit *= 0x1p-32;
         rest = rest + Pair{product.word[i] * unit, 0.0};

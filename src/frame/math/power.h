@@ -80,7 +80,7 @@ T pow_of_special(T x, T y) noexcept;
 
 }  // namespace detail
 
-inline double pow(double x, double y) noexcept;
+inline double pow(double x, double y) noexcept;  // see double_exp_log.h
 
 inline float pow(float x, float y) noexcept {
     const auto x_bits = std::bit_cast<std::uint32_t>(x), y_bits = std::bit_cast<std::uint32_t>(y);

@@ -1,9 +1,10 @@
-// Reduction of an angle by multiples of a quarter or half turn, exact for every float.
+// Reduction of an angle by multiples of a quarter or half turn, right for every float.
 //
 // Below 2^28, n steps are subtracted in three parts: the first two products with n and the
-// differences are exact, the third part errs by 2^-75.  From 2^28 on, the angle is multiplied by a
+// differences are exact, the third part errs by 2^-75. From 2^28 on, the angle is multiplied by a
 // window of the bits of 2/pi: those before it only give multiples of four quarters, those after it
-// less than 2^-65 quarters.  The window moves once, at 2^78.
+// less than 2^-65 quarters. The window moves once, at 2^78.
+//
 // Constants: tools/math/coefficients.sollya.
 #pragma once
 
@@ -11,13 +12,13 @@
 
 namespace quorvel::math::detail {
 
-// x = (count + 4k - offset) steps + r - correction
+// x = (count + 4k) steps + r - correction; with half a step on, the same of x + step/2
 struct ReducedAngle {
     double r, correction;
     std::uint64_t count;  // meaningful in the lowest two bits
 };
 
-// A step is kQuarters quarter turns; with kOffset = 0.5 the remainder is that of x + step/2.
+// A step is kQuarters quarter turns.
 template <int kQuarters>
 struct Step {
     static constexpr double kInverse = 0x1.45f306dc9c883p-1 / kQuarters;
@@ -25,7 +26,7 @@ struct Step {
     static constexpr double kMiddle = 0x1.110b46p-26 * kQuarters;
     static constexpr double kTail = 0x1.1a62633145c07p-54 * kQuarters;
     static constexpr double kWhole = 0x1.921fb54442d18p0 * kQuarters;
-    // 29, 29, 29 and 53 bits of the windows of 1/step
+    // 29, 29, 29 and 53 bits of the two windows of 1/step
     static constexpr double kLower[4] = {0x1.7cc1b7p-7 / kQuarters, 0x1.391054ap-34 / kQuarters,
                                          0x1.fc2757cp-64 / kQuarters,
                                          0x1.1f534ddc0db63p-92 / kQuarters};

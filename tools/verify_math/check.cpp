@@ -1,0 +1,173 @@
+#include "check.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <bit>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "samples.h"
+
+namespace verify {
+
+namespace {
+
+constexpr std::uint64_t kBlock = 1 << 15;
+
+class Progress {
+  public:
+    Progress(std::string_view name, std::uint64_t count) : name_(name), count_(count) {}
+    ~Progress() {
+        if (kTerminal) std::fprintf(stderr, "\r%*s\r", 24, "");
+    }
+    void show(std::uint64_t done) const {
+        if (kTerminal)
+            std::fprintf(stderr, "\r%-14s %3d %%", name_.c_str(),
+                         static_cast<int>(100 * done / count_));
+    }
+
+  private:
+    static inline const bool kTerminal = isatty(STDERR_FILENO) != 0;
+    std::string name_;
+    std::uint64_t count_;
+};
+
+// The part of an outcome that one thread finds
+class Findings {
+  public:
+    explicit Findings(const Function& function) : reference(function), name_(function.name) {}
+
+    template <class... T>
+    void rounding(float computed, float exact, T... arguments) {
+        ++outcome.inputs;
+        const bool both_nan = std::isnan(computed) && std::isnan(exact);
+        if (both_nan ||
+            std::bit_cast<std::uint32_t>(computed) == std::bit_cast<std::uint32_t>(exact))
+            return;
+        if (++outcome.misrounded <= 5)
+            std::fprintf(stderr, "%s(%s) = %a, correctly rounded %a\n", name_.c_str(),
+                         list(arguments...).c_str(), static_cast<double>(computed),
+                         static_cast<double>(exact));
+    }
+
+    template <class... T>
+    void error(double ulps, T... arguments) {
+        ++outcome.inputs;
+        if (ulps <= outcome.error) return;
+        outcome.error = ulps;
+        worst_ = list(arguments...);
+    }
+
+    void add_to(Outcome& total, std::string& worst) const {
+        total.inputs += outcome.inputs;
+        total.misrounded += outcome.misrounded;
+        if (!(outcome.error > total.error)) return;
+        total.error = outcome.error;
+        worst = worst_;
+    }
+
+    Reference reference;
+    Outcome outcome;
+
+  private:
+    template <class... T>
+    static std::string list(T... arguments) {
+        std::string text;
+        char number[40];
+        for (const double argument : {static_cast<double>(arguments)...}) {
+            std::snprintf(number, sizeof number, text.empty() ? "%a" : ", %a", argument);
+            text += number;
+        }
+        return text;
+    }
+
+    std::string name_, worst_;
+};
+
+// Calls block(first, last, findings) for all blocks of indices below `count`.
+Outcome in_parallel(const Function& function, std::uint64_t count,
+                    const std::function<void(std::uint64_t, std::uint64_t, Findings&)>& block) {
+    const Progress progress(function.name, count);
+    std::atomic<std::uint64_t> next = 0;
+    std::mutex mutex;
+    Outcome total;
+    std::string worst;
+    const auto work = [&] {
+        Findings findings(function);
+        for (std::uint64_t first; (first = next.fetch_add(kBlock)) < count;) {
+            block(first, std::min(first + kBlock, count), findings);
+            progress.show(first);
+        }
+        const std::lock_guard lock(mutex);
+        findings.add_to(total, worst);
+    };
+    std::vector<std::thread> threads(std::max(1u, std::thread::hardware_concurrency()));
+    for (std::thread& thread : threads) thread = std::thread(work);
+    for (std::thread& thread : threads) thread.join();
+    if (!worst.empty())
+        std::fprintf(stderr, "%-6s errs most at %s\n", std::string(function.name).c_str(),
+                     worst.c_str());
+    return total;
+}
+
+}  // namespace
+
+Outcome check(const FloatFunction& function, std::uint64_t count) {
+    return in_parallel(function.reference, count,
+                       [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
+                           std::vector<float> x(last - first), computed(last - first);
+                           for (std::uint64_t i = first; i < last; ++i)
+                               x[i - first] = float_sample(i, count);
+                           function.evaluate(x.data(), computed.data(), x.size());
+                           for (std::size_t i = 0; i < x.size(); ++i)
+                               findings.rounding(computed[i], findings.reference.rounded(x[i]),
+                                                 x[i]);
+                       });
+}
+
+Outcome check(const FloatPairFunction& function, std::uint64_t count) {
+    const bool is_pow = function.reference.name == "pow";
+    const std::uint64_t hard_count = std::min(count / 16, std::uint64_t{1} << 22);
+    const auto hard = is_pow ? pow_hard_cases(hard_count) : atan2_hard_cases(hard_count);
+    return in_parallel(function.reference, count,
+                       [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
+                           for (std::uint64_t i = first; i < last; ++i) {
+                               const auto [x, y] = i < hard.size() ? hard[i]
+                                                   : is_pow        ? pow_sample(i)
+                                                                   : atan2_sample(i);
+                               findings.rounding(function.evaluate(x, y),
+                                                 findings.reference.rounded(x, y), x, y);
+                           }
+                       });
+}
+
+Outcome check(const DoubleFunction& function, std::uint64_t count) {
+    return in_parallel(function.reference, count,
+                       [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
+                           for (std::uint64_t i = first; i < last; ++i) {
+                               const double x = double_sample(function, i);
+                               findings.error(findings.reference.ulp_error(x, function.evaluate(x)),
+                                              x);
+                           }
+                       });
+}
+
+Outcome check(const DoublePairFunction& function, std::uint64_t count) {
+    return in_parallel(
+        function.reference, count,
+        [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
+            for (std::uint64_t i = first; i < last; ++i) {
+                const auto [x, y] = double_pair_sample(function.reference.name, i);
+                findings.error(findings.reference.ulp_error(x, y, function.evaluate(x, y)), x, y);
+            }
+        });
+}
+
+}  // namespace verify
