@@ -186,7 +186,7 @@ TEST(BandClimate, SearchAndRowInterpolationTogetherGiveTheSame) {
         const int before = 92 * (set - 1);
         std::array<float, 120> frequencies;
         for (int band = 1; band <= 10; ++band)
-            lib::CLBAN3(before + 2 + band, &frequencies[12u * (band - 1u)]);
+            lib::CLBAN3(before + 2 + band, &frequencies[std::size_t{12} * (band - 1)]);
         for (int month = 1; month <= 12; ++month)
             for (float percentage = -50.0f; percentage < 130.0f; percentage += 1.7f) {
                 int lower, upper;

@@ -88,8 +88,9 @@ struct Ephemeris {
     static double julian_day(Date date) {
         if (date.month <= 2) date = {date.year - 1, date.month + 12, date.day};
         const int century = date.year / 100;
+        const int leap_days = date.day + 2 - century + century / 4;
         return std::floor(365.25 * (date.year + 4716)) + std::floor(30.6001 * (date.month + 1)) +
-               date.day + 2 - century + century / 4 - 1524.5;
+               leap_days - 1524.5;
     }
 
     Vector seen_from(double latitude, double west) const {
