@@ -249,30 +249,6 @@ TEST_F(Identities, HoldBetweenDirections) {
     }
 }
 
-TEST_F(Identities, NeighboursKeepTheirOrder) {
-    const auto rises = [](auto f, float x) {
-        for (int i = 0; i < 50; ++i) {
-            const float next = std::nextafter(x, 2 * std::abs(x));
-            ASSERT_LE(f(x), f(next)) << x;
-            x = next;
-        }
-    };
-    for (int i = 0; i < kSamples / 100; ++i) {
-        const float unit = between(-0.999f, 0.999f), wide = between(0.001f, 80.0f);
-        rises([](float x) { return own::asin(x); }, unit);
-        rises([](float x) { return -own::acos(x); }, unit);
-        rises([](float x) { return own::sin(x); }, unit);
-        rises([](float x) { return own::tan(x); }, unit);
-        rises([](float x) { return own::atan(x); }, wide);
-        rises([](float x) { return own::exp(x); }, wide);
-        rises([](float x) { return own::exp10(x * 0.4f); }, wide);
-        rises([](float x) { return own::log(x); }, wide);
-        rises([](float x) { return own::log10(x); }, wide);
-        rises([](float x) { return own::pow(x, 1.7f); }, wide);
-        rises([](float x) { return -own::pow(x, -0.3f); }, wide);
-    }
-}
-
 // Values from MPFR; the functions promise less than one unit in the last place.
 TEST(DoublePrecision, AgreesWithKnownValues) {
     const struct {
