@@ -901,6 +901,293 @@ QUORVEL_API float PSVAP(const float *t, const float *twb, const float *p, const 
  */
 QUORVEL_API float PSTWET(const float *t, const float *rh, const float *p, const int32_t *type);
 
+/*
+ * PSGS (moisture_content_from_psychrometer): Moisture content of air from the reading of a wet-and-
+ *     dry-bulb psychrometer.
+ * Given:
+ *     t     float    °C  -50 .. 100       dry-bulb temperature
+ *     twb   float    °C  -50 .. 100       wet-bulb temperature
+ *     p     float    Pa  50000 .. 110000  atmospheric pressure
+ *     type  int32_t      selector         psychrometer type: 1 sling (aspirated), 2 screen
+ *                                         (naturally ventilated)
+ * Result:
+ *     float  kg/kg  moisture content
+ * Notes:
+ *     - A wet bulb at or above the dry bulb counts as saturation; the coefficient of an iced bulb
+ *       is taken when the wet bulb is below 0 °C.
+ *     - The enhancement factor takes its ice coefficients at 0 °C and below, where the saturation
+ *       pressure counts exactly 0 °C as water; the difference is kept.
+ *     - Not limited: a reading drier than any air gives a negative content, a vapour pressure above
+ *       p too.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Source: Vapour pressure of PSVAP; g = 0.62197 f pv / (p - f pv), where the enhancement factor is
+ *     a quadratic in absolute temperature whose coefficients are linear in pressure.
+ */
+QUORVEL_API float PSGS(const float *t, const float *twb, const float *p, const int32_t *type);
+
+/*
+ * PSPCST (percentage_saturation): Percentage saturation: moisture content by that of saturated air
+ *     at the same temperature and pressure.
+ * Given:
+ *     t  float  °C     -50 .. 80        dry-bulb temperature
+ *     g  float  kg/kg  0 .. 0.1         moisture content, water vapour per dry air
+ *     p  float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     float  %  percentage saturation
+ * Notes:
+ *     - Not limited: supersaturated air gives more than 100.
+ *     - Percentage saturation is not relative humidity, the ratio of vapour pressures, and is the
+ *       lower of the two.
+ * Source: Definition, with the saturation moisture content of PSGS.
+ */
+QUORVEL_API float PSPCST(const float *t, const float *g, const float *p);
+
+/*
+ * PSHWET (specific_enthalpy_from_psychrometer): Specific enthalpy of moist air from the reading of
+ *     a wet-and-dry-bulb psychrometer.
+ * Given:
+ *     t     float    °C  -50 .. 60        dry-bulb temperature
+ *     twb   float    °C  -50 .. 60        wet-bulb temperature
+ *     p     float    Pa  50000 .. 110000  atmospheric pressure
+ *     type  int32_t      selector         psychrometer type: 1 sling (aspirated), 2 screen
+ *                                         (naturally ventilated)
+ * Result:
+ *     float  kJ/kg  specific enthalpy, by mass of dry air
+ * Notes:
+ *     - A wet bulb at or above the dry bulb counts as saturation; the coefficient of an iced bulb
+ *       is taken when the wet bulb is below 0 °C.
+ *     - Per kilogram of dry air, from dry air and liquid water at 0 °C.
+ *     - Saturated air at 101325 Pa is within 0.07 kJ/kg of the ASHRAE tables from -20 to 30 °C,
+ *       within 0.2 % up to 50 °C.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Source: Enthalpies of PSHDRY and PSHVAP, moisture content of PSGS.
+ */
+QUORVEL_API float PSHWET(const float *t, const float *twb, const float *p, const int32_t *type);
+
+/*
+ * PSSPVL (specific_volume): Specific volume of moist air.
+ * Given:
+ *     t  float  °C     -50 .. 60        dry-bulb temperature
+ *     g  float  kg/kg  0 .. 0.1         moisture content, water vapour per dry air
+ *     p  float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     float  m³/kg  specific volume, by mass of dry air
+ * Notes:
+ *     - A moisture content above saturation counts as saturation.
+ *     - Per kilogram of dry air: the reciprocal is not the density of the moist air.
+ * Source: Virial equation of the mixture, written for 101325 Pa (1.0045 is the enhancement factor
+ *     there); its author is not known.
+ */
+QUORVEL_API float PSSPVL(const float *t, const float *g, const float *p);
+
+/*
+ * PSTWB (wet_bulb_from_percentage_saturation): Wet-bulb temperature that a psychrometer reads at a
+ *     dry-bulb temperature and percentage saturation.
+ * Given:
+ *     t     float    °C  -50 .. 80        dry-bulb temperature
+ *     mu    float    %   0 .. 100         percentage saturation
+ *     p     float    Pa  50000 .. 110000  atmospheric pressure
+ *     type  int32_t      selector         psychrometer type: 1 sling (aspirated), 2 screen
+ *                                         (naturally ventilated)
+ * Result:
+ *     float  °C  wet-bulb temperature
+ * Notes:
+ *     - A stepping search with steps down to 0.01 K: the result is above the exact wet bulb by less
+ *       than that and moves in small jumps with its arguments.
+ *     - The percentage is not limited: 100 and more give t.
+ *     - About 0 °C, where the coefficient changes to that of an iced bulb, two wet bulbs can belong
+ *       to one percentage; which of them is found depends on the steps.
+ *     - Where the search would never end (below absolute zero, say), the value it has reached is
+ *       returned.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Source: Psychrometer equation of PSVAP with the moisture content of PSGS, solved by a step-and-
+ *     refine search.
+ */
+QUORVEL_API float PSTWB(const float *t, const float *mu, const float *p, const int32_t *type);
+
+/*
+ * PSWBLB (wet_bulb_from_moisture_content): Wet-bulb temperature that a psychrometer reads at a dry-
+ *     bulb temperature and moisture content.
+ * Given:
+ *     t     float    °C     -50 .. 80        dry-bulb temperature
+ *     g     float    kg/kg  0 .. 0.1         moisture content, water vapour per dry air
+ *     p     float    Pa     50000 .. 110000  atmospheric pressure
+ *     type  int32_t         selector         psychrometer type: 1 sling (aspirated), 2 screen
+ *                                            (naturally ventilated)
+ * Result:
+ *     float  °C  wet-bulb temperature
+ * Notes:
+ *     - A stepping search with steps of 5 K down to 0.005 K and a last one of 0.0005 K: the result
+ *       is within 0.005 K of the exact wet bulb.
+ *     - At saturation or above the result is t, whatever t is. Otherwise a dry bulb above 10000 °C
+ *       gives -100, one that is not a number -200.
+ *     - Where the search would never end (a moisture content that is not a number, or far below 0),
+ *       the value it has reached is returned.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Source: Psychrometer equation of PSVAP with the moisture content of PSGS, solved by a step-and-
+ *     refine search.
+ */
+QUORVEL_API float PSWBLB(const float *t, const float *g, const float *p, const int32_t *type);
+
+/*
+ * PSTSAT (saturation_temperature_from_enthalpy): Temperature at which saturated air has a specific
+ *     enthalpy.
+ * Given:
+ *     h  float  kJ/kg  -10 .. 460       specific enthalpy, by mass of dry air
+ *     p  float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     float  °C  saturation temperature
+ * Notes:
+ *     - An enthalpy below -10 gives -13.4, above 460 it gives 60, whatever the pressure; at 101325
+ *       Pa the search itself gives -12.98 and 59.98 there.
+ *     - A stepping search with steps down to 0.01 K: the result is below the exact temperature by
+ *       less than that, or above it by 0.001 K at most.
+ *     - Where the search would never end (a pressure so low that the water boils, an argument that
+ *       is not a number), the value it has reached is returned: some ten thousand degrees.
+ * Source: Enthalpy of PSHWET, solved by a step-and-refine search.
+ */
+QUORVEL_API float PSTSAT(const float *h, const float *p);
+
+/*
+ * PSHDRY (dry_air_enthalpy): Specific enthalpy of dry air.
+ * Given:
+ *     t  float  °C  -50 .. 100  temperature
+ * Result:
+ *     float  kJ/kg  specific enthalpy, 0 at 0 °C
+ * Notes:
+ *     - Within 0.02 kJ/kg of the ASHRAE tables from -20 to 50 °C, but 0.3 above them at -50 °C.
+ *     - At 0 °C it is 0.0007 kJ/kg: the constant of the fit is kept.
+ * Source: Polynomial fit to tables of dry air; its author is not known.
+ */
+QUORVEL_API float PSHDRY(const float *t);
+
+/*
+ * PSHVAP (water_vapour_enthalpy): Specific enthalpy of water vapour.
+ * Given:
+ *     t  float  °C  -50 .. 100  temperature
+ * Result:
+ *     float  kJ/kg  specific enthalpy, from liquid water at 0 °C
+ * Notes:
+ *     - Within 0.5 kJ/kg of saturated steam from 0 to 60 °C (IAPWS 1995), within 7 at 100 °C.
+ * Source: Polynomial fit to tables of water vapour; its author is not known.
+ */
+QUORVEL_API float PSHVAP(const float *t);
+
+/*
+ * PSCPDR (dry_air_specific_heat): Specific heat of dry air at constant pressure.
+ * Given:
+ *     t  float  °C  -50 .. 100  temperature
+ * Result:
+ *     float  kJ/kgK  specific heat
+ * Notes:
+ *     - The pieces meet, but for steps of 0.00004 kJ/kgK up at 40 °C and down at 50 °C, which are
+ *       kept.
+ * Source: Straight lines between tabulated values for each 10 K; the author of the table is not
+ *     known.
+ */
+QUORVEL_API float PSCPDR(const float *t);
+
+/*
+ * PSCPVA (water_vapour_specific_heat): Specific heat of water vapour at constant pressure.
+ * Given:
+ *     t  float  °C  -50 .. 100  temperature
+ * Result:
+ *     float  kJ/kgK  specific heat
+ * Notes:
+ *     - Constant from 20 °C up.
+ * Source: Rounded engineering values; their author is not known.
+ */
+QUORVEL_API float PSCPVA(const float *t);
+
+/*
+ * PSHFG (latent_heat): Latent heat of evaporation of water, of sublimation of ice below 0 °C.
+ * Given:
+ *     t  float  °C  -50 .. 100  temperature
+ * Result:
+ *     float  kJ/kg  latent heat
+ * Notes:
+ *     - At exactly 60 °C the result is 0: the table's row for it is empty, which is kept. Just
+ *       below and above, it is 2357.9.
+ *     - Within 0.5 kJ/kg of the international values (IAPWS 1995) from 0 to 60 °C.
+ * Source: Straight lines between tabulated values for each 10 K; the author of the table is not
+ *     known.
+ */
+QUORVEL_API float PSHFG(const float *t);
+
+/*
+ * PSTEFF (weighted_temperature): Weighted temperature of two air temperatures.
+ * Given:
+ *     t1  float  °C  -20 .. 60  temperature with the greater weight
+ *     t2  float  °C  -20 .. 60  temperature with the lesser, negative weight
+ * Result:
+ *     float  °C  weighted temperature
+ * Notes:
+ *     - Two equal temperatures give that temperature. Infinite where t2 is above t1 by 34.61 K.
+ * Source: (41.94 t1 - 7.33 t2) / (34.61 + t1 - t2); its derivation is not known, so the second
+ *     temperature has no other meaning than the formula's.
+ */
+QUORVEL_API float PSTEFF(const float *t1, const float *t2);
+
+/*
+ * TPPOOL (pool_evaporation): Evaporation from an indoor pool and its heat flows, for room air given
+ *     by its moisture content.
+ * Given:
+ *     a   float    m²     1 .. 2000        area of the water surface
+ *     a2  float    m²     0 .. 2000        further wetted area, which adds to the latent load only
+ *     tw  float    °C     0 .. 45          water temperature
+ *     ta  float    °C     0 .. 45          dry-bulb temperature of the room air
+ *     g   float    kg/kg  0 .. 0.03        moisture content of the room air
+ *     t2  float    °C     0 .. 45          second reference temperature
+ *     nb  int32_t         0 .. 500         number of bathers, below 1 unoccupied
+ *     h2  float    W/m²K  0 .. 20          coefficient of the exchange with t2
+ *     p   float    Pa     50000 .. 110000  atmospheric pressure
+ * Returned:
+ *     e       float  kg/(m²s)    evaporation rate
+ *     q_lat   float  W           latent load, 2.45 MJ per kg evaporated
+ *     q_conv  float  W           convection from the water to the room air at 10 W/m²K
+ *     q2      float  W           exchange of the water with t2
+ * Notes:
+ *     - The vapour pressure is that of a sling psychrometer at the wet bulb of PSWBLB, and good to
+ *       the step of that search.
+ *     - Nothing is limited: a calm pool close to equilibrium with the air has a negative rate.
+ *     - With bathers the rate per area falls as the pool grows, and an area of 0 divides by zero.
+ * Source: Regressions of the kind that Biasin and Krumme gave in 1974 (unoccupied -0.059 + 0.000079
+ *     dp in kg/(m²h)), turned to kg/(m²s); fixed latent heat and convective coefficient.
+ */
+QUORVEL_API void TPPOOL(const float *a, const float *a2, const float *tw, const float *ta,
+                        const float *g, const float *t2, const int32_t *nb, const float *h2,
+                        const float *p, float *e, float *q_lat, float *q_conv, float *q2);
+
+/*
+ * TPPOOL2 (pool_evaporation_from_wet_bulb): Evaporation from an indoor pool and its heat flows, for
+ *     room air given by its wet bulb.
+ * Given:
+ *     a    float    m²     1 .. 2000        area of the water surface
+ *     a2   float    m²     0 .. 2000        further wetted area, which adds to the latent load only
+ *     tw   float    °C     0 .. 45          water temperature
+ *     ta   float    °C     0 .. 45          dry-bulb temperature of the room air
+ *     twb  float    °C     0 .. 45          wet-bulb temperature of the room air, sling
+ *                                           psychrometer
+ *     t2   float    °C     0 .. 45          second reference temperature
+ *     nb   int32_t         0 .. 500         number of bathers, below 1 unoccupied
+ *     h2   float    W/m²K  0 .. 20          coefficient of the exchange with t2
+ *     p    float    Pa     50000 .. 110000  atmospheric pressure
+ * Returned:
+ *     e       float  kg/(m²s)    evaporation rate
+ *     q_lat   float  W           latent load, 2.45 MJ per kg evaporated
+ *     q_conv  float  W           convection from the water to the room air at 10 W/m²K
+ *     q2      float  W           exchange of the water with t2
+ * Notes:
+ *     - A wet bulb at or above ta counts as saturated air at ta.
+ *     - Nothing is limited: a calm pool close to equilibrium with the air has a negative rate.
+ *     - With bathers the rate per area falls as the pool grows, and an area of 0 divides by zero.
+ * Source: Regressions of the kind that Biasin and Krumme gave in 1974 (unoccupied -0.059 + 0.000079
+ *     dp in kg/(m²h)), turned to kg/(m²s); fixed latent heat and convective coefficient.
+ */
+QUORVEL_API void TPPOOL2(const float *a, const float *a2, const float *tw, const float *ta,
+                         const float *twb, const float *t2, const int32_t *nb, const float *h2,
+                         const float *p, float *e, float *q_lat, float *q_conv, float *q2);
+
 #ifdef __cplusplus
 }
 #endif
