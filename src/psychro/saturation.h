@@ -35,7 +35,4 @@ inline Real vapour_pressure_from_psychrometer(Real t, Real twb, Real p, Integer 
     return saturation_pressure(twb) - A * p * (t - twb);
 }
 
-// Wet bulb [°C] that a psychrometer reads at dry bulb t [°C], rh [%] and pressure p [Pa].
-Real psychrometer_wet_bulb(Real t, Real rh, Real p, Integer type) noexcept;
-
 }  // namespace quorvel::psychro

@@ -9,7 +9,3 @@ Real PSVP(const Real* t, const Real* rh) { return psychro::vapour_pressure(*t, *
 Real PSVAP(const Real* t, const Real* twb, const Real* p, const Integer* type) {
     return psychro::vapour_pressure_from_psychrometer(*t, *twb, *p, *type);
 }
-
-Real PSTWET(const Real* t, const Real* rh, const Real* p, const Integer* type) {
-    return psychro::psychrometer_wet_bulb(*t, *rh, *p, *type);
-}

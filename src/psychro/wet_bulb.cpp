@@ -1,118 +1,121 @@
 #include "psychro/wet_bulb.h"
 
 #include <cmath>
-#include <limits>
 
 #include "psychro/moist_air.h"
+#include "psychro/wet_bulb_forecast.h"
 
 namespace quorvel::psychro {
 namespace {
 
-// Finest step of the searches, K.
+// Finest step of the searches with the enhancement factor, K.
 constexpr Real finest_step = 0.005f;
 // Above some 15 700 °C saturation pressure overflows, and below absolute zero its formula does: no
 // search that ends goes further than this, K.
 constexpr int widest_search = 20000;
 
-// What stays the same from trial to trial of one search.
-class Psychrometer {
+// Where the forecasts' error bounds hold; near 0 °C as well, since ps rises from ice to water.
+constexpr bool is_ordinary(Real t) noexcept { return t >= -100.0f && t <= 100.0f; }
+
+PsychrometerSlope psychrometer_slope(Real p, Integer type) noexcept {
+    return {psychrometer_coefficient(type, false) * p, psychrometer_coefficient(type, true) * p};
+}
+
+// Air at a dry bulb: what stays the same from trial to trial of one search.
+class MoistAirAt {
   public:
-    Psychrometer(Real t, Real p, Integer type) noexcept
+    MoistAirAt(Real t, Real p, Integer type) noexcept
         : air_(p),
           t_(t),
           saturation_pressure_(saturation_pressure(t)),
           enhancement_(air_.enhancement(t)),
-          wet_Ap_(psychrometer_coefficient(type, false) * p),
-          iced_Ap_(psychrometer_coefficient(type, true) * p) {}
+          slope_(psychrometer_slope(p, type)) {}
 
-    Real dry_bulb() const noexcept { return t_; }
-    Real pressure() const noexcept { return air_.pressure(); }
-    Real dry_bulb_saturation_pressure() const noexcept { return saturation_pressure_; }
     Real saturation_content() const noexcept { return content_at(saturation_pressure_); }
-
-    Real Ap(Real twb) const noexcept { return twb < 0.0f ? iced_Ap_ : wet_Ap_; }  // Pa/K
-    // Vapour pressure of the air below saturation at the wet bulb, Pa.
-    Real deficit(Real twb) const noexcept { return Ap(twb) * (t_ - twb); }
 
     Real moisture_content(Real twb) const noexcept {
         if (twb >= t_) return saturation_content();
-        return content_at(saturation_pressure(twb) - deficit(twb));
+        return content_at(saturation_pressure(twb) - slope_.at(twb) * (t_ - twb));
     }
-    // The vapour pressure at which the air holds the moisture content g.
-    Real vapour_pressure_at(Real g) const noexcept {
-        return pressure() * g / (enhancement_ * (molar_mass_ratio + g));
+
+    // Of the comparison of moisture_content(twb) with a target. Moisture content rises with vapour
+    // pressure; the ten or so operations between them, on terms that near the root are no larger
+    // than ps, err by 2e-6. Not close to boiling (above 5 kg/kg) or past it, for a target that is
+    // not between dry and saturated, or at pressures whose products overflow.
+    WetBulbForecast forecast(Real target) const noexcept {
+        const Real p = air_.pressure();
+        const Real pv = p * target / (enhancement_ * (molar_mass_ratio + target));
+        WetBulbForecast forecast(t_, saturation_pressure_, pv, slope_);
+        const Real saturated = saturation_content();
+        const bool holds = is_ordinary(t_) && p > 0.0f && p < 1e9f && saturated < 5.0f &&
+                           target >= 0.0f && target <= saturated;
+        if (holds) {
+            forecast.approach_root(3);
+            forecast.set_margin(1e-4f * forecast.saturation_near_root());
+        }
+        return forecast;
     }
 
   private:
     Real content_at(Real pv) const noexcept { return air_.moisture_content(enhancement_, pv); }
 
     MoistAir air_;
-    Real t_, saturation_pressure_, enhancement_, wet_Ap_, iced_Ap_;
-};
-
-// Says without evaluating the moisture content on which side of the one sought most trials lie.
-//
-// Moisture content rises with the vapour pressure pv = ps(twb) - deficit(twb), and ps with twb. So
-// one known ps(x0) in place of ps(twb) bounds pv from below for every twb above x0, from above for
-// every twb below it. x0 is taken close to the root, so only trials within some thousandths of a
-// kelvin of it remain in doubt.
-//
-// Rounding: the exponent of ps, some 34 before cancellation, is good to 7e-6, so ps to 2e-5 of
-// itself; the ten or so operations from it to the comparison, on terms that near the root are no
-// larger than ps, add 2e-6. With such errors in both ps(x0) and the trial, the margin is more than
-// twice their sum. It is infinite, all being in doubt, where this would not hold: beyond ±100 °C,
-// close to boiling (moisture content above 5 kg/kg) or past it, for a target that is not between
-// dry and saturated, at pressures whose products overflow.
-class Forecast {
-  public:
-    Forecast(const Psychrometer& psychrometer, Real target_content) noexcept
-        : psychrometer_(psychrometer),
-          target_(psychrometer.vapour_pressure_at(target_content)),
-          x0_(psychrometer.dry_bulb()),
-          ps_(psychrometer.dry_bulb_saturation_pressure()) {
-        const Real saturated = psychrometer.saturation_content();
-        const bool holds = std::fabs(x0_) <= 100.0f && psychrometer.pressure() > 0.0f &&
-                           psychrometer.pressure() < 1e9f && saturated < 5.0f &&
-                           target_content >= 0.0f && target_content <= saturated;
-        if (!holds) return;
-        for (int i = 0; i < 3; ++i) approach_root();
-        margin_ = 1e-4f * ps_;
-    }
-
-    bool wetter(Real twb) const noexcept { return twb >= x0_ && excess(twb) > margin_; }
-    bool drier(Real twb) const noexcept { return twb <= x0_ && excess(twb) < -margin_; }
-
-  private:
-    Real excess(Real twb) const noexcept { return ps_ - psychrometer_.deficit(twb) - target_; }
-
-    // Newton's step, with the slope of ps after Clausius and Clapeyron (latent heat over gas
-    // constant: about 5340 K); where it ends matters to speed only.
-    void approach_root() noexcept {
-        const Real T = x0_ + zero_celsius;
-        x0_ -= excess(x0_) / (ps_ * (5340.0f / (T * T)) + psychrometer_.Ap(x0_));
-        ps_ = saturation_pressure(x0_);
-    }
-
-    const Psychrometer& psychrometer_;
-    Real target_;   // vapour pressure, Pa
-    Real x0_, ps_;  // °C, Pa
-    Real margin_ = std::numeric_limits<Real>::infinity();
+    Real t_, saturation_pressure_, enhancement_;
+    PsychrometerSlope slope_;
 };
 
 }  // namespace
 
+Real psychrometer_wet_bulb(Real t, Real rh, Real p, Integer type) noexcept {
+    constexpr Real tenth = 0.1f;  // tolerance in K, and step reduction
+
+    // The row is taken by the dry bulb here, by the wet bulb in the inverse: kept.
+    const Real Ap = psychrometer_coefficient(type, t < 0.0f) * p;
+    const Real saturation = saturation_pressure(t);
+    const Real pv = saturation * limited(rh, 0.0f, 100.0f) / 100.0f;
+    WetBulbForecast forecast(t, saturation, pv, {Ap, Ap});
+    if (is_ordinary(t) && Ap >= 10.0f) {
+        forecast.approach_root(2);
+        // No trial lies above t + 1 K, where ps is below 2 ps(t).
+        forecast.set_margin((tenth + 0.001f) * Ap + 1e-4f * saturation);
+    }
+
+    Real tw = t;
+    Real tn = t;
+    Real step = 1.0f;
+    for (int i = 0; i < widest_search; ++i) {
+        bool sinks = forecast.above(tw);
+        bool rises = forecast.below(tw);
+        if (!sinks && !rises) {
+            tn = t - (saturation_pressure(tw) - pv) / Ap;
+            if (std::fabs(tw - tn) < tenth) break;
+            sinks = tw > tn;
+            rises = tw <= tn;
+        }
+        if (sinks) {
+            tw -= step;
+        } else if (rises) {
+            tw += step;
+            step *= tenth;
+        } else {
+            break;  // not a number
+        }
+    }
+    return t < tn ? t : tn;
+}
+
 Real wet_bulb_from_percentage_saturation(Real t, Real saturation, Real p, Integer type) noexcept {
-    const Psychrometer psychrometer(t, p, type);
-    const Real saturated = psychrometer.saturation_content();
-    const Forecast forecast(psychrometer, saturation * saturated / 100.0f);
+    const MoistAirAt air(t, p, type);
+    const Real saturated = air.saturation_content();
+    const WetBulbForecast forecast = air.forecast(saturation * saturated / 100.0f);
 
     Real twb = t;
     Real step = 1.0f;
     for (int i = 0; i < widest_search; ++i) {
         twb -= step;
-        if (forecast.wetter(twb)) continue;
-        if (!forecast.drier(twb)) {
-            const Real trial = 100.0f * psychrometer.moisture_content(twb) / saturated;
+        if (forecast.above(twb)) continue;
+        if (!forecast.below(twb)) {
+            const Real trial = 100.0f * air.moisture_content(twb) / saturated;
             if (trial > saturation) continue;
             if (trial == saturation) return twb;
         }
@@ -124,17 +127,16 @@ Real wet_bulb_from_percentage_saturation(Real t, Real saturation, Real p, Intege
 }
 
 Real wet_bulb_from_moisture_content(Real t, Real g, Real p, Integer type) noexcept {
-    const Psychrometer psychrometer(t, p, type);
-    if (g >= psychrometer.saturation_content()) return t;
+    const MoistAirAt air(t, p, type);
+    if (g >= air.saturation_content()) return t;
     if (t > 10000.0f) return -100.0f;
     if (t != t) return -200.0f;
-    const Forecast forecast(psychrometer, g);
+    const WetBulbForecast forecast = air.forecast(g);
 
     Real step = 5.0f;
     Real twb = t - step;
     for (int i = 0; i < widest_search / 5; ++i) {
-        if (forecast.drier(twb) ||
-            (!forecast.wetter(twb) && psychrometer.moisture_content(twb) < g)) {
+        if (forecast.below(twb) || (!forecast.above(twb) && air.moisture_content(twb) < g)) {
             twb += step;
             step /= 10.0f;
         }

@@ -1,0 +1,59 @@
+// Where the wet-bulb searches step from most of their trials, said without evaluating them.
+//
+// Every search compares the vapour pressure that the psychrometer equation implies at a trial wet
+// bulb with that of the air, pv: it asks for the sign of
+//     excess(twb) = ps(twb) - Ap (t - twb) - pv.
+// ps rises with temperature. So one known ps(x0) in place of ps(twb) bounds the excess from below
+// for every twb above x0, from above for every twb below it. x0 is taken close to the root, so only
+// trials next to it remain in doubt.
+//
+// Rounding: the exponent of ps, some 34 before cancellation, is good to 7e-6, so ps to 2e-5 of
+// itself. Callers choose a margin of more than twice what this and their own comparison err by, and
+// leave it infinite, all being in doubt, where they cannot.
+#pragma once
+
+#include <limits>
+
+#include "psychro/saturation.h"
+
+namespace quorvel::psychro {
+
+// Psychrometer coefficient times atmospheric pressure, Pa/K.
+struct PsychrometerSlope {
+    Real wet, iced;
+
+    Real at(Real twb) const noexcept { return twb < 0.0f ? iced : wet; }
+};
+
+class WetBulbForecast {
+  public:
+    // For air at t [°C] with vapour pressure pv [Pa]; saturation is ps(t).
+    WetBulbForecast(Real t, Real saturation, Real pv, const PsychrometerSlope& slope) noexcept
+        : t_(t), pv_(pv), slope_(slope), x0_(t), ps_(saturation) {}
+
+    // Newton's steps, with the slope of ps after Clausius and Clapeyron (latent heat over gas
+    // constant: about 5340 K); where they end matters to speed only.
+    void approach_root(int steps) noexcept {
+        for (int i = 0; i < steps; ++i) {
+            const Real T = x0_ + zero_celsius;
+            x0_ -= excess(x0_) / (ps_ * (5340.0f / (T * T)) + slope_.at(x0_));
+            ps_ = saturation_pressure(x0_);
+        }
+    }
+
+    Real saturation_near_root() const noexcept { return ps_; }
+    void set_margin(Real margin) noexcept { margin_ = margin; }  // Pa
+
+    bool above(Real twb) const noexcept { return twb >= x0_ && excess(twb) > margin_; }
+    bool below(Real twb) const noexcept { return twb <= x0_ && excess(twb) < -margin_; }
+
+  private:
+    Real excess(Real twb) const noexcept { return ps_ - slope_.at(twb) * (t_ - twb) - pv_; }
+
+    Real t_, pv_;
+    PsychrometerSlope slope_;
+    Real x0_, ps_;  // °C, Pa
+    Real margin_ = std::numeric_limits<Real>::infinity();
+};
+
+}  // namespace quorvel::psychro
