@@ -41,7 +41,7 @@ void measure(benchmark::State& state, Call call) {
 const Values<1024> temperature(-10.0f, 45.0f, 1), humidity(5.0f, 100.0f, 2);
 const Values<1024> transmittance(0.1f, 0.9f, 3), incidence(0.0f, 1.5f, 4);
 const Values<1024> latitude(-1.2f, 1.2f, 5), hour(0.0f, 24.0f, 6), altitude(0.1f, 1.4f, 7),
-    azimuth(0.0f, 6.2f, 8);
+    azimuth(0.0f, 6.2f, 8), facing(0.0f, 6.2f, 9), tilt(0.1f, 1.6f, 10);
 
 int day(std::size_t i) { return static_cast<int>(1 + i % 365); }
 
@@ -68,12 +68,12 @@ std::array<float, 5> clsnge(std::size_t i) {
 }
 std::array<float, 3> clsnsr(std::size_t i) {
     std::array<float, 3> out;
-    lib::CLSNSR(altitude[i], azimuth[i], 3.1415927f, 1.5707964f, out[0], out[1], out[2]);
+    lib::CLSNSR(altitude[i], azimuth[i], facing[i], tilt[i], out[0], out[1], out[2]);
     return out;
 }
 std::array<float, 3> clsord(std::size_t i) {
     std::array<float, 3> out;
-    lib::CLSORD(altitude[i], azimuth[i], 3.1415927f, 1.5707964f, 800.0f, 100.0f, 0.2f, 1.0f, 1.0f,
+    lib::CLSORD(altitude[i], azimuth[i], facing[i], tilt[i], 800.0f, 100.0f, 0.2f, 1.0f, 1.0f,
                 out[0], out[1], out[2]);
     return out;
 }
@@ -90,10 +90,10 @@ QUORVEL_BENCH(WNDRGL_literal, literal::WNDRGL(transmittance[i], 0.0f, incidence[
 QUORVEL_BENCH(CLSNGE, clsnge(i));
 QUORVEL_BENCH(CLSNGE_literal, literal::CLSNGE(latitude[i], day(i), hour[i]));
 QUORVEL_BENCH(CLSNSR, clsnsr(i));
-QUORVEL_BENCH(CLSNSR_literal, literal::CLSNSR(altitude[i], azimuth[i], 3.1415927f, 1.5707964f));
+QUORVEL_BENCH(CLSNSR_literal, literal::CLSNSR(altitude[i], azimuth[i], facing[i], tilt[i]));
 QUORVEL_BENCH(CLSORD, clsord(i));
-QUORVEL_BENCH(CLSORD_literal, literal::CLSORD(altitude[i], azimuth[i], 3.1415927f, 1.5707964f,
-                                              800.0f, 100.0f, 0.2f, 1.0f, 1.0f));
+QUORVEL_BENCH(CLSORD_literal, literal::CLSORD(altitude[i], azimuth[i], facing[i], tilt[i], 800.0f,
+                                              100.0f, 0.2f, 1.0f, 1.0f));
 
 // 24 hours of a south window at 51.5° N on the June design day, through the exported routines.
 void design_day(benchmark::State& state) {
