@@ -497,6 +497,489 @@ QUORVEL_API float CLETAJ(const int32_t *day);
 QUORVEL_API float CLMODUL(const int32_t *day, const float *altitude,
                           const float *global_horizontal);
 
+/* ---- Building fabric ------------------------------------------------------------------------- */
+
+/*
+ * TPRSUR (surface_resistance): Thermal resistance of the inside or outside surface of an element,
+ *     for an emissivity of 0.9.
+ * Given:
+ *     type      int32_t       selector     surface: 1 outside, 2 inside
+ *     theta     float    rad  0 .. 3.1416  tilt: 0 heat flowing up, pi/2 vertical, pi heat flowing
+ *                                          down
+ *     exposure  int32_t       selector     exposure of an outside surface to the wind: 1 sheltered,
+ *                                          2 normal, 3 severe
+ * Result:
+ *     float  m²K/W  surface resistance
+ * Notes:
+ *     - Another surface type gives 0. Another exposure counts as the nearest one.
+ *     - An inside vertical surface has 1 / 8.23 = 0.12 m²K/W.
+ *     - The tilt is not tested.
+ * Source: Radiation and convection side by side. The customary values of inside surfaces (0.10 up,
+ *     0.12 horizontal, 0.14 down) and of outside ones in normal and severe exposure (walls 0.06 and
+ *     0.03, roofs 0.04 and 0.02) are met to two decimals; the origin of the convective coefficients
+ *     is not recorded.
+ */
+QUORVEL_API float TPRSUR(const int32_t *type, const float *theta, const int32_t *exposure);
+
+/*
+ * TPRSU2 (surface_resistance_at_emissivity): Thermal resistance of the inside or outside surface of
+ *     an element of any emissivity.
+ * Given:
+ *     type        int32_t       selector     surface: 1 outside, 2 inside
+ *     theta       float    rad  0 .. 3.1416  tilt: 0 heat flowing up, pi/2 vertical, pi heat
+ *                                            flowing down
+ *     exposure    int32_t       selector     exposure of an outside surface to the wind: 1
+ *                                            sheltered, 2 normal, 3 severe
+ *     emissivity  float    1    0 .. 1       long-wave emissivity of the surface
+ * Result:
+ *     float  m²K/W  surface resistance
+ * Notes:
+ *     - Another surface type gives 0. Another exposure counts as the nearest one.
+ *     - At an emissivity of 0.9 it is TPRSUR to rounding.
+ *     - Tilt and emissivity are not tested.
+ * Source: As TPRSUR, with black-body coefficients of 5.1 W/m²K outside and 5.7 W/m²K inside.
+ */
+QUORVEL_API float TPRSU2(const int32_t *type, const float *theta, const int32_t *exposure,
+                         const float *emissivity);
+
+/*
+ * TPRCAV (vertical_cavity_resistance): Thermal resistance of a sealed vertical air cavity between
+ *     ordinary building surfaces.
+ * Given:
+ *     d  float  m  0 .. 0.5  width
+ * Result:
+ *     float  m²K/W  cavity resistance, not below 0.1
+ * Notes:
+ *     - A width below 0.001 gives 0.1, where TPRCA2 and TPRCAX give 0: meant so. Not a number stays
+ *       so.
+ *     - The emissivities of the faces are 0.85 and 0.86.
+ * Source: As TPRCA2.
+ */
+QUORVEL_API float TPRCAV(const float *d);
+
+/*
+ * TPRCA2 (air_cavity_resistance): Thermal resistance of a sealed air cavity by convection and long-
+ *     wave radiation.
+ * Given:
+ *     theta  float  rad  0 .. 3.1416   tilt: 0 heat flowing up, pi/2 vertical, pi heat flowing down
+ *     d      float  m    0.001 .. 0.5  width
+ *     e1     float  1    0.01 .. 1     long-wave emissivity of one face
+ *     e2     float  1    0.01 .. 1     long-wave emissivity of the other face
+ * Result:
+ *     float  m²K/W  cavity resistance
+ * Notes:
+ *     - A tilt outside 0..3.1416 and a width below 0.001 give 0.
+ *     - C and n of the Nusselt number C Ra^n, which is at least 1, are interpolated over the tilt
+ *       between 0, 0.785 and 1.57, and carried on as far as 1.59. From there the air rests and only
+ *       conducts: the resistance jumps.
+ *     - Two faces of emissivity 0 leave the exchange undefined (0/0).
+ * Source: EN 673, Glass in building - Determination of thermal transmittance: C and n for vertical,
+ *     inclined and horizontal cavities, and air at 10 °C with 15 K between the faces.
+ */
+QUORVEL_API float TPRCA2(const float *theta, const float *d, const float *e1, const float *e2);
+
+/*
+ * TPRCAX (gas_cavity_resistance): Thermal resistance of a sealed cavity filled with any gas.
+ * Given:
+ *     theta          float  rad    0 .. 3.1416     tilt: 0 heat flowing up, pi/2 vertical, pi heat
+ *                                                  flowing down
+ *     d              float  m      0.001 .. 0.5    width
+ *     e1             float  1      0.01 .. 1       long-wave emissivity of one face
+ *     e2             float  1      0.01 .. 1       long-wave emissivity of the other face
+ *     density        float  kg/m³  0.1 .. 8        density of the gas
+ *     conductivity   float  W/mK   0.004 .. 0.2    thermal conductivity of the gas
+ *     specific_heat  float  J/kgK  100 .. 6000     specific heat of the gas at constant pressure
+ *     viscosity      float  Pa s   5e-06 .. 4e-05  dynamic viscosity of the gas
+ * Result:
+ *     float  m²K/W  cavity resistance
+ * Notes:
+ *     - Guards and correlation as in TPRCA2.
+ *     - The Rayleigh number has a factor of 0.52 m/s² for gravity times expansion times temperature
+ *       difference, whatever the gas and its temperature.
+ *     - A negative Rayleigh number has no power: not a number.
+ * Source: As TPRCA2.
+ */
+QUORVEL_API float TPRCAX(const float *theta, const float *d, const float *e1, const float *e2,
+                         const float *density, const float *conductivity,
+                         const float *specific_heat, const float *viscosity);
+
+/*
+ * TPCOLW (pack_two_fractions): Packs two fractions of two decimals into one real, or unpacks them.
+ * Given:
+ *     mode    int32_t     selector      direction: 1 pack, 2 unpack, as any other value
+ *     packed  float    1  0 .. 9999.99  packed number; written in mode 1 only
+ *     p1      float    1  0 .. 0.99     fraction behind the point; not written in mode 1
+ *     p2      float    1  0 .. 0.99     fraction held as units and tens; not written in mode 1
+ * Returned:
+ *     packed  float  1  0 .. 9999.99  packed number; written in mode 1 only
+ *     p1      float  1  0 .. 0.99     fraction behind the point; not written in mode 1
+ *     p2      float  1  0 .. 0.99     fraction held as units and tens; not written in mode 1
+ * Notes:
+ *     - As TPCOLT with a third fraction of 0, which is not returned: what stands above 100 is
+ *       ignored.
+ * Source: As TPCOLT.
+ */
+QUORVEL_API void TPCOLW(const int32_t *mode, float *packed, float *p1, float *p2);
+
+/*
+ * TPCOLT (pack_three_fractions): Packs three fractions of two decimals into one real, or unpacks
+ *     them.
+ * Given:
+ *     mode    int32_t     selector      direction: 1 pack, 2 unpack, as any other value
+ *     packed  float    1  0 .. 9999.99  packed number; written in mode 1 only
+ *     p1      float    1  0 .. 0.99     fraction behind the point; not written in mode 1
+ *     p2      float    1  0 .. 0.99     fraction held as units and tens; not written in mode 1
+ *     p3      float    1  0 .. 0.99     fraction held as hundreds and thousands; not written in
+ *                                       mode 1
+ * Returned:
+ *     packed  float  1  0 .. 9999.99  packed number; written in mode 1 only
+ *     p1      float  1  0 .. 0.99     fraction behind the point; not written in mode 1
+ *     p2      float  1  0 .. 0.99     fraction held as units and tens; not written in mode 1
+ *     p3      float  1  0 .. 0.99     fraction held as hundreds and thousands; not written in mode
+ *                                     1
+ * Notes:
+ *     - 0.25, 0.40, 0.07 are packed as 740.25.
+ *     - Fractions that add up to more than 1e10, and a packed number above 1e10, are undefined and
+ *       give 1e20.
+ *     - p2 and p3 are cut to two decimals, with a tenth of a hundredth to spare; p1 is added as it
+ *       stands and cut when unpacked.
+ *     - All triples from 0.00 to 0.99 come back, as hundredths times the float 0.01: for 29 of the
+ *       hundred fractions, 0.40 among them, that is the float next to the nearest.
+ *     - A p2 of 1.00 is carried into p3, a p1 of 1.00 into p2.
+ * Source: Format of the packed property numbers of element records (BELDAT).
+ */
+QUORVEL_API void TPCOLT(const int32_t *mode, float *packed, float *p1, float *p2, float *p3);
+
+/*
+ * TPCOLW2 (pack_three_fractions_third_first): TPCOLT with its arguments in another order.
+ * Given:
+ *     mode    int32_t     selector      direction: 1 pack, 2 unpack, as any other value
+ *     packed  float    1  0 .. 9999.99  packed number; written in mode 1 only
+ *     p3      float    1  0 .. 0.99     fraction held as hundreds and thousands; not written in
+ *                                       mode 1
+ *     p1      float    1  0 .. 0.99     fraction behind the point; not written in mode 1
+ *     p2      float    1  0 .. 0.99     fraction held as units and tens; not written in mode 1
+ * Returned:
+ *     packed  float  1  0 .. 9999.99  packed number; written in mode 1 only
+ *     p3      float  1  0 .. 0.99     fraction held as hundreds and thousands; not written in mode
+ *                                     1
+ *     p1      float  1  0 .. 0.99     fraction behind the point; not written in mode 1
+ *     p2      float  1  0 .. 0.99     fraction held as units and tens; not written in mode 1
+ * Source: As TPCOLT.
+ */
+QUORVEL_API void TPCOLW2(const int32_t *mode, float *packed, float *p3, float *p1, float *p2);
+
+/*
+ * TPCOSW (pack_pane): Packs the solar absorptance of a pane and the reflectances of its faces into
+ *     one real, as absorptance and transmittances, or unpacks them.
+ * Given:
+ *     mode    int32_t     selector      direction: 1 pack, 2 unpack, as any other value
+ *     packed  float    1  0 .. 9999.99  packed number; written in mode 1 only
+ *     a       float    1  0.01 .. 0.5   absorptance; not written in mode 1
+ *     r1      float    1  0 .. 0.49     reflectance of the first face; not written in mode 1
+ *     r2      float    1  0 .. 0.49     reflectance of the second face; not written in mode 1
+ * Returned:
+ *     packed  float  1  0 .. 9999.99  packed number; written in mode 1 only
+ *     a       float  1  0.01 .. 0.5   absorptance; not written in mode 1
+ *     r1      float  1  0 .. 0.49     reflectance of the first face; not written in mode 1
+ *     r2      float  1  0 .. 0.49     reflectance of the second face; not written in mode 1
+ * Notes:
+ *     - Packed as TPCOLT packs a, 1 - a - r1, 1 - a - r2. Undefined values as there.
+ *     - A face that neither absorbs nor reflects, a = r1 = 0, transmits 1.00, which is carried into
+ *       the next position.
+ *     - a + r1 or a + r2 above 1 does not come back.
+ * Source: As TPCOLT.
+ */
+QUORVEL_API void TPCOSW(const int32_t *mode, float *packed, float *a, float *r1, float *r2);
+
+/*
+ * TPWNDO (window_parameters): U-value, admittance, decrement factor and surface factor of a glazing
+ *     of one to three panes.
+ * Given:
+ *     n           int32_t       1 .. 3        number of panes, pane 1 nearest the room
+ *     kind1       int32_t       selector      kind of pane 1: 1 closes the cavities on both sides,
+ *                                             2 closes none
+ *     e1          float    1    0.01 .. 1     long-wave emissivity of pane 1
+ *     kind2       int32_t       selector      kind of pane 2: 1 closes the cavities on both sides,
+ *                                             2 closes none
+ *     e2          float    1    0.01 .. 1     long-wave emissivity of pane 2
+ *     kind3       int32_t       selector      kind of pane 3: 1 closes the cavities on both sides,
+ *                                             2 closes none
+ *     e3          float    1    0.01 .. 1     long-wave emissivity of pane 3
+ *     d1          float    m    0.001 .. 0.5  width of the cavity between panes 1 and 2
+ *     d2          float    m    0.001 .. 0.5  width of the cavity between panes 2 and 3
+ *     outer_type  int32_t       selector      surface type of the outer face, normally 1: 1
+ *                                             outside, 2 inside
+ *     exposure    int32_t       selector      exposure of the outer face to the wind: 1 sheltered,
+ *                                             2 normal, 3 severe
+ *     theta       float    rad  0 .. 3.1416   tilt: 0 heat flowing up, pi/2 vertical, pi heat
+ *                                             flowing down
+ *     unused      float    1    not used      accepted for the sake of existing callers
+ * Returned:
+ *     admittance          float  W/m²K    admittance, the U-value
+ *     admittance_lead     float  h        time lead of the admittance, 0
+ *     decrement           float  1        decrement factor, 1
+ *     decrement_lag       float  h        time lag of the decrement factor, 0
+ *     surface_factor      float  1        surface factor, 1 - Rsi U
+ *     surface_factor_lag  float  h        time lag of the surface factor, 0
+ *     u                   float  W/m²K    U-value
+ * Notes:
+ *     - The resistance of the glass is neglected and nothing is stored in it.
+ *     - Of three panes one may be open: the middle one leaves a single cavity of width d1 + d2.
+ *       With two open panes, and with one open pane of two, there is no cavity.
+ *     - The kinds of the n panes are told by their sum: 0, 1, 2 count as three closed panes.
+ *     - Another number of panes counts as one pane, with e3 outside.
+ *     - Cavities as TPRCA2: one that it rejects has no resistance.
+ * Source: Surface resistances of TPRSU2 and cavities of TPRCA2 in series.
+ */
+QUORVEL_API void TPWNDO(const int32_t *n, const int32_t *kind1, const float *e1,
+                        const int32_t *kind2, const float *e2, const int32_t *kind3,
+                        const float *e3, const float *d1, const float *d2,
+                        const int32_t *outer_type, const int32_t *exposure, const float *theta,
+                        const float *unused, float *admittance, float *admittance_lead,
+                        float *decrement, float *decrement_lag, float *surface_factor,
+                        float *surface_factor_lag, float *u);
+
+/*
+ * BELDAT (element_property): One property of one record of a construction, a list of elements from
+ *     face to face.
+ * Given:
+ *     records  float    by field  0 .. 999  ten fields of each record, the first its type code [10,
+ *                                           n]
+ *     n        int32_t            1 .. 20   number of records
+ *     i        int32_t            1 .. 20   record asked about
+ *     item     int32_t            1 .. 72   property asked for
+ * Result:
+ *     float  by item  the property, 1e20 if it does not exist
+ * Notes:
+ *     - The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2
+ *       another layer, 3 gap (300 of given resistance, 302 filled with gas), 4 translucent layer, 5
+ *       boundary, 6 end marker; other classes have no meaning. It is rounded after the limits are
+ *       tested: 149.6 is class 1, subtype 50; 49.6 and what is no number are no codes.
+ *     - Items of every class: 1 type code.
+ *     - Items of classes 1, 3 and 4: 2 thickness in mm; 4 and 5 fields 4 and 5, of a layer the two
+ *       factors of its volumetric heat capacity, of a gas specific heat and density. Of 1 and 4: 3
+ *       conductivity in W/mK. Of 1 and 3: 6 field 6.
+ *     - Items of class 3: 7 viscosity of the gas; 11 resistance in m²K/W, or conductivity of the
+ *       gas; 61 and 62 field 8, with subtype 1 and 2.
+ *     - Items of classes 2, 4 and 5: 12 field 6. Of class 5 with subtype 1 or 2: 21 to 23 fields 2
+ *       to 4.
+ *     - Items of packed fields (TPCOLT), all classes but 3 and 6: 31 solar transmittance, 32 front
+ *       and 33 back reflectance, 34 and 35 front and back absorptance, from field 9; 41 to 45 the
+ *       same from field 7; 54 and 55 the long-wave fractions of the two faces, 52 and 53 one less
+ *       these, from field 8.
+ *     - Items of every class: 71 and 72 are 1 if the list ends with a record of code 601 and 602,
+ *       whichever valid record is asked about.
+ *     - The complements of an undefined packed field, items 34, 35, 44, 45, 52 and 53, are -1e20 or
+ *       -2e20, not 1e20: meant so.
+ * Source: Layout of the element records.
+ */
+QUORVEL_API float BELDAT(const float *records, const int32_t *n, const int32_t *i,
+                         const int32_t *item);
+
+/*
+ * TPUVAL (u_value): U-value of a construction of plane layers between two surface resistances.
+ * Given:
+ *     thickness     float    m      -0.1 .. 0.5  thickness of each layer; below 0: a layer of given
+ *                                                resistance, 0: no layer [n]
+ *     conductivity  float    W/mK   0.02 .. 3    conductivity of each layer; its resistance in
+ *                                                m²K/W where the thickness is below 0 [n]
+ *     r1            float    m²K/W  0 .. 0.3     resistance of one surface
+ *     r2            float    m²K/W  0 .. 0.3     resistance of the other
+ *     n             int32_t         0 .. 20      number of layers
+ * Returned:
+ *     u  float  W/m²K    U-value
+ * Notes:
+ *     - More than 20 layers write nothing. A count below 1 leaves the two surfaces alone; no array
+ *       is read.
+ *     - How far below 0 a thickness is makes no difference here; it does in TPDAMP and TPGRAD.
+ *     - A thickness that is no number gives no number.
+ * Source: Resistances in series; ISO 6946.
+ */
+QUORVEL_API void TPUVAL(const float *thickness, const float *conductivity, const float *r1,
+                        const float *r2, const int32_t *n, float *u);
+
+/*
+ * TPUMOD (u_value_at_tilt_and_exposure): U-value of a construction at another tilt and exposure,
+ *     from its U-value as a vertical wall in normal exposure.
+ * Given:
+ *     u         float    W/m²K  0 .. 5       U-value with the surface resistances of a vertical
+ *                                            wall at exposure 2
+ *     tilt      float    rad    0 .. 3.1416  tilt: 0 heat flowing upwards, pi/2 vertical, pi
+ *                                            downwards
+ *     exposure  int32_t         selector     wind exposure of the outside surface: 1 sheltered, 2
+ *                                            normal, 3 severe
+ * Result:
+ *     float  W/m²K  U-value at that tilt and exposure
+ * Notes:
+ *     - A U-value that is not above 0, or no number, comes back as it is.
+ *     - Above 5.49 W/m²K, what the two surfaces of the wall let through by themselves, the layers
+ *       would have a negative resistance; the result is formed with it all the same.
+ *     - An exposure below 1 counts as 1, above 3 as 3. The tilt is not limited.
+ * Source: Surface resistances of TPRSUR, exchanged.
+ */
+QUORVEL_API float TPUMOD(const float *u, const float *tilt, const int32_t *exposure);
+
+/*
+ * TPHCON (natural_convection_coefficient): Coefficient of natural convection at a surface of a
+ *     room.
+ * Given:
+ *     dt      float    K  -50 .. 50  difference between surface and air temperature; its sign makes
+ *                                    no difference
+ *     length  float    m  0.1 .. 10  characteristic length: height of a vertical surface, four
+ *                                    times the area over the perimeter of a horizontal one
+ *     kind    int32_t     selector   direction of the heat flow: 1 heat flow upwards, 2 vertical
+ *                                    surface, 3 heat flow downwards
+ * Result:
+ *     float  W/m²K  convective coefficient
+ * Notes:
+ *     - Any other kind gives 0.
+ *     - The coefficients 1.23 and 1.50 of kind 2 have the laminar term larger than the turbulent
+ *       one, in kind 1 it is the other way round; both are as published.
+ *     - A length of 0 gives an infinite coefficient, one below 0 no number for kinds 1 and 2.
+ * Source: Alamdari and Hammond, Improved data correlations for buoyancy-driven convection in rooms,
+ *     Building Services Engineering Research and Technology 4, 1983.
+ */
+QUORVEL_API float TPHCON(const float *dt, const float *length, const int32_t *kind);
+
+/*
+ * ITPCON (condenses_within_layer): Whether vapour condenses inside a layer, from the temperatures
+ *     and vapour pressures of its two faces.
+ * Given:
+ *     t1  float  °C  -50 .. 100  temperature of the warm face
+ *     t2  float  °C  -50 .. 100  temperature of the cold face
+ *     p1  float  Pa  0 .. 5000   vapour pressure at the warm face
+ *     p2  float  Pa  0 .. 5000   vapour pressure at the cold face
+ * Result:
+ *     int32_t  1 if vapour condenses, 0 if not
+ * Notes:
+ *     - The layer is looked at in steps of 0.5 K from the warm face: the warm face itself is not,
+ *       the cold face only if a step falls on it. Faces less than 0.5 K apart give 0.
+ *     - A cold face that is not below the warm one, or a temperature that is no number, gives 0.
+ *     - Where the temperature is so large that a step of 0.5 K is lost in its rounding (8.4 million
+ *       °C), the search ends there with 0. Steps across millions of degrees take up to a tenth of a
+ *       second.
+ * Source: Straight lines of temperature and vapour pressure through a homogeneous layer, against
+ *     the saturation pressure of PSSVP.
+ */
+QUORVEL_API int32_t ITPCON(const float *t1, const float *t2, const float *p1, const float *p2);
+
+/*
+ * TPADMT (cyclic_response): Admittance, decrement factor and surface factor of a construction with
+ *     their time shifts, and its U-value.
+ * Given:
+ *     thickness      float    m      -0.05 .. 0.3  thickness of each layer, from the room outwards;
+ *                                                  below 0: a layer of given resistance, 0: no
+ *                                                  layer [n]
+ *     conductivity   float    W/mK   0.03 .. 3     conductivity of each layer; its resistance in
+ *                                                  m²K/W where the thickness is below 0 [n]
+ *     density        float    kg/m³  10 .. 2500    density of each layer [n]
+ *     specific_heat  float    J/kgK  500 .. 2500   specific heat of each layer [n]
+ *     rsi            float    m²K/W  0.05 .. 0.2   resistance of the surface at the room
+ *     rso            float    m²K/W  0.02 .. 0.2   resistance of the far surface
+ *     n              int32_t         0 .. 20       number of layers
+ *     harmonic       int32_t         1 .. 6        cycles in 24 hours
+ *     kind           int32_t         selector      kind of element: 1 element between two
+ *                                                  environments, 2 internal partition, the same
+ *                                                  swing on both sides
+ * Returned:
+ *     admittance        float  W/m²K    admittance Y
+ *     admittance_lead   float  h        time lead of the admittance, 0 to 24 / harmonic
+ *     decrement_factor  float  1        decrement factor f, 0 for a partition
+ *     decrement_lag     float  h        time lag of the decrement factor, 0 to 24 / harmonic, 0 for
+ *                                       a partition
+ *     surface_factor    float  1        surface factor F
+ *     surface_lag       float  h        time lag of the surface factor, 0 to 24 / harmonic
+ *     u                 float  W/m²K    U-value, as TPUVAL gives it
+ * Notes:
+ *     - More than 20 layers write nothing. A count below 1 leaves the two surfaces alone; no array
+ *       is read.
+ *     - Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U,
+ *       the time shifts are not numbers. One below 0 gives no numbers.
+ *     - A layer without heat capacity acts as its resistance. One with very little is the less
+ *       accurate the smaller x is, its thickness over the depth at which the swing has sunk to 1/e
+ *       (0.1 to 0.2 m in masonry): the relative error of its resistance is about 1e-7 / x, since
+ *       sinh is formed as a difference in single precision.
+ *     - Shifts near 0 can come out near a whole cycle: rounding decides on which side of 0 an angle
+ *       falls. One that is exactly 0 may be -0.
+ *     - Where a construction damps the swing to less than about 1e-19 the decrement factor loses
+ *       accuracy and becomes 0; where the x of all layers add up to about 88 the elements of the
+ *       matrix overflow and nothing is a number.
+ *     - Density and specific heat enter as their product only.
+ * Source: Pipes, Matrix analysis of heat transfer problems, Journal of the Franklin Institute 263,
+ *     1957; Milbank and Harrington-Lynn, Thermal response and the admittance procedure, Building
+ *     Research Establishment CP 61/74, 1974; ISO 13786.
+ */
+QUORVEL_API void TPADMT(const float *thickness, const float *conductivity, const float *density,
+                        const float *specific_heat, const float *rsi, const float *rso,
+                        const int32_t *n, const int32_t *harmonic, const int32_t *kind,
+                        float *admittance, float *admittance_lead, float *decrement_factor,
+                        float *decrement_lag, float *surface_factor, float *surface_lag, float *u);
+
+/*
+ * TPDAMP (total_vapour_resistance): Vapour resistance of a construction.
+ * Given:
+ *     thickness    float    m            -0.1 .. 0.5  thickness of each layer; below 0: a layer of
+ *                                                     given thermal resistance, 0: a membrane [n]
+ *     resistivity  float    GN s/(kg m)  0 .. 1000    vapour resistivity of each layer; of a
+ *                                                     membrane its vapour resistance in GN s/kg [n]
+ *     n            int32_t               0 .. 20      number of layers
+ * Returned:
+ *     g_total  float  N s/kg    total vapour resistance
+ * Notes:
+ *     - A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness,
+ *       whatever its resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
+ *     - More than 20 layers write nothing; a count below 1 gives 0.
+ *     - Results are in N s/kg, resistivities in GN s/(kg m).
+ * Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
+ */
+QUORVEL_API void TPDAMP(const float *thickness, const float *resistivity, const int32_t *n,
+                        float *g_total);
+
+/*
+ * TPGRAD (condensation_profile): Steady temperature, vapour pressure and saturation pressure at the
+ *     interfaces of a construction; the vapour pressure is held down to saturation where it would
+ *     exceed it.
+ * Given:
+ *     thickness     float    m            -0.1 .. 0.5  thickness of each layer from the inside;
+ *                                                      below 0: a layer of given thermal
+ *                                                      resistance, 0: a membrane [n]
+ *     conductivity  float    W/mK         0.02 .. 3    conductivity of each layer; its resistance
+ *                                                      in m²K/W where the thickness is below 0 [n]
+ *     resistivity   float    GN s/(kg m)  1 .. 1000    vapour resistivity of each layer; of a
+ *                                                      membrane its vapour resistance in GN s/kg
+ *                                                      [n]
+ *     r_inside      float    m²K/W        0 .. 0.3     resistance of the inside surface
+ *     r_outside     float    m²K/W        0 .. 0.3     resistance of the outside surface
+ *     n             int32_t               1 .. 20      number of layers
+ *     t_inside      float    °C           -50 .. 60    inside air temperature
+ *     t_outside     float    °C           -50 .. 60    outside air temperature
+ *     rh_inside     float    %            0 .. 100     inside relative humidity
+ *     rh_outside    float    %            0 .. 100     outside relative humidity
+ * Returned:
+ *     t   float  °C    temperature at the first n + 1 interfaces, from the inside surface to the
+ *                      outside one [21]
+ *     p   float  Pa    vapour pressure at them [21]
+ *     ps  float  Pa    saturation pressure at them [21]
+ * Notes:
+ *     - Only n + 1 elements of each profile are written. More than 20 layers, or fewer than 1,
+ *       write nothing.
+ *     - Vapour condenses at an interface where p equals ps.
+ *     - Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to
+ *       saturation there. Between two surfaces without any vapour resistance the vapour pressure is
+ *       no number.
+ *     - A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness,
+ *       as in TPDAMP.
+ *     - Saturation inside a layer, between its interfaces, is not looked for: see ITPCON.
+ * Source: Glaser's method in the stepwise form of ISO 13788: the vapour line is straight over the
+ *     vapour resistance between the interfaces at which it is held to saturation.
+ */
+QUORVEL_API void TPGRAD(const float *thickness, const float *conductivity,
+                        const float *resistivity, const float *r_inside, const float *r_outside,
+                        const int32_t *n, const float *t_inside, const float *t_outside,
+                        const float *rh_inside, const float *rh_outside, float *t, float *p,
+                        float *ps);
+
 /* ---- Glazing --------------------------------------------------------------------------------- */
 
 /*

@@ -1,0 +1,90 @@
+#include "fabric/condensation.h"
+
+#include <algorithm>
+
+#include "psychro/saturation.h"
+
+namespace quorvel::fabric {
+namespace {
+
+// Draws the vapour pressure from interface `start` as a straight line over the vapour resistance to
+// interface `end`, as far as it stays below saturation. Gives the interface at which it exceeds
+// that and is held there, or 0 if it reaches the end.
+int first_bend(int start, int end, const PerLayer<Real>& resistance,
+               CondensationProfile& profile) noexcept {
+    InterfaceValues& pressure = profile.vapour_pressure;
+    Real total = 0.0f;
+    for (int i = start; i < end; ++i) total += resistance[i];
+    const Real slope = (pressure[start] - pressure[end]) / total;
+    Real passed = 0.0f;
+    for (int i = start + 1; i < end; ++i) {
+        passed += resistance[i - 1];
+        pressure[i] = pressure[start] - slope * passed;
+        if (profile.saturation_pressure[i] < pressure[i]) {
+            pressure[i] = profile.saturation_pressure[i];
+            return i;
+        }
+    }
+    return 0;
+}
+
+// The vapour pressure between the two surfaces. On the way outwards the line bends at one interface
+// after the other; what lies before the last of them is then drawn anew from the inside surface.
+// The end of the line only moves inwards, so this comes to an end for any numbers.
+void bend_to_saturation(const LayerResistances& layers, CondensationProfile& profile) noexcept {
+    for (int end = layers.size; end > 0;) {
+        int start = 0;
+        while (const int bend = first_bend(start, end, layers.vapour, profile)) start = bend;
+        end = start;
+    }
+}
+
+// Whether vapour of that pressure [Pa] is saturated at t [°C]. Below absolute zero and from 350 °C
+// up the saturation formula gives more than 10 MPa, so it need not be evaluated there, where the
+// search below takes many steps if its temperatures are outlandish.
+bool is_saturated(Real pressure, Real t) noexcept {
+    if (!(pressure >= 1e7f) && (t > 350.0f || t < -274.0f)) return false;
+    return pressure >= psychro::saturation_pressure(t);
+}
+
+}  // namespace
+
+CondensationProfile condensation_profile(const LayerResistances& layers, Real U,
+                                         const Climate& inside, const Climate& outside) noexcept {
+    CondensationProfile profile;
+    const Real flux = (inside.temperature - outside.temperature) * U;
+    const auto set_temperature = [&](int i, Real t) {
+        profile.temperature[i] = t;
+        profile.saturation_pressure[i] = psychro::saturation_pressure(t);
+    };
+    const auto set_vapour_pressure = [&](int i, const Climate& air) {
+        profile.vapour_pressure[i] =
+            std::min(psychro::vapour_pressure(air.temperature, air.relative_humidity),
+                     profile.saturation_pressure[i]);
+    };
+
+    set_temperature(0, inside.temperature - inside.surface_resistance * flux);
+    Real resistance = inside.surface_resistance;
+    for (int i = 1; i < layers.size; ++i) {
+        resistance += layers.thermal[i - 1];
+        set_temperature(i, inside.temperature - flux * resistance);
+    }
+    set_temperature(layers.size, outside.temperature + outside.surface_resistance * flux);
+
+    set_vapour_pressure(0, inside);
+    set_vapour_pressure(layers.size, outside);
+    bend_to_saturation(layers, profile);
+    return profile;
+}
+
+Integer condenses_within_layer(Real t1, Real t2, Real p1, Real p2) noexcept {
+    constexpr Real step = 0.5f;  // K
+    if (!(t2 < t1)) return 0;
+    for (Real t = t1 - step; t2 <= t; t -= step) {
+        if (is_saturated(p1 - (t1 - t) * (p1 - p2) / (t1 - t2), t)) return 1;
+        if (t - step == t) break;  // so far from 0 that the step is lost in rounding
+    }
+    return 0;
+}
+
+}  // namespace quorvel::fabric
