@@ -12,16 +12,18 @@
 namespace quorvel::host {
 namespace {
 
-// Quiet axes: a grey frame at the left and bottom only, light grid lines behind the curves.
 constexpr const char* setup = R"(
 set encoding utf8
-set border 3 linecolor rgb '#8a8f98' linewidth 1
-set tics nomirror out scale 0.6 textcolor rgb '#4b5160'
 set grid xtics ytics back linetype 1 linewidth 1 linecolor rgb '#e9ecf1' dashtype solid
 set key off
 set style fill solid 1 noborder
 set multiplot
 )";
+
+// Quiet axes: a grey frame at the left and bottom only. Set for each panel, as a canvas has none.
+constexpr const char* axes =
+    "set border 3 linecolor rgb '#8a8f98' linewidth 1\n"
+    "set tics nomirror out scale 0.6 textcolor rgb '#4b5160'\n";
 
 // A text as a gnuplot string.
 std::string quoted(const std::string& text) {
@@ -85,20 +87,26 @@ std::string Chart::data(const std::vector<std::vector<double>>& rows) {
 }
 
 void Chart::panel(const Panel& panel) {
-    commands_ += "unset label\nset lmargin at screen " + across(panel.left) +
+    commands_ += axes + std::string("unset label\nset lmargin at screen ") + across(panel.left) +
                  "\nset rmargin at screen " + across(panel.left + panel.width) +
                  "\nset tmargin at screen " + up(panel.top) + "\nset bmargin at screen " +
                  up(panel.top + panel.height) + '\n';
 }
 
+void Chart::canvas(const Panel& place) {
+    panel(place);
+    commands_ += "unset border\nunset xtics\nunset ytics\nset xrange [0:" + shortest(place.width) +
+                 "]\nset yrange [" + shortest(place.height) + ":0]\n";
+}
+
 void Chart::horizontal_scale(const Scale& scale) {
     commands_ += "set xrange [" + shortest(scale.low) + ':' + shortest(scale.high) +
-                 "]\nset xtics 0," + shortest(scale.step) + '\n';
+                 "]\nset xtics nomirror 0," + shortest(scale.step) + '\n';
 }
 
 void Chart::vertical_scale(const Scale& scale, bool labelled) {
     commands_ += "set yrange [" + shortest(scale.low) + ':' + shortest(scale.high) +
-                 "]\nset ytics " + shortest(scale.step) + "\nset format y " +
+                 "]\nset ytics nomirror " + shortest(scale.step) + "\nset format y " +
                  (labelled ? "'%g'" : "''") + '\n';
 }
 
@@ -115,10 +123,15 @@ void Chart::keys(double x, double y, const std::vector<Key>& keys) {
     }
 }
 
-void Chart::mark(double x, double y, const std::string& text) {
+void Chart::title(double x, double y, const std::string& title, const std::vector<Key>& keys) {
+    text(x, y, title, {colour::ink, 14, true});
+    this->keys(x + 40 + 7.2 * static_cast<double>(character_count(title)), y, keys);
+}
+
+void Chart::mark(double x, double y, const std::string& text, const char* colour) {
     commands_ += "set label " + quoted(text) + " at " + shortest(x) + ',' + shortest(y) +
                  " center offset 0,0.9 front point pointtype 7 pointsize 0.6 linecolor rgb '" +
-                 colour::ink + '\'' + font({.bold = true}) + '\n';
+                 colour + '\'' + font({.colour = colour, .bold = true}) + '\n';
 }
 
 void Chart::plot(const std::vector<std::string>& parts) {

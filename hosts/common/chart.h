@@ -62,6 +62,10 @@ class Chart {
 
     // Begins the next panel. The scales stay as they are, titles and marks are forgotten.
     void panel(const Panel& panel);
+
+    // Begins a panel without axes, measured in pixels from its upper left corner: for what is drawn
+    // rather than plotted. A panel that follows sets its scales anew.
+    void canvas(const Panel& panel);
     void horizontal_scale(const Scale& scale);
     void vertical_scale(const Scale& scale, bool labelled = true);
 
@@ -69,8 +73,11 @@ class Chart {
     void text(double x, double y, const std::string& text, const Style& style);
     void keys(double x, double y, const std::vector<Key>& keys);
 
+    // The title of a row of panels, with keys behind it.
+    void title(double x, double y, const std::string& title, const std::vector<Key>& keys);
+
     // A dot at a point of the panel, with a text above it.
-    void mark(double x, double y, const std::string& text);
+    void mark(double x, double y, const std::string& text, const char* colour = colour::ink);
 
     // Ends the panel.
     void plot(const std::vector<std::string>& parts);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 #include "common/text.h"
@@ -30,13 +31,14 @@ std::string shown(const toml::node& node) {
     return node.is_table() ? "table" : "date or time";
 }
 
-std::string joined(std::span<const std::string_view> names) {
-    std::string result;
-    for (const std::string_view name : names) {
-        if (!result.empty()) result += ", ";
-        result += name;
-    }
-    return result;
+std::string told(const Range& range) {
+    return shortest(range.low) + " to " + shortest(range.high) + ' ' + range.unit;
+}
+
+std::optional<double> number_within(const toml::node& node, const Range& range) {
+    const double value = node.is_number() ? *node.value<double>() : std::nan("");
+    if (value >= range.low && value <= range.high) return value;
+    return std::nullopt;
 }
 
 std::string read_bytes(const std::string& path) {
@@ -79,13 +81,28 @@ void InputTable::expect(std::initializer_list<std::string_view> required,
 }
 
 double InputTable::number(std::string_view key, const Range& range) const {
-    const double value = node(key).is_number() ? *node(key).value<double>() : std::nan("");
-    if (value >= range.low && value <= range.high) return value;
-    throw not_allowed(key, shortest(range.low) + " to " + shortest(range.high) + ' ' + range.unit);
+    if (const auto value = number_within(node(key), range)) return *value;
+    throw not_allowed(key, told(range));
 }
 
 double InputTable::number(std::string_view key, const Range& range, double otherwise) const {
     return has(key) ? number(key, range) : otherwise;
+}
+
+std::vector<double> InputTable::numbers(std::string_view key, std::size_t count,
+                                        const Range& range) const {
+    const auto* list = node(key).as_array();
+    if (!list) return std::vector<double>(count, number(key, range));
+    if (list->size() != count) throw not_allowed(key, std::to_string(count) + " numbers");
+    std::vector<double> result;
+    for (const toml::node& entry : *list) {
+        const auto value = number_within(entry, range);
+        const std::string place = path_of(key) + '[' + std::to_string(result.size() + 1) + ']';
+        if (!value)
+            throw located(entry, place + ": value " + shown(entry) + "; allowed " + told(range));
+        result.push_back(*value);
+    }
+    return result;
 }
 
 int InputTable::integer(std::string_view key, int low, int high) const {

@@ -39,6 +39,9 @@ class InputTable {
 
     double number(std::string_view key, const Range& range) const;
     double number(std::string_view key, const Range& range, double otherwise) const;
+    // A list of so many numbers, or one number that stands for all of them.
+    std::vector<double> numbers(std::string_view key, std::size_t count, const Range& range) const;
+    bool is_list(std::string_view key) const { return node(key).is_array(); }
     int integer(std::string_view key, int low, int high) const;
     std::string text(std::string_view key) const;
 

@@ -41,8 +41,10 @@ std::string Table::text() const {
         headings += repeated(" ", group.first == 0 ? gap : group_gap) + heading(group);
     for (const Column& column : columns_) titles.push_back(column.title);
 
-    std::string result =
-        headings.substr(0, headings.find_last_not_of(' ') + 1) + '\n' + line(titles);
+    std::string result;
+    for (const std::string& above : {headings, line(titles)})
+        if (const auto end = above.find_last_not_of(" \n"); end != std::string::npos)
+            result += above.substr(0, end + 1) + '\n';
     for (const auto& row : rows_) result += line(row);
     return result;
 }
@@ -75,10 +77,12 @@ std::string Table::line(const std::vector<std::string>& cells) const {
     for (const Group& group : groups()) {
         for (std::size_t i = group.first; i < group.last; ++i) {
             const std::size_t before = i > 0 && i == group.first ? group_gap : gap;
-            result += repeated(" ", before + widths_[i] - character_count(cells[i])) + cells[i];
+            const std::string fill = repeated(" ", widths_[i] - character_count(cells[i]));
+            result +=
+                repeated(" ", before) + (columns_[i].left ? cells[i] + fill : fill + cells[i]);
         }
     }
-    return result + '\n';
+    return result.substr(0, result.find_last_not_of(' ') + 1) + '\n';
 }
 
 }  // namespace quorvel::host

@@ -1,5 +1,5 @@
-// A table of numbers for reading: right-aligned columns, neighbours with a common heading ruled
-// together.
+// A table for reading: numbers in right-aligned columns, words in left-aligned ones, neighbours
+// with a common heading ruled together.
 #pragma once
 
 #include <string>
@@ -10,6 +10,7 @@ namespace quorvel::host {
 struct Column {
     std::string group;  // common heading of neighbouring columns, empty for none
     std::string title;
+    bool left = false;
 };
 
 class Table {

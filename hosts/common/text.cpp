@@ -34,6 +34,19 @@ std::size_t character_count(std::string_view text) {
     return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, continues));
 }
 
+std::string joined(std::span<const std::string_view> names) {
+    std::string result;
+    for (const std::string_view name : names) {
+        if (!result.empty()) result += ", ";
+        result += name;
+    }
+    return result;
+}
+
+std::string csv_number(double value, int decimals) {
+    return std::isnan(value) ? "" : fixed(value, decimals);
+}
+
 std::string csv_line(const std::vector<std::string>& fields) {
     std::string line;
     for (const std::string& field : fields) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,12 @@ std::string clock_time(double hours);
 
 // Characters of a UTF-8 text.
 std::size_t character_count(std::string_view text);
+
+// Names in a row: "one, two, three".
+std::string joined(std::span<const std::string_view> names);
+
+// A number in a comma-separated file; nothing for NaN.
+std::string csv_number(double value, int decimals);
 
 // One line of a comma-separated file; a field is quoted where it must be.
 std::string csv_line(const std::vector<std::string>& fields);

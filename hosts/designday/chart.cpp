@@ -71,7 +71,6 @@ class Picture {
     host::Scale hours_shown(double step) const;
 
     void heading();
-    void row_title(double y, const std::string& title, const std::vector<Key>& keys);
     void column_title(std::size_t i);
 
     void irradiance(std::size_t i);
@@ -105,11 +104,6 @@ void Picture::heading() {
     chart_.text(margin, 68, place(job_.site) + "  ·  " + sun_times(hourly_), {grey, 12});
 }
 
-void Picture::row_title(double y, const std::string& title, const std::vector<Key>& keys) {
-    chart_.text(margin, y, title, {ink, 14, true});
-    chart_.keys(margin + 40 + 7.2 * static_cast<double>(host::character_count(title)), y, keys);
-}
-
 void Picture::column_title(std::size_t i) {
     const WindowDay& window = hourly_.windows[i];
     const double incident = daily_sum(window, &WindowHour::incident);
@@ -138,11 +132,11 @@ void Picture::irradiance(std::size_t i) {
     chart_.vertical_scale(host::round_scale(0, largest_irradiance()), i == 0);
     if (i == 0) {
         heading();
-        row_title(112, "Irradiance on the plane of the window, W/m²",
-                  {{"■", direct_colour, "direct sun"},
-                   {"■", sky_colour, "from the sky"},
-                   {"■", ground_colour, "from the ground"},
-                   {"━", ink, "transmitted"}});
+        chart_.title(margin, 112, "Irradiance on the plane of the window, W/m²",
+                     {{"■", direct_colour, "direct sun"},
+                      {"■", sky_colour, "from the sky"},
+                      {"■", ground_colour, "from the ground"},
+                      {"━", ink, "transmitted"}});
     }
     column_title(i);
     chart_.plot({area(data, 4, direct_colour), area(data, 3, sky_colour),
@@ -168,7 +162,7 @@ void Picture::temperatures(std::size_t i) {
 
     chart_.panel({column_left(i), second_row, column_, second_height});
     chart_.vertical_scale(temperature_scale(), i == 0);
-    if (i == 0) row_title(second_row - 26, "Temperatures, °C", temperature_keys());
+    if (i == 0) chart_.title(margin, second_row - 26, "Temperatures, °C", temperature_keys());
     std::vector<std::string> curves{curve(data, 3, room_colour, 1.5, "2"),
                                     curve(data, 2, outdoor_colour, 1.5, "2")};
     const auto outermost = static_cast<std::size_t>(window.panes);
@@ -220,7 +214,7 @@ void Picture::gain() {
 
     chart_.panel({left, third_row, width_ - left - right, third_height});
     chart_.vertical_scale(host::round_scale(0, 1.2 * most));
-    row_title(third_row - 26, "Solar gain through the windows, W", window_keys());
+    chart_.title(margin, third_row - 26, "Solar gain through the windows, W", window_keys());
     chart_.text(width_ - right, third_row + third_height + 42, "hour, solar time",
                 {grey, 12, false, "right"});
     if (const Peak peak = peak_of_all(hourly_); peak.hour > 0)

@@ -6,10 +6,7 @@
 namespace quorvel::designday {
 namespace {
 
-// Empty where a quantity does not exist.
-std::string number(double value, int decimals) {
-    return std::isnan(value) ? "" : host::fixed(value, decimals);
-}
+using host::csv_number;
 
 constexpr const char* header =
     "window,hour,clock,outdoor_C,sun_altitude_deg,sun_azimuth_deg,direct_normal_W_m2,"
@@ -26,26 +23,27 @@ std::vector<std::string> fields(const WindowDay& window, std::size_t i, const De
     const SunHour& sun = day.sun[i];
     std::vector<std::string> fields{
         window.window->name,
-        number(sun.hour, 0),
+        csv_number(sun.hour, 0),
         clock(sun.hour, day.solar_minus_clock),
-        number(sun.outdoor, 2),
-        number(sun.altitude, 3),
-        number(sun.azimuth, 3),
-        number(sun.direct_normal, 2),
-        number(sun.diffuse_horizontal, 2),
-        number(at.incidence, 3),
-        number(at.direct, 2),
-        number(at.diffuse, 2),
-        number(at.ground, 2),
-        number(at.incident(), 2),
-        number(at.direct_transmittance, 4),
-        number(at.direct_absorptance, 4),
-        number(at.transmitted_fraction(), 4),
-        number(window.transmitted_power(i), 2),
-        number(at.absorbed_fraction(), 4),
-        number(window.window->area * at.absorbed, 2),
+        csv_number(sun.outdoor, 2),
+        csv_number(sun.altitude, 3),
+        csv_number(sun.azimuth, 3),
+        csv_number(sun.direct_normal, 2),
+        csv_number(sun.diffuse_horizontal, 2),
+        csv_number(at.incidence, 3),
+        csv_number(at.direct, 2),
+        csv_number(at.diffuse, 2),
+        csv_number(at.ground, 2),
+        csv_number(at.incident(), 2),
+        csv_number(at.direct_transmittance, 4),
+        csv_number(at.direct_absorptance, 4),
+        csv_number(at.transmitted_fraction(), 4),
+        csv_number(window.transmitted_power(i), 2),
+        csv_number(at.absorbed_fraction(), 4),
+        csv_number(window.window->area * at.absorbed, 2),
     };
-    for (const double temperature : window.panes_at(i)) fields.push_back(number(temperature, 2));
+    for (const double temperature : window.panes_at(i))
+        fields.push_back(csv_number(temperature, 2));
     for (int pane = window.panes; pane < most_panes; ++pane) fields.push_back("");
     return fields;
 }
