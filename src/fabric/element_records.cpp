@@ -15,6 +15,7 @@ constexpr bool is_type_code(Real code) noexcept { return code >= 50.0f && code <
 
 // Rounded before it is split: 149.6 is of class 1, subtype 50.
 constexpr ElementType element_type(Real code) noexcept {
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): this is the rounding that is meant
     const auto whole = static_cast<int>(code + 0.5f);
     return {whole / 100, whole % 100};
 }
