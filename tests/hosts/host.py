@@ -52,3 +52,21 @@ def rows(text):
         except ValueError:
             return field or None
     return [{key: value(field) for key, field in row.items()} for row in csv.DictReader(io.StringIO(text))]
+
+
+class ReportCase:
+    """What every host's printed report is held to; a test case adds it and names its `examples`."""
+
+    def report(self, text):
+        process = run("job.toml", files={"job.toml": text})
+        self.assertEqual((process.returncode, process.stderr), (0, b""))
+        self.assertNotIn(b"\r", process.stdout)
+        return process.stdout.decode()
+
+    def test_examples_run_and_say_the_same_twice(self):
+        examples = sorted(self.examples.glob("*.toml"))
+        self.assertGreaterEqual(len(examples), 3)
+        for example in examples:
+            first, second = (self.report(example.read_bytes()) for _ in range(2))
+            self.assertEqual(first, second)
+            self.assertNotRegex(first, r"\b(nan|inf)\b|-0\.0\b| \n")
