@@ -39,14 +39,6 @@ void bend_to_saturation(const LayerResistances& layers, CondensationProfile& pro
     }
 }
 
-// Whether vapour of that pressure [Pa] is saturated at t [°C]. Below absolute zero and from 350 °C
-// up the saturation formula gives more than 10 MPa, so it need not be evaluated there, where the
-// search below takes many steps if its temperatures are outlandish.
-bool is_saturated(Real pressure, Real t) noexcept {
-    if (!(pressure >= 1e7f) && (t > 350.0f || t < -274.0f)) return false;
-    return pressure >= psychro::saturation_pressure(t);
-}
-
 }  // namespace
 
 CondensationProfile condensation_profile(const LayerResistances& layers, Real U,
@@ -75,16 +67,6 @@ CondensationProfile condensation_profile(const LayerResistances& layers, Real U,
     set_vapour_pressure(layers.size, outside);
     bend_to_saturation(layers, profile);
     return profile;
-}
-
-Integer condenses_within_layer(Real t1, Real t2, Real p1, Real p2) noexcept {
-    constexpr Real step = 0.5f;  // K
-    if (!(t2 < t1)) return 0;
-    for (Real t = t1 - step; t2 <= t; t -= step) {
-        if (is_saturated(p1 - (t1 - t) * (p1 - p2) / (t1 - t2), t)) return 1;
-        if (t - step == t) break;  // so far from 0 that the step is lost in rounding
-    }
-    return 0;
 }
 
 }  // namespace quorvel::fabric
