@@ -1,0 +1,88 @@
+// Areas of polygons in plan and in space, and how a plane polygon in space lies.
+#pragma once
+
+#include "geometry/orientation.h"
+#include "geometry/points.h"
+
+namespace quorvel::geometry {
+
+// Twice the area, positive for clockwise vertices.
+constexpr Real shoelace_sum(PlanPoints polygon) noexcept {
+    const Integer n = polygon.size();
+    if (n < 1) return 0.0f;
+    Real sum = cross(polygon[0], polygon[n - 1]);
+    for (Integer i = 1; i < n; ++i) sum += cross(polygon[i], polygon[i - 1]);
+    return sum;
+}
+
+constexpr Real signed_plan_area(PlanPoints polygon) noexcept {
+    return shoelace_sum(polygon) * 0.5f;
+}
+
+inline Real plan_area(PlanPoints polygon) noexcept {
+    return std::fabs(shoelace_sum(polygon)) * 0.5f;
+}
+
+constexpr SpacePoint mean(SpacePoints points) noexcept {
+    SpacePoint sum{};
+    for (Integer i = 0; i < points.size(); ++i) sum = sum + points[i];
+    return sum / static_cast<Real>(points.size());
+}
+
+// By triangles from the mean of the vertices, all counted as positive: too large for a polygon that
+// is not seen whole from there, and meant so.
+inline Real area_in_space(SpacePoints polygon) noexcept {
+    const SpacePoint centre = mean(polygon);
+    Real sum = 0.0f;
+    for (Integer i = 0; i < polygon.size(); ++i) {
+        const SpacePoint a = polygon[i] - centre, b = polygon[polygon.after(i)] - centre;
+        sum += length(cross(a, b)) * 0.5f;
+    }
+    return sum;
+}
+
+// The plane of a polygon at its first vertex. Seen from the side to which the normal points, the
+// corner there turns anticlockwise.
+struct PolygonPlane {
+    SpacePoint origin, along, across, normal;
+};
+
+// Vertices that a polygon of fewer than three lacks are the first one.
+inline PolygonPlane plane_of(SpacePoints polygon) noexcept {
+    const Integer last = polygon.size() - 1;
+    const SpacePoint origin = polygon[0];
+    const SpacePoint along = direction_if_any(polygon[std::min(Integer{1}, last)] - origin);
+    const SpacePoint normal = direction_if_any(cross(along, polygon[last] - origin));
+    return {origin, along, cross(normal, along), normal};
+}
+
+// Positive for vertices that run anticlockwise about the normal.
+constexpr Real signed_area(SpacePoints polygon, const PolygonPlane& plane) noexcept {
+    PlanPoint previous{};
+    Real sum = 0.0f;
+    for (Integer k = 1; k < polygon.size(); ++k) {
+        const SpacePoint offset = polygon[k] - plane.origin;
+        const PlanPoint vertex{dot(offset, plane.along), dot(offset, plane.across)};
+        sum += cross(previous, vertex);
+        previous = vertex;
+    }
+    return 0.5f * sum;
+}
+
+constexpr Real degrees(Real radians) noexcept { return 180.0f * radians / pi; }
+
+// Angle between the normal and the vertical [degrees].
+inline Real tilt(const PolygonPlane& plane) noexcept { return degrees(math::acos(plane.normal.z)); }
+
+// Azimuth opposite to the normal; of a nearly level polygon, which has none to speak of, that of
+// its first side, turned by 180 degrees [degrees].
+inline Real back_azimuth(const PolygonPlane& plane) noexcept {
+    constexpr SpacePoint up{0.0f, 0.0f, 1.0f};
+    const bool nearly_level = !(std::fabs(plane.normal.z) <= 0.999f);
+    const SpacePoint level = cross(nearly_level ? plane.across : plane.normal, up);
+    const Real from_east = degrees(math::atan2(level.y, level.x));
+    const Real angle = nearly_level ? from_east : from_east + 90.0f;
+    return back_azimuth(angle < 0.0f ? angle + 360.0f : angle);
+}
+
+}  // namespace quorvel::geometry
