@@ -4,7 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include "common/library.h"
-#include "support/random_arguments.h"
+#include "support/climate_file.h"
 
 using namespace quorvel::test;
 
@@ -12,6 +12,7 @@ namespace {
 
 // Nanoseconds per call of one exported routine, over arguments drawn from their valid ranges.
 void call_by_reference(benchmark::State& state, const Routine& routine) {
+    open_example();
     const auto function = reinterpret_cast<Address>(quorvel::host::routine_address(routine.name));
     Random random(1);
     std::vector<ArgumentSet> sets;
@@ -28,6 +29,8 @@ void call_by_reference(benchmark::State& state, const Routine& routine) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    quorvel::host::load_library();
+    const ExampleFolder folder;
     for (const Routine& routine : routines())
         benchmark::RegisterBenchmark((std::string("Routine/") + routine.name).c_str(),
                                      call_by_reference, routine);

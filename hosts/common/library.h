@@ -6,11 +6,13 @@
 //     float direct, diffuse;
 //     lib::CLSNNR(altitude, azimuth, height, sky, direct, diffuse);
 //
-// Inputs are given by value, outputs as variables, arrays as std::array, C array or pointer.
+// Inputs are given by value, outputs as variables, arrays as std::array, C array or pointer, texts
+// as C or C++ strings.
 #pragma once
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <type_traits>
 
 #include "quorvel.h"
@@ -29,11 +31,13 @@ template <class Pointer>
 class Argument {
     using Value = std::remove_const_t<std::remove_pointer_t<Pointer>>;
     static constexpr bool input = std::is_const_v<std::remove_pointer_t<Pointer>>;
+    static constexpr bool text = std::is_same_v<Pointer, const char*>;
 
   public:
-    Argument(Value value) requires(input) : value_(value), address_(&value_) {}
+    Argument(Value value) requires(input && !text) : value_(value), address_(&value_) {}
     Argument(Value& variable) requires(!input) : address_(&variable) {}
     Argument(Pointer address) : address_(address) {}
+    Argument(const std::string& characters) requires(text) : address_(characters.c_str()) {}
     template <std::size_t n>
     Argument(const std::array<Value, n>& values) requires(input) : address_(values.data()) {}
     template <std::size_t n>
@@ -56,6 +60,9 @@ template <class Result, class... Pointers>
 class Routine<Result (*)(Pointers...)> {
   public:
     explicit constexpr Routine(const char* name) : name_(name) {}
+    // Of a library that is not the one loaded above.
+    explicit Routine(void* address)
+        : name_(nullptr), function_(reinterpret_cast<Result (*)(Pointers...)>(address)) {}
 
     Result operator()(const Argument<Pointers>&... arguments) const {
         return address()(arguments.address()...);

@@ -1,6 +1,8 @@
 // The band search: where a cumulative frequency lies among the ten bands of a month.
 #pragma once
 
+#include <cmath>
+
 #include "frame/numeric.h"
 
 namespace quorvel::climate {
@@ -27,11 +29,20 @@ BandPosition bracketing_bands(Real fraction, Frequency F) noexcept {
     return {lower, upper, (fraction - F(lower)) / (F(upper) - F(lower))};
 }
 
-// Below band 1 its values are extrapolated backwards by one step at most; beyond band 10 they stay.
+// What the fractions at and beyond the ends of the bands get.
+enum class Ends {
+    Extrapolated,  // backwards from band 1, by one step at most; beyond band 10 its values
+    Held           // band 1 or band 10 itself
+};
+
 template <class Frequency>
-BandPosition locate_band(Real fraction, Frequency F) noexcept {
+BandPosition locate_band(Real fraction, Ends ends, Frequency F) noexcept {
+    if (ends == Ends::Held) {
+        if (fraction <= F(1)) return {1, 1, 0.0f};
+        if (fraction >= F(band_count)) return {band_count, band_count, 0.0f};
+    }
     const auto [lower, upper, weight] = bracketing_bands(fraction, F);
-    return {lower, upper, limited(weight, -1.0f, 1.0f)};
+    return {lower, upper, limited(ends == Ends::Held ? std::fabs(weight) : weight, -1.0f, 1.0f)};
 }
 
 constexpr Real interpolate(Real lower, Real upper, Real weight) noexcept {

@@ -53,8 +53,9 @@ BandClimate band_climate(Integer band, Integer month, Integer set) noexcept {
 
 BandClimate band_climate_at(Real percentage, Integer month, Integer set) noexcept {
     const int frequencies = quantity_base(set, 0);
-    const auto [lower, upper, weight] = locate_band(
-        percentage / 100.0f, [=](Integer band) { return value(frequencies + band, month); });
+    const auto [lower, upper, weight] =
+        locate_band(percentage / 100.0f, Ends::Extrapolated,
+                    [=](Integer band) { return value(frequencies + band, month); });
     return gather(month, set, [=, lower = lower, upper = upper, weight = weight](int base) {
         return interpolate_band_rows(base, lower, upper, month, weight);
     });

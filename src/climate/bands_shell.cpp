@@ -22,8 +22,9 @@ void CLBAND(const Integer* band, const Integer* month, const Integer* set, Real*
 void CLBAN1(const Real* fraction, const Integer* month, const Real* frequencies, Integer* lower,
             Integer* upper, Real* weight) {
     const int column = table_row(*month, 12);
-    const auto position = climate::locate_band(
-        *fraction, [=](Integer band) { return frequencies[12 * (band - 1) + column]; });
+    const auto position =
+        climate::locate_band(*fraction, climate::Ends::Extrapolated,
+                             [=](Integer band) { return frequencies[12 * (band - 1) + column]; });
     *lower = position.lower;
     *upper = position.upper;
     *weight = position.weight;

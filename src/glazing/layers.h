@@ -2,6 +2,7 @@
 #pragma once
 
 #include "glazing/pane.h"
+#include "glazing/profile_bands.h"
 
 namespace quorvel::glazing {
 
@@ -10,9 +11,24 @@ namespace quorvel::glazing {
 // at the cost of the reflectance. No layers at all transmit everything.
 Optics stacked_layers(Integer n, const Real* transmittance, const Real* reflectance) noexcept;
 
+inline constexpr Integer most_traced_layers = 11;
+
+// Stack of n layers, at most most_traced_layers, with their inter-reflections: the flux is followed
+// through nine passes, and what is still on its way then is lost. Radiation meets layer n first;
+// both sides of a layer are alike. No layers at all transmit everything.
+Optics traced_layers(Integer n, const Real* transmittance, const Real* absorptance,
+                     const Real* reflectance) noexcept;
+
 // Roller blind, the same at every angle.
 constexpr Optics roller_blind(Real transmittance, Real reflectance) noexcept {
     return {transmittance, 1.0f - transmittance - reflectance, reflectance};
+}
+
+// The same in diffuse radiation. The weights of the bands leave their rounding in the result.
+constexpr Optics diffuse_roller_blind(Real transmittance, Real reflectance) noexcept {
+    const Real T = transmittance * profile_weight_sum;
+    const Real A = (1.0f - transmittance - reflectance) * profile_weight_sum;
+    return {T, A, 1.0f - T - A};
 }
 
 }  // namespace quorvel::glazing

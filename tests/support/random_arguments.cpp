@@ -2,7 +2,9 @@
 
 #include <bit>
 #include <cmath>
+#include <cstring>
 #include <limits>
+#include <string>
 
 namespace quorvel::test {
 namespace {
@@ -52,6 +54,33 @@ Bits any_real(const Argument& argument, Random& random) {
     return std::bit_cast<Bits>(static_cast<Float>(value));
 }
 
+// The name of the example file or of no file at all: bytes of any kind in a folder that is missing.
+std::string any_text(Random& random) {
+    switch (random.below(16)) {
+        case 0:
+            return "";
+        case 1:
+            return "no such file";
+        case 2: {
+            std::string name = "no such folder/";
+            for (int n = random.below(40); n > 0; --n)
+                name += static_cast<char>(1 + random.below(255));
+            return name;
+        }
+        default:
+            return std::string(example_file);
+    }
+}
+
+// Blanks fill the room, so that it ends with the NUL, or bytes that are no business of a reader.
+void store_text(const std::string& text, bool padded, std::vector<std::uint32_t>& room) {
+    auto* const characters = reinterpret_cast<char*>(room.data());
+    const std::size_t size = 4 * room.size();
+    std::memset(characters, padded ? ' ' : 'x', size - 1);
+    characters[size - 1] = '\0';
+    std::memcpy(characters, text.c_str(), text.size() + (padded ? 0 : 1));
+}
+
 }  // namespace
 
 int ArgumentSet::largest_extent(const Extent& extent) const {
@@ -90,11 +119,15 @@ std::uint32_t ArgumentSet::any_integer(std::size_t argument, Random& random) con
                       : static_cast<std::uint32_t>(random.bits());
 }
 
-template <class SingleWord, class DoubleWord, class IntegerWord>
-void ArgumentSet::draw(SingleWord single, DoubleWord pair, IntegerWord integer) {
+template <class SingleWord, class DoubleWord, class IntegerWord, class Text>
+void ArgumentSet::draw(SingleWord single, DoubleWord pair, IntegerWord integer, Text text) {
     for (std::size_t i = 0; i < words_.size(); ++i) {
         const Argument& argument = routine_.arguments[i];
         auto& block = words_[i];
+        if (argument.type == Type::Text) {
+            text(block);
+            continue;
+        }
         for (std::size_t j = 0; j < block.size(); ++j) {
             if (argument.direction == Direction::Out) {
                 block[j] = untouched;
@@ -119,13 +152,15 @@ void ArgumentSet::draw_valid(Random& random) {
         [&](const Argument& a) { return std::bit_cast<std::uint64_t>(within(a, random)); },
         [&](std::size_t i) {
             return static_cast<std::uint32_t>(integer_within(routine_.arguments[i], 0, random));
-        });
+        },
+        [](auto& room) { store_text(std::string(example_file), false, room); });
 }
 
 void ArgumentSet::draw_any(Random& random) {
     draw([&](const Argument& a) { return any_real<float, std::uint32_t>(a, random); },
          [&](const Argument& a) { return any_real<double, std::uint64_t>(a, random); },
-         [&](std::size_t i) { return any_integer(i, random); });
+         [&](std::size_t i) { return any_integer(i, random); },
+         [&](auto& room) { store_text(any_text(random), random.below(2) == 0, room); });
 }
 
 }  // namespace quorvel::test

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "support/routine_table.h"
@@ -27,6 +28,9 @@ class Random {
     std::uint64_t state_;
 };
 
+// The file that texts name, unless they are meant to name none; see support/climate_file.h.
+inline constexpr std::string_view example_file = "example.climate";
+
 // The storage of one call: one block of bytes per argument, large enough for any count that is
 // drawn.
 class ArgumentSet {
@@ -47,8 +51,8 @@ class ArgumentSet {
     int largest_extent(const Extent& extent) const;
     bool is_extent(std::size_t argument) const;
     std::uint32_t any_integer(std::size_t argument, Random& random) const;
-    template <class SingleWord, class DoubleWord, class IntegerWord>
-    void draw(SingleWord single, DoubleWord pair, IntegerWord integer);
+    template <class SingleWord, class DoubleWord, class IntegerWord, class Text>
+    void draw(SingleWord single, DoubleWord pair, IntegerWord integer, Text text);
 
     const Routine& routine_;
     std::vector<std::vector<std::uint32_t>> words_;

@@ -6,7 +6,7 @@
 
 namespace quorvel::test {
 
-enum class Type { None, Real, DoubleReal, Integer };
+enum class Type { None, Real, DoubleReal, Integer, Text };
 enum class Direction { In, Out, Inout };
 
 // Extent of an array: a number, or the value of the Integer argument with that index.
@@ -34,7 +34,10 @@ struct Routine {
     void (*call)(Address function, void* const* arguments, void* result);
 };
 
-constexpr std::size_t size_of(Type type) { return type == Type::DoubleReal ? 8 : 4; }
+// Bytes of a value, or of the room for a text with its NUL.
+constexpr std::size_t size_of(Type type) {
+    return type == Type::Text ? 64 : type == Type::DoubleReal ? 8 : 4;
+}
 
 const std::vector<Routine>& routines();
 

@@ -5,7 +5,8 @@ import tomllib
 from dataclasses import dataclass, field
 from pathlib import Path
 
-C_TYPES = {"Real": "float", "DoubleReal": "double", "Integer": "int32_t"}
+NUMBERS = {"Real": "float", "DoubleReal": "double", "Integer": "int32_t"}
+C_TYPES = {**NUMBERS, "Text": "char"}
 
 
 class CatalogueError(Exception):
@@ -77,10 +78,13 @@ def _argument(table, names, where):
     _check(arg.name not in names, where, "the name stands twice")
     _check(arg.dir in ("in", "out", "inout"), where, "dir must be in, out or inout")
     _check(arg.type in C_TYPES, where, f"type must be one of {', '.join(C_TYPES)}")
+    if arg.type == "Text":
+        _check(arg.dir == "in" and not arg.shape, where, "a text is one input")
+        return arg
     _check(arg.unit or arg.type == "Integer", where, "a real needs a unit (1 for a pure number)")
     if arg.dir != "out" and not arg.ignored:
         _check(arg.bounds, where, "an input needs a range or values")
-        _check(arg.bounds[0] < arg.bounds[1], where, "the range is empty")
+        _check(arg.values or arg.bounds[0] < arg.bounds[1], where, "the range is empty")
     return arg
 
 
@@ -96,7 +100,7 @@ def _routine(table, where):
     result = _build(Result, table["result"], where) if "result" in table else None
     routine = _build(Routine, {**table, "args": tuple(args), "result": result}, where)
     _check(re.fullmatch(r"[A-Z][A-Z0-9]{3,8}", routine.export), where, "not an exported name")
-    _check(not result or result.type in C_TYPES, where, "the result has an unknown type")
+    _check(not result or result.type in NUMBERS, where, "the result has an unknown type")
     return routine
 
 

@@ -1,0 +1,78 @@
+#include "climate/climate_file.h"
+
+#include <algorithm>
+#include <mutex>
+
+#include "frame/lock.h"
+
+using namespace quorvel;
+
+namespace {
+
+constinit Lock lock;
+constinit climate::ClimateFileState state;
+
+// Every call works under the lock; a call that finds something unreadable leaves its outputs alone.
+struct Call {
+    std::lock_guard<Lock> guard{lock};
+    climate::ClimateFileReader<climate::RecordFile> file{state};
+};
+
+// A month's record: 11 reals, the last two of them given.
+bool fill(Real* record, Integer month, Call& call) {
+    const auto climate =
+        call.file.climate(0, record[10] / 100.0f, month, climate::rounded_set(record[9]));
+    if (!climate) return false;
+    const auto& [q1, q2, q3, q4, q5, q6, q7] = climate->quantities;
+    const Real filled[] = {q4, q6, climate->time_b, q3, q5, climate->time_a, q1, q2, q7};
+    std::ranges::copy(filled, record);
+    return true;
+}
+
+}  // namespace
+
+void CLBNF0(const char* file, const Integer* station, const Integer* month, Real* records) {
+    Call call;
+    if (!call.file.open(file, *station)) return;
+    const Integer first = *month == 0 ? 1 : table_row(*month, 12) + 1;
+    const Integer last = *month == 0 ? 12 : first;
+    for (Integer m = first; m <= last; ++m)
+        if (!fill(records + 11 * (m - 1), m, call)) return;
+}
+
+void CLBNFI(const Integer* unit, const Integer* station, const Integer* band, const Integer* month,
+            const Integer* set, const Real* percentage, Real* q1, Real* q2, Real* q3, Real* q4,
+            Real* q5, Real* q6, Real* q7, Real* time_a, Real* time_b) {
+    Call call;
+    call.file.select(*unit, *station);
+    const auto climate = call.file.climate(*band, *percentage / 100.0f, *month, *set);
+    if (!climate) return;
+    Real* const quantities[climate::station_quantities] = {q1, q2, q3, q4, q5, q6, q7};
+    for (std::size_t q = 0; q < climate->quantities.size(); ++q)
+        *quantities[q] = climate->quantities[q];
+    *time_a = climate->time_a;
+    *time_b = climate->time_b;
+}
+
+void CLBNF1(const Real* fraction, const Integer* month, Integer* lower, Integer* upper,
+            Real* weight) {
+    const std::lock_guard guard(lock);
+    const auto position = climate::locate_station_band(state, *fraction, *month);
+    *lower = position.lower;
+    *upper = position.upper;
+    *weight = position.weight;
+}
+
+void CLBNF2(const Integer* base, const Integer* lower, const Integer* upper, const Integer* month,
+            const Real* weight, Real* value) {
+    Call call;
+    const std::int64_t before = std::int64_t{*base} - 1;
+    if (const auto found = call.file.between(before + *lower, before + *upper, *month, *weight))
+        *value = *found;
+}
+
+void CLBNF3(const Integer* row, Real* values) {
+    Call call;
+    if (const auto* const found = call.file.row(std::int64_t{*row} - 1))
+        std::ranges::copy(*found, values);
+}

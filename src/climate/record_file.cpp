@@ -1,0 +1,92 @@
+#include "climate/record_file.h"
+
+#ifdef _WIN32
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <cerrno>
+#endif
+
+namespace quorvel::climate {
+namespace {
+
+// open_regular gives -1 for what is no regular file; read_at gives the number of bytes read, at
+// most `size`, and none at the end of the file or after an error.
+
+#ifdef _WIN32
+HANDLE handle_of(std::intptr_t handle) noexcept { return reinterpret_cast<HANDLE>(handle); }
+
+void close_handle(std::intptr_t handle) noexcept { CloseHandle(handle_of(handle)); }
+
+std::intptr_t open_regular(const char* name) noexcept {
+    // Others may replace or remove the file meanwhile, as they can elsewhere.
+    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE file = CreateFileA(name, GENERIC_READ, sharing, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE || GetFileType(file) == FILE_TYPE_DISK)
+        return reinterpret_cast<std::intptr_t>(file);
+    CloseHandle(file);
+    return -1;
+}
+
+std::size_t read_at(std::intptr_t handle, std::int64_t offset, char* to,
+                    std::size_t size) noexcept {
+    OVERLAPPED place = {};
+    place.Offset = static_cast<DWORD>(offset);
+    place.OffsetHigh = static_cast<DWORD>(offset >> 32);
+    DWORD count = 0;
+    return ReadFile(handle_of(handle), to, static_cast<DWORD>(size), &count, &place) ? count : 0;
+}
+#else
+static_assert(sizeof(off_t) == 8, "offsets go beyond 2 GiB");
+
+void close_handle(std::intptr_t handle) noexcept { close(static_cast<int>(handle)); }
+
+std::intptr_t open_regular(const char* name) noexcept {
+    // Without O_NONBLOCK the opening of a named pipe waits for a writer.
+    const int file = open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    struct stat status;
+    if (file < 0 || (fstat(file, &status) == 0 && S_ISREG(status.st_mode))) return file;
+    close(file);
+    return -1;
+}
+
+std::size_t read_at(std::intptr_t handle, std::int64_t offset, char* to,
+                    std::size_t size) noexcept {
+    ssize_t count;
+    do count = pread(static_cast<int>(handle), to, size, offset);
+    while (count < 0 && errno == EINTR);
+    return count < 0 ? 0 : static_cast<std::size_t>(count);
+}
+#endif
+
+}  // namespace
+
+RecordFile::~RecordFile() {
+    if (is_open()) close_handle(handle_);
+}
+
+bool RecordFile::open(const char* name) noexcept {
+    handle_ = open_regular(name);
+    return is_open();
+}
+
+bool RecordFile::read(std::int64_t number, Record& record) const noexcept {
+    const std::int64_t offset = (number - 1) * static_cast<std::int64_t>(sizeof(Record));
+    auto* const bytes = reinterpret_cast<char*>(&record);
+    std::size_t done = 0;
+    while (done < sizeof(Record)) {
+        const std::size_t count = read_at(handle_, offset + static_cast<std::int64_t>(done),
+                                          bytes + done, sizeof(Record) - done);
+        if (count == 0) return false;
+        done += count;
+    }
+    return true;
+}
+
+}  // namespace quorvel::climate
