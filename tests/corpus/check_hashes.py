@@ -81,7 +81,10 @@ def main():
             if len(libraries) > 1:
                 print(first_difference(options.program, routine, libraries[0], library))
         failed = failed or bool(differing)
-    sys.exit(failed)
+    shuffled = sorted(set(run(options.program, libraries[0], "--shuffled")) ^ set(committed))
+    if shuffled and not failed:
+        print("DIFFERS  when the routines run in another order:", *dict.fromkeys(line.split()[0] for line in shuffled))
+    sys.exit(failed or bool(shuffled))
 
 
 if __name__ == "__main__":

@@ -2,81 +2,26 @@
 // bits.
 //
 //     quorvel_corpus              prints "NAME HASH" for every routine
+//     quorvel_corpus --shuffled   the same with the routines in random order, in the user's locale
 //     quorvel_corpus NAME         prints every case of one routine: arguments before, results after
 //
 // The library under test is the one that library.h loads (QUORVEL_LIBRARY names another one).
+#include "support/corpus.h"
+
 #include <cinttypes>
+#include <clocale>
 #include <cstdio>
-#include <cstring>
+#include <ctime>
 #include <exception>
 #include <string_view>
+#include <utility>
 
 #include "common/library.h"
-#include "support/random_arguments.h"
+#include "support/climate_file.h"
 
 using namespace quorvel::test;
 
 namespace {
-
-constexpr int cases = 100000;
-
-// FNV-1a, word by word.
-class Hash {
-  public:
-    void add(std::uint32_t word) { value_ = (value_ ^ word) * 0x100000001b3u; }
-    std::uint64_t value() const { return value_; }
-
-  private:
-    std::uint64_t value_ = 0xcbf29ce484222325u;
-};
-
-// Which not-a-number comes out is the hardware's business; that one comes out is ours.
-std::uint32_t canonical(Type type, const std::uint32_t* words, std::size_t index) {
-    const std::uint32_t word = words[index];
-    if (type == Type::Real && (word & 0x7fffffffu) > 0x7f800000u) return 0x7fc00000u;
-    if (type == Type::DoubleReal) {
-        const std::uint32_t low = words[index & ~std::size_t{1}], high = words[index | 1];
-        const std::uint64_t magnitude = (std::uint64_t{high & 0x7fffffffu} << 32) | low;
-        if (magnitude > 0x7ff0000000000000u) return index & 1 ? 0x7ff80000u : 0u;
-    }
-    return word;
-}
-
-template <class Use>
-void each_word(const Routine& routine, const ArgumentSet& arguments, Direction left_out, Use use) {
-    for (std::size_t i = 0; i < routine.arguments.size(); ++i) {
-        const auto& block = arguments.words()[i];
-        if (routine.arguments[i].direction == left_out) continue;
-        for (std::size_t j = 0; j < block.size(); ++j)
-            use(canonical(routine.arguments[i].type, block.data(), j));
-    }
-}
-
-template <class Before, class After>
-void run(const Routine& routine, Before before, After after) {
-    const auto function = reinterpret_cast<Address>(quorvel::host::routine_address(routine.name));
-    Hash name;
-    for (const char* c = routine.name; *c; ++c) name.add(static_cast<unsigned char>(*c));
-    Random random(name.value());
-    ArgumentSet arguments(routine);
-    for (int i = 0; i < cases; ++i) {
-        arguments.draw_any(random);
-        each_word(routine, arguments, Direction::Out, before);
-        std::uint32_t result[2] = {};
-        routine.call(function, arguments.addresses(), result);
-        if (routine.result != Type::None)
-            for (std::size_t j = 0; j < size_of(routine.result) / 4; ++j)
-                after(canonical(routine.result, result, j));
-        each_word(routine, arguments, Direction::In, after);
-    }
-}
-
-void print_hash(const Routine& routine) {
-    Hash hash;
-    run(
-        routine, [](std::uint32_t) {}, [&](std::uint32_t word) { hash.add(word); });
-    std::printf("%s %016" PRIx64 "\n", routine.name, hash.value());
-}
 
 void print_cases(const Routine& routine) {
     bool given = false;
@@ -84,7 +29,7 @@ void print_cases(const Routine& routine) {
         std::fputs(separator, stdout);
         std::printf(" %08" PRIx32, word);
     };
-    run(
+    run_corpus(
         routine,
         [&](std::uint32_t word) {
             print(given ? "" : "\n", word);
@@ -97,19 +42,34 @@ void print_cases(const Routine& routine) {
     std::puts("");
 }
 
+void print_hashes(const std::vector<Routine>& routines) {
+    for (const Routine& routine : routines)
+        std::printf("%s %s\n", routine.name, corpus_hash(routine).c_str());
+}
+
+std::vector<Routine> shuffled(std::vector<Routine> routines) {
+    Random random(static_cast<std::uint64_t>(std::time(nullptr)));
+    for (int i = static_cast<int>(routines.size()); i > 1; --i)
+        std::swap(routines[static_cast<std::size_t>(i - 1)],
+                  routines[static_cast<std::size_t>(random.below(i))]);
+    return routines;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) try {
-    bool known = argc < 2;
-    for (const Routine& routine : routines()) {
-        if (argc < 2) print_hash(routine);
-        if (argc > 1 && std::string_view(argv[1]) == routine.name) {
-            print_cases(routine);
-            known = true;
-        }
+    const std::string_view wanted = argc > 1 ? argv[1] : "";
+    quorvel::host::load_library();
+    const ExampleFolder folder;
+    if (wanted.empty()) return print_hashes(routines()), 0;
+    if (wanted == "--shuffled") {
+        std::setlocale(LC_ALL, "");
+        return print_hashes(shuffled(routines())), 0;
     }
-    if (!known) std::fprintf(stderr, "no exported routine is called %s\n", argv[1]);
-    return known ? 0 : 2;
+    for (const Routine& routine : routines())
+        if (wanted == routine.name) return print_cases(routine), 0;
+    std::fprintf(stderr, "no exported routine is called %s\n", argv[1]);
+    return 2;
 } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     return 2;

@@ -1,0 +1,13 @@
+// The state of the processor's arithmetic, which belongs to the host: the library computes in the
+// one it is called in, and gives its bits in the standard one only.
+#pragma once
+
+#include <string>
+
+namespace quorvel::check {
+
+// What is not as it should be; nothing if subnormal numbers are kept and results rounded to
+// nearest.
+std::string fault_of_arithmetic();
+
+}  // namespace quorvel::check

@@ -1,0 +1,101 @@
+// quorvel-check: whether the library on this machine is the right one and gives the right results.
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "check/arithmetic.h"
+#include "check/bits.h"
+#include "check/library_identity.h"
+#include "check/value_cases.h"
+#include "common/library.h"
+#include "common/options.h"
+#include "common/program.h"
+
+namespace {
+
+using namespace quorvel;
+
+constexpr const char* values_table =
+#include "check_values.inc"
+    ;
+
+class Report {
+  public:
+    void line(const std::string& what, const std::string& finding) const {
+        std::cout << "  " << what << std::string(12 - what.size(), ' ') << finding << '\n';
+    }
+    void verdict(const std::string& what, const std::string& right, const std::string& fault) {
+        line(what, fault.empty() ? right : "WRONG: " + fault);
+        right_ = right_ && fault.empty();
+    }
+    bool right() const { return right_; }
+
+  private:
+    bool right_ = true;
+};
+
+void report_library(Report& report) {
+    const auto [file, version] = check::loaded_library();
+    report.line("library", file);
+    report.verdict("version", version,
+                   version == QUORVEL_VERSION ? ""
+                                              : (version.empty() ? "unknown" : version) +
+                                                    ", and this program checks " + QUORVEL_VERSION);
+}
+
+void report_values(Report& report) {
+    const auto cases = check::parse_value_cases(values_table);
+    std::vector<std::string> faults;
+    for (const auto& value_case : cases)
+        if (auto fault = check::fault_of(value_case); !fault.empty()) faults.push_back(fault);
+    const std::string right = std::to_string(cases.size()) + " published values are met";
+    report.verdict("values", right, faults.empty() ? "" : faults.front());
+    for (std::size_t i = 1; i < faults.size(); ++i) report.line("", faults[i]);
+}
+
+void report_bits(Report& report) {
+    const auto [routines, calls, differing] = check::compare_bits();
+    std::string names;
+    for (const std::string& name : differing) names += (names.empty() ? "" : ", ") + name;
+    report.verdict("bits",
+                   std::to_string(routines) + " routines give the bits they must, in " +
+                       std::to_string(calls) + " calls",
+                   names.empty() ? "" : "other results from " + names);
+}
+
+bool check_installation(bool quick) {
+    host::load_library();
+    Report report;
+    std::cout << "Quorvel on this machine\n";
+    report_library(report);
+    // After loading: a library may change the state, and those that it brings with it too.
+    report.verdict("arithmetic", "rounds to nearest and keeps subnormal numbers",
+                   check::fault_of_arithmetic());
+    report_values(report);
+    if (!quick) report_bits(report);
+    std::cout << (report.right() ? "All is right.\n" : "Do not rely on its results here.\n");
+    return report.right();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    bool quick = false, right = true;
+    CLI::App app{
+        "Checks the Quorvel library of this machine: that it can be loaded, is of this version, "
+        "gives\nthe published values, and gives the same bits as on every other machine."};
+    app.add_flag("--quick", quick, "Leave out the comparison of bits, which takes some seconds");
+    app.footer(
+        "The library, quorvel.dll or libquorvel.so, is looked for beside the program, or is the\n"
+        "file that the environment variable QUORVEL_LIBRARY names.\n"
+        "Exit status: 0 all is right, 1 something is not, 2 bad command line.");
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        return host::run("quorvel-check", [&] { std::cout << app.help(); });
+    } catch (const CLI::ParseError& fault) {
+        std::cerr << "quorvel-check: " << fault.what() << '\n';
+        return host::bad_input;
+    }
+    const int status = host::run("quorvel-check", [&] { right = check_installation(quick); });
+    return status == host::success && !right ? host::failure : status;
+}

@@ -1,0 +1,23 @@
+// Calls a routine with every argument directly against an inaccessible page.
+#pragma once
+
+#include "contract/guarded_memory.h"
+#include "contract/outcome.h"
+
+namespace quorvel::test {
+
+class GuardedCall {
+  public:
+    GuardedCall(const Routine& routine, Address function);
+
+    // Inputs cannot be written while the routine runs, and an array is exactly as long as its
+    // counts say.
+    Outcome operator()(const ArgumentSet& arguments, Against page);
+
+  private:
+    const Routine& routine_;
+    Address function_;
+    std::vector<GuardedMemory> memory_;
+};
+
+}  // namespace quorvel::test

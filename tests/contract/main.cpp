@@ -1,0 +1,100 @@
+// Holds every exported routine to its memory contract, with arguments of all kinds: each stands
+// directly against an inaccessible page, inputs cannot be written, and what lies beyond the arrays
+// has no influence on the results.
+//
+//     quorvel_contract [--calls N] [--seed N] [NAME...]
+//
+// Loaded with a library that counts its steps, it also holds every call to a bound of them.
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cinttypes>
+#include <cstdio>
+
+#include "common/library.h"
+#include "contract/guarded_call.h"
+#include "contract/steps.h"
+#include "support/climate_file.h"
+
+using namespace quorvel::test;
+
+namespace {
+
+// The call that is running, for the report of a fault.
+struct Running {
+    const char* routine = "";
+    std::uint64_t seed = 0;
+    const char* doing = "";
+} running;
+
+const char* report_of_running() {
+    static char text[200];
+    std::snprintf(text, sizeof text, "%s (--seed %" PRIu64 " --calls 1): %s", running.routine,
+                  running.seed, running.doing);
+    return text;
+}
+
+bool agrees(const Routine& routine, Address function, const ArgumentSet& arguments,
+            GuardedCall& guarded) {
+    const auto prepare = [&] {
+        if (carries_state(routine)) open_example();
+    };
+    running.doing = "a fault in a plain call";
+    prepare();
+    const std::uint64_t before = steps_taken();
+    const Outcome plain = plain_call(routine, function, arguments);
+    if (steps_taken() - before > most_steps) {
+        running.doing = "takes more steps than any call may";
+        return false;
+    }
+    for (const Against page : {Against::PageAbove, Against::PageBelow}) {
+        prepare();
+        running.doing = "touches memory outside its arguments or writes an input";
+        if (guarded(arguments, page) == plain) continue;
+        running.doing = "what lies beyond an array, or an earlier call, changes the results";
+        return false;
+    }
+    return true;
+}
+
+// Calls, every one with a seed of its own, by which it can be repeated alone.
+bool holds(const Routine& routine, int calls, std::uint64_t seed) {
+    const auto function = reinterpret_cast<Address>(quorvel::host::routine_address(routine.name));
+    GuardedCall guarded(routine, function);
+    ArgumentSet arguments(routine);
+    running.routine = routine.name;
+    for (int i = 0; i < calls; ++i) {
+        running.seed = seed + static_cast<std::uint64_t>(i);
+        Random random(running.seed);
+        arguments.draw_any(random);
+        if (!agrees(routine, function, arguments, guarded)) {
+            std::fprintf(stderr, "%s\n", report_of_running());
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+    CLI::App app{"Holds the exported routines to their memory contract."};
+    int calls = 1000;
+    std::uint64_t seed = 1;
+    std::vector<std::string> names;
+    app.add_option("--calls", calls, "Calls of each routine");
+    app.add_option("--seed", seed, "Seed of the first call");
+    app.add_option("NAME", names, "Routines (all without)");
+    CLI11_PARSE(app, argc, argv);
+
+    quorvel::host::load_library();
+    const ExampleFolder folder;
+    explain_faults(report_of_running);
+    bool all_hold = true;
+    for (const Routine& routine : routines())
+        if (names.empty() || std::find(names.begin(), names.end(), routine.name) != names.end())
+            all_hold = holds(routine, calls, seed) && all_hold;
+    return all_hold ? 0 : 1;
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 2;
+}
