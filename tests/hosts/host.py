@@ -18,16 +18,19 @@ Finished = collections.namedtuple("Finished", "returncode stdout stderr written"
 def run(*arguments, files=None, environment=None):
     """Runs the program in a folder of its own that holds `files` (name: text or bytes).
 
-    `written` are the files that it left there, by name. Its output goes to files too: an emulator's
+    `written` are the files that it left there new or changed, by name. Its output goes to files too: an emulator's
     background processes keep pipes open long after the program has ended."""
     with tempfile.TemporaryDirectory() as folder, tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as err:
-        for name, text in (files or {}).items():
-            Path(folder, name).write_bytes(text if isinstance(text, bytes) else text.encode())
+        given = {name: text if isinstance(text, bytes) else text.encode() for name, text in (files or {}).items()}
+        for name, content in given.items():
+            Path(folder, name).parent.mkdir(exist_ok=True)
+            Path(folder, name).write_bytes(content)
         status = subprocess.run([*PROGRAM, *arguments], cwd=folder, env=os.environ | (environment or {}),
                                 stdin=subprocess.DEVNULL, stdout=out, stderr=err, timeout=120).returncode
         for stream in (out, err):
             stream.seek(0)
-        written = {path.name: path.read_bytes() for path in Path(folder).iterdir() if path.name not in (files or {})}
+        left = {path.relative_to(folder).as_posix(): path.read_bytes() for path in Path(folder).rglob("*") if path.is_file()}
+        written = {name: content for name, content in left.items() if given.get(name) != content}
         return Finished(status, out.read(), err.read(), written)
 
 

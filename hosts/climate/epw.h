@@ -1,0 +1,38 @@
+// A year of hourly weather data in the EPW format: comma-separated lines, eight of them ahead of
+// the data.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace quorvel::climatefile {
+
+// Temperature, humidity and pressure at the end of the hour, irradiances over it.
+struct Hour {
+    double dry_bulb;            // °C
+    double relative_humidity;   // %
+    double pressure;            // Pa
+    double direct_normal;       // W/m²
+    double diffuse_horizontal;  // W/m²
+    double sky_cover;           // tenths; NaN where it is missing
+};
+
+struct WeatherDay {
+    int month;                   // 1 to 12
+    int day_of_year;             // of 365; 29 February counts as the day before
+    std::array<Hour, 24> hours;  // of standard time, the first one ends at 1:00
+};
+
+struct WeatherYear {
+    std::string place;
+    double latitude, longitude;  // degrees, positive north and east
+    double zone;                 // standard time ahead of universal time, h
+    double height;               // m above sea level
+    std::vector<WeatherDay> days;
+};
+
+// Throws host::InputError at the first fault.
+WeatherYear read_epw(const std::string& path);
+
+}  // namespace quorvel::climatefile
