@@ -1,0 +1,138 @@
+#!/usr/bin/env python3
+"""Change the library in many places, one at a time, and see whether the tests notice.
+
+Each change (a constant in its last digit, < to <=, a swapped sign, a dropped clamp, two exchanged
+rows of a table) is built and tested in a copy of the tree. It is killed by a test, or only by the
+corpus hashes, or it survives; those that do not compile do not count. Survivors are listed: each is
+either equivalent, that is without influence on any result, or asks for a better test.
+"""
+
+import argparse
+import concurrent.futures
+import os
+import queue
+import random
+import subprocess
+import sys
+from collections import Counter
+from pathlib import Path
+
+from mutations import mutations_of
+
+ROOT = Path(__file__).resolve().parents[2]
+# Elementary functions have their own exhaustive check, ./dev verify-math.
+LEFT_OUT = ("src/frame/math", "src/frame/dll_main.cpp", "src/frame/version.cpp")
+TARGETS = ("quorvel", "quorvel_tests", "quorvel_corpus")
+LONGEST_TEST = 300  # s; a change that makes a search endless is killed too
+
+
+def sources():
+    listed = subprocess.run(["git", "ls-files", "src"], cwd=ROOT, capture_output=True, text=True, check=True)
+    names = [name for name in listed.stdout.split() if name.endswith((".h", ".cpp"))]
+    return [Path(name) for name in names if not name.startswith(LEFT_OUT)]
+
+
+class Tree:
+    """A copy of the sources with a build of its own."""
+
+    def __init__(self, folder):
+        self.source, self.build = folder / "source", folder / "build"
+        self.source.mkdir(parents=True, exist_ok=True)
+        archive = subprocess.run(["git", "archive", "HEAD"], cwd=ROOT, capture_output=True, check=True)
+        subprocess.run(["tar", "x", "-C", self.source], input=archive.stdout, check=True)
+        # Optimisation changes no result, and takes time.
+        options = ["-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1", "-DQUORVEL_TESTS=ON", "-DQUORVEL_HOSTS=ON"]
+        self._run("cmake", "-S", self.source, "-B", self.build, *options, check=True)
+        self._run("cmake", "--build", self.build, "--target", *TARGETS, check=True)
+        self.hashes = self._run(self.build / "quorvel_corpus").stdout
+
+    def _run(self, *command, check=False):
+        return subprocess.run(command, capture_output=True, text=True, check=check, timeout=LONGEST_TEST if not check else None)
+
+    def _passes(self, *command):
+        try:
+            return self._run(*command).returncode == 0
+        except subprocess.TimeoutExpired:
+            return False
+
+    def _same_hashes(self):
+        try:
+            return self._run(self.build / "quorvel_corpus").stdout == self.hashes
+        except subprocess.TimeoutExpired:
+            return False
+
+    def fate(self, mutation):
+        path = self.source / mutation.file
+        original = path.read_text()
+        try:
+            path.write_text("\n".join(mutation.apply(original.split("\n"))))
+            if not self._passes("cmake", "--build", self.build, "--target", "quorvel"):
+                return "does not compile"
+            if not self._passes(self.build / "quorvel_tests", "--gtest_brief=1", "--gtest_fail_fast"):
+                return "killed by a test"
+            return "survives" if self._same_hashes() else "killed by the hashes only"
+        finally:
+            path.write_text(original)
+
+
+def chosen(options):
+    everything = [
+        mutation
+        for file in sources()
+        if options.under in str(file)
+        for mutation in mutations_of(file, (ROOT / file).read_text().split("\n"))
+    ]
+    random.Random(options.seed).shuffle(everything)
+    return everything
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--count", type=int, default=500, help="changes that compile (500)")
+    parser.add_argument("--seed", type=int, default=1, help="which of the possible changes are made (1)")
+    parser.add_argument("--under", default="src/", help="only in files whose name has this in it")
+    parser.add_argument("--list", action="store_true", help="only list the changes")
+    options = parser.parse_args()
+    mutations = chosen(options)
+    if options.list:
+        print(*mutations[: options.count], sep="\n")
+        return
+
+    trees = queue.Queue()
+    for number in range(os.cpu_count() or 1):
+        print(f"Preparing tree {number + 1}", file=sys.stderr)
+        trees.put(Tree(ROOT / "build" / "mutate" / str(number)))
+    fates, survivors = Counter(), []
+
+    def judge(mutation):
+        tree = trees.get()
+        try:
+            return mutation, tree.fate(mutation)
+        finally:
+            trees.put(tree)
+
+    with concurrent.futures.ThreadPoolExecutor(trees.qsize()) as pool:
+        waiting = iter(mutations)
+        running = {pool.submit(judge, next(waiting)) for _ in range(trees.qsize())}
+        while running:
+            done, running = concurrent.futures.wait(running, return_when=concurrent.futures.FIRST_COMPLETED)
+            for future in done:
+                mutation, fate = future.result()
+                fates[fate] += 1
+                if fate in ("survives", "killed by the hashes only"):
+                    print(f"{fate}: {mutation}", flush=True)
+                survivors += [mutation] if fate == "survives" else []
+                judged = sum(fates.values()) - fates["does not compile"]
+                print(f"\r{judged} of {options.count}, {len(survivors)} survive ", end="", file=sys.stderr, flush=True)
+                if judged + len(running) < options.count and (following := next(waiting, None)):
+                    running.add(pool.submit(judge, following))
+
+    judged = sum(fates.values()) - fates["does not compile"]
+    print(file=sys.stderr)
+    for fate, count in fates.most_common():
+        print(f"{count:5d}  {fate}")
+    print(f"{100 * (judged - len(survivors)) / max(judged, 1):.1f} % of {judged} changes are noticed")
+
+
+if __name__ == "__main__":
+    main()
