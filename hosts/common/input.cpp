@@ -11,8 +11,6 @@
 namespace quorvel::host {
 namespace {
 
-constexpr std::size_t longest_text = 40;
-
 bool is_control(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
 
 // Names and values come from the file and may hold line ends.
@@ -111,14 +109,13 @@ int InputTable::integer(std::string_view key, int low, int high) const {
     throw not_allowed(key, "whole numbers " + std::to_string(low) + " to " + std::to_string(high));
 }
 
-std::string InputTable::text(std::string_view key) const {
+std::string InputTable::text(std::string_view key, std::size_t longest) const {
     if (const auto* value = node(key).as_string()) {
         const std::string& text = value->get();
-        const bool short_enough = !text.empty() && character_count(text) <= longest_text;
+        const bool short_enough = !text.empty() && character_count(text) <= longest;
         if (short_enough && std::ranges::none_of(text, is_control)) return text;
     }
-    throw not_allowed(key,
-                      "text of 1 to " + std::to_string(longest_text) + " characters on one line");
+    throw not_allowed(key, "text of 1 to " + std::to_string(longest) + " characters on one line");
 }
 
 int InputTable::choice(std::string_view key, std::span<const std::string_view> names,

@@ -12,7 +12,8 @@ constexpr const char* header =
     "window,hour,clock,outdoor_C,sun_altitude_deg,sun_azimuth_deg,direct_normal_W_m2,"
     "diffuse_horizontal_W_m2,incidence_deg,direct_W_m2,diffuse_W_m2,ground_W_m2,incident_W_m2,"
     "direct_transmittance,direct_absorptance,transmitted_fraction,transmitted_W,"
-    "absorbed_fraction,absorbed_W,pane1_C,pane2_C,pane3_C,pane4_C,pane5_C\n";
+    "absorbed_fraction,absorbed_W,pane1_C,pane2_C,pane3_C,pane4_C,pane5_C,"
+    "profile_deg,blind_absorbed_W\n";
 
 std::string clock(double hour, double solar_minus_clock) {
     return std::isnan(solar_minus_clock) ? "" : host::clock_time(hour - solar_minus_clock);
@@ -45,6 +46,8 @@ std::vector<std::string> fields(const WindowDay& window, std::size_t i, const De
     for (const double temperature : window.panes_at(i))
         fields.push_back(csv_number(temperature, 2));
     for (int pane = window.panes; pane < most_panes; ++pane) fields.push_back("");
+    fields.push_back(csv_number(at.profile, 3));
+    fields.push_back(csv_number(window.window->area * at.absorbed_by_blind, 2));
     return fields;
 }
 

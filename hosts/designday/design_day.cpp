@@ -14,6 +14,7 @@ using host::degrees;
 using host::radians;
 
 constexpr float quarter_turn = 1.5707964f;
+constexpr float solar_constant = 1367;  // W/m²
 
 // A class without a diffuse factor has an alternative one in its place.
 SiteConstants site_constants(const Job& job) {
@@ -27,7 +28,7 @@ SiteConstants site_constants(const Job& job) {
 host::DailyTemperature outdoor_temperature(const Day& day, double sunrise, double sunset) {
     const bool rises = sunrise < sunset && sunset <= 24;
     const double coldest = rises ? std::round(sunrise) : day.hour_of_max - 12;
-    return {day.outdoor_min, day.outdoor_max, coldest, day.hour_of_max};
+    return {day.outdoor_min, day.outdoor_max, day.hour_of_min.value_or(coldest), day.hour_of_max};
 }
 
 // The sun and the sky in the library's units, before the factors of the site.
@@ -62,10 +63,32 @@ SunHour sun_hour(double hour, const Sky& sky, const SiteConstants& site) {
     return sun;
 }
 
-// Irradiance on the plane of the window and the angle at which the direct sun meets it.
-WindowHour irradiated(const Window& window, const Sky& sky, const SiteConstants& site) {
+// Diffuse irradiance of the sky on the plane by a model other than the design sky's own. A plane
+// turned from the sun can get less than nothing by the Perez model.
+float sky_diffuse(const Job& job, int day_of_year, const Window& window, const Sky& sky,
+                  const SunHour& sun, float incidence) {
+    const auto diffuse = static_cast<float>(sun.diffuse_horizontal);
+    if (!(diffuse > 0)) return 0;
+    const double sine = std::sin(static_cast<double>(sky.altitude));
+    const auto beam = static_cast<float>(sun.direct_normal * sine);
+    const float tilt = radians(window.tilt);
+    if (job.site.sky_model == SkyModel::perez) {
+        float on_plane;
+        lib::CLPERSKY(sky.altitude, tilt, beam, diffuse, on_plane, incidence,
+                      solar_constant * lib::CLETAJ(day_of_year));
+        return std::fmax(on_plane, 0.0f);
+    }
+    const int model = static_cast<int>(job.site.sky_model) - static_cast<int>(SkyModel::muneer);
+    return lib::CLDIFSLO(day_of_year, sky.altitude, sky.azimuth, radians(window.orientation), tilt,
+                         beam, diffuse, model);
+}
+
+// Irradiance on the plane of the window and the angles at which the direct sun meets it.
+WindowHour irradiated(const Job& job, const DesignDay& day, const Window& window, const Sky& sky,
+                      const SunHour& sun) {
     WindowHour at;
     if (!(sky.altitude > 0)) return at;
+    const SiteConstants& site = day.constants;
     const float orientation = radians(window.orientation), tilt = radians(window.tilt);
     float direct, diffuse, ground;
     lib::CLSORD(sky.altitude, sky.azimuth, orientation, tilt, sky.direct_normal,
@@ -76,29 +99,38 @@ WindowHour irradiated(const Window& window, const Sky& sky, const SiteConstants&
     at.diffuse = diffuse;
     at.ground = ground;
 
-    float incidence, profile_angle, azimuth_from_normal;
-    lib::CLSNSR(sky.altitude, sky.azimuth, orientation, tilt, incidence, profile_angle,
+    float incidence, profile, azimuth_from_normal;
+    lib::CLSNSR(sky.altitude, sky.azimuth, orientation, tilt, incidence, profile,
                 azimuth_from_normal);
     at.incidence = degrees(incidence);
+    at.profile = degrees(profile);
+    if (job.site.sky_model != SkyModel::design)
+        at.diffuse = sky_diffuse(job, day.day_of_year, window, sky, sun, incidence);
     return at;
 }
 
 // Adds what the glazing does with the radiation; gives what each pane absorbs [W/m²].
 PerPane glazed(WindowHour& at, const Glazing& glazing) {
-    const double indirect = at.diffuse + at.ground;
     Fate direct;
     if (at.direct > 0) {
-        direct = glazing.direct(std::fmin(radians(at.incidence), quarter_turn));
+        direct =
+            glazing.direct(std::fmin(radians(at.incidence), quarter_turn), radians(at.profile));
         at.direct_transmittance = direct.transmitted;
         at.direct_absorptance = direct.absorbed_total();
     }
-    const Fate& diffuse = glazing.diffuse();
-    at.transmitted = at.direct * direct.transmitted + indirect * diffuse.transmitted;
-    at.absorbed = at.direct * direct.absorbed_total() + indirect * diffuse.absorbed_total();
+    const Fate &sky = glazing.from_sky(), &ground = glazing.from_ground();
+    const auto sum = [&](double of_direct, double of_sky, double of_ground) {
+        return at.direct * of_direct + at.diffuse * of_sky + at.ground * of_ground;
+    };
+    at.transmitted = sum(direct.transmitted, sky.transmitted, ground.transmitted);
+    at.absorbed = sum(direct.absorbed_total(), sky.absorbed_total(), ground.absorbed_total());
+    if (glazing.has_blind())
+        at.absorbed_by_blind =
+            sum(direct.absorbed_by_blind, sky.absorbed_by_blind, ground.absorbed_by_blind);
 
     PerPane absorbed{};
     for (std::size_t k = 0; k < absorbed.size(); ++k)
-        absorbed[k] = at.direct * direct.absorbed[k] + indirect * diffuse.absorbed[k];
+        absorbed[k] = sum(direct.absorbed[k], sky.absorbed[k], ground.absorbed[k]);
     return absorbed;
 }
 
@@ -143,10 +175,10 @@ DesignDay calculate(const Job& job, int steps_per_hour) {
     for (SunHour& sun : day.sun) sun.outdoor = outdoor(sun.hour);
 
     for (const Window& window : job.windows) {
-        const Glazing glazing(window.glazing);
+        const Glazing glazing(window);
         WindowDay result{&window, glazing.panes(), {}};
         for (std::size_t i = 0; i < skies.size(); ++i) {
-            WindowHour at = irradiated(window, skies[i], day.constants);
+            WindowHour at = irradiated(job, day, window, skies[i], day.sun[i]);
             const PerPane absorbed = glazed(at, glazing);
             at.temperature =
                 pane_temperatures(job.day.room, day.sun[i].outdoor, result.panes, absorbed);

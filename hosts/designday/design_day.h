@@ -23,11 +23,13 @@ struct SunHour {
 };
 
 struct WindowHour {
-    double incidence = none;                     // degrees; above 90 the sun is behind the window
+    double incidence = none;  // degrees; above 90 the sun is behind the window
+    double profile = none;  // degrees off the normal in the plane across slats, positive from above
     double direct = 0, diffuse = 0, ground = 0;  // W/m² on the plane of the window
     double direct_transmittance = none, direct_absorptance = none;  // none without direct sun
-    double transmitted = 0, absorbed = 0;                           // W/m²
-    PerPane temperature{};  // °C, pane nearest the room first
+    double transmitted = 0, absorbed = 0;  // W/m²; absorbed by the panes and the blind
+    double absorbed_by_blind = none;       // W/m²; none without a blind
+    PerPane temperature{};                 // °C, pane nearest the room first
 
     double incident() const { return direct + diffuse + ground; }
     double transmitted_fraction() const { return incident() > 0 ? transmitted / incident() : none; }

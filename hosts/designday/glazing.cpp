@@ -1,76 +1,67 @@
 #include "designday/glazing.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <numeric>
-#include <span>
+#include <vector>
 
+#include "common/angle.h"
 #include "common/library.h"
+#include "designday/blind.h"
 
 namespace quorvel::designday {
 namespace {
 
-// One pane for radiation of one kind (a direction and polarisation, or diffuse). Both sides are
-// taken to reflect alike; what is not transmitted or absorbed is reflected.
-struct Layer {
-    double transmittance, absorptance;
-
-    double reflectance() const { return 1.0 - transmittance - absorptance; }
-};
-
-// The balance of radiation between parallel panes with all reflections to and fro: seen from the
-// outside inwards, every gap passes on the sum of a geometric series.
-Fate through(std::span<const Layer> layers) {
-    const std::size_t n = layers.size();
-    std::array<double, most_panes + 1> behind{};  // reflectance of pane k and all behind it
-    const auto passed = [&](std::size_t k) {      // reaching pane k + 1 for 1 that reaches pane k
-        const double t = layers[k].transmittance;
-        return t > 0 ? t / (1.0 - layers[k].reflectance() * behind[k + 1]) : 0.0;
-    };
-    for (std::size_t k = n; k-- > 0;)
-        behind[k] = layers[k].reflectance() + layers[k].transmittance * behind[k + 1] * passed(k);
-
+// The panes and, before or behind them, the blind.
+Fate through(std::vector<Layer> layers, const std::optional<Blind>& blind, const Layer& screen) {
+    const std::size_t panes = layers.size();
+    const bool outside = blind && blind->outside;
+    if (blind) layers.insert(outside ? layers.begin() : layers.end(), screen);
+    const Passage passage = through(layers);
     Fate fate;
-    double arriving = 1.0;
-    for (std::size_t k = 0; k < n; ++k) {
-        const double next = arriving * passed(k);
-        fate.absorbed[k] = layers[k].absorptance * (arriving + next * behind[k + 1]);
-        arriving = next;
-    }
-    fate.transmitted = arriving;
+    fate.transmitted = passage.transmitted;
+    std::copy_n(passage.absorbed.begin() + outside, panes, fate.absorbed.begin());
+    if (blind) fate.absorbed_by_blind = passage.absorbed[outside ? 0 : panes];
+    return fate;
+}
+
+Fate mean(const Fate& a, const Fate& b, double weight_of_b = 1) {
+    const auto mean = [&](double x, double y) { return (x + weight_of_b * y) / (1 + weight_of_b); };
+    Fate fate{
+        mean(a.transmitted, b.transmitted), {}, mean(a.absorbed_by_blind, b.absorbed_by_blind)};
+    std::ranges::transform(a.absorbed, b.absorbed, fate.absorbed.begin(), mean);
     return fate;
 }
 
 // Glass keeps the plane of polarisation: either one goes through the panes for itself.
-Fate direct_through(const Panes& panes, float incidence) {
-    std::array<Layer, most_panes> parallel{}, perpendicular{};
-    for (std::size_t k = 0; k < panes.size(); ++k) {
+Fate direct_through(const Panes& panes, const std::optional<Blind>& blind, float incidence,
+                    float profile) {
+    std::vector<Layer> parallel, perpendicular;
+    for (const Pane& pane : panes) {
         float tp, ap, rp, ts, as, rs;
-        lib::WNDRGL(static_cast<float>(panes[k].transmittance),
-                    static_cast<float>(panes[k].reflectance), incidence, tp, ap, rp, ts, as, rs);
-        parallel[k] = {tp, ap};
-        perpendicular[k] = {ts, as};
+        lib::WNDRGL(static_cast<float>(pane.transmittance), static_cast<float>(pane.reflectance),
+                    incidence, tp, ap, rp, ts, as, rs);
+        parallel.push_back({tp, ap});
+        perpendicular.push_back({ts, as});
     }
-    Fate fate = through(std::span(parallel).first(panes.size()));
-    const Fate other = through(std::span(perpendicular).first(panes.size()));
-    fate.transmitted = (fate.transmitted + other.transmitted) / 2;
-    for (std::size_t k = 0; k < panes.size(); ++k)
-        fate.absorbed[k] = (fate.absorbed[k] + other.absorbed[k]) / 2;
-    return fate;
+    const Layer screen = blind ? in_direct_sun(*blind, profile) : Layer{};
+    return mean(through(parallel, blind, screen), through(perpendicular, blind, screen));
 }
 
-Fate diffuse_through(const Panes& panes) {
-    std::array<Layer, most_panes> layers{};
-    for (std::size_t k = 0; k < panes.size(); ++k) {
+std::vector<Layer> in_diffuse_radiation(const Panes& panes) {
+    std::vector<Layer> layers;
+    for (const Pane& pane : panes) {
         float t, a;
-        lib::WNDFGL(static_cast<float>(panes[k].transmittance),
-                    static_cast<float>(panes[k].reflectance), t, a);
-        layers[k] = {t, a};
+        lib::WNDFGL(static_cast<float>(pane.transmittance), static_cast<float>(pane.reflectance), t,
+                    a);
+        layers.push_back({t, a});
     }
-    return through(std::span(layers).first(panes.size()));
+    return layers;
 }
 
 Fate shared(double transmitted, double absorbed, const PerPane& shares) {
-    Fate fate{transmitted, shares};
+    Fate fate{transmitted, shares, 0};
     for (double& part : fate.absorbed) part *= absorbed;
     return fate;
 }
@@ -91,29 +82,45 @@ PerPane pane_shares(const ShadingCoefficients& glazing) {
 }  // namespace
 
 double Fate::absorbed_total() const {
-    return std::accumulate(absorbed.begin(), absorbed.end(), 0.0);
+    return std::accumulate(absorbed.begin(), absorbed.end(), 0.0) + absorbed_by_blind;
 }
 
-Glazing::Glazing(const std::variant<Panes, ShadingCoefficients>& description)
-    : description_(description) {
-    if (const auto* panes = std::get_if<Panes>(&description_)) {
+Glazing::Glazing(const Window& window) : window_(&window) {
+    if (const auto* panes = std::get_if<Panes>(&window.glazing)) {
         panes_ = static_cast<int>(panes->size());
-        diffuse_ = diffuse_through(*panes);
+        diffuse_through(*panes);
         return;
     }
-    const auto& glazing = std::get<ShadingCoefficients>(description_);
+    const auto& glazing = std::get<ShadingCoefficients>(window.glazing);
     panes_ = glazing.panes;
     shares_ = pane_shares(glazing);
     float t, a, r;
     lib::WNDFSC(static_cast<float>(glazing.short_wave), static_cast<float>(glazing.long_wave), t, a,
                 r);
-    diffuse_ = shared(t, a, shares_);
+    from_sky_ = from_ground_ = shared(t, a, shares_);
 }
 
-Fate Glazing::direct(float incidence) const {
-    if (const auto* panes = std::get_if<Panes>(&description_))
-        return direct_through(*panes, incidence);
-    const auto& glazing = std::get<ShadingCoefficients>(description_);
+// A vertical window has the sky in the upper half of its view and the ground in the lower. Tilted
+// upwards, it has by cos(tilt) as much sky in the lower half as in the upper, and downwards so of
+// the ground: as much again for a level one.
+void Glazing::diffuse_through(const Panes& panes) {
+    const std::vector<Layer> layers = in_diffuse_radiation(panes);
+    if (!window_->blind) {
+        from_sky_ = from_ground_ = through(layers, {}, {});
+        return;
+    }
+    const auto [above, below] = in_diffuse_radiation(*window_->blind);
+    const Fate upper = through(layers, window_->blind, above);
+    const Fate lower = through(layers, window_->blind, below);
+    const double cosine = std::cos(static_cast<double>(host::radians(window_->tilt)));
+    from_sky_ = mean(upper, lower, std::max(cosine, 0.0));
+    from_ground_ = mean(lower, upper, std::max(-cosine, 0.0));
+}
+
+Fate Glazing::direct(float incidence, float profile) const {
+    if (const auto* panes = std::get_if<Panes>(&window_->glazing))
+        return direct_through(*panes, window_->blind, incidence, profile);
+    const auto& glazing = std::get<ShadingCoefficients>(window_->glazing);
     float t, a, r;
     lib::WNDRSC(static_cast<float>(glazing.short_wave), static_cast<float>(glazing.long_wave),
                 incidence, t, a, r);

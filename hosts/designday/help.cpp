@@ -21,6 +21,12 @@ const char* const help_on_input = R"(The input file
                        6    1.00                1.00                0.2
    [sky]           "clear": deep blue, about 100 W/m² diffuse under a high sun (the default);
                    "bright": thin white haze, up to three times as much diffuse
+   [sky_model]     how the diffuse radiation from the sky falls on a tilted plane:
+                     "design"        evenly, less towards the north (the default)
+                     "perez"         brighter around the sun and near the horizon, after Perez
+                     "muneer"        brighter around the sun, after Muneer, by the kind of sky;
+                     "muneer-north"  his fits for northern and
+                     "muneer-south"  for southern Europe
    [utc_offset]    h, how far the clock is ahead of universal time, summer time included; given,
                    the clock time of the solar hours is told as well
 
@@ -30,6 +36,11 @@ const char* const help_on_input = R"(The input file
     outdoor_min    the day's lowest and
     outdoor_max    highest outdoor temperature, °C
    [hour_of_max]   hour of the highest, 13 to 18; 15 unless given
+    or, in place of these three,
+    climate        { file = "stations.dat", station = 3, percentage = 5 }: the temperatures at the
+                   two hours that a climate data file has for the month, at a percentage 0 to 100
+                   of its days in the order of its bands; also set = 1 (unless given) or 2, the
+                   set of bands. The file is looked for from the folder of the input file.
 
   [[window]]       one such table for each window, up to six
     name           such as "South"
@@ -45,14 +56,24 @@ const char* const help_on_input = R"(The input file
     shading        { short_wave = 0.45, long_wave = 0.08, panes = 2 }, the shading coefficients of a
                    whole glazing unit: its direct and its secondary gain in terms of a clear
                    single pane
+   [blind]         lowered all day; beside panes only:
+                     { kind = "slatted", side = "outside", spacing = 70, width = 80, angle = 30,
+                       absorptance = 0.4 }
+                   level slats inside or outside of the glass: spacing 5 to 500 and width 10 to
+                   500 mm; angle -90 to 90 degrees from the window's normal, positive with
+                   the outer edge lowered; absorptance of both faces, or [upper, lower]
+                     { kind = "roller", side = "inside", transmittance = 0.1, reflectance = 0.6 }
 
 How it is calculated
   Every full hour of solar time from 1 to 24: the sun's position; clear-sky direct and diffuse
   irradiance for the height, scaled by the site class; from these the irradiance on the window's
   plane, direct, from the sky and reflected by the ground. Direct sun meets the panes at its angle
   of incidence, in both polarisations, the rest comes from all sides; between the panes all
-  reflections to and fro are counted. Shares are of all that falls on the window. Pane
-  temperatures are those of a steady state between room, outdoor air and absorbed sun.
+  reflections to and fro are counted. A blind is one more layer, for direct sun at its angle in
+  the plane across the slats, for the sky and the ground from above and from below. Shares are of
+  all that falls on the window; what is absorbed includes the blind's part. Pane temperatures
+  are those of a steady state between room, outdoor air and the sun absorbed by the panes; the
+  heat of a blind is taken to stay on its side of the glass.
   The outdoor temperature rises by half a cosine from its minimum, at the full hour next to
   sunrise, to its maximum, and falls back by another. Totals of the day are sums over the hours.
 

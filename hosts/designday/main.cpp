@@ -25,8 +25,8 @@ const host::Description description{
 void design_day(int argc, char** argv) {
     const auto options = host::read_options(argc, argv, description);
     if (!options) return;
-    const designday::Job job = designday::read_job(options->input);
     host::load_library();
+    const designday::Job job = designday::read_job(options->input);
     const designday::DesignDay day = designday::calculate(job);
     std::cout << (options->csv ? designday::csv(day) : designday::report(job, day));
     if (!options->svg.empty()) designday::draw_chart(job, day, options->svg);

@@ -23,6 +23,30 @@ std::string watts(double value) {
     return text == "0" ? blank : text;
 }
 
+// The models' authors; the design sky's own goes without saying.
+std::string told(SkyModel model) {
+    switch (model) {
+        case SkyModel::design:
+            return "";
+        case SkyModel::perez:
+            return ", its diffuse part after Perez";
+        case SkyModel::muneer:
+            return ", its diffuse part after Muneer";
+        case SkyModel::muneer_north:
+            return ", its diffuse part after Muneer for northern Europe";
+        case SkyModel::muneer_south:
+            return ", its diffuse part after Muneer for southern Europe";
+    }
+    return "";
+}
+
+std::string told_of_climate(const Day& day) {
+    if (day.source.empty()) return "";
+    return "outdoor air from " + day.source + ": " + fixed(day.outdoor_min, 1) + " °C at " +
+           clock_time(*day.hour_of_min) + ", " + fixed(day.outdoor_max, 1) + " °C at " +
+           clock_time(day.hour_of_max) + " solar time\n";
+}
+
 std::string heading(const Job& job, const DesignDay& day) {
     const SiteConstants& site = day.constants;
     std::string text =
@@ -30,7 +54,8 @@ std::string heading(const Job& job, const DesignDay& day) {
     text += "site class " + std::to_string(job.site.site_class) + ": direct × " +
             fixed(site.beam_factor, 2) + ", diffuse × " + fixed(site.diffuse_factor, 2) +
             ", ground reflectance " + fixed(site.ground_reflectance, 2) + "; " +
-            (job.site.sky == 0 ? "clear" : "bright") + " sky\n";
+            (job.site.sky == 0 ? "clear" : "bright") + " sky" + told(job.site.sky_model) + '\n';
+    text += told_of_climate(job.day);
     text += sun_times(day) + "; declination " + fixed(day.declination, 1) + "°\n";
     text += "hours are solar time, the sun due south or north at 12";
     if (!std::isnan(day.solar_minus_clock))
@@ -52,7 +77,7 @@ std::string sun_table(const DesignDay& day) {
     return table.text();
 }
 
-std::vector<Column> window_columns(int panes) {
+std::vector<Column> window_columns(int panes, bool blind) {
     std::vector<Column> columns{
         {"", "hour"},
         {"", "incidence °"},
@@ -65,6 +90,7 @@ std::vector<Column> window_columns(int panes) {
         {"Absorbed", "fraction"},
         {"Absorbed", "W"},
     };
+    if (blind) columns.push_back({"Absorbed", "by blind W"});
     for (int pane = 1; pane <= panes; ++pane) {
         const char* side = pane == 1 ? " (room)" : "";
         columns.push_back({"Pane, °C", std::to_string(pane) + side});
@@ -73,7 +99,8 @@ std::vector<Column> window_columns(int panes) {
 }
 
 std::string window_table(const WindowDay& window) {
-    host::Table table(window_columns(window.panes));
+    const bool blind = window.window->blind.has_value();
+    host::Table table(window_columns(window.panes, blind));
     for (std::size_t i = 0; i < window.at.size(); ++i) {
         const WindowHour& at = window.at[i];
         std::vector<std::string> cells{
@@ -88,6 +115,7 @@ std::string window_table(const WindowDay& window) {
             fixed(at.absorbed_fraction(), 2),
             watts(window.window->area * at.absorbed),
         };
+        if (blind) cells.push_back(watts(window.window->area * at.absorbed_by_blind));
         for (const double temperature : window.panes_at(i)) cells.push_back(fixed(temperature, 1));
         table.add(std::move(cells));
     }
@@ -108,10 +136,18 @@ std::string totals(const WindowDay& window) {
            kilowatt_hours(transmitted_energy(window)) + " transmitted" + told(peak_of(window));
 }
 
+std::string told(const std::optional<Blind>& blind) {
+    if (!blind) return "";
+    const bool slatted = std::holds_alternative<Slats>(blind->make);
+    return std::string(slatted ? ", slatted" : ", roller") + " blind " +
+           (blind->outside ? "outside" : "inside");
+}
+
 std::string window_heading(const WindowDay& window) {
     const std::string panes =
         std::to_string(window.panes) + (window.panes == 1 ? " pane" : " panes");
-    return window.window->name + ": " + size_and_facing(*window.window) + ", " + panes + '\n';
+    return window.window->name + ": " + size_and_facing(*window.window) + ", " + panes +
+           told(window.window->blind) + '\n';
 }
 
 std::string all_windows(const DesignDay& day) {

@@ -12,18 +12,21 @@ WINDOW = {"name": "South", "orientation": 180, "area": 2, "panes": [CLEAR, CLEAR
 def window(name, orientation, **keys):
     if "shading" in keys:
         keys["panes"] = None
-    merged = WINDOW | {"name": name, "orientation": orientation} | keys
-    return {key: value for key, value in merged.items() if value is not None}
+    return given(WINDOW | {"name": name, "orientation": orientation} | keys)
+
+
+def given(keys):
+    return {key: value for key, value in keys.items() if value is not None}
 
 
 def job(*windows, site=None, day=None):
-    return (host.table("[site]", SITE | (site or {})) + host.table("[day]", DAY | (day or {})) +
+    return (host.table("[site]", SITE | (site or {})) + host.table("[day]", given(DAY | (day or {}))) +
             "".join(host.table("[[window]]", keys) for keys in windows or [WINDOW]))
 
 
-def hours(*windows, site=None, day=None):
+def hours(*windows, site=None, day=None, files=None):
     """By window name, the rows of the 24 hours; [11] is noon."""
-    process = host.run("--csv", "job.toml", files={"job.toml": job(*windows, site=site, day=day)})
+    process = host.run("--csv", "job.toml", files={"job.toml": job(*windows, site=site, day=day)} | (files or {}))
     assert process.returncode == 0, process.stderr.decode()
     by_name = {}
     for row in host.rows(process.stdout.decode()):

@@ -25,6 +25,20 @@ def panes(text):
     return changed("panes", text)
 
 
+def blind(**keys):
+    slats = {"kind": "slatted", "side": "inside", "spacing": 20, "width": 25, "angle": 0, "absorptance": 0.5}
+    return GOOD + f"blind = {host.toml({key: value for key, value in (slats | keys).items() if value is not None})}\n"
+
+
+def roller(transmittance, reflectance):
+    return blind(kind="roller", spacing=None, width=None, angle=None, absorptance=None,
+                 transmittance=transmittance, reflectance=reflectance)
+
+
+def climate(keys):
+    return without(without(changed("room", f"20\nclimate = {keys}"), "outdoor_min"), "outdoor_max")
+
+
 # What is wrong; what the one line must name after "job.toml:LINE: ".
 BAD = [
     (changed("latitude", "95"), "site.latitude: value 95; allowed -90 to 90 degrees north"),
@@ -61,6 +75,28 @@ BAD = [
     (without(GOOD, "panes") + "shading = { short_wave = 0.5, long_wave = 0.1, panes = 6 }\n",
      "window[1].shading.panes: value 6; allowed whole numbers 1 to 5"),
     (without(GOOD, "panes") + "shading = 0.5\n", "window[1].shading: value 0.5; allowed a table"),
+    (without(GOOD, "panes") + 'shading = { short_wave = 0.5, long_wave = 0, panes = 1 }\nblind = {}\n',
+     "window[1].blind: needs panes; shading"),
+    (GOOD + "blind = 1\n", "window[1].blind: value 1; allowed a table"),
+    (GOOD + "blind = {}\n", "window[1].blind: needs kind (slatted, roller) and side (inside, outside)"),
+    (blind(kind="curtain"), 'window[1].blind.kind: value "curtain"; allowed slatted, roller'),
+    (blind(side="between"), 'window[1].blind.side: value "between"; allowed inside, outside'),
+    (blind(width=None), "window[1].blind: missing width"),
+    (blind(reflectance=0.5), "window[1].blind.reflectance: unknown key; known are kind, side, spacing"),
+    (blind(spacing=0), "window[1].blind.spacing: value 0; allowed 5 to 500 mm"),
+    (blind(width=0.025), "window[1].blind.width: value 0.025; allowed 10 to 500 mm"),
+    (blind(angle=91), "window[1].blind.angle: value 91; allowed -90 to 90 degrees off the normal"),
+    (blind(absorptance=1.1), "window[1].blind.absorptance: value 1.1; allowed 0 to 1"),
+    (blind(absorptance=[0.5]), "window[1].blind.absorptance: value list of 1; allowed 2 numbers"),
+    (roller(0.4, 0.7), "window[1].blind.reflectance: value 0.7; allowed 0 to 0.6 beside"),
+    (changed("class", '5\nsky_model = "isotropic"'), 'site.sky_model: value "isotropic"; allowed design, perez, muneer'),
+    (changed("room", "20\nclimate = {}"), "day.climate: stands in place of outdoor_min, outdoor_max"),
+    (climate("{}"), "day.climate: missing file, station, percentage"),
+    (climate('{ file = "", station = 1, percentage = 5 }'), 'day.climate.file: value ""; allowed text of 1 to 400'),
+    (climate('{ file = "a", station = 0, percentage = 5 }'), "day.climate.station: value 0; allowed whole numbers 1 to 9999"),
+    (climate('{ file = "a", station = 1, percentage = 101 }'), "day.climate.percentage: value 101; allowed 0 to 100 %"),
+    (climate('{ file = "a", station = 1, percentage = 5, set = 3 }'), "day.climate.set: value 3; allowed whole numbers 1 to 2"),
+    (climate('{ file = "a", station = 1, percentage = 5 }'), "day.climate.file: a cannot be read"),
     (changed("latitude", "50\nlattitude = 50"), "site.lattitude: unknown key; known are name, latitude"),
     (changed("latitude", '50\n"odd\\nkey" = 1'), "site.odd key: unknown key"),
     (without(without(GOOD, "latitude"), "height"), "site: missing latitude, height"),
@@ -136,7 +172,8 @@ class Output(host.ReportCase, unittest.TestCase):
         process = host.run("--help")
         self.assertEqual(process.returncode, 0)
         text = process.stdout.decode()
-        for key in ("latitude", "class", "utc_offset", "hour_of_max", "transmittance", "short_wave", "--svg"):
+        for key in ("latitude", "class", "utc_offset", "hour_of_max", "transmittance", "short_wave", "sky_model",
+                    "climate", "blind", "absorptance", "--svg"):
             self.assertIn(key, text)
         self.assertLessEqual(max(map(len, text.splitlines())), 100)
 
