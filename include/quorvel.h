@@ -515,8 +515,7 @@ QUORVEL_API float CLMODUL(const int32_t *day, const float *altitude,
  * Notes:
  *     - The air mass is that of Kasten and Young with the altitude in radians in place of degrees:
  *       16 % too small for the sun at 2.5 degrees, 4 % at 30 and 2 % in the zenith; kept.
- *     - The circumsolar part is not below 0, the horizon's part may be: a surface turned from the
- *       sun under a brilliant sky can come out negative.
+ *     - The circumsolar part is not below 0, the horizon's part may be; the sum is not limited.
  *     - Computed in double precision, coefficients and limits included; a clearness on the limit of
  *       two rows of coefficients belongs to the lower. The result jumps between rows, as the
  *       published model does.
@@ -2253,7 +2252,7 @@ QUORVEL_API void WNDRS3(const float *s, const float *w, const float *beta, const
  *     a_sky     float  1    absorptance for radiation from above the horizon
  *     a_ground  float  1    absorptance for radiation from below it
  * Notes:
- *     - The bits are those of WNDRSL summed over the bands, 2.7 times faster than so.
+ *     - The bits are those of WNDRSL summed over the bands.
  *     - Slats at an angle of 5, 15, ... 85 degrees have a band within 0.01 rad of their plane,
  *       which passes whole.
  *     - The opposite angle swaps sky and ground.

@@ -167,7 +167,8 @@ TEST_F(ClimateFileReads, AFailureAnywhereLeavesWholeMonthsAndASoundState) {
             // The buffer has what it says, and the frequencies are those of one set or none.
             if (fresh.buffered > 0) {
                 const auto begin = static_cast<std::size_t>(fresh.buffered - 1) * sizeof(Record);
-                EXPECT_EQ(std::memcmp(&fresh.buffer, &disk.content[begin], sizeof(Record)), 0);
+                EXPECT_TRUE(std::ranges::equal(std::as_bytes(std::span(fresh.buffer)),
+                                               disk.content.subspan(begin, sizeof(Record))));
             }
             const bool loaded = fresh.frequencies[0][0] != 0.0f;
             EXPECT_EQ(fresh.frequencies[9][11] != 0.0f, loaded);

@@ -123,6 +123,7 @@ TEST_F(ClimateFileState, SixteenThreadsGetWhatOneGets) {
     }
     std::array<int, threads> differing{};
     std::vector<std::thread> pool;
+    pool.reserve(threads);
     for (int i = 0; i < threads; ++i)
         pool.emplace_back([&, i] {
             const auto own = static_cast<std::size_t>(i);

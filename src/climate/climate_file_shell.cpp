@@ -18,7 +18,9 @@ struct Call {
     climate::ClimateFileReader<climate::RecordFile> file{state};
 };
 
-// A month's record: 11 reals, the last two of them given.
+// Of a month's record the last two are given.
+constexpr std::ptrdiff_t reals_per_record = 11;
+
 bool fill(Real* record, Integer month, Call& call) {
     const auto climate =
         call.file.climate(0, record[10] / 100.0f, month, climate::rounded_set(record[9]));
@@ -37,7 +39,7 @@ void CLBNF0(const char* file, const Integer* station, const Integer* month, Real
     const Integer first = *month == 0 ? 1 : table_row(*month, 12) + 1;
     const Integer last = *month == 0 ? 12 : first;
     for (Integer m = first; m <= last; ++m)
-        if (!fill(records + 11 * (m - 1), m, call)) return;
+        if (!fill(records + reals_per_record * (m - 1), m, call)) return;
 }
 
 void CLBNFI(const Integer* unit, const Integer* station, const Integer* band, const Integer* month,

@@ -47,38 +47,46 @@ inline constexpr double perez_right_angle = 1.570796327;
 inline constexpr double perez_degree = 0.01745329238474369;
 static_assert(perez_degree == static_cast<double>(0.01745329238474369f));
 
-// After F. Kasten and A. T. Young, Applied Optics 28 (1989), who mean the altitude in degrees. Here
-// it is in radians: kept. The result is right at the horizon, 16 % too small at 2.5 degrees, 4 % at
-// 30 and 2 % in the zenith.
-inline double perez_air_mass(double altitude, double sin_altitude) noexcept {
-    // x^y through the logarithm, a third of the time of a power that is right to the last bit
-    const double power = math::exp(-1.6364 * math::log(altitude + 6.07995));
-    return 1.0 / (sin_altitude + 0.50572 * power);
-}
-
-// cos Z, from the sine of the altitude at hand where Z has not lost digits of it.
-inline double perez_cos_zenith(double altitude, double sin_altitude, double Z) noexcept {
-    constexpr double off_right_angle = 0x1.921fb54442d18p0 - perez_right_angle;
-    if (!(std::fabs(altitude) <= perez_right_angle)) return math::cos(Z);
-    return sin_altitude + off_right_angle * math::sqrt(1.0 - sin_altitude * sin_altitude);
-}
-
-// sin x, from cos x/2 where this does not cancel.
-inline double sine_from_half_angle(double x, double cos_half) noexcept {
-    if (!(x > 0.1 && x < 3.2)) return math::sin(x);
-    return 2.0 * cos_half * math::sqrt(1.0 - cos_half * cos_half);
-}
-
 struct PerezSky {
     Real altitude;                 // of the sun [rad]
     Real beam, diffuse;            // irradiance on the horizontal [W/m²]
     Real extraterrestrial_normal;  // irradiance [W/m²]
 };
 
-// On a surface by its tilt and the sun's angle of incidence [rad]. The functions that stand in
-// above for slower ones err by some 1e-15, which rounding to single precision hides: of 6e7 random
-// skies none came out otherwise.
-inline Real perez_diffuse(const PerezSky& sky, Real tilt, Real incidence) noexcept {
+// The elementary functions of the model as they stand in its formulas.
+struct PerezAsWritten {
+    static double power(double x, double y) noexcept { return math::pow(x, y); }
+    static double cos_zenith(double, double Z, double) noexcept { return math::cos(Z); }
+    static double sin_tilt(double tilt, double) noexcept { return math::sin(tilt); }
+};
+
+// The same in half the time, to within some 1e-15 of their values where they do not call the
+// others.
+struct PerezQuick {
+    static double power(double x, double y) noexcept { return math::exp(y * math::log(x)); }
+    // From the sine of the altitude, where Z has not lost digits of it.
+    static double cos_zenith(double altitude, double Z, double sin_altitude) noexcept {
+        constexpr double off_right_angle = 0x1.921fb54442d18p0 - perez_right_angle;
+        if (!(std::fabs(altitude) <= perez_right_angle)) return math::cos(Z);
+        return sin_altitude + off_right_angle * math::sqrt(1.0 - sin_altitude * sin_altitude);
+    }
+    // From cos tilt/2, where this does not cancel.
+    static double sin_tilt(double tilt, double cos_half) noexcept {
+        if (!(tilt > 0.1 && tilt < 3.2)) return math::sin(tilt);
+        return 2.0 * cos_half * math::sqrt(1.0 - cos_half * cos_half);
+    }
+};
+
+// Share of the horizontal diffuse irradiance, and a bound of how much its terms add up to.
+struct PerezShare {
+    double value, magnitude;
+};
+
+// The air mass is after F. Kasten and A. T. Young, Applied Optics 28 (1989), who mean the altitude
+// in degrees. Here it is in radians: kept. It is right at the horizon, 16 % too small at 2.5
+// degrees, 4 % at 30 and 2 % in the zenith.
+template <class Functions>
+PerezShare perez_share(const PerezSky& sky, double tilt, double incidence) noexcept {
     const auto altitude = static_cast<double>(sky.altitude);
     const auto beam = static_cast<double>(sky.beam);
     const auto diffuse = static_cast<double>(sky.diffuse);
@@ -86,8 +94,9 @@ inline Real perez_diffuse(const PerezSky& sky, Real tilt, Real incidence) noexce
     const double Z = perez_right_angle - altitude;
     const double Zd = Z / perez_degree;
 
-    const double brightness = perez_air_mass(altitude, sin_altitude) * diffuse /
-                              static_cast<double>(sky.extraterrestrial_normal);
+    const double air_mass =
+        1.0 / (sin_altitude + 0.50572 * Functions::power(altitude + 6.07995, -1.6364));
+    const double brightness = air_mass * diffuse / static_cast<double>(sky.extraterrestrial_normal);
     const double cube_term = 5.534e-06 * (Zd * Zd * Zd);
     const double clearness =
         ((beam / sin_altitude + diffuse) / diffuse + cube_term) / (1.0 + cube_term);
@@ -95,13 +104,29 @@ inline Real perez_diffuse(const PerezSky& sky, Real tilt, Real incidence) noexce
     const double F1 = std::max(f.f11 + f.f12 * brightness + f.f13 * Z, 0.0);
     const double F2 = f.f21 + f.f22 * brightness + f.f23 * Z;
 
-    const auto beta = static_cast<double>(tilt);
-    const double cos_half = math::cos(beta / 2.0);
-    const double towards_sun = std::max(math::cos(static_cast<double>(incidence)), 0.0);
-    const double cos_zenith = std::max(perez_cos_zenith(altitude, sin_altitude, Z), 0.0871557);
-    return static_cast<Real>(diffuse *
-                             (cos_half * cos_half * (1.0 - F1) + F1 * towards_sun / cos_zenith +
-                              F2 * sine_from_half_angle(beta, cos_half)));
+    const double cos_half = math::cos(tilt / 2.0);
+    const double dome = cos_half * cos_half;
+    const double towards_sun = std::max(math::cos(incidence), 0.0);
+    const double zenith = std::max(Functions::cos_zenith(altitude, Z, sin_altitude), 0.0871557);
+    const double sin_tilt = Functions::sin_tilt(tilt, cos_half);
+    // No coefficient exceeds 2. Below the horizon the air mass may lose all its digits.
+    const double bound =
+        2.0 + 2.0 * std::fabs(Z) + 2.0 * std::fabs(brightness) * (1.0 + std::fabs(air_mass));
+    return {dome * (1.0 - F1) + F1 * towards_sun / zenith + F2 * sin_tilt,
+            bound * (1.0 + dome + towards_sun / zenith)};
+}
+
+// On a surface by its tilt and the sun's angle of incidence [rad]. Nearly always the quick
+// functions leave no doubt about the rounding; where they do, those of the formulas decide.
+inline Real perez_diffuse(const PerezSky& sky, Real tilt, Real incidence) noexcept {
+    const auto beta = static_cast<double>(tilt), theta = static_cast<double>(incidence);
+    const auto diffuse = static_cast<double>(sky.diffuse);
+    const auto [share, magnitude] = perez_share<PerezQuick>(sky, beta, theta);
+    const double doubt = 1.0e-13 * magnitude;
+    const auto lower = static_cast<Real>(diffuse * (share - doubt));
+    const auto upper = static_cast<Real>(diffuse * (share + doubt));
+    if (lower == upper && std::fabs(share) > doubt) return lower;
+    return static_cast<Real>(diffuse * perez_share<PerezAsWritten>(sky, beta, theta).value);
 }
 
 }  // namespace quorvel::climate

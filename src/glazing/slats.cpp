@@ -95,12 +95,13 @@ SlatDiffuse slat_diffuse(const SlatBlind& blind) noexcept {
     const Real angle = degree * blind.angle;
     const Real slat_sine = math::sin(angle);
     const Gap gap = gap_between(blind, slat_sine), mirrored = gap_between(blind, -slat_sine);
-    std::array<Real, 2 * profile_band_count> to_slats, sines;
+    constexpr int beams = 2 * profile_band_count;  // from the sky, then from the ground
+    std::array<Real, beams> to_slats, sines;
     for (int k = 0; k < profile_band_count; ++k) {
-        to_slats[2 * k] = profile_band_centre(k) + angle;
-        to_slats[2 * k + 1] = -profile_band_centre(k) + angle;
+        to_slats[k] = profile_band_centre(k) + angle;
+        to_slats[k + profile_band_count] = -profile_band_centre(k) + angle;
     }
-    for (std::size_t i = 0; i < sines.size(); ++i) sines[i] = math::sin(std::fabs(to_slats[i]));
+    for (int i = 0; i < beams; ++i) sines[i] = math::sin(std::fabs(to_slats[i]));
 
     const auto beam = [&](int i, Real cosine) {
         return beam_through_blind(blind, to_slats[i] <= 0.0f ? mirrored : gap, to_slats[i],
@@ -109,7 +110,7 @@ SlatDiffuse slat_diffuse(const SlatBlind& blind) noexcept {
     SlatDiffuse sum{};
     for (int k = 0; k < profile_band_count; ++k) {
         const auto [cosine, weight] = profile_bands[k];
-        const Optics sky = beam(2 * k, cosine), ground = beam(2 * k + 1, cosine);
+        const Optics sky = beam(k, cosine), ground = beam(k + profile_band_count, cosine);
         sum.sky_transmittance += weight * sky.transmittance;
         sum.ground_transmittance += weight * ground.transmittance;
         sum.sky_absorptance += weight * sky.absorptance;

@@ -56,7 +56,7 @@ class ClimateFile {
             const int first = month == 0 ? 1 : std::clamp(month, 1, 12);
             const int last = month == 0 ? 12 : first;
             for (int m = first; m <= last; ++m)
-                if (!fill(records + 11 * (m - 1), m)) break;
+                if (!fill(&records[std::size_t{11} * (m - 1)], m)) break;
         }
         file_.reset();
     }

@@ -22,8 +22,9 @@ inline float CLPERSKY(float altitude, float tilt, float beam_horizontal, float d
         {1.0601591, -1.5999137, -0.3589221, 0.2642124, -1.127234, 0.1310694},
         {0.677747, -0.3272588, -0.2504286, 0.1561313, -1.3765031, 0.2506212},
     };
-    const double alpha = altitude, beta = tilt, theta = incidence;
-    const double beam = beam_horizontal, diffuse = diffuse_horizontal;
+    const auto alpha = static_cast<double>(altitude), beta = static_cast<double>(tilt);
+    const auto beam = static_cast<double>(beam_horizontal);
+    const auto diffuse = static_cast<double>(diffuse_horizontal);
     const double Z = 1.570796327 - alpha, Zd = Z / 0.01745329238474369;
     const double m = 1.0 / (math::sin(alpha) + 0.50572 * math::pow(alpha + 6.07995, -1.6364));
     const double brightness = m * diffuse / static_cast<double>(extraterrestrial);
@@ -35,7 +36,7 @@ inline float CLPERSKY(float altitude, float tilt, float beam_horizontal, float d
     double F1 = f[bin][0] + f[bin][1] * brightness + f[bin][2] * Z;
     if (F1 < 0.0) F1 = 0.0;
     const double F2 = f[bin][3] + f[bin][4] * brightness + f[bin][5] * Z;
-    double a = math::cos(theta), b = math::cos(Z);
+    double a = math::cos(static_cast<double>(incidence)), b = math::cos(Z);
     if (a < 0.0) a = 0.0;
     if (b < 0.0871557) b = 0.0871557;
     const double c = math::cos(beta / 2.0);

@@ -11,7 +11,7 @@
 namespace quorvel::test {
 namespace {
 
-constexpr int words_per_record = record_bytes / 4;
+constexpr std::int64_t words_per_record = record_bytes / 4;
 
 constexpr int rows_per_set = 82;
 constexpr int example_stations = 100;
@@ -31,7 +31,7 @@ std::int64_t ClimateFileImage::record_of(std::int64_t station, int row) const {
 
 std::size_t ClimateFileImage::word(int station, int row, int month) const {
     const auto words_before = (record_of(station, row) - 1) * words_per_record;
-    return static_cast<std::size_t>(words_before + row % 9 * 12 + month - 1);
+    return static_cast<std::size_t>(words_before + std::int64_t{12} * (row % 9) + month - 1);
 }
 
 float ClimateFileImage::value(int station, int row, int month) const {
@@ -69,7 +69,7 @@ void ClimateFileImage::fill(int station, Random& random) {
 void ClimateFileImage::save(const std::filesystem::path& path) const {
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file.write(reinterpret_cast<const char*>(words_.data()),
-               static_cast<std::streamsize>(4 * words_.size()));
+               static_cast<std::streamsize>(sizeof words_[0] * words_.size()));
     if (!file.flush()) throw std::runtime_error("cannot write " + path.string());
 }
 

@@ -11,7 +11,7 @@
 
 namespace quorvel::test {
 
-inline constexpr int record_bytes = 432;
+inline constexpr std::int64_t record_bytes = 432;
 
 // A file's content, to be filled value by value. It ends with the last row of the last station; all
 // that has no value yet is random, as the unused parts of real files may be.

@@ -17,14 +17,11 @@ class LibraryCopy {
     LibraryCopy();
     ~LibraryCopy();
 
-#define QUORVEL_ROUTINE(name) \
-    const host::Routine<decltype(&::name)> name { find(#name) }
-    QUORVEL_ROUTINE(CLBNF0);
-    QUORVEL_ROUTINE(CLBNFI);
-    QUORVEL_ROUTINE(CLBNF1);
-    QUORVEL_ROUTINE(CLBNF2);
-    QUORVEL_ROUTINE(CLBNF3);
-#undef QUORVEL_ROUTINE
+    const host::Routine<decltype(&::CLBNF0)> CLBNF0{find("CLBNF0")};
+    const host::Routine<decltype(&::CLBNFI)> CLBNFI{find("CLBNFI")};
+    const host::Routine<decltype(&::CLBNF1)> CLBNF1{find("CLBNF1")};
+    const host::Routine<decltype(&::CLBNF2)> CLBNF2{find("CLBNF2")};
+    const host::Routine<decltype(&::CLBNF3)> CLBNF3{find("CLBNF3")};
 };
 
 }  // namespace quorvel::test
