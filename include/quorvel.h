@@ -1854,6 +1854,107 @@ QUORVEL_API void GESIDE(const float *a, const float *b, const float *x, const fl
  */
 QUORVEL_API void GEINSI(const float *p, const float *v, const int32_t *n, int32_t *inside);
 
+/*
+ * HOHOLEDP (clip): Difference A - B and overlap of two simple polygons A and B in plan, in double
+ *     precision.
+ * Given:
+ *     x      double   m  -10 .. 10  x of the pool of points; new points are appended [nmax]
+ *     y      double   m  -10 .. 10  y of the pool of points [nmax]
+ *     na     int32_t     3 .. 6     number of vertices of A, from 3
+ *     ia     int32_t     1 .. 30    vertices of A: positions in the pool, from 1 [na]
+ *     nb     int32_t     3 .. 6     number of vertices of B, from 3
+ *     ib     int32_t     1 .. 30    vertices of B [nb]
+ *     nmax   int32_t     30 .. 50   capacity of the pool
+ *     kmax   int32_t     1 .. 20    most crossings of A and B to deal with, up to 1024
+ *     ldif   int32_t     1 .. 50    capacity of dif
+ *     lovl   int32_t     1 .. 50    capacity of ovl
+ *     npool  int32_t     30 .. 50   points in use in the pool
+ * Returned:
+ *     x      double   m  -10 .. 10  x of the pool of points; new points are appended [nmax]
+ *     y      double   m  -10 .. 10  y of the pool of points [nmax]
+ *     npool  int32_t     30 .. 50   points in use in the pool
+ *     dif    int32_t                pieces of A - B [ldif]
+ *     ovl    int32_t                pieces of the overlap [lovl]
+ *     ierr   int32_t                0 success, else what went wrong
+ * Notes:
+ *     - A list of pieces is, for each piece, its number of vertices and their positions in the
+ *       pool, and at last a 0, which counts in its capacity. The pieces run in the sense of A. A
+ *       list without room for the 0 is not written.
+ *     - Where B lies within A the difference is two pieces, cut along level bridges from the
+ *       leftmost and the rightmost vertex of B. The negative of a position marks a vertex from
+ *       which a bridge leads to the next one.
+ *     - The polygons may run either way, touch, and have vertices and edges in common; repeated
+ *       vertices are let be. B is moved off A where they touch: contact within a tolerance of 1e-4
+ *       of the diagonal of the box round both counts as none, and the areas are exact to about this
+ *       times the length of the boundaries. The areas of difference and overlap add up to that of A
+ *       to rounding.
+ *     - ierr = 1 or 2: A or B has fewer than 3 vertices, or one that is not in the pool (up to
+ *       npool and nmax). 3 or 4: A or B crosses itself. 5: A has no area to speak of (25 square
+ *       tolerances). B without area is nothing to subtract.
+ *     - ierr = 6: more than kmax crossings. 7: the pool is full. 8 or 9: an edge of A or B carries
+ *       more than 10 crossings, or has no length to sort them along. 10 or 11: dif or ovl is full.
+ *       109: no bridge, for polygons with coordinates that are not numbers. In no case does
+ *       anything happen beyond what the capacities allow. A failure leaves lists and pool as they
+ *       are by then.
+ *     - Two edges of A that meet in a reflex corner sharper than about 60 degrees, with a vertex of
+ *       B in the corner: there an overlap can come out wrong.
+ * Source: Boundary tracing from crossing to crossing: K. Weiler, P. Atherton, Hidden surface
+ *     removal using polygon area sorting, 1977.
+ */
+QUORVEL_API void HOHOLEDP(double *x, double *y, const int32_t *na, const int32_t *ia,
+                          const int32_t *nb, const int32_t *ib, const int32_t *nmax,
+                          const int32_t *kmax, const int32_t *ldif, const int32_t *lovl,
+                          int32_t *npool, int32_t *dif, int32_t *ovl, int32_t *ierr);
+
+/*
+ * GEOVER (overlap): Pieces and area of the overlap of two simple polygons in plan.
+ * Given:
+ *     xa  float    m  -10 .. 10  x of polygon 1 [na]
+ *     ya  float    m  -10 .. 10  y of polygon 1 [na]
+ *     na  int32_t     3 .. 6     number of vertices of polygon 1, from 3
+ *     xb  float    m  -10 .. 10  x of polygon 2 [nb]
+ *     yb  float    m  -10 .. 10  y of polygon 2 [nb]
+ *     nb  int32_t     3 .. 6     number of vertices of polygon 2, from 3
+ * Returned:
+ *     xout  float    m     x of the vertices of the pieces, a column each; 0 beyond them [25, 5]
+ *     yout  float    m     y of the vertices of the pieces [25, 5]
+ *     nout  int32_t        number of vertices of each piece, 0 beyond the last [5]
+ *     area  float    m²    area of the overlap
+ * Notes:
+ *     - The overlap of HOHOLEDP with polygon 2 as A and polygon 1 as B, and with its accuracy. The
+ *       pieces run in the sense of polygon 2.
+ *     - A coordinate nearer to 0 than 1e-4 is taken as 0.
+ *     - The outputs are all 0 where the polygons do not overlap, and where HOHOLEDP fails: a
+ *       polygon that crosses itself, more than 10 crossings, more than 50 vertices and crossings in
+ *       all. Likewise for more than 5 pieces, or more than 24 vertices in one.
+ * Source: As HOHOLEDP.
+ */
+QUORVEL_API void GEOVER(const float *xa, const float *ya, const int32_t *na, const float *xb,
+                        const float *yb, const int32_t *nb, float *xout, float *yout,
+                        int32_t *nout, float *area);
+
+/*
+ * GEHOLE (overlap_alias): The same as GEOVER.
+ * Given:
+ *     xa  float    m  -10 .. 10  x of polygon 1 [na]
+ *     ya  float    m  -10 .. 10  y of polygon 1 [na]
+ *     na  int32_t     3 .. 6     number of vertices of polygon 1, from 3
+ *     xb  float    m  -10 .. 10  x of polygon 2 [nb]
+ *     yb  float    m  -10 .. 10  y of polygon 2 [nb]
+ *     nb  int32_t     3 .. 6     number of vertices of polygon 2, from 3
+ * Returned:
+ *     xout  float    m     x of the vertices of the pieces, a column each; 0 beyond them [25, 5]
+ *     yout  float    m     y of the vertices of the pieces [25, 5]
+ *     nout  int32_t        number of vertices of each piece, 0 beyond the last [5]
+ *     area  float    m²    area of the overlap
+ * Notes:
+ *     - As GEOVER, in all.
+ * Source: As HOHOLEDP.
+ */
+QUORVEL_API void GEHOLE(const float *xa, const float *ya, const int32_t *na, const float *xb,
+                        const float *yb, const int32_t *nb, float *xout, float *yout,
+                        int32_t *nout, float *area);
+
 /* ---- Glazing --------------------------------------------------------------------------------- */
 
 /*

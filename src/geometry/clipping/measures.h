@@ -1,0 +1,61 @@
+// What one walk round a ring tells about it.
+#pragma once
+
+#include <cmath>
+
+#include "geometry/clipping/ring.h"
+
+namespace quorvel::geometry::clipping {
+
+struct Box {
+    Point low{1.0e38, 1.0e38}, high{-1.0e38, -1.0e38};
+
+    constexpr bool holds(const Box& box) const noexcept {
+        return low.x <= box.low.x && box.high.x <= high.x && low.y <= box.low.y &&
+               box.high.y <= high.y;
+    }
+    constexpr Point middle() const noexcept { return 0.5 * (low + high); }
+
+    // The most that the cross product of a direction with the way to a point of the box differs
+    // from that with the way to its middle.
+    DoubleReal reach(Point direction) const noexcept {
+        const Point half = 0.5 * (high - low);
+        return std::fabs(direction.x) * half.y + std::fabs(direction.y) * half.x;
+    }
+
+    constexpr void include(Point p) noexcept {
+        low = {std::min(low.x, p.x), std::min(low.y, p.y)};
+        high = {std::max(high.x, p.x), std::max(high.y, p.y)};
+    }
+    constexpr void include(const Box& box) noexcept {
+        low = {std::min(low.x, box.low.x), std::min(low.y, box.low.y)};
+        high = {std::max(high.x, box.high.x), std::max(high.y, box.high.y)};
+    }
+};
+
+struct Measures {
+    Box box;
+    DoubleReal area;  // positive when clockwise; not finite if a coordinate is not
+    DoubleReal least_turn, greatest_turn;  // cross products of edges that follow one another
+    Integer half_turns;                    // of the edges' directions
+
+    explicit Measures(const Ring& ring) noexcept;
+
+    bool finite() const noexcept { return area - area == 0.0; }
+};
+
+// Length below which points count as one: a ten-thousandth of the diagonal of the box round both.
+inline DoubleReal tolerance(const Measures& a, const Measures& b) noexcept {
+    Box box = a.box;
+    box.include(b.box);
+    return 0.0001 * length(box.high - box.low);
+}
+
+// Much farther from one another than anything within the tolerance matters.
+inline bool far_apart(const Measures& a, const Measures& b, DoubleReal tolerance) noexcept {
+    const DoubleReal x = std::max(a.box.low.x - b.box.high.x, b.box.low.x - a.box.high.x);
+    const DoubleReal y = std::max(a.box.low.y - b.box.high.y, b.box.low.y - a.box.high.y);
+    return std::max(x, y) > 10.0 * tolerance && a.finite() && b.finite();
+}
+
+}  // namespace quorvel::geometry::clipping
