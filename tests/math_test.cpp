@@ -9,6 +9,7 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -191,6 +192,7 @@ TEST(CorrectRounding, OfPowersOnMidpointsGoesToEven) {
     EXPECT_EQ(own::pow(0x1p-149f, 1.0f), 0x1p-149f);
     EXPECT_EQ(own::pow(0x1p-75f, 2.0f), 0.0f);         // half the smallest number
     EXPECT_EQ(own::pow(0x1.8p-74f, 2.0f), 0x1p-147f);  // 4.5 times the smallest
+    EXPECT_EQ(own::pow(0x1.fffffep0f, 128.0f), 0x1.ffffp127f);
     // a quotient halfway between subnormals has an arc tangent just below
     EXPECT_EQ(own::atan2(3 * 0x1p-149f, 2.0f), 0x1p-149f);
 }
@@ -202,6 +204,48 @@ TEST(CorrectRounding, OfWholePowersOfTen) {
         EXPECT_EQ(own::log10(power), static_cast<float>(n));
         EXPECT_EQ(own::pow(10.0f, static_cast<float>(n)), power);
     }
+}
+
+// A function in its forms for a single value and for loops
+struct Forms {
+    const char* name;
+    float (*single)(float);
+    float (*in_loop)(float);
+};
+#define FORMS(f)                                                                       \
+    Forms {                                                                            \
+#f, [](float x) { return own::f(x); }, [](float x) { return own::loop::f(x); } \
+    }
+#define SINCOS_FORMS(f)                                         \
+    Forms {                                                     \
+        "sincos." #f, [](float x) { return own::sincos(x).f; }, \
+            [](float x) { return own::loop::sincos(x).f; }      \
+    }
+constexpr Forms kForms[] = {
+    FORMS(sin),  FORMS(cos),  SINCOS_FORMS(sin), SINCOS_FORMS(cos), FORMS(tan), FORMS(asin),
+    FORMS(acos), FORMS(atan), FORMS(exp),        FORMS(exp10),      FORMS(log), FORMS(log10),
+};
+
+// Where IEEE 754 lays down the result, and where the quick calculation of a single value begins or
+// ends
+TEST(BothForms, AgreeAtTheLimits) {
+    constexpr float kInfinity = std::numeric_limits<float>::infinity();
+    for (const Forms& f : kForms)
+        for (const float limit : {0.0f,      0x1p-149f,
+                                  0x1p-126f, 0x1p-7f,
+                                  0.125f,    1.0f,
+                                  2.0f,      8.0f,
+                                  37.75f,    38.5f,
+                                  45.0f,     87.0f,
+                                  88.75f,    104.0f,
+                                  0x1p14f,   0x1p28f,
+                                  0x1p78f,   std::numeric_limits<float>::max(),
+                                  kInfinity, std::numeric_limits<float>::quiet_NaN()})
+            for (const float x :
+                 {std::nextafter(limit, 0.0f), limit, std::nextafter(limit, kInfinity)})
+                for (const float signed_x : {x, -x})
+                    EXPECT_PRED2(same<float>, f.single(signed_x), f.in_loop(signed_x))
+                        << f.name << "(" << std::hexfloat << signed_x << ")";
 }
 
 class Identities : public testing::Test {
@@ -223,6 +267,8 @@ TEST_F(Identities, HoldForEveryBitPattern) {
         const own::SinCos both = own::sincos(x);
         ASSERT_PRED2(same<float>, both.sin, own::sin(x)) << x;
         ASSERT_PRED2(same<float>, both.cos, own::cos(x)) << x;
+        for (const Forms& f : kForms)
+            ASSERT_PRED2(same<float>, f.single(x), f.in_loop(x)) << f.name << "(" << x << ")";
         ASSERT_PRED2(same<float>, own::sin(-x), -own::sin(x)) << x;
         ASSERT_PRED2(same<float>, own::cos(-x), own::cos(x)) << x;
         ASSERT_PRED2(same<float>, own::tan(-x), -own::tan(x)) << x;
@@ -233,6 +279,21 @@ TEST_F(Identities, HoldForEveryBitPattern) {
         ASSERT_PRED2(same<float>, own::pow(x, -1.0f), 1.0f / x) << x;
         ASSERT_PRED2(same<float>, own::pow(a, 0.5f), own::sqrt(a)) << x;
         ASSERT_PRED2(same<float>, own::pow(10.0f, x), own::exp10(x)) << x;
+    }
+}
+
+TEST_F(Identities, HoldForArraysOfPairs) {
+    constexpr std::size_t kCount = 20011;
+    std::vector<float> x(kCount), y(kCount), angle(kCount), power(kCount);
+    for (std::size_t i = 0; i < kCount; ++i) {
+        x[i] = i % 64 == 0 ? any() : between(0.0f, 10.0f);
+        y[i] = i % 256 < 128 ? any() : between(-10.0f, 10.0f);
+    }
+    own::loop::atan2(y.data(), x.data(), angle.data(), kCount);
+    own::loop::pow(x.data(), y.data(), power.data(), kCount);
+    for (std::size_t i = 0; i < kCount; ++i) {
+        ASSERT_PRED2(same<float>, angle[i], own::atan2(y[i], x[i])) << y[i] << ", " << x[i];
+        ASSERT_PRED2(same<float>, power[i], own::pow(x[i], y[i])) << x[i] << ", " << y[i];
     }
 }
 

@@ -11,6 +11,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include "samples.h"
@@ -29,7 +30,7 @@ class Progress {
     }
     void show(std::uint64_t done) const {
         if (kTerminal)
-            std::fprintf(stderr, "\r%-14s %3d %%", name_.c_str(),
+            std::fprintf(stderr, "\r%-16s %3d %%", name_.c_str(),
                          static_cast<int>(100 * done / count_));
     }
 
@@ -133,19 +134,22 @@ Outcome check(const FloatFunction& function, std::uint64_t count) {
 }
 
 Outcome check(const FloatPairFunction& function, std::uint64_t count) {
-    const bool is_pow = function.reference.name == "pow";
+    const bool is_pow = function.reference.name.ends_with("pow");
     const std::uint64_t hard_count = std::min(count / 16, std::uint64_t{1} << 22);
     const auto hard = is_pow ? pow_hard_cases(hard_count) : atan2_hard_cases(hard_count);
-    return in_parallel(function.reference, count,
-                       [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
-                           for (std::uint64_t i = first; i < last; ++i) {
-                               const auto [x, y] = i < hard.size() ? hard[i]
-                                                   : is_pow        ? pow_sample(i)
-                                                                   : atan2_sample(i);
-                               findings.rounding(function.evaluate(x, y),
-                                                 findings.reference.rounded(x, y), x, y);
-                           }
-                       });
+    const auto pair = [&](std::uint64_t i) {
+        return i < hard.size() ? hard[i] : is_pow ? pow_sample(i) : atan2_sample(i);
+    };
+    return in_parallel(
+        function.reference, count,
+        [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
+            std::vector<float> x(last - first), y(last - first), computed(last - first);
+            for (std::uint64_t i = first; i < last; ++i)
+                std::tie(x[i - first], y[i - first]) = pair(i);
+            function.evaluate(x.data(), y.data(), computed.data(), x.size());
+            for (std::size_t i = 0; i < x.size(); ++i)
+                findings.rounding(computed[i], findings.reference.rounded(x[i], y[i]), x[i], y[i]);
+        });
 }
 
 Outcome check(const DoubleFunction& function, std::uint64_t count) {

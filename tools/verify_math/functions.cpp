@@ -23,34 +23,40 @@ namespace own = quorvel::math;
     [](const float* __restrict in, float* __restrict out, std::size_t count) { \
         for (std::size_t i = 0; i < count; ++i) out[i] = expression(in[i]);    \
     }
-#define FLOAT(f) \
-    FloatFunction { {#f, PLATFORM(f), MPFR(f)}, LOOP(own::f) }
+#define FLOAT(f, form) \
+    FloatFunction { {#form, PLATFORM(f), MPFR(f)}, LOOP(own::form) }
 #define DOUBLE(f, low, high, near_one)                                                      \
     DoubleFunction {                                                                        \
         {#f, PLATFORM(f), MPFR(f)}, [](double x) { return own::f(x); }, low, high, near_one \
     }
 
+#define SINCOS(f, form)                                                                    \
+    FloatFunction {                                                                        \
+        {#form "." #f, PLATFORM(f), MPFR(f)}, LOOP([](float x) { return own::form(x).f; }) \
+    }
+
+#define PAIRS(f)                                                        \
+    [](const float* x, const float* y, float* out, std::size_t count) { \
+        for (std::size_t i = 0; i < count; ++i) out[i] = f(x[i], y[i]); \
+    }
+#define FLOAT2(f, form, evaluate) \
+    FloatPairFunction { {#form, nullptr, nullptr, PLATFORM2(f), MPFR2(f)}, evaluate }
+
 constexpr FloatFunction kFloat[] = {
-    FLOAT(sin),
-    FLOAT(cos),
-    {{"sincos.sin", PLATFORM(sin), MPFR(sin)}, LOOP([](float x) { return own::sincos(x).sin; })},
-    {{"sincos.cos", PLATFORM(cos), MPFR(cos)}, LOOP([](float x) { return own::sincos(x).cos; })},
-    FLOAT(tan),
-    FLOAT(asin),
-    FLOAT(acos),
-    FLOAT(atan),
-    FLOAT(exp),
-    FLOAT(exp10),
-    FLOAT(log),
-    FLOAT(log10),
-    FLOAT(sqrt),
+    FLOAT(sin, sin),     FLOAT(sin, loop::sin),     FLOAT(cos, cos),     FLOAT(cos, loop::cos),
+    SINCOS(sin, sincos), SINCOS(sin, loop::sincos), SINCOS(cos, sincos), SINCOS(cos, loop::sincos),
+    FLOAT(tan, tan),     FLOAT(tan, loop::tan),     FLOAT(asin, asin),   FLOAT(asin, loop::asin),
+    FLOAT(acos, acos),   FLOAT(acos, loop::acos),   FLOAT(atan, atan),   FLOAT(atan, loop::atan),
+    FLOAT(exp, exp),     FLOAT(exp, loop::exp),     FLOAT(exp10, exp10), FLOAT(exp10, loop::exp10),
+    FLOAT(log, log),     FLOAT(log, loop::log),     FLOAT(log10, log10), FLOAT(log10, loop::log10),
+    FLOAT(sqrt, sqrt),
 };
 
 constexpr FloatPairFunction kFloatPair[] = {
-    {{"atan2", nullptr, nullptr, PLATFORM2(atan2), MPFR2(atan2)},
-     [](float y, float x) { return own::atan2(y, x); }},
-    {{"pow", nullptr, nullptr, PLATFORM2(pow), MPFR2(pow)},
-     [](float x, float y) { return own::pow(x, y); }},
+    FLOAT2(atan2, atan2, PAIRS(own::atan2)),
+    FLOAT2(atan2, loop::atan2, own::loop::atan2),
+    FLOAT2(pow, pow, PAIRS(own::pow)),
+    FLOAT2(pow, loop::pow, own::loop::pow),
 };
 
 constexpr DoubleFunction kDouble[] = {

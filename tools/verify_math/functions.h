@@ -15,7 +15,7 @@ struct FloatFunction {
 
 struct FloatPairFunction {
     Function reference;
-    float (*evaluate)(float x, float y);
+    void (*evaluate)(const float* x, const float* y, float* result, std::size_t count);
 };
 
 struct DoubleFunction {

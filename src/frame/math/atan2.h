@@ -4,15 +4,20 @@
 // octant; relative error in double below 2^-50. Where that leaves the rounding in doubt (one call
 // in 2^24), the same in 106 bits with the series of atan, of relative error below 2^-98.
 //
-// The second step is a branch, and with it a plain loop does not vectorise; its parts
-// atan2_in_double and rounds_safely do.
+// The second step is a branch, and with it a plain loop does not vectorise; see loop_pairs.h.
 #pragma once
 
 #include "frame/math/double_double.h"
-#include "frame/math/inverse_trig.h"
+#include "frame/math/loop_inverse_trig.h"
+#include "frame/math/scalar.h"
 
 namespace quorvel::math {
+
+inline float atan2(float y, float x) noexcept;
+
 namespace detail {
+
+constexpr double kAtan2Error = 0x1p-49;
 
 // The octant of (x, y): the angle is quarters pi/2, plus or, if backwards, minus
 // (eighths pi/4 + atan(numerator/denominator)), with the sign of y.
@@ -26,16 +31,13 @@ QUORVEL_INLINE Octant octant(double y, double x) noexcept {
     const double ay = magnitude(y), ax = magnitude(x);
     const bool steep = ay > ax, left = sign(x) != 0;
     const double small = steep ? ax : ay, large = steep ? ay : ax;
-    const bool infinite = small == kInfinity && large == kInfinity;
-    const bool diagonal = small > large * 0x1.a827999fcef32p-2 || infinite;
-    double numerator = diagonal ? small - large : small;
-    double denominator = diagonal ? small + large : large;
-    if (infinite) numerator = 0.0;  // counts as 1/1, and 0/0 as 0/1
-    if (infinite || large == 0.0) denominator = 1.0;
+    const bool diagonal = small > large * 0x1.a827999fcef32p-2;
     const double quarters = steep ? 1.0 : left ? 2.0 : 0.0;
-    return {numerator, denominator, diagonal ? 1.0 : 0.0, quarters, steep != left};
+    return {diagonal ? small - large : small, diagonal ? small + large : large,
+            diagonal ? 1.0 : 0.0, quarters, steep != left};
 }
 
+// Not a number for two zeros or two infinities
 QUORVEL_INLINE double atan2_in_double(double y, double x) noexcept {
     const Octant o = octant(y, x);
     const double t = o.numerator / o.denominator;
@@ -43,8 +45,7 @@ QUORVEL_INLINE double atan2_in_double(double y, double x) noexcept {
     return flip_sign(o.quarters * kHalfPi + (o.backwards ? -angle : angle), sign(y));
 }
 
-[[gnu::cold, gnu::noinline]] inline float atan2_accurate(double y, double x) noexcept {
-    if (x != x || y != y) return static_cast<float>(x + y);
+inline float atan2_accurate(double y, double x) noexcept {
     constexpr Pair kQuarter = {kHalfPi, kHalfPiTail};
     const Octant o = octant(y, x);
     const Pair t = Pair{o.numerator, 0.0} / Pair{o.denominator, 0.0};
@@ -58,14 +59,22 @@ QUORVEL_INLINE double atan2_in_double(double y, double x) noexcept {
     return sign(y) != 0 ? -value : value;
 }
 
+inline float atan2_of_any(float y, float x) noexcept {
+    if (x != x || y != y) return x + y;
+    if (y == 0.0f && x == 0.0f) return atan2(y, std::copysign(1.0f, x));
+    if (std::isinf(y) && std::isinf(x))
+        return atan2(std::copysign(1.0f, y), std::copysign(1.0f, x));
+    return atan2_accurate(static_cast<double>(y), static_cast<double>(x));
+}
+
 }  // namespace detail
 
 inline float atan2(float y, float x) noexcept {
-    const double dy = static_cast<double>(y), dx = static_cast<double>(x);
-    const double value = detail::atan2_in_double(dy, dx);
-    if (detail::rounds_safely(value, 0x1p-49)) [[likely]]
+    using namespace detail;
+    const double value = atan2_in_double(static_cast<double>(y), static_cast<double>(x));
+    if (rounds_safely(value, kAtan2Error)) [[likely]]
         return static_cast<float>(value);
-    return detail::atan2_accurate(dy, dx);
+    return outlined<atan2_of_any>(y, x);
 }
 
 }  // namespace quorvel::math

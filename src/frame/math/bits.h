@@ -37,7 +37,7 @@ constexpr double kToInteger = 0x1.8p52;
 
 QUORVEL_INLINE std::uint64_t bits(double x) noexcept { return std::bit_cast<std::uint64_t>(x); }
 QUORVEL_INLINE double from_bits(std::uint64_t b) noexcept { return std::bit_cast<double>(b); }
-QUORVEL_INLINE double magnitude(double x) noexcept { return from_bits(bits(x) & ~kSignBit); }
+QUORVEL_INLINE double magnitude(double x) noexcept { return __builtin_fabs(x); }
 QUORVEL_INLINE std::uint64_t sign(double x) noexcept { return bits(x) & kSignBit; }
 QUORVEL_INLINE double flip_sign(double x, std::uint64_t sign_bit) noexcept {
     return from_bits(bits(x) ^ sign_bit);

@@ -55,10 +55,4 @@ QUORVEL_INLINE bool rounds_safely(double value, double margin) noexcept {
     return static_cast<float>(value - error) == static_cast<float>(value + error);
 }
 
-// The same for values in the range of normal floats and an error below 2^(error_bits - 53)
-QUORVEL_INLINE bool far_from_midpoint(double value, int error_bits) noexcept {
-    const std::uint64_t error = std::uint64_t{1} << error_bits;
-    return ((bits(value) - (0x10000000 - error)) & 0x1fffffff) > 2 * error;
-}
-
 }  // namespace quorvel::math::detail

@@ -10,7 +10,7 @@
 #pragma once
 
 #include "frame/math/double_double.h"
-#include "frame/math/trig.h"
+#include "frame/math/loop_trig.h"
 
 namespace quorvel::math {
 namespace detail {

@@ -1,50 +1,24 @@
 // x^y in single precision.
 //
-// Algorithm: 2^(y log2 x) in double, log2 x and the power of two each by a table and a short
-// polynomial, of relative error below 2^-42. Where that leaves the rounding in doubt (one call in
-// 2^16), log x by its series in atanh and e^(y log x) by Taylor's in 106 bits, of relative error
-// below 2^-92. No power is expected nearer than 2^-86 to a midpoint of two floats without being
-// one, so what is nearer than 2^-88 is taken for the midpoint itself.
+// Algorithm: 2^(y log2 x) in double, log2 x by the table of log and a quintic, the power of two as
+// in exp; relative error below 2^-36. Where that leaves the rounding in doubt (one call in 2^11)
+// and outside the range of normal floats, x^y in double of relative error below 2^-52. Where that
+// still does (one call in 2^26), log x by its series in atanh and e^(y log x) by Taylor's in 106
+// bits, of relative error below 2^-92. No power is expected nearer than 2^-86 to a midpoint of two
+// floats without being one, so what is nearer than 2^-88 is taken for the midpoint itself.
 //
-// The second step is a branch, and with it a plain loop does not vectorise.
+// The further steps are branches, and with them a plain loop does not vectorise; see loop_pairs.h.
 //
-// Coefficients: tools/math/coefficients.sollya; tables: tools/math/power_tables.py.
+// Coefficients: tools/math/coefficients.sollya.
 #pragma once
 
 #include "frame/math/double_double.h"
-#include "frame/math/exponential.h"
-#include "frame/math/logarithm.h"
-#include "frame/math/power_tables.h"
+#include "frame/math/scalar_exp_log.h"
 
 namespace quorvel::math {
 namespace detail {
 
 constexpr Pair kLog2 = {0x1.62e42fefa39efp-1, 0x1.abc9e3b39803fp-56};
-
-// log2 x, x > 0 a float; relative error below 2^-49
-inline double log2_in_double(double x) noexcept {
-    const std::uint64_t offset = bits(x) - kLogOrigin;
-    const LogStep step = kLogSteps[offset >> 46 & 63];
-    const auto n = static_cast<double>(static_cast<std::int64_t>(offset) >> 52);
-    const double r = from_bits(bits(x) - (offset & 0xfff0000000000000)) * step.inverse - 1.0;
-    const double r2 = r * r;
-    const double p = (0x1.71547652b8306p0 - 0x1.71547652b8328p-1 * r) +
-                     r2 * ((0x1.ec709dbb651cbp-2 - 0x1.7154764828e1bp-2 * r) +
-                           r2 * (0x1.277bf87560265p-2 - 0x1.ec7b001902f3ap-3 * r));
-    return (n + step.log2) + r * p;
-}
-
-// 2^exponent, |exponent| <= 256; relative error below 2^-43
-inline double exp2_in_double(double exponent) noexcept {
-    constexpr double kTo32nds = kToInteger / 32.0;
-    const double shifted = exponent + kTo32nds;
-    const double r = exponent - (shifted - kTo32nds);
-    const std::uint64_t steps = bits(shifted);
-    const double scale = from_bits(bits(kExpSteps[steps & 31]) + (steps >> 5 << 52));
-    const double p = (0x1.62e42fef6d2cap-1 + 0x1.ebfbdff89d7dap-3 * r) +
-                     r * r * (0x1.c6b167b28a6e5p-5 + 0x1.3b2a783aad0fap-7 * r);
-    return scale + scale * r * p;
-}
 
 // log x = n log 2 + 2 atanh s, s = (m - 1)/(m + 1)
 inline Pair log_pair(double x) noexcept {
@@ -68,7 +42,7 @@ inline Pair exp_pair(Pair x) noexcept {
     return {sum.high * scale, sum.low * scale};
 }
 
-[[gnu::cold, gnu::noinline]] inline float pow_accurate(double x, double y) noexcept {
+inline float pow_accurate(double x, double y) noexcept {
     Pair value = exp_pair(Pair{y, 0.0} * log_pair(x));
     if (std::abs(value.low) < 0x1p-88 * value.high) value.low = 0.0;
     return round_to_float(value);
@@ -82,22 +56,42 @@ T pow_of_special(T x, T y) noexcept;
 
 inline double pow(double x, double y) noexcept;  // see double_exp_log.h
 
-inline float pow(float x, float y) noexcept {
-    const auto x_bits = std::bit_cast<std::uint32_t>(x), y_bits = std::bit_cast<std::uint32_t>(y);
-    const bool x_positive = x_bits - 1 < 0x7f7fffff, y_finite = (y_bits & 0x7fffffff) < 0x7f800000;
-    if (!x_positive || !y_finite) [[unlikely]]
-        return detail::pow_of_special(x, y);
+namespace detail {
+
+constexpr std::uint32_t kPowerError = 0x20000;  // see near_midpoint
+
+// y log2 x; the quintic is split into factors.
+QUORVEL_INLINE double exponent_of_power(float x, double y) noexcept {
+    const auto [whole, r] = log_step(x);
+    const double p = (r * (r - 0x1.35ff0694f121fp1) + 0x1.2ab3aeddd47c8p1) *
+                     (r * (r + 0x1.2963fefb97fa2p0) + 0x1.147b77e64d224p1);
+    return y * whole + (y * 0x1.2514fd90d97c2p-2) * r * p;
+}
+
+// In the terms of table_exp2, so that the compiler calculates the sum once
+QUORVEL_INLINE bool within_normal_powers(double exponent) noexcept {
+    return bits(exponent + kTo64ths) - (bits(kTo64ths) - 125 * 64) <= 2 * 125 * 64;
+}
+
+inline float pow_of_any(float x, float y) noexcept {
+    if (!(x > 0.0f && x - x == 0.0f && y - y == 0.0f)) return pow_of_special(x, y);
     const double base = static_cast<double>(x), power = static_cast<double>(y);
-    const double exponent = power * detail::log2_in_double(base);
-    if (detail::magnitude(exponent) < 126.0) [[likely]] {
-        const double value = detail::exp2_in_double(exponent);
-        if (detail::far_from_midpoint(value, 12)) [[likely]]
+    const double value = std::min(pow(base, power), 0x1p200);
+    if (rounds_safely(value, 0x1p-51)) return static_cast<float>(value);
+    return pow_accurate(base, power);
+}
+
+}  // namespace detail
+
+QUORVEL_INLINE float pow(float x, float y) noexcept {
+    using namespace detail;
+    if (normal_and_positive(x)) [[likely]] {
+        const double exponent = exponent_of_power(x, static_cast<double>(y));
+        const double value = table_exp2(exponent);
+        if (within_normal_powers(exponent) && !near_midpoint<kPowerError>(value)) [[likely]]
             return static_cast<float>(value);
-    } else {
-        const double value = detail::exp2_in_double(detail::clamp(exponent, 256.0));
-        if (detail::rounds_safely(value, 0x1p-41)) return static_cast<float>(value);
     }
-    return detail::pow_accurate(base, power);
+    return outlined<pow_of_any>(x, y);
 }
 
 namespace detail {

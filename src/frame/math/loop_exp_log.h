@@ -1,11 +1,14 @@
-// Natural and decimal logarithm in single precision.
+// e^x, 10^x, natural and decimal logarithm in single precision, for loops.
 //
-// Algorithm: x = 2^n (1 + f), 1/sqrt 2 <= 1 + f < sqrt 2; with s = f / (2 + f),
+// Algorithm: x = n log 2 + r (10^x: x = n log10 2 + r / log 10), |r| <= log(2)/2; the result is 2^n
+// times a polynomial of degree 11 in r. Arguments are clamped where the result has long overflowed
+// or vanished, so that 2^n stays a normal double; rounding to float makes infinities, subnormals
+// and zeros. x = 2^n (1 + f), 1/sqrt 2 <= 1 + f < sqrt 2; with s = f / (2 + f),
 // log(1 + f) = f - f^2/2 + s (f^2/2 + s^2 P(s^2)), P a polynomial of degree 6.
 //
-// Error before the rounding to float, in ulp of double: log 0.6, log10 1.7. Where log falls on a
-// midpoint of two floats, which it does for five arguments, the rest of its last sum decides;
-// log10 has one exception.
+// Error before the rounding to float, in ulp of double: exp 1.0, exp10 1.2, log 0.6, log10 1.7. exp
+// and exp10 have no exceptions. Where log falls on a midpoint of two floats, which it does for five
+// arguments, the rest of its last sum decides; log10 has one exception.
 //
 // Coefficients and constants: tools/math/coefficients.sollya.
 #pragma once
@@ -14,6 +17,39 @@
 
 namespace quorvel::math {
 namespace detail {
+
+// Added to n it leaves n + 1023, the exponent field of 2^n, in the lowest bits.
+constexpr double kToExponent = kToInteger + 1023.0;
+
+QUORVEL_INLINE double power_of_two(double shifted_exponent) noexcept {
+    return from_bits(bits(shifted_exponent) << 52);
+}
+
+// e^r - 1 - r, |r| <= 0.347
+QUORVEL_INLINE double exp_tail(double r) noexcept {
+    const double r2 = r * r, r4 = r2 * r2;
+    const double p0 = (0x1.000000000000ap-1 + 0x1.55555555554fcp-3 * r) +
+                      r2 * (0x1.5555555550689p-5 + 0x1.111111112725dp-7 * r);
+    const double p4 = (0x1.6c16c18488a72p-10 + 0x1.a01a012dcb967p-13 * r) +
+                      r2 * (0x1.a01999231b6f2p-16 + 0x1.71df1d1476a07p-19 * r);
+    const double p8 = 0x1.28ae3c99e5f09p-22 + 0x1.ad8d55a45b3dcp-26 * r;
+    return r2 * (p0 + r4 * (p4 + r4 * p8));
+}
+
+QUORVEL_INLINE double exp_kernel(double r) noexcept { return 1.0 + (r + exp_tail(r)); }
+
+// e^x, |x| <= 700
+QUORVEL_INLINE double exp_in_double(double x) noexcept {
+    const double shifted = x * 0x1.71547652b82fep0 + kToExponent;
+    const double n = shifted - kToExponent;
+    const double r = (x - n * 0x1.62e42fefa4p-1) + n * 0x1.8432a1b0e2634p-43;
+    return exp_kernel(r) * power_of_two(shifted);
+}
+
+QUORVEL_INLINE double clamp(double x, double limit) noexcept {
+    const double above = x < -limit ? -limit : x;
+    return above > limit ? limit : above;
+}
 
 // x = 2^exponent * mantissa, 1/sqrt 2 <= mantissa < sqrt 2, for a positive normal x
 struct Scaled {
@@ -57,6 +93,22 @@ QUORVEL_INLINE double log_or_limit(double x, double value) noexcept {
 
 }  // namespace detail
 
+namespace loop {
+
+QUORVEL_INLINE float exp(float x) noexcept {
+    return static_cast<float>(detail::exp_in_double(detail::clamp(static_cast<double>(x), 128.0)));
+}
+
+QUORVEL_INLINE float exp10(float x) noexcept {
+    const double t = detail::clamp(static_cast<double>(x), 64.0);
+    const double shifted = t * 0x1.a934f0979a371p1 + detail::kToExponent;
+    const double n = shifted - detail::kToExponent;
+    const double r = t - n * 0x1.34413509f8p-2;
+    const double tail = n * 0x1.ba66111603c15p-43 - r * 0x1.f48ad494ea3e9p-53;
+    return static_cast<float>(detail::exp_kernel(r * 0x1.26bb1bbb55516p1 + tail) *
+                              detail::power_of_two(shifted));
+}
+
 QUORVEL_INLINE float log(float x) noexcept {
     const double t = static_cast<double>(x);
     const auto [n, mantissa] = detail::split_exponent(t);
@@ -74,4 +126,5 @@ QUORVEL_INLINE float log10(float x) noexcept {
     return static_cast<float>(detail::log_or_limit(t, value));
 }
 
+}  // namespace loop
 }  // namespace quorvel::math

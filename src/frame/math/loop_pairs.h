@@ -1,0 +1,68 @@
+// atan2 and pow of arrays in single precision.
+//
+// A plain loop over math::atan2 or math::pow does not vectorise, since they decide by a branch
+// whether the double determines the rounding. Here blocks of doubles are calculated and rounded
+// without branches; a block with a pair that is in doubt, one block in 2^13 or more, is repeated
+// one pair after the other.
+//
+// Algorithm: atan2 as for a single pair; pow by log and exp as for loops, relative error below
+// 2^-45.
+#pragma once
+
+#include "frame/math/atan2.h"
+#include "frame/math/power.h"
+
+namespace quorvel::math {
+namespace detail {
+
+QUORVEL_INLINE double atan2_for_loop(float y, float x) noexcept {
+    return atan2_in_double(static_cast<double>(y), static_cast<double>(x));
+}
+
+// Not a number for a base that has no logarithm
+QUORVEL_INLINE double pow_for_loop(float x, float y) noexcept {
+    const double base = static_cast<double>(x);
+    const auto [n, mantissa] = split_exponent(base);
+    const double log_power = static_cast<double>(y) * log_sum(n, mantissa).high;
+    const double power = exp_in_double(clamp(log_power, 128.0));
+    const bool has_logarithm = (base > 0.0) & (base < kInfinity);
+    return has_logarithm ? power : std::numeric_limits<double>::quiet_NaN();
+}
+
+template <auto in_double, auto single>
+QUORVEL_INLINE void by_blocks(const float* __restrict a, const float* __restrict b,
+                              float* __restrict result, std::size_t count, double error) noexcept {
+    constexpr std::size_t kBlock = 64;
+    for (std::size_t first = 0; first < count; first += kBlock) {
+        const std::size_t end = std::min(first + kBlock, count);
+        unsigned in_doubt = 0;
+        for (std::size_t i = first; i < end; ++i) {
+            const double value = in_double(a[i], b[i]);
+            result[i] = static_cast<float>(value);
+            in_doubt |= rounds_safely(value, error) ? 0u : 1u;
+        }
+        if (in_doubt != 0)
+            for (std::size_t i = first; i < end; ++i) result[i] = single(a[i], b[i]);
+    }
+}
+
+}  // namespace detail
+
+namespace loop {
+
+// The result overlaps neither argument.
+QUORVEL_INLINE void atan2(const float* y, const float* x, float* angle,
+                          std::size_t count) noexcept {
+    using namespace detail;
+    by_blocks<atan2_for_loop, [](float b, float a) { return math::atan2(b, a); }>(
+        y, x, angle, count, kAtan2Error);
+}
+
+QUORVEL_INLINE void pow(const float* x, const float* y, float* power, std::size_t count) noexcept {
+    using namespace detail;
+    by_blocks<pow_for_loop, [](float a, float b) { return math::pow(a, b); }>(x, y, power, count,
+                                                                              0x1p-45);
+}
+
+}  // namespace loop
+}  // namespace quorvel::math

@@ -1,0 +1,41 @@
+// What the functions of single values share: a quick double, a test whether it determines the
+// rounding, and the form for loops for the few arguments where it does not.
+#pragma once
+
+#include <algorithm>
+
+#include "frame/math/bits.h"
+
+namespace quorvel::math::detail {
+
+QUORVEL_INLINE std::uint32_t magnitude_bits(float x) noexcept {
+    return std::bit_cast<std::uint32_t>(x) & 0x7fffffff;
+}
+
+// Whether a midpoint of two floats lies within kError units in the last place of `value`, which is
+// in the range of normal floats or 0. A relative error of 2^-n is up to 2^(53-n) units.
+template <std::uint32_t kError>
+QUORVEL_INLINE bool near_midpoint(double value) noexcept {
+    return (static_cast<std::uint32_t>(bits(value)) << 3) + (0x80000000 + 8 * kError) <=
+           16 * kError;
+}
+
+// f, where it is seldom called
+template <auto f, typename... T>
+[[gnu::cold, gnu::noinline]] auto outlined(T... x) noexcept {
+    return f(x...);
+}
+
+// quick(x), of error kError as above, rounded; loop_form(x) where that is in doubt or x not
+// ordinary
+template <auto loop_form, std::uint32_t kError, typename Quick>
+QUORVEL_INLINE float rounded(float x, bool ordinary, Quick quick) noexcept {
+    if (ordinary) [[likely]] {
+        const double value = quick(static_cast<double>(x));
+        if (!near_midpoint<kError>(value)) [[likely]]
+            return static_cast<float>(value);
+    }
+    return outlined<loop_form>(x);
+}
+
+}  // namespace quorvel::math::detail

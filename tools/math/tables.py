@@ -1,0 +1,133 @@
+#!/usr/bin/env python3
+"""Writes the tables of src/frame/math/tables.h to standard output.
+
+Needs Debian's python3-mpmath. Run: tools/math/tables.py > src/frame/math/tables.h
+"""
+import struct
+
+from mpmath import acot, asin, atan, cos, floor, log, mp, mpf, pi, power, sin, sqrt
+
+mp.prec = 200
+SINE_STEPS = 256  # per turn
+LOG_STEPS = 128  # per octave
+EXP_STEPS = 64  # per octave
+# the leading coefficient of exp2_cubic in tools/math/coefficients.sollya
+EXP_SCALE = mpf(float.fromhex("0x1.c6b0610e87d54p-5"))
+ARC_SINE_STEPS = 64  # per unit
+
+
+def bits_of(x):
+    return struct.unpack("<Q", struct.pack("<d", float(x)))[0]
+
+
+def nearest(x):
+    return float(mpf(x)).hex().replace("0x1.0000000000000p", "0x1p").replace("0x0.0p+0", "0")
+
+
+def in_rows(texts, per_row):
+    rows = [texts[i:i + per_row] for i in range(0, len(texts), per_row)]
+    return "\n".join("    " + ", ".join(row) + "," for row in rows)
+
+
+def sines():
+    return [nearest(0 if 2 * k % SINE_STEPS == 0 else sin(2 * pi * k / SINE_STEPS)) for k in range(SINE_STEPS)]
+
+
+def log_step(i):
+    """1/c and log2 c - 127 of step i.
+
+    1/c has 28 bits, such that its product with a float is exact. Of those about the middle of the
+    step, the one whose logarithm is nearest to a double is taken, so that the sum of it and the
+    exponent is as good as exact.
+    """
+    if i == 0:
+        return mpf(1), mpf(-127)
+    if i == LOG_STEPS - 1:
+        return mpf(1) / 2, mpf(-126)
+    unit = power(2, -28)
+    middle = floor(1 / (1 + (mpf(i) + 0.5) / LOG_STEPS) / unit)
+    candidates = [(middle + k) * unit for k in range(-512, 513)]
+
+    def rounding_error(inverse):
+        value = -log(inverse, 2) - 127
+        return abs(value - mpf(float(value)))
+
+    inverse = min(candidates, key=rounding_error)
+    return inverse, -log(inverse, 2) - 127
+
+
+def exp_steps():
+    values = [bits_of(EXP_SCALE * power(2, mpf(i) / EXP_STEPS)) - (i << 52) // EXP_STEPS for i in range(EXP_STEPS)]
+    return [f"{value:#x}" for value in values]
+
+
+def arc_sines():
+    rows = []
+    for k in range(-ARC_SINE_STEPS, ARC_SINE_STEPS + 1):
+        s = mpf(k) / ARC_SINE_STEPS
+        rows.append(f"{{{nearest(sqrt(1 - s * s))}, {nearest(asin(s))}}}")
+    return rows
+
+
+def arc_tangents():
+    """Two steps an octave from 1/8 to 8"""
+    rows = ["{1, 0, 0}"]
+    for k in range(12):
+        low = (1 + mpf(k % 2) / 2) * power(2, k // 2 - 3)
+        high = (1 + mpf((k + 1) % 2) / 2) * power(2, (k + 1) // 2 - 3)
+        angle = (atan(low) + atan(high)) / 2
+        rows.append(f"{{{nearest(cos(angle))}, {nearest(sin(angle))}, {nearest(angle)}}}")
+    rows.append(f"{{0, 1, {nearest(pi / 2)}}}")
+    return rows
+
+
+log_steps = [log_step(i) for i in range(LOG_STEPS)]
+print(f"""// Tables of the single-precision functions, written by tools/math/tables.py.
+#pragma once
+
+#include <cstdint>
+
+// clang-format off
+
+namespace quorvel::math::detail {{
+
+// sin(2 pi k / {SINE_STEPS})
+inline constexpr double kSines[{SINE_STEPS}] = {{
+{in_rows(sines(), 4)}
+}};
+
+// For each of {LOG_STEPS} steps of an octave 1/c, of 28 bits so that its product with a float is exact, and
+// log2 c less the bias of a float's exponent
+struct LogSteps {{
+    double inverse[{LOG_STEPS}], log2[{LOG_STEPS}];
+}};
+inline constexpr LogSteps kLogSteps = {{{{
+{in_rows([nearest(inverse) for inverse, _ in log_steps], 4)}
+}}, {{
+{in_rows([nearest(value) for _, value in log_steps], 4)}
+}}}};
+
+// Bit patterns of 2^(i/{EXP_STEPS}) times the cubic's leading coefficient, less i/{EXP_STEPS} in the exponent
+inline constexpr std::uint64_t kExpSteps[{EXP_STEPS}] = {{
+{in_rows(exp_steps(), 4)}
+}};
+
+// sqrt(1 - s^2) and asin s for s = -1, ... 1 in steps of 1/{ARC_SINE_STEPS}
+struct ArcSineStep {{
+    double cosine, angle;
+}};
+inline constexpr ArcSineStep kArcSineSteps[{2 * ARC_SINE_STEPS + 1}] = {{
+{in_rows(arc_sines(), 2)}
+}};
+
+// Cosine and sine of angles, and the angles: 0, one for each half octave of tangents from 1/8 to 8, and pi/2
+struct ArcTangentStep {{
+    double cosine, sine, angle;
+}};
+inline constexpr ArcTangentStep kArcTangentSteps[14] = {{
+{in_rows(arc_tangents(), 1)}
+}};
+
+// clang-format on
+
+}}  // namespace quorvel::math::detail""")
