@@ -4,10 +4,9 @@
 using namespace quorvel;
 using namespace quorvel::geometry;
 
-void HOHOLEDP(DoubleReal* x, DoubleReal* y, const Integer* na, const Integer* ia,
-              const Integer* nb, const Integer* ib, const Integer* nmax, const Integer* kmax,
-              const Integer* ldif, const Integer* lovl, Integer* npool, Integer* dif,
-              Integer* ovl, Integer* ierr) {
+void HOHOLEDP(DoubleReal* x, DoubleReal* y, const Integer* na, const Integer* ia, const Integer* nb,
+              const Integer* ib, const Integer* nmax, const Integer* kmax, const Integer* ldif,
+              const Integer* lovl, Integer* npool, Integer* dif, Integer* ovl, Integer* ierr) {
     clipping::Pool pool(x, y, *nmax, *npool);
     clipping::PieceList difference(dif, *ldif), overlap(ovl, *lovl);
     const clipping::Ring a(pool, ia, *na), b(pool, ib, *nb);
