@@ -8,6 +8,7 @@
 #include "common/calendar.h"
 #include "common/input.h"
 #include "common/library.h"
+#include "common/sun.h"
 
 namespace quorvel::climatefile {
 namespace {
@@ -31,11 +32,9 @@ Irradiation design_hour(const WeatherYear& year, int day_of_year, std::size_t ho
     const float west = host::radians(-year.longitude), meridian = host::radians(-15 * year.zone);
     const double solar =
         static_cast<double>(hour) + 0.5 + lib::CLTCOR(0.0f, day_of_year, west, meridian);
-    const auto wrapped = static_cast<float>(std::fmod(solar + 24, 24.0));
-    float declination, altitude, azimuth, sunrise, sunset, direct, diffuse;
-    lib::CLSNGE(host::radians(year.latitude), day_of_year, wrapped, declination, altitude, azimuth,
-                sunrise, sunset);
-    lib::CLSNNR(altitude, azimuth, static_cast<float>(year.height), clear, direct, diffuse);
+    const host::Sun sun = host::sun_at(year.latitude, day_of_year, std::fmod(solar + 24, 24.0));
+    float direct, diffuse;
+    lib::CLSNNR(sun.altitude, sun.azimuth, static_cast<float>(year.height), clear, direct, diffuse);
     return {direct, diffuse};
 }
 

@@ -73,6 +73,12 @@ std::string area(const std::string& rows, std::size_t column, const char* colour
            colour + "', " + curve(rows, column, colour, 1);
 }
 
+// Its border is drawn as a line for the same reason.
+std::string polygon(const std::string& rows, const char* colour) {
+    return rows + " using 1:2 with filledcurves closed linecolor rgb '" + colour +
+           "' fillstyle solid 1 border rgb '" + colour + '\'';
+}
+
 Chart::Chart(int width, int height) : width_(width), height_(height) {}
 
 std::string Chart::data(const std::vector<std::vector<double>>& rows) {

@@ -53,6 +53,9 @@ std::string curve(const std::string& rows, std::size_t column, const char* colou
 // Down to zero; so stacked areas are plotted from the uppermost sum down.
 std::string area(const std::string& rows, std::size_t column, const char* colour);
 
+// The inside of a ring of corners x and y, the first of which comes again at the end.
+std::string polygon(const std::string& rows, const char* colour);
+
 class Chart {
   public:
     Chart(int width, int height);

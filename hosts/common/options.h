@@ -1,23 +1,28 @@
-// The command line that the host programs have in common: FILE, --csv, --svg FILE, --help.
+// The command line that the host programs have in common: FILE, --csv, --svg FILE,
+// --help, and --hours where a program draws pictures of chosen hours.
 #pragma once
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quorvel::host {
 
 struct Options {
     std::string input, svg;
     bool csv = false;
+    std::vector<double> hours;  // 0 to 24
 };
 
-// What --help says: of the program, of its input file and its chart, and after the options.
+// What --help says: of the program, of its input file and its chart, after the options, and of the
+// hours where there is that option.
 struct Description {
     const char* program;
     const char* purpose;
     const char* input;
     const char* chart;
     const char* footer;
+    const char* hours = nullptr;
 };
 
 // The options, or nothing when help was asked for and given. Throws InputError.

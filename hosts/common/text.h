@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -9,8 +10,12 @@
 
 namespace quorvel::host {
 
-// Stands for a quantity that does not exist, such as the sun's direction at night.
+// A quantity that does not exist, such as the sun's direction at night, and what stands for it.
+inline constexpr double none = std::numeric_limits<double>::quiet_NaN();
 inline constexpr const char* absent = "–";
+
+// Stands for a plain zero where many of them would hide what matters.
+inline constexpr const char* nothing = "·";
 
 // With so many decimals, never "-0"; NaN is shown as absent.
 std::string fixed(double value, int decimals);

@@ -68,7 +68,9 @@ class Picture {
     double column_left(std::size_t i) const {
         return left + static_cast<double>(i) * (column_ + between);
     }
-    host::Scale hours_shown(double step) const;
+    host::Scale hours_shown(double step) const {
+        return host::hours_shown(hourly_.sunrise, hourly_.sunset, step);
+    }
 
     void heading();
     void column_title(std::size_t i);
@@ -89,14 +91,6 @@ class Picture {
     double column_, width_;
     host::Chart chart_;
 };
-
-// The hours of daylight and one more on either side.
-host::Scale Picture::hours_shown(double step) const {
-    const bool sets = hourly_.sunrise < hourly_.sunset && hourly_.sunset <= hours;
-    if (!sets) return {0, hours, step};
-    return {std::max(0.0, std::floor(hourly_.sunrise) - 1),
-            std::min<double>(hours, std::ceil(hourly_.sunset) + 1), step};
-}
 
 void Picture::heading() {
     chart_.text(margin, 38, job_.site.name + ", " + host::date(hourly_.day_of_year),

@@ -32,21 +32,18 @@ host::DailyTemperature outdoor_temperature(const Day& day, double sunrise, doubl
 }
 
 // The sun and the sky in the library's units, before the factors of the site.
-struct Sky {
-    float altitude, azimuth;
+struct Sky : host::Sun {
     float direct_normal, diffuse_horizontal;
 };
 
 Sky sky_at(const Job& job, double hour, DesignDay& day) {
-    float declination, altitude, azimuth, sunrise, sunset;
-    lib::CLSNGE(radians(job.site.latitude), day.day_of_year, static_cast<float>(hour), declination,
-                altitude, azimuth, sunrise, sunset);
-    day.declination = degrees(declination);
-    day.sunrise = sunrise;
-    day.sunset = sunset;
+    const host::Sun sun = host::sun_at(job.site.latitude, day.day_of_year, hour);
+    day.declination = degrees(sun.declination);
+    day.sunrise = sun.sunrise;
+    day.sunset = sun.sunset;
 
-    Sky sky{altitude, azimuth, 0, 0};
-    lib::CLSNNR(altitude, azimuth, static_cast<float>(job.site.height), job.site.sky,
+    Sky sky{sun, 0, 0};
+    lib::CLSNNR(sun.altitude, sun.azimuth, static_cast<float>(job.site.height), job.site.sky,
                 sky.direct_normal, sky.diffuse_horizontal);
     return sky;
 }
@@ -56,7 +53,7 @@ SunHour sun_hour(double hour, const Sky& sky, const SiteConstants& site) {
     sun.hour = hour;
     sun.direct_normal = sky.direct_normal * site.beam_factor;
     sun.diffuse_horizontal = sky.diffuse_horizontal * site.diffuse_factor;
-    if (sky.altitude > 0) {
+    if (sky.is_up()) {
         sun.altitude = degrees(sky.altitude);
         sun.azimuth = degrees(sky.azimuth);
     }
@@ -87,7 +84,7 @@ float sky_diffuse(const Job& job, int day_of_year, const Window& window, const S
 WindowHour irradiated(const Job& job, const DesignDay& day, const Window& window, const Sky& sky,
                       const SunHour& sun) {
     WindowHour at;
-    if (!(sky.altitude > 0)) return at;
+    if (!sky.is_up()) return at;
     const SiteConstants& site = day.constants;
     const float orientation = radians(window.orientation), tilt = radians(window.tilt);
     float direct, diffuse, ground;
@@ -166,7 +163,7 @@ DesignDay calculate(const Job& job, int steps_per_hour) {
     add_clock(job, day);
 
     std::vector<Sky> skies;
-    for (int step = 1; step <= hours * steps_per_hour; ++step) {
+    for (int step = 1; step <= host::hours_a_day * steps_per_hour; ++step) {
         const double hour = static_cast<double>(step) / steps_per_hour;
         skies.push_back(sky_at(job, hour, day));
         day.sun.push_back(sun_hour(hour, skies.back(), day.constants));

@@ -2,17 +2,16 @@
 #pragma once
 
 #include <functional>
-#include <limits>
 #include <span>
 #include <vector>
 
+#include "common/sun.h"
 #include "designday/glazing.h"
 #include "designday/job.h"
 
 namespace quorvel::designday {
 
-inline constexpr double none = std::numeric_limits<double>::quiet_NaN();
-inline constexpr int hours = 24;
+using host::none;
 
 struct SunHour {
     double hour = 0;                         // solar time
@@ -69,7 +68,7 @@ template <class Member>
 double daily_sum(const WindowDay& window, Member member) {
     double sum = 0;
     for (const WindowHour& at : window.at) sum += std::invoke(member, at);
-    return sum * hours / static_cast<double>(window.at.size());
+    return sum * host::hours_a_day / static_cast<double>(window.at.size());
 }
 inline double transmitted_energy(const WindowDay& window) {  // Wh
     return window.window->area * daily_sum(window, &WindowHour::transmitted);

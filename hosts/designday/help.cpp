@@ -75,11 +75,6 @@ How it is calculated
   are those of a steady state between room, outdoor air and the sun absorbed by the panes; the
   heat of a blind is taken to stay on its side of the glass.
   The outdoor temperature rises by half a cosine from its minimum, at the full hour next to
-  sunrise, to its maximum, and falls back by another. Totals of the day are sums over the hours.
-
-Exit status
-  0 done; 2 bad input, with one line that says where and what is allowed; 1 anything else, such
-  as a missing library. The library, quorvel.dll or libquorvel.so, is looked for beside the
-  program, or is the file that the environment variable QUORVEL_LIBRARY names.)";
+  sunrise, to its maximum, and falls back by another. Totals of the day are sums over the hours.)";
 
 }  // namespace quorvel::designday

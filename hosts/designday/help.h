@@ -2,7 +2,7 @@
 
 namespace quorvel::designday {
 
-// What --help says after the options: the input file, the method, the exit status.
+// What --help says after the options: the input file, the method.
 extern const char* const help_on_input;
 
 }  // namespace quorvel::designday

@@ -16,11 +16,9 @@ using host::Column;
 using host::fixed;
 using host::shortest;
 
-constexpr const char* blank = "·";  // nothing falls on the window
-
 std::string watts(double value) {
     const std::string text = fixed(value, 0);
-    return text == "0" ? blank : text;
+    return text == "0" ? host::nothing : text;
 }
 
 // The models' authors; the design sky's own goes without saying.
@@ -159,29 +157,17 @@ std::string all_windows(const DesignDay& day) {
 }  // namespace
 
 std::string place(const Site& site) {
-    const auto angle = [](double value, const char* positive, const char* negative) {
-        return fixed(std::fabs(value), 2) + "° " + (value < 0 ? negative : positive);
-    };
-    return angle(site.latitude, "N", "S") + ", " + angle(site.longitude, "E", "W") + ", " +
-           shortest(site.height) + " m above sea level";
+    return host::on_the_globe(site.latitude, "N", "S") + ", " +
+           host::on_the_globe(site.longitude, "E", "W") + ", " + shortest(site.height) +
+           " m above sea level";
 }
 
 std::string size_and_facing(const Window& window) {
-    const std::string area = shortest(window.area) + " m² ", tilt = shortest(window.tilt);
-    if (window.tilt == 0) return area + "horizontal";
-    return area + "facing " + shortest(window.orientation) + "° (" +
-           host::compass_point(window.orientation) + "), " +
-           (window.tilt == 90 ? "vertical" : "tilted " + tilt + "°");
+    return shortest(window.area) + " m² " + host::facing(window.orientation, window.tilt);
 }
 
 std::string sun_times(const DesignDay& day) {
-    if (day.sunset < day.sunrise) return "the sun does not rise";
-    if (day.sunset > hours) return "the sun does not set";
-    std::string text =
-        "sunrise " + clock_time(day.sunrise) + ", sunset " + clock_time(day.sunset) + " solar time";
-    if (std::isnan(day.solar_minus_clock)) return text;
-    return text + " (" + clock_time(day.sunrise - day.solar_minus_clock) + " and " +
-           clock_time(day.sunset - day.solar_minus_clock) + " by the clock)";
+    return host::sun_times(day.sunrise, day.sunset, day.solar_minus_clock);
 }
 
 std::string report(const Job& job, const DesignDay& day) {

@@ -1,14 +1,14 @@
 // The construction and its cases, worked out with the library.
 #pragma once
 
-#include <limits>
 #include <vector>
 
+#include "common/text.h"
 #include "wall/job.h"
 
 namespace quorvel::wall {
 
-inline constexpr double none = std::numeric_limits<double>::quiet_NaN();
+using host::none;
 
 // The answer to a daily swing of temperature; shifts in hours, 0 to 24.
 struct CyclicResponse {

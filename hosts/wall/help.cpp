@@ -50,11 +50,6 @@ How it is calculated
   sun, air leaking through joints, storage and drying are left out: a wet month says that the
   construction needs a second look, not how wet it will be. Layers marked as condensing exceed
   saturation between their faces. The chart draws the month with the most condensate, or if
-  all are dry the coldest.
-
-Exit status
-  0 done; 2 bad input, with one line that says where and what is allowed; 1 anything else, such
-  as a missing library. The library, quorvel.dll or libquorvel.so, is looked for beside the
-  program, or is the file that the environment variable QUORVEL_LIBRARY names.)";
+  all are dry the coldest.)";
 
 }  // namespace quorvel::wall

@@ -10,7 +10,7 @@ using host::absent;
 using host::fixed;
 using host::shortest;
 
-constexpr const char* dry = "·";
+constexpr const char* dry = host::nothing;
 
 std::string heading(const Job& job, const Construction& construction) {
     static constexpr const char* flows[] = {"upwards", "horizontally", "downwards"};

@@ -1,7 +1,6 @@
 """The program around the numbers: faults of the input, the text, the chart."""
 
 import re
-import shutil
 import unittest
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
@@ -39,7 +38,6 @@ def climate(keys):
     return without(without(changed("room", f"20\nclimate = {keys}"), "outdoor_min"), "outdoor_max")
 
 
-# What is wrong; what the one line must name after "job.toml:LINE: ".
 BAD = [
     (changed("latitude", "95"), "site.latitude: value 95; allowed -90 to 90 degrees north"),
     (changed("latitude", '"north"'), 'site.latitude: value "north"; allowed -90 to 90'),
@@ -108,19 +106,8 @@ BAD = [
 ]
 
 
-class BadInput(unittest.TestCase):
-    def expect(self, process, status, beginning):
-        self.assertEqual(process.returncode, status, process.stderr)
-        self.assertEqual(process.stderr.count(b"\n"), 1, process.stderr)
-        self.assertTrue(process.stderr.endswith(b"\n"))
-        self.assertRegex(process.stderr.decode(), beginning)
-
-    def test_each_fault_gets_one_line_and_status_2(self):
-        for text, message in BAD:
-            with self.subTest(message):
-                process = host.run("job.toml", files={"job.toml": text})
-                self.expect(process, 2, rf"^job\.toml:\d+: {re.escape(message)}")
-                self.assertEqual(process.stdout, b"")
+class BadInput(host.InputCase, unittest.TestCase):
+    good, bad = GOOD, BAD
 
     def test_the_line_is_that_of_the_value(self):
         text = "# a comment first\n\n" + changed("area", "1e9")
@@ -132,18 +119,6 @@ class BadInput(unittest.TestCase):
         for text, missing in [("", "site, day, window"), (host.table("[site]", SITE), "day, window")]:
             process = host.run("job.toml", files={"job.toml": text})
             self.expect(process, 2, rf"^job\.toml(:\d+)?: missing {missing}$")
-
-    def test_arguments_and_files(self):
-        for arguments, line in [(["none.toml"], "none.toml: cannot be read"), (["."], r"\.: cannot be read"),
-                                ([], "FILE is required"), (["job.toml", "more"], "more"),
-                                (["job.toml", "--svg"], "--svg")]:
-            with self.subTest(arguments):
-                process = host.run(*arguments, files={"job.toml": GOOD})
-                self.expect(process, 2, line)
-
-    def test_missing_library(self):
-        process = host.run("job.toml", files={"job.toml": GOOD}, environment={"QUORVEL_LIBRARY": "none.so"})
-        self.expect(process, 1, "^designday: cannot load none.so")
 
 
 class Output(host.ReportCase, unittest.TestCase):
@@ -179,7 +154,7 @@ class Output(host.ReportCase, unittest.TestCase):
 
 
 class Chart(unittest.TestCase):
-    @unittest.skipIf(host.EMULATOR or not shutil.which("gnuplot"), "no gnuplot for this program")
+    @host.needs_gnuplot
     def test_picture_shows_names_and_numbers_and_is_the_same_twice(self):
         text = job(window("A_1 & <'B'>", 180), window("Rückseite {^}", 0), site={"name": "St. John's"})
         pictures = [host.run("--svg", "day.svg", "job.toml", files={"job.toml": text}).written for _ in range(2)]

@@ -4,8 +4,11 @@ import collections
 import csv
 import io
 import os
+import re
+import shutil
 import subprocess
 import tempfile
+import unittest
 from pathlib import Path
 
 EMULATOR = os.environ.get("QUORVEL_EMULATOR")  # unset or empty where the program runs by itself
@@ -55,6 +58,37 @@ def rows(text):
         except ValueError:
             return field or None
     return [{key: value(field) for key, field in row.items()} for row in csv.DictReader(io.StringIO(text))]
+
+
+needs_gnuplot = unittest.skipIf(EMULATOR or not shutil.which("gnuplot"), "no gnuplot for this program")
+
+
+class InputCase:
+    """What every host's bad input is held to; a test case adds it, with a `good` text and, as `bad`, texts with
+    what the one line must name after "job.toml:LINE: "."""
+
+    def expect(self, process, status, beginning):
+        self.assertEqual(process.returncode, status, process.stderr)
+        self.assertEqual((process.stderr.count(b"\n"), process.stdout), (1, b""), process.stderr)
+        self.assertTrue(process.stderr.endswith(b"\n"))
+        self.assertRegex(process.stderr.decode(), beginning)
+
+    def test_each_fault_gets_one_line_and_status_2(self):
+        for text, message in self.bad:
+            with self.subTest(message):
+                line = r"(:\d+)?" if message.startswith("missing") else r":\d+"  # of a table that is not there
+                process = run("job.toml", files={"job.toml": text})
+                self.expect(process, 2, rf"^job\.toml{line}: {re.escape(message)}")
+
+    def test_arguments_and_files(self):
+        for arguments, line in [(["none.toml"], "^none.toml: cannot be read"), (["."], r"^\.: cannot be read"),
+                                ([], "FILE is required"), (["job.toml", "more"], "more"), (["job.toml", "--svg"], "--svg")]:
+            with self.subTest(arguments):
+                self.expect(run(*arguments, files={"job.toml": self.good}), 2, line)
+
+    def test_missing_library(self):
+        process = run("job.toml", files={"job.toml": self.good}, environment={"QUORVEL_LIBRARY": "none.so"})
+        self.expect(process, 1, r"^\w+: cannot load none.so")
 
 
 class ReportCase:

@@ -1,7 +1,6 @@
 """The program around the numbers: faults of the input, the text, the chart."""
 
 import re
-import shutil
 import unittest
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
@@ -22,7 +21,6 @@ def climate(**keys):
     return job(climate=keys)
 
 
-# What is wrong; what the one line must name after "job.toml:LINE: ".
 BAD = [
     (job(wall={"name": ""}), 'wall.name: value ""; allowed text'),
     (job(wall={"heat_flow": "sideways"}), 'wall.heat_flow: value "sideways"; allowed up, horizontal, down, or 0 to 2'),
@@ -63,32 +61,14 @@ BAD = [
 ]
 
 
-class BadInput(unittest.TestCase):
-    def test_each_fault_gets_one_line_and_status_2(self):
-        for text, message in BAD:
-            with self.subTest(message):
-                process = host.run("job.toml", files={"job.toml": text})
-                self.assertEqual((process.returncode, process.stdout), (2, b""))
-                self.assertRegex(process.stderr.decode(), rf"^job\.toml(:\d+)?: {re.escape(message)}.*\n$")
+class BadInput(host.InputCase, unittest.TestCase):
+    good, bad = job(), BAD
 
     def test_the_line_is_that_of_the_value(self):
         text = climate(outside_temperature=YEAR[:11] + [99]).replace(" 5, 7,", " 5,\n7,").replace("99", "\n99")
         line = text.splitlines().index("99]") + 1
         process = host.run("job.toml", files={"job.toml": text})
-        self.assertRegex(process.stderr.decode(), rf"^job\.toml:{line}: climate\.outside_temperature\[12\]: value 99")
-
-    def test_arguments_and_files(self):
-        for arguments, line in [(["none.toml"], "^none.toml: cannot be read"), ([], "^wall: FILE is required"),
-                                (["job.toml", "--svg"], "^wall: --svg")]:
-            with self.subTest(arguments):
-                process = host.run(*arguments, files={"job.toml": job()})
-                self.assertEqual(process.returncode, 2)
-                self.assertRegex(process.stderr.decode(), line + r".*\n$")
-
-    def test_missing_library(self):
-        process = host.run("job.toml", files={"job.toml": job()}, environment={"QUORVEL_LIBRARY": "none.so"})
-        self.assertEqual(process.returncode, 1)
-        self.assertRegex(process.stderr.decode(), r"^wall: cannot load none.so.*\n$")
+        self.expect(process, 2, rf"^job\.toml:{line}: climate\.outside_temperature\[12\]: value 99")
 
 
 class Output(host.ReportCase, unittest.TestCase):
@@ -127,7 +107,7 @@ class Output(host.ReportCase, unittest.TestCase):
 
 
 class Chart(unittest.TestCase):
-    @unittest.skipIf(host.EMULATOR or not shutil.which("gnuplot"), "no gnuplot for this program")
+    @host.needs_gnuplot
     def test_picture_is_to_scale_names_everything_and_is_the_same_twice(self):
         layers = [PLASTER | {"name": "A & <'B'>", "drawing": "plaster"}, SHEET, WOOL, CAVITY, BRICK | {"drawing": "masonry"}]
         text = job(*layers, wall={"name": "St. John's"}, climate={"outside_temperature": YEAR})
@@ -146,9 +126,8 @@ class Chart(unittest.TestCase):
         for face, place in zip(faces, places):
             self.assertAlmostEqual((face - faces[0]) / (faces[-1] - faces[0]), place / 363, delta=1e-3)
 
+    @host.needs_gnuplot
     def test_every_layer_count_and_drawing_can_be_drawn(self):
-        if host.EMULATOR or not shutil.which("gnuplot"):
-            self.skipTest("no gnuplot for this program")
         drawings = ["plain", "masonry", "concrete", "insulation", "timber", "plaster", "bitumen"]
         many = [PLASTER | {"thickness": 0.1 + 20 * (i % 3), "drawing": drawings[i % 7]} for i in range(20)]
         for layers in ([SHEET], [PLASTER | {"thickness": 0.1}], many):

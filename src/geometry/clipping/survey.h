@@ -37,9 +37,8 @@ class Survey {
 
     // Of all points of a box at once. The share added covers rounding.
     View view(const Box& box) const noexcept {
-        return view(box.middle(), [&](const Line& line) {
-            return line.margin + 1.0001 * box.reach(line.along);
-        });
+        return view(box.middle(),
+                    [&](const Line& line) { return line.margin + 1.0001 * box.reach(line.along); });
     }
 
     // As all edges of a clockwise ring see its inside.

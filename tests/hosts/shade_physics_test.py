@@ -1,0 +1,262 @@
+"""What must hold of a shaded window whatever the program computes it with."""
+
+import math
+import random
+import unittest
+from pathlib import Path
+
+import shade_rays
+from shade_input import DAY, SCREEN, SITE, WINDOW, hours, read, sunny
+
+EXAMPLES = Path(__file__).parents[2] / "hosts" / "shade" / "examples"
+ENDLESS = 50  # m that make a plate as good as endless
+WIDTH, HEIGHT = WINDOW["width"], WINDOW["height"]
+ROUNDING = 0.02  # %
+
+
+def tangents(row, orientation=180):
+    """Of the sun's profile angles before a vertical window: how far up and to the left (looking out: to
+    the right) it moves for each metre out."""
+    altitude, beside = math.radians(row["sun_altitude_deg"]), math.radians(row["sun_azimuth_deg"] - orientation)
+    return math.tan(altitude) / math.cos(beside), math.tan(beside)
+
+
+def left_of(shadow, size):
+    """The fraction of a size that a shadow leaves."""
+    return 1 - min(max(shadow / size, 0), 1)
+
+
+class ShadowsByProfileAngle(unittest.TestCase):
+    """Endless plates before a vertical window throw shadows with straight edges."""
+
+    def check(self, expected, orientation=180, **keys):
+        rows = sunny(window={"orientation": orientation}, **keys)
+        self.assertGreater(len(rows), 5)
+        for row in rows:
+            fraction = expected(*tangents(row, orientation))
+            steep = 1 / math.cos(math.radians(row["incidence_deg"])) ** 2  # what rounding of the angles does
+            self.assertAlmostEqual(row["sunlit_pct"], 100 * fraction, delta=ROUNDING + 0.005 * steep, msg=row["hour"])
+
+    def test_overhang(self):
+        for offset, slope in [(0, 0), (0.3, 0), (0.3, 25), (0, -30)]:
+            overhang = {"depth": 0.6, "offset": offset, "left": ENDLESS, "right": ENDLESS, "slope": slope}
+            a = math.radians(slope)
+            with self.subTest(overhang):
+                self.check(lambda up, _: left_of(0.6 * (math.cos(a) * up + math.sin(a)) - offset, HEIGHT),
+                           orientation=200, overhang=overhang)
+
+    def test_fins(self):
+        fin = {"depth": 0.5, "above": ENDLESS, "below": ENDLESS}
+        for offset in (0, 0.2):
+            near = fin | {"offset": offset}
+            self.check(lambda _, left: left_of(-0.5 * left - offset, WIDTH), right_fin=near)
+            self.check(lambda _, left: left_of(0.5 * left - offset, WIDTH), left_fin=near)
+            self.check(lambda _, left: left_of(0.5 * abs(left) - offset, WIDTH), left_fin=near, right_fin=near)
+
+    def test_fins_of_a_rooflight(self):
+        """Lying flat, its upper edge to the north: shadows run up it, those of what goes on below the window too."""
+        fin = {"depth": 0.3, "below": ENDLESS}
+        for row in sunny(window={"tilt": 0}, left_fin=fin, right_fin=fin):
+            altitude, azimuth = math.radians(row["sun_altitude_deg"]), math.radians(row["sun_azimuth_deg"])
+            if math.cos(azimuth) > 0:
+                continue  # a sun in the north shines past the upper ends
+            expected = left_of(0.3 * abs(math.sin(azimuth)) / math.tan(altitude), WIDTH)
+            self.assertAlmostEqual(row["sunlit_pct"], 100 * expected, delta=0.2, msg=row["hour"])
+
+    def test_where_shadows_overlap_they_count_once(self):
+        """What a fin and an overhang leave is a rectangle."""
+        fin = {"depth": 0.5, "above": ENDLESS, "below": ENDLESS}
+        overhang = {"depth": 0.6, "left": ENDLESS, "right": ENDLESS}
+        self.check(lambda up, left: left_of(0.6 * up, HEIGHT) * left_of(0.5 * abs(left), WIDTH),
+                   left_fin=fin, right_fin=fin, overhang=overhang)
+
+    def test_fin_as_high_as_the_window_casts_a_triangle_below_a_parallelogram(self):
+        """The shadow sinks as it goes aside: above a slant line from the fin's upper outer corner there is sun."""
+        rows = sunny(right_fin={"depth": 0.5}, day={"month": 3})
+        for row in rows:
+            up, left = tangents(row)
+            length, fall = -0.5 * left, 0.5 * up
+            if not (0 < length <= WIDTH and fall <= HEIGHT):
+                continue
+            self.assertAlmostEqual(row["shaded_m2"], length * (HEIGHT - fall / 2), delta=2e-3, msg=row["hour"])
+
+    def test_long_building_opposite(self):
+        """Its shadow climbs the facade as the sun sinks; the sill counts from the ground."""
+        wall = {"distance": 10, "width": 1000, "top": 8}
+        for depth in ({}, {"depth": 12}):  # a screen and a box have the same front
+            for row in sunny(wall | depth, window={"sill": 1.5}, day={"month": "December"}):
+                up, _ = tangents(row)
+                behind = depth.get("depth", 0) * up  # the back of the roof is seen by a sun that is steeper than it
+                self.assertLess(behind, 8)
+                expected = left_of(8 - 1.5 - 10 * up, HEIGHT)
+                self.assertAlmostEqual(row["sunlit_pct"], 100 * expected, delta=0.1, msg=row["hour"])
+
+
+class AllOrNothing(unittest.TestCase):
+    def test_open_window_is_sunlit_whenever_the_sun_is_before_it(self):
+        for orientation, tilt in [(180, 90), (75, 90), (310, 60), (0, 0), (180, 120)]:
+            for row in hours(window={"orientation": orientation, "tilt": tilt}):
+                before = row["incidence_deg"] is not None and row["incidence_deg"] < 89.9
+                self.assertEqual(row["sunlit_pct"], 100 if before else None)
+                cosine = math.cos(math.radians(row["incidence_deg"])) if before else 0
+                self.assertEqual(row["direct_unshaded_W_m2"] > 0, before)
+                self.assertEqual(row["direct_W_m2"], row["direct_unshaded_W_m2"])
+                self.assertLess(row["direct_W_m2"], 1000 * cosine + 0.01)
+
+    def test_window_behind_a_wall_has_no_sun(self):
+        for wall in ({"distance": 0.4, "width": 500, "top": 500}, {"distance": 3, "width": 900, "depth": 9, "top": 900}):
+            rows = sunny(wall, window={"sill": 2})
+            self.assertEqual({row["sunlit_pct"] for row in rows}, {0})
+            self.assertEqual({row["direct_W_m2"] for row in rows}, {0})
+
+    def test_what_stands_behind_the_window_or_below_it_casts_no_shadow_on_it(self):
+        for box in ({"distance": -0.5, "width": 60, "top": 50}, {"distance": -20, "width": 60, "depth": 19.9, "top": 90},
+                    {"distance": 2, "width": 60, "depth": 30, "top": 2.99}):
+            rows = sunny(box, window={"sill": 3}, day={"month": "December"})
+            self.assertEqual({row["sunlit_pct"] for row in rows}, {100}, box)
+
+    def test_night_has_no_sun(self):
+        rows = hours(site={"latitude": 80}, day={"month": "January"})
+        self.assertEqual({row["sunlit_pct"] for row in rows}, {None})
+
+
+class Unions(unittest.TestCase):
+    def fractions(self, *obstructions, **keys):
+        return [row["sunlit_pct"] for row in sunny(*obstructions, day={"month": 3}, **keys)]
+
+    def assert_same(self, one, other, tolerance=0.1):
+        self.assertTrue(any(0 < value < 100 for value in one))
+        for a, b in zip(one, other, strict=True):
+            self.assertAlmostEqual(a, b, delta=tolerance)
+
+    def test_the_same_screen_twice_is_one(self):
+        screen = {"distance": 3, "width": 3, "base": 1, "top": 4}
+        self.assert_same(self.fractions(screen), self.fractions(screen, screen, screen))
+
+    def test_parts_make_the_whole(self):
+        whole = {"distance": 3, "width": 4, "base": 1, "top": 4}
+        halves = [whole | {"width": 2, "offset": offset} for offset in (-1, 1)]
+        overlapping = [whole | {"width": 2.8, "offset": offset} for offset in (-0.6, 0.6)]
+        storeys = [whole | {"top": 2.5}, whole | {"base": 2.5}]
+        inside = [whole, whole | {"width": 1, "base": 2, "top": 3}]
+        for parts in (halves, overlapping, storeys, inside):
+            for order in (parts, parts[::-1]):
+                self.assert_same(self.fractions(whole), self.fractions(*order))
+
+    def test_box_shades_as_its_six_faces_do(self):
+        """Front, back and sides as screens of their own; the roof is hidden behind them at a low sun."""
+        box = {"distance": 3, "width": 2, "depth": 2, "base": 1, "top": 4, "rotation": 30}
+        a, c = 0.5 * math.sqrt(3), 0.5  # the directions along and behind the front
+        def screen(along, back, width, rotation):
+            return box | {"depth": None, "width": width, "rotation": rotation,
+                          "offset": along * a - back * c, "distance": 3 + along * c + back * a}
+        screens = [screen(0, 0, 2, 30), screen(0, 2, 2, 30), screen(1, 1, 2, 120), screen(-1, 1, 2, 120)]
+        screens = [{key: value for key, value in s.items() if value is not None} for s in screens]
+        rows = sunny(box, day={"month": "December"}, window={"sill": 0})
+        for row, as_screens in zip(rows, sunny(*screens, day={"month": "December"}), strict=True):
+            self.assertAlmostEqual(row["sunlit_pct"], as_screens["sunlit_pct"], delta=0.1)
+
+    def test_grid_of_bars_leaves_its_openings(self):
+        """A screen of crossing bars, whose shadow cuts the window into many pieces."""
+        bars = ([{"distance": 0.5, "width": 0.1, "offset": x, "top": 30} for x in (-1.5, -0.9, -0.3, 0.3, 0.9, 1.5, 2.1, -2.1)] +
+                [{"distance": 0.5, "width": 30, "base": 1 + 0.5 * k, "top": 1.1 + 0.5 * k} for k in range(-2, 8)])
+        keys = {"window": {"sill": 1}}
+        rows = sunny(*bars, **keys)
+        self.assertTrue(any(abs(row["sunlit_pct"] - 100 * (5 / 6) * (4 / 5)) < 3 for row in rows))
+        for row in rows[2::3]:
+            rays = shade_rays.sunlit_fraction(row, [SCREEN | bar for bar in bars], **keys, cells=80)
+            self.assertAlmostEqual(row["sunlit_pct"] / 100, rays, delta=0.01)
+
+    def test_comb_with_a_bar_across_its_teeth(self):
+        """More crossings on an edge than one clip can deal with."""
+        teeth = [{"distance": 0.2, "width": 0.1, "offset": 0.3 * k - 1.8, "base": 2.9, "top": 9} for k in range(13)]
+        bar = {"distance": 0.2, "width": 9, "base": 3.1, "top": 3.2}
+        noon = hours(*teeth, bar, window={"width": 4, "sill": 2}, day={"month": 3})[11]
+        fall = 0.2 * tangents(noon)[0]
+        covered = 13 * 0.1 * (HEIGHT - (0.9 - fall)) + 0.1 * (4 - 13 * 0.1)
+        self.assertAlmostEqual(noon["shaded_m2"], covered, delta=3e-3)
+
+
+class Symmetry(unittest.TestCase):
+    def test_east_and_west_mirror_each_other_about_noon(self):
+        fins = {"left_fin": {"depth": 0.4, "above": 0.2}, "right_fin": {"depth": 0.7, "offset": 0.1}}
+        mirrored = {"left_fin": fins["right_fin"], "right_fin": fins["left_fin"]}
+        box = {"distance": 6, "width": 5, "depth": 3, "offset": 4, "rotation": 25, "top": 7}
+        for east, tilt in [(90, 90), (130, 90), (60, 35)]:
+            overhang = {"depth": 0.5, "left": 0.3, "right": 0.1}
+            morning = hours(box, window={"orientation": east, "tilt": tilt}, overhang=overhang, **fins)
+            afternoon = hours(box | {"offset": -4, "rotation": -25}, window={"orientation": 360 - east, "tilt": tilt},
+                              overhang=overhang | {"left": 0.1, "right": 0.3}, **mirrored)
+            self.assertTrue(any(0 < (row["sunlit_pct"] or 0) < 100 for row in morning))
+            for before, after in zip(morning[:23], reversed(afternoon[:23])):
+                for key in ("sunlit_pct", "direct_W_m2"):
+                    if before[key] is None:
+                        self.assertIsNone(after[key])
+                    else:
+                        self.assertAlmostEqual(before[key], after[key], delta=0.1 + 2e-3 * before[key])
+
+    def test_turning_window_and_sun_together_changes_nothing_but_the_hour(self):
+        """At the pole the sun circles at one height: windows to all sides see the same, some hours apart."""
+        keys = {"site": {"latitude": 90}, "overhang": {"depth": 2, "left": 0.5}}
+        box = {"distance": 6, "width": 3, "top": 9, "rotation": 10}
+        south, other = (hours(box, window={"orientation": azimuth}, **keys) for azimuth in (180, 225))
+        for i, row in enumerate(south):
+            turned = other[(i + 3) % 24]
+            self.assertEqual(row["sunlit_pct"] is None, turned["sunlit_pct"] is None)
+            if row["sunlit_pct"] is not None:
+                self.assertAlmostEqual(row["sunlit_pct"], turned["sunlit_pct"], delta=0.3)
+
+
+def random_case(source):
+    """Aligned and crooked, touching and far, before, behind and through the plane of the window."""
+    def some(low, high):
+        return round(source.choice([0, source.uniform(low, high)]), 2)
+    def fin():
+        return {"depth": round(source.uniform(0.05, 1.5), 2), "offset": some(0, 0.5), "above": some(0, 1), "below": some(0, 1)}
+    def box():
+        base = some(0, 3)
+        keys = {"distance": source.choice([0, 1, round(source.uniform(-3, 15), 2)]), "offset": some(-8, 8),
+                "width": round(source.uniform(0.2, 10), 2), "base": base, "top": round(base + source.uniform(0.3, 9), 2),
+                "rotation": source.choice([0, 90, source.randint(-180, 180)])}
+        return keys | source.choice([{}, {"depth": round(source.uniform(0.2, 8), 2)}])
+    keys = {"site": {"latitude": source.choice([-35, 0, 28, 50, 66])}, "day": {"day_of_year": source.randint(1, 365)},
+            "window": {"width": round(source.uniform(0.4, 5), 2), "height": round(source.uniform(0.4, 3), 2),
+                       "orientation": source.choice([0, 90, 180, 270, source.randint(0, 360)]),
+                       "tilt": source.choice([90, 90, 90, 0, source.randint(0, 150)]), "sill": some(0, 5)}}
+    for name in ("left_fin", "right_fin"):
+        if source.random() < 0.4:
+            keys[name] = fin()
+    if source.random() < 0.5:
+        keys["overhang"] = {"depth": round(source.uniform(0.05, 2), 2), "offset": some(0, 0.5), "left": some(0, 2),
+                            "right": some(0, 2), "slope": some(-40, 40)}
+    return [box() for _ in range(source.randint(0, 5))], keys
+
+
+class AgainstRays(unittest.TestCase):
+    def test_random_windows(self):
+        partly = 0
+        for seed in range(40):
+            source = random.Random(seed)
+            boxes, keys = random_case(source)
+            rows = sunny(*boxes, **keys)
+            shading = {name: keys.get(name) for name in ("left_fin", "right_fin", "overhang")}
+            for row in source.sample(rows, min(3, len(rows))):
+                rays = shade_rays.sunlit_fraction(row, [SCREEN | box for box in boxes], keys["window"], **shading)
+                partly += 0 < rays < 1
+                with self.subTest(seed=seed, hour=row["hour"]):
+                    self.assertAlmostEqual(row["sunlit_pct"] / 100, rays, delta=0.008)
+        self.assertGreater(partly, 35)
+
+
+class Examples(unittest.TestCase):
+    def test_overhang_keeps_summer_sun_off_and_lets_winter_sun_in(self):
+        text = (EXAMPLES / "south_window.toml").read_text(encoding="utf-8")
+        def share(month):
+            rows = read(text.replace('month = "July"', f'month = "{month}"'))
+            return sum(row["direct_W_m2"] for row in rows) / sum(row["direct_unshaded_W_m2"] for row in rows)
+        self.assertLess(share("July"), 0.4)
+        self.assertGreater(share("January"), 0.75)
+
+
+if __name__ == "__main__":
+    unittest.main()
