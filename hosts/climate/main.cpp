@@ -5,7 +5,7 @@
 #include "climate/commands.h"
 #include "climate/help.h"
 #include "climate/station.h"
-#include "common/input.h"
+#include "common/options.h"
 #include "common/program.h"
 
 namespace {
@@ -32,19 +32,7 @@ class CommandLine {
         add_hourly();
     }
 
-    // False when help was asked for and given.
-    bool parse(int argc, char** argv) {
-        try {
-            app_.parse(argc, argv);
-        } catch (const CLI::CallForHelp&) {
-            std::cout << app_.help();
-            return false;
-        } catch (const CLI::ParseError& fault) {
-            throw host::InputError(std::string("quorvel-climate: ") + fault.what() +
-                                   "; see quorvel-climate --help");
-        }
-        return true;
-    }
+    bool parse(int argc, char** argv) { return host::parse(app_, argc, argv); }
 
     int execute() const {
         if (pack_->parsed()) {

@@ -30,6 +30,21 @@ CLI::Option* add_hours(CLI::App& app, std::vector<double>& hours, const char* me
 
 }  // namespace
 
+bool parse(CLI::App& app, int argc, char** argv) {
+    app.allow_windows_style_options(false);
+    for (CLI::App* command : app.get_subcommands({})) command->allow_windows_style_options(false);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::cout << app.help();
+        return false;
+    } catch (const CLI::ParseError& fault) {
+        throw InputError(app.get_name() + ": " + fault.what() + "; see " + app.get_name() +
+                         " --help");
+    }
+    return true;
+}
+
 std::optional<Options> read_options(int argc, char** argv, const Description& description) {
     CLI::App app{description.purpose};
     Options options;
@@ -39,15 +54,7 @@ std::optional<Options> read_options(int argc, char** argv, const Description& de
     auto* svg = app.add_option("--svg", options.svg, description.chart)->option_text("FILE");
     if (description.hours) add_hours(app, options.hours, description.hours)->needs(svg);
     app.footer(std::string(description.footer) + exit_status);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::CallForHelp&) {
-        std::cout << app.help();
-        return std::nullopt;
-    } catch (const CLI::ParseError& fault) {
-        const std::string program = description.program;
-        throw InputError(program + ": " + fault.what() + "; see " + program + " --help");
-    }
+    if (!parse(app, argc, argv)) return std::nullopt;
     return options;
 }
 

@@ -1,12 +1,20 @@
-// The command line that the host programs have in common: FILE, --csv, --svg FILE,
-// --help, and --hours where a program draws pictures of chosen hours.
+// Command lines. Most host programs have one in common: FILE, --csv, --svg FILE, --help, and
+// --hours where a program draws pictures of chosen hours.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <vector>
 
+namespace CLI {
+class App;
+}
+
 namespace quorvel::host {
+
+// Parses the command line alike on every platform: on Windows too, /jobs/london.toml is a file and
+// no option. False when help was asked for and given. Throws InputError.
+bool parse(CLI::App& app, int argc, char** argv);
 
 struct Options {
     std::string input, svg;

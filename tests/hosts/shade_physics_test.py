@@ -167,6 +167,14 @@ class Unions(unittest.TestCase):
             rays = shade_rays.sunlit_fraction(row, [SCREEN | bar for bar in bars], **keys, cells=80)
             self.assertAlmostEqual(row["sunlit_pct"] / 100, rays, delta=0.01)
 
+    def test_signs_hanging_before_the_window_cast_shadows_of_their_own_size(self):
+        """Holes in the sunlit part, the third in a piece that the others have left."""
+        signs = [{"distance": 0.2, "width": 0.5, "offset": x, "base": base, "top": base + 0.4}
+                 for x, base in [(-0.5, 2.9), (0.4, 2.5), (-0.3, 3.0)]]
+        for count in (1, 2, 3):
+            noon = hours(*signs[:count], window={"sill": 2}, day={"month": 3})[11]
+            self.assertAlmostEqual(noon["shaded_m2"], [0.2, 0.4, 0.6 - 0.3 * 0.3][count - 1], delta=1e-3)
+
     def test_comb_with_a_bar_across_its_teeth(self):
         """More crossings on an edge than one clip can deal with."""
         teeth = [{"distance": 0.2, "width": 0.1, "offset": 0.3 * k - 1.8, "base": 2.9, "top": 9} for k in range(13)]
