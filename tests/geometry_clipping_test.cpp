@@ -93,6 +93,44 @@ TEST(Clipping, NotchFilledFromOutside) {
     EXPECT_EQ(clip(notched, filling).ovl[0], 0);
 }
 
+// A vertex within a straight side is off its line by rounding, whichever way.
+TEST(Clipping, VertexWithinStraightSideIsTouched) {
+    Random random(4);
+    for (int i = 0; i < 20000; ++i) {
+        const PlanPoint centre{random.unit(), random.unit()};
+        PlanRing ring = regular(3 + random.below(5), 1.0 + random.unit(), centre.x, centre.y);
+        const double share = 0.4 + 0.2 * random.unit();
+        const PlanPoint touched{ring[0].x + share * (ring[1].x - ring[0].x),
+                                ring[0].y + share * (ring[1].y - ring[0].y)};
+        ring.insert(ring.begin() + 1, touched);
+        const bool from_inside = random.below(2) == 0;
+        const double x = (from_inside ? -0.3 : 0.3) * (touched.x - centre.x);
+        const double y = (from_inside ? -0.3 : 0.3) * (touched.y - centre.y);
+        const PlanRing triangle{touched,
+                                {touched.x + x - 0.2 * y, touched.y + y + 0.2 * x},
+                                {touched.x + x + 0.2 * y, touched.y + y - 0.2 * x}};
+        const Clipped clipped = clip(ring, triangle);
+        ASSERT_EQ(clipped.ierr, 0) << i;
+        EXPECT_NEAR(total_area(clipped.overlap), from_inside ? signed_area(triangle) : 0.0, 1e-3);
+    }
+}
+
+// The two shoulders of a notch are in line. By rounding each may cross the line of the other.
+TEST(Clipping, EdgesInLineButApart) {
+    const PlanRing notched{{0, 0}, {0, 2}, {1, 2}, {1, 1}, {3, 1}, {3, 2}, {5, 2}, {5, 0}};
+    Random random(5);
+    for (int i = 0; i < 20000; ++i) {
+        const double angle = 2.0 * std::numbers::pi * random.unit(), at = 20.0 * random.unit();
+        const double cos = std::cos(angle), sin = std::sin(angle);
+        PlanRing ring;
+        for (const auto& [x, y] : notched)
+            ring.push_back({at + cos * x - sin * y, at + sin * x + cos * y});
+        const Clipped clipped = clip(ring, reversed(ring));
+        ASSERT_EQ(clipped.ierr, 0) << i;
+        EXPECT_NEAR(total_area(clipped.overlap), 8.0, 0.01) << i;
+    }
+}
+
 // Without area there is nothing to subtract. A first vertex that is repeated at the end is let be.
 TEST(Clipping, DegenerateRings) {
     const PlanRing square = rectangle(0, 0, 2, 2);

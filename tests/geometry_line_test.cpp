@@ -121,6 +121,7 @@ TEST(Collinearity, OfTellingPoints) {
         {{{0, 0}, {1, 1}, {2, 2 + 1.2e-5f}}, 2, "off by more"},
         {{{0, 0}, {1000, 1000}, {500, 500.004f}}, 1, "a long pair tolerates more"},
         {{{0, 0}, {1.5e-5f, 0}, {0.7e-5f, 5}}, 3, "no two of them differ in both coordinates"},
+        {{{1, 0}, {nan, 5}}, 2, "what is not a number is not near a number"},
     };
     for (const auto& [points, expected, why] : cases)
         EXPECT_EQ(collinearity(points), expected) << why;

@@ -158,6 +158,7 @@ TEST(SpacePolygon, OfFewerThanThreeVertices) {
         EXPECT_NEAR(lie.tilt, 90.0f, 1e-4f);
         EXPECT_EQ(lie.orientation, 180.0f);
     }
+    EXPECT_EQ(Lie({1, 2, 3, 1, nan, 3}).area, 0.0f);
     const Lie none({});
     EXPECT_EQ(none.area, 0.0f);
     EXPECT_EQ(none.tilt, -1.0f);

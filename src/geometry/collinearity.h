@@ -12,14 +12,15 @@ namespace quorvel::geometry {
 
 inline constexpr Real collinearity_tolerance = 1.0e-5f;
 
-// Index of the first point that one coordinate sets apart from the first point; the size if none.
+inline constexpr Integer none_apart = 0;
+
+// Index of the first point that one coordinate sets apart from the first point, if any; a
+// coordinate that is not a number does.
 template <class Coordinate>
 Integer first_apart(PlanPoints points, Coordinate of) noexcept {
-    Integer i = 0;
-    while (i < points.size() &&
-           !(std::fabs(of(points[i]) - of(points[0])) > collinearity_tolerance))
-        ++i;
-    return i;
+    for (Integer i = 1; i < points.size(); ++i)
+        if (!(std::fabs(of(points[i]) - of(points[0])) <= collinearity_tolerance)) return i;
+    return none_apart;
 }
 
 // Whether the line through two points is neither level nor upright.
@@ -52,7 +53,7 @@ inline Integer collinearity(PlanPoints points) noexcept {
     constexpr Integer collinear = 1;
     const Integer apart_in_x = first_apart(points, [](PlanPoint p) { return p.x; });
     const Integer apart_in_y = first_apart(points, [](PlanPoint p) { return p.y; });
-    if (apart_in_x == points.size() || apart_in_y == points.size()) return collinear;
+    if (apart_in_x == none_apart || apart_in_y == none_apart) return collinear;
     return on_slanted_line(points) ? collinear : apart_in_y + 1;
 }
 

@@ -56,8 +56,10 @@ inline PolygonPlane plane_of(SpacePoints polygon) noexcept {
     return {origin, along, cross(normal, along), normal};
 }
 
-// Positive for vertices that run anticlockwise about the normal.
+// Positive for vertices that run anticlockwise about the normal; 0 for fewer than three vertices,
+// whatever they are.
 constexpr Real signed_area(SpacePoints polygon, const PolygonPlane& plane) noexcept {
+    if (polygon.size() < 3) return 0.0f;
     PlanPoint previous{};
     Real sum = 0.0f;
     for (Integer k = 1; k < polygon.size(); ++k) {

@@ -22,14 +22,17 @@ Nearest nearest_vertex(Point point, const Ring& ring) noexcept {
     return nearest;
 }
 
-// Among the edges that the foot of the perpendicular lies on; an edge without length has none.
+// Among the edges that the foot of the perpendicular lies on; an edge without length has none. The
+// ends are taken generously: beside a vertex within a straight side, rounding could else find the
+// foot beyond the ends of both edges, and the turn there, which is rounding too, would decide.
 Nearest nearest_edge(Point point, const Ring& ring) noexcept {
     Nearest nearest;
     for (Integer i = 0; i < ring.size(); ++i) {
         const Edge edge = ring.edge(i);
         const Point along = edge.along(), offset = point - edge.start;
         const DoubleReal foot = dot(along, offset), squared = squared_length(along);
-        if (!(foot >= 0.0 && foot <= squared && squared > 0.0)) continue;
+        const DoubleReal slack = 1.0e-9 * squared;
+        if (!(foot >= -slack && foot <= squared + slack && squared > 0.0)) continue;
         const DoubleReal distance = cross(along, offset) / math::sqrt(squared);
         if (std::fabs(distance) < std::fabs(nearest.distance)) nearest = {i, distance};
     }

@@ -5,6 +5,18 @@
 namespace quorvel::geometry::clipping {
 namespace {
 
+// Whether the boxes round two edges are apart. By rounding alone, edges in line with one another
+// may seem to cross that do not even meet.
+bool apart(Edge edge, Edge other, DoubleReal tolerance) noexcept {
+    const Point doubled_offset = (edge.start - other.start) + (edge.end - other.end);
+    const Point along = edge.along(), other_along = other.along();
+    const auto parted = [&](DoubleReal offset, DoubleReal width, DoubleReal other_width) {
+        return std::fabs(offset) > std::fabs(width) + std::fabs(other_width) + 1.0e-6 * tolerance;
+    };
+    return parted(doubled_offset.x, along.x, other_along.x) ||
+           parted(doubled_offset.y, along.y, other_along.y);
+}
+
 // The crossings of one edge of B.
 class EdgeSearch {
   public:
@@ -40,7 +52,7 @@ class EdgeSearch {
     Status record_crossing(Integer i) noexcept {
         const Edge edge = a_.edge(i);
         const DoubleReal start = line_.side(edge.start), end = line_.side(edge.end);
-        if (!Line::differ(start, end)) return Status::done;
+        if (!Line::differ(start, end) || apart(edge, edge_, a_.tolerance())) return Status::done;
         const Point point = edge.start + (start / (start - end)) * edge.along();
         const Integer position = pool_.append(point);
         if (position == 0) return Status::pool_full;
@@ -87,7 +99,8 @@ bool crosses_itself(const Outline& ring) noexcept {
         for (Integer j = i + 2; j < ring.size(); ++j) {
             const DoubleReal end = line.side(ring[ring.after(j)]);
             if (Line::differ(start, end) &&
-                Line(ring.edge(j), left, ring.tolerance()).parts(edge) && !neighbours(ring, i, j))
+                Line(ring.edge(j), left, ring.tolerance()).parts(edge) && !neighbours(ring, i, j) &&
+                !apart(edge, ring.edge(j), ring.tolerance()))
                 return true;
             start = end;
         }

@@ -29,8 +29,7 @@ void clear(const OverlapPieces& pieces) noexcept {
 }
 
 DoubleReal cleaned(Real coordinate) noexcept {
-    const DoubleReal value = static_cast<DoubleReal>(coordinate);
-    return std::fabs(value) < 0.0001 ? 0.0 : value;
+    return std::fabs(coordinate) < 0.0001f ? 0.0 : static_cast<DoubleReal>(coordinate);
 }
 
 // Places of the polygon's vertices in the pool begin after those already used.
