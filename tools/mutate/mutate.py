@@ -26,10 +26,15 @@ TARGETS = ("quorvel", "quorvel_tests", "quorvel_corpus")
 LONGEST_TEST = 300  # s; a change that makes a search endless is killed too
 
 
+def git(*arguments):
+    return subprocess.run(["git", *arguments], cwd=ROOT, capture_output=True, check=True).stdout
+
+
 def sources():
-    listed = subprocess.run(["git", "ls-files", "src"], cwd=ROOT, capture_output=True, text=True, check=True)
-    names = [name for name in listed.stdout.split() if name.endswith((".h", ".cpp"))]
-    return [Path(name) for name in names if not name.startswith(LEFT_OUT)]
+    """The library's committed files and their texts."""
+    for name in git("ls-tree", "-r", "--name-only", "HEAD", "src").decode().split():
+        if name.endswith((".h", ".cpp")) and not name.startswith(LEFT_OUT):
+            yield Path(name), git("show", f"HEAD:{name}").decode()
 
 
 class Tree:
@@ -38,8 +43,7 @@ class Tree:
     def __init__(self, folder):
         self.source, self.build = folder / "source", folder / "build"
         self.source.mkdir(parents=True, exist_ok=True)
-        archive = subprocess.run(["git", "archive", "HEAD"], cwd=ROOT, capture_output=True, check=True)
-        subprocess.run(["tar", "x", "-C", self.source], input=archive.stdout, check=True)
+        subprocess.run(["tar", "x", "-C", self.source], input=git("archive", "HEAD"), check=True)
         # Optimisation changes no result, and takes time.
         options = ["-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1", "-DQUORVEL_TESTS=ON", "-DQUORVEL_HOSTS=ON"]
         self._run("cmake", "-S", self.source, "-B", self.build, *options, check=True)
@@ -78,9 +82,9 @@ class Tree:
 def chosen(options):
     everything = [
         mutation
-        for file in sources()
+        for file, text in sources()
         if options.under in str(file)
-        for mutation in mutations_of(file, (ROOT / file).read_text().split("\n"))
+        for mutation in mutations_of(file, text.split("\n"))
     ]
     random.Random(options.seed).shuffle(everything)
     return everything
@@ -91,6 +95,7 @@ def main():
     parser.add_argument("--count", type=int, default=500, help="changes that compile (500)")
     parser.add_argument("--seed", type=int, default=1, help="which of the possible changes are made (1)")
     parser.add_argument("--under", default="src/", help="only in files whose name has this in it")
+    parser.add_argument("--jobs", type=int, default=os.cpu_count() or 1, help="changes tried at a time (one per core)")
     parser.add_argument("--list", action="store_true", help="only list the changes")
     options = parser.parse_args()
     mutations = chosen(options)
@@ -99,7 +104,7 @@ def main():
         return
 
     trees = queue.Queue()
-    for number in range(os.cpu_count() or 1):
+    for number in range(options.jobs):
         print(f"Preparing tree {number + 1}", file=sys.stderr)
         trees.put(Tree(ROOT / "build" / "mutate" / str(number)))
     fates, survivors = Counter(), []
