@@ -1,20 +1,24 @@
 #!/usr/bin/env python3
-"""The library exports exactly the routines of the catalogue, needs no library beyond the system's
-own, and the generated files in the tree follow from the catalogue.
+"""The library exports exactly the routines of the catalogue and all those of the last release, says
+its version, needs no library beyond the system's own, and the generated files in the tree follow
+from the catalogue.
 
-    exports_test.py LIBRARY
+    exports_test.py VERSION LIBRARY
 """
 
+import re
+import struct
 import subprocess
 import sys
 import unittest
 from pathlib import Path
 
 ROOT = Path(__file__).parents[1]
-sys.path.insert(0, str(ROOT / "tools" / "catalogue"))
+sys.path[:0] = [str(ROOT / "tools" / "catalogue"), str(ROOT / "tests" / "abi")]
 import catalogue  # noqa: E402
+from check_abi import BASELINE, parameters  # noqa: E402
 
-LIBRARY = Path(sys.argv.pop())
+LIBRARY, VERSION = Path(sys.argv.pop()), sys.argv.pop()
 WINDOWS = LIBRARY.suffix == ".dll"
 SYSTEM = {"KERNEL32.dll", "msvcrt.dll"} if WINDOWS else {"libc.so.6", "libm.so.6", "libgcc_s.so.1", "ld-linux-x86-64.so.2"}
 
@@ -40,10 +44,33 @@ def needed():
 class Exports(unittest.TestCase):
     def test_exactly_the_catalogue(self):
         described = {routine.export for family in catalogue.load(ROOT / "catalogue") for routine in family.routines}
-        self.assertEqual(windows_exports() if WINDOWS else elf_exports(), described)
+        exported = windows_exports() if WINDOWS else elf_exports()
+        self.assertEqual(exported, described)
+        self.assertLessEqual(parameters(BASELINE).keys(), exported, "the last release exports more")
 
     def test_no_library_beyond_the_systems(self):
         self.assertLessEqual(needed(), SYSTEM)
+
+    @unittest.skipIf(WINDOWS, "has details instead")
+    def test_soname(self):
+        soname = re.search(r"SONAME +(\S+)", output_of("objdump", "-p", LIBRARY)).group(1)
+        self.assertRegex(soname, r"^libquorvel\.so\.\d+$")
+        self.assertEqual(LIBRARY.name, "libquorvel.so." + VERSION)
+        for name in (soname, "libquorvel.so"):
+            self.assertEqual(LIBRARY.with_name(name).resolve(), LIBRARY.resolve())
+
+    @unittest.skipUnless(WINDOWS, "has a soname instead")
+    def test_details_that_windows_shows(self):
+        content = LIBRARY.read_bytes()
+        found = content.index("VS_VERSION_INFO".encode("utf-16-le"))
+        resource = content[found - 6:found - 6 + struct.unpack_from("<H", content, found - 6)[0]]
+        numbers = [int(part) for part in VERSION.split(".")]
+        fixed = struct.pack("<II", 0xFEEF04BD, 0x10000) + 2 * struct.pack("<HHHH", numbers[1], numbers[0], 0, numbers[2])
+        self.assertEqual(resource[40:64], fixed)
+        texts = resource[92:].decode("utf-16-le", "replace")
+        for name, value in {"ProductName": "Quorvel", "ProductVersion": VERSION, "FileVersion": VERSION,
+                            "FileDescription": "Building-physics and building-services calculations"}.items():
+            self.assertRegex(texts, f"{name}\0+{re.escape(value)}\0")
 
     def test_no_transcendental_function_of_the_platform(self):
         if WINDOWS:

@@ -6,8 +6,11 @@
 
 namespace quorvel::check {
 
-// What is not as it should be; nothing if subnormal numbers are kept and results rounded to
-// nearest.
+// What is not as it should be; nothing if subnormal numbers are kept, results rounded to nearest,
+// and no exception ends the process.
 std::string fault_of_arithmetic();
+
+// From now on, no floating-point exception ends the process.
+void mask_exceptions();
 
 }  // namespace quorvel::check

@@ -1,11 +1,13 @@
 #include "check/library_identity.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <string_view>
 
 #include "common/library.h"
+#include "support/routine_table.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -32,7 +34,7 @@ std::string file_of(void* address) {
     Dl_info info;
     if (!dladdr(address, &info))
         throw std::runtime_error("cannot tell which file the library is in");
-    return info.dli_fname;
+    return std::filesystem::canonical(info.dli_fname).string();
 }
 #endif
 
@@ -50,6 +52,16 @@ std::string version_in(const std::string& file) {
 LibraryIdentity loaded_library() {
     const std::string file = file_of(host::routine_address("PSSVP"));
     return {file, version_in(file)};
+}
+
+std::vector<std::string> missing_routines() {
+    std::vector<std::string> missing;
+    for (const test::Routine& routine : test::routines()) try {
+            host::routine_address(routine.name);
+        } catch (const std::exception&) {
+            missing.push_back(routine.name);
+        }
+    return missing;
 }
 
 }  // namespace quorvel::check

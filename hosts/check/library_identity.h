@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace quorvel::check {
 
@@ -11,5 +12,8 @@ struct LibraryIdentity {
 };
 
 LibraryIdentity loaded_library();
+
+// Routines that it should export and does not.
+std::vector<std::string> missing_routines();
 
 }  // namespace quorvel::check

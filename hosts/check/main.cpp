@@ -9,6 +9,7 @@
 #include "common/library.h"
 #include "common/options.h"
 #include "common/program.h"
+#include "support/routine_table.h"
 
 namespace {
 
@@ -20,8 +21,11 @@ constexpr const char* values_table =
 
 class Report {
   public:
+    // A finding may have several lines.
     void line(const std::string& what, const std::string& finding) const {
-        std::cout << "  " << what << std::string(12 - what.size(), ' ') << finding << '\n';
+        std::cout << "  " << what << std::string(12 - what.size(), ' ');
+        for (const char c : finding) std::cout << c << (c == '\n' ? std::string(14, ' ') : "");
+        std::cout << '\n';
     }
     void verdict(const std::string& what, const std::string& right, const std::string& fault) {
         line(what, fault.empty() ? right : "WRONG: " + fault);
@@ -33,8 +37,18 @@ class Report {
     bool right_ = true;
 };
 
+// The first of many, so that the report stays on one screen.
+std::string first_of(const std::vector<std::string>& all, const std::string& separator) {
+    constexpr std::size_t shown = 4;
+    std::string text;
+    for (std::size_t i = 0; i < all.size() && i < shown; ++i) text += (i ? separator : "") + all[i];
+    if (all.size() > shown) text += separator + std::to_string(all.size() - shown) + " more";
+    return text;
+}
+
 void report_library(Report& report) {
     const auto [file, version] = check::loaded_library();
+    std::cout << "Quorvel on this machine\n";
     report.line("library", file);
     report.verdict("version", version,
                    version == QUORVEL_VERSION ? ""
@@ -42,36 +56,46 @@ void report_library(Report& report) {
                                                     ", and this program checks " + QUORVEL_VERSION);
 }
 
+// False if any is missing.
+bool report_routines(Report& report) {
+    const auto missing = check::missing_routines();
+    report.verdict("routines", std::to_string(test::routines().size()) + " are there",
+                   missing.empty() ? "" : "without " + first_of(missing, ", "));
+    return missing.empty();
+}
+
+// After loading: a library may change the state, and those that it brings with it too.
+void report_arithmetic(Report& report) {
+    report.verdict("arithmetic", "rounds to nearest and keeps subnormal numbers",
+                   check::fault_of_arithmetic());
+    check::mask_exceptions();
+}
+
 void report_values(Report& report) {
     const auto cases = check::parse_value_cases(values_table);
     std::vector<std::string> faults;
     for (const auto& value_case : cases)
         if (auto fault = check::fault_of(value_case); !fault.empty()) faults.push_back(fault);
-    const std::string right = std::to_string(cases.size()) + " published values are met";
-    report.verdict("values", right, faults.empty() ? "" : faults.front());
-    for (std::size_t i = 1; i < faults.size(); ++i) report.line("", faults[i]);
+    report.verdict("values", std::to_string(cases.size()) + " published values are met",
+                   first_of(faults, "\n"));
 }
 
 void report_bits(Report& report) {
     const auto [routines, calls, differing] = check::compare_bits();
-    std::string names;
-    for (const std::string& name : differing) names += (names.empty() ? "" : ", ") + name;
     report.verdict("bits",
                    std::to_string(routines) + " routines give the bits they must, in " +
                        std::to_string(calls) + " calls",
-                   names.empty() ? "" : "other results from " + names);
+                   differing.empty() ? "" : "other results from " + first_of(differing, ", "));
 }
 
 bool check_installation(bool quick) {
     host::load_library();
     Report report;
-    std::cout << "Quorvel on this machine\n";
     report_library(report);
-    // After loading: a library may change the state, and those that it brings with it too.
-    report.verdict("arithmetic", "rounds to nearest and keeps subnormal numbers",
-                   check::fault_of_arithmetic());
-    report_values(report);
-    if (!quick) report_bits(report);
+    const bool complete = report_routines(report);
+    report_arithmetic(report);
+    if (complete) report_values(report);
+    if (complete && !quick) report_bits(report);
     std::cout << (report.right() ? "All is right.\n" : "Do not rely on its results here.\n");
     return report.right();
 }

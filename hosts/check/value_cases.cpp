@@ -135,7 +135,7 @@ std::string difference(const ValueCase& value_case, const NamedValues& expected,
         if (!(std::fabs(got.get(i) - expected.values[i]) <= expected.tolerance))
             return value_case.routine + ": " + expected.name + " is " + host::shortest(got.get(i)) +
                    " and not " + host::shortest(expected.values[i]) + " ± " +
-                   host::shortest(expected.tolerance) + " (" + value_case.source + ")";
+                   host::shortest(expected.tolerance) + "\n  (" + value_case.source + ")";
     return {};
 }
 

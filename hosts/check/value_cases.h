@@ -22,8 +22,8 @@ struct ValueCase {
 // Throws std::runtime_error that names the line at fault.
 std::vector<ValueCase> parse_value_cases(std::string_view table);
 
-// Calls the routine of the loaded library: nothing if every value is as expected, else a line that
-// says which one is not.
+// Calls the routine of the loaded library: nothing if every value is as expected, else two lines
+// that say which one is not.
 std::string fault_of(const ValueCase& value_case);
 
 }  // namespace quorvel::check

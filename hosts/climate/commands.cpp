@@ -91,11 +91,12 @@ std::vector<std::string> file_violations(const DataFile& file) {
     return found;
 }
 
-// All that are in the file as a whole.
+// All that are in the file as a whole. With an H far below 0 the first of them is one of millions.
 std::vector<int> whole_stations(const DataFile& file) {
     std::vector<int> numbers;
+    const std::int64_t first = (1 - first_record(0, file.H())) / station_records + 1;
     const auto last = std::min<std::int64_t>(file.last_station(), std::numeric_limits<int>::max());
-    for (std::int64_t number = 1; number <= last; ++number)
+    for (std::int64_t number = std::max<std::int64_t>(first, 1); number <= last; ++number)
         if (file.holds(number)) numbers.push_back(static_cast<int>(number));
     return numbers;
 }

@@ -3,8 +3,6 @@
 //     london.toml:7: site.latitude: value 95; allowed -90 to 90 degrees north
 #pragma once
 
-#include <toml++/toml.h>
-
 #include <cstddef>
 #include <initializer_list>
 #include <span>
@@ -12,6 +10,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "common/toml.h"
 
 namespace quorvel::host {
 

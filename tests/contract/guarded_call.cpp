@@ -4,9 +4,8 @@
 
 namespace quorvel::test {
 
-GuardedCall::GuardedCall(const Routine& routine, Address function)
+GuardedCall::GuardedCall(const Routine& routine, Address function, const ArgumentSet& largest)
     : routine_(routine), function_(function) {
-    const ArgumentSet largest(routine);
     for (const auto& block : largest.words()) memory_.emplace_back(4 * block.size());
 }
 

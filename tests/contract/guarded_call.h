@@ -8,7 +8,8 @@ namespace quorvel::test {
 
 class GuardedCall {
   public:
-    GuardedCall(const Routine& routine, Address function);
+    // Has room for arguments as large as these.
+    GuardedCall(const Routine& routine, Address function, const ArgumentSet& largest);
 
     // Inputs cannot be written while the routine runs, and an array is exactly as long as its
     // counts say.

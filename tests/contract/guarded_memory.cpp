@@ -68,13 +68,18 @@ GuardedMemory::~GuardedMemory() {
 }
 
 GuardedMemory::GuardedMemory(GuardedMemory&& other) noexcept
-    : first_(std::exchange(other.first_, nullptr)), size_(other.size_) {}
+    : first_(std::exchange(other.first_, nullptr)),
+      size_(other.size_),
+      writable_(other.writable_) {}
 
 void* GuardedMemory::place(std::size_t bytes, Against page) const {
     return page == Against::PageBelow ? first_ : first_ + (size_ - bytes);
 }
 
-void GuardedMemory::allow_writing(bool allowed) const { protect(first_, size_, allowed); }
+void GuardedMemory::allow_writing(bool allowed) {
+    if (allowed != writable_) protect(first_, size_, allowed);
+    writable_ = allowed;
+}
 
 void explain_faults(const char* (*text)()) {
     text_of_fault = text;

@@ -16,11 +16,12 @@ class GuardedMemory {
 
     // The address of so many bytes directly against one of the pages.
     void* place(std::size_t bytes, Against page) const;
-    void allow_writing(bool allowed) const;
+    void allow_writing(bool allowed);
 
   private:
     std::byte* first_;
     std::size_t size_;
+    bool writable_ = false;
 };
 
 // From now on a fault prints this text and ends the program with status 1.

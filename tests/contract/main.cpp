@@ -2,7 +2,7 @@
 // directly against an inaccessible page, inputs cannot be written, and what lies beyond the arrays
 // has no influence on the results.
 //
-//     quorvel_contract [--calls N] [--seed N] [NAME...]
+//     quorvel_contract [--calls N] [--seed N] [NAME...]    N sets of arguments, three calls each
 //
 // Loaded with a library that counts its steps, it also holds every call to a bound of them.
 #include <CLI/CLI.hpp>
@@ -56,16 +56,21 @@ bool agrees(const Routine& routine, Address function, const ArgumentSet& argumen
     return true;
 }
 
+// Counts are drawn from so far below their range, mostly below 0, to as far above it: also more
+// than what any routine has room for.
+constexpr int most_beyond = 50;
+
 // Calls, every one with a seed of its own, by which it can be repeated alone.
 bool holds(const Routine& routine, int calls, std::uint64_t seed) {
     const auto function = reinterpret_cast<Address>(quorvel::host::routine_address(routine.name));
-    GuardedCall guarded(routine, function);
-    ArgumentSet arguments(routine);
+    ArgumentSet arguments(routine, most_beyond);
+    GuardedCall guarded(routine, function, arguments);
     running.routine = routine.name;
     for (int i = 0; i < calls; ++i) {
         running.seed = seed + static_cast<std::uint64_t>(i);
         Random random(running.seed);
         arguments.draw_any(random);
+        if (random.below(2)) arguments.spoil(random);
         if (!agrees(routine, function, arguments, guarded)) {
             std::fprintf(stderr, "%s\n", report_of_running());
             return false;
@@ -81,7 +86,7 @@ int main(int argc, char** argv) try {
     int calls = 1000;
     std::uint64_t seed = 1;
     std::vector<std::string> names;
-    app.add_option("--calls", calls, "Calls of each routine");
+    app.add_option("--calls", calls, "Sets of arguments for each routine");
     app.add_option("--seed", seed, "Seed of the first call");
     app.add_option("NAME", names, "Routines (all without)");
     CLI11_PARSE(app, argc, argv);

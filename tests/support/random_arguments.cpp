@@ -10,8 +10,8 @@ namespace quorvel::test {
 namespace {
 
 constexpr std::uint32_t untouched = 0xC5C5C5C5u;
-// Counts go this far beyond their range, and arrays are that much longer.
-constexpr int beyond = 2;
+// Integers that are no counts go this far beyond their range, unless they are wild.
+constexpr int slightly = 2;
 
 double edge(const Argument& argument, Random& random) {
     const double width = argument.high - argument.low;
@@ -54,6 +54,17 @@ Bits any_real(const Argument& argument, Random& random) {
     return std::bit_cast<Bits>(static_cast<Float>(value));
 }
 
+template <class Float>
+Float extreme(Random& random) {
+    using Limits = std::numeric_limits<Float>;
+    constexpr Float values[] = {
+        Float{0},           Limits::denorm_min(), Limits::min() / 2,      Limits::min(),
+        Limits::epsilon(),  Float{0x1p31},        Float{0x1p63},          Limits::max(),
+        Limits::infinity(), Limits::quiet_NaN(),  Limits::signaling_NaN()};
+    const Float value = values[random.below(std::size(values))];
+    return random.below(2) ? value : -value;
+}
+
 // The name of the example file or of no file at all: bytes of any kind in a folder that is missing.
 std::string any_text(Random& random) {
     switch (random.below(16)) {
@@ -86,7 +97,7 @@ void store_text(const std::string& text, bool padded, std::vector<std::uint32_t>
 int ArgumentSet::largest_extent(const Extent& extent) const {
     if (extent.argument < 0) return extent.fixed;
     return static_cast<int>(routine_.arguments[static_cast<std::size_t>(extent.argument)].high) +
-           beyond;
+           beyond_;
 }
 
 bool ArgumentSet::is_extent(std::size_t argument) const {
@@ -96,7 +107,7 @@ bool ArgumentSet::is_extent(std::size_t argument) const {
     return false;
 }
 
-ArgumentSet::ArgumentSet(const Routine& routine) : routine_(routine) {
+ArgumentSet::ArgumentSet(const Routine& routine, int beyond) : routine_(routine), beyond_(beyond) {
     for (const Argument& argument : routine.arguments) {
         std::size_t words = size_of(argument.type) / 4;
         for (const Extent& extent : argument.shape)
@@ -112,11 +123,22 @@ std::uint32_t ArgumentSet::any_integer(std::size_t argument, Random& random) con
     const Argument& description = routine_.arguments[argument];
     const int kind = random.below(100);
     if (kind < 80) return static_cast<std::uint32_t>(integer_within(description, 0, random));
-    if (kind < 95 || is_extent(argument))
-        return static_cast<std::uint32_t>(integer_within(description, beyond, random));
+    const bool extent = is_extent(argument);
+    if (kind < 95 || extent)
+        return static_cast<std::uint32_t>(
+            integer_within(description, extent ? beyond_ : slightly, random));
     const int choice = random.below(8);
     return choice < 4 ? static_cast<std::uint32_t>(wild[choice])
                       : static_cast<std::uint32_t>(random.bits());
+}
+
+std::uint32_t ArgumentSet::extreme_integer(std::size_t argument, Random& random) const {
+    using Limits = std::numeric_limits<std::int32_t>;
+    constexpr std::int32_t values[] = {Limits::min(), Limits::min() + 1, -0x10000,     -1, 0,
+                                       0x10000,       Limits::max() - 1, Limits::max()};
+    // Counts beyond the storage are the caller's own fault.
+    const int choices = is_extent(argument) ? 5 : static_cast<int>(std::size(values));
+    return static_cast<std::uint32_t>(values[random.below(choices)]);
 }
 
 template <class SingleWord, class DoubleWord, class IntegerWord, class Text>
@@ -161,6 +183,27 @@ void ArgumentSet::draw_any(Random& random) {
          [&](const Argument& a) { return any_real<double, std::uint64_t>(a, random); },
          [&](std::size_t i) { return any_integer(i, random); },
          [&](auto& room) { store_text(any_text(random), random.below(2) == 0, room); });
+}
+
+void ArgumentSet::spoil(Random& random) {
+    for (std::size_t i = 0; i < words_.size(); ++i) {
+        const Argument& argument = routine_.arguments[i];
+        auto& block = words_[i];
+        if (argument.direction == Direction::Out || argument.type == Type::Text) continue;
+        if (random.below(4)) continue;
+        const std::size_t words = size_of(argument.type) / 4;
+        for (std::size_t j = 0; j < block.size(); j += words) {
+            if (block.size() > words && random.below(2)) continue;
+            if (argument.type == Type::Integer) {
+                block[j] = extreme_integer(i, random);
+            } else if (argument.type == Type::Real) {
+                block[j] = std::bit_cast<std::uint32_t>(extreme<float>(random));
+            } else {
+                const double value = extreme<double>(random);
+                std::memcpy(&block[j], &value, sizeof value);
+            }
+        }
+    }
 }
 
 }  // namespace quorvel::test

@@ -32,10 +32,10 @@ class Random {
 inline constexpr std::string_view example_file = "example.climate";
 
 // The storage of one call: one block of bytes per argument, large enough for any count that is
-// drawn.
+// drawn: as many beyond either end of its range as `beyond`.
 class ArgumentSet {
   public:
-    explicit ArgumentSet(const Routine& routine);
+    explicit ArgumentSet(const Routine& routine, int beyond = 2);
     ArgumentSet(ArgumentSet&&) = default;
     ArgumentSet(const ArgumentSet&) = delete;
 
@@ -43,6 +43,9 @@ class ArgumentSet {
     // patterns. Outputs are filled with a pattern that shows what a call has left alone.
     void draw_valid(Random& random);
     void draw_any(Random& random);
+    // Puts extreme values in place of those of some arguments: not a number, infinite, subnormal,
+    // the ends of what the type holds, and counts from the least Integer on.
+    void spoil(Random& random);
 
     void* const* addresses() { return addresses_.data(); }
     const std::vector<std::vector<std::uint32_t>>& words() const { return words_; }
@@ -51,10 +54,12 @@ class ArgumentSet {
     int largest_extent(const Extent& extent) const;
     bool is_extent(std::size_t argument) const;
     std::uint32_t any_integer(std::size_t argument, Random& random) const;
+    std::uint32_t extreme_integer(std::size_t argument, Random& random) const;
     template <class SingleWord, class DoubleWord, class IntegerWord, class Text>
     void draw(SingleWord single, DoubleWord pair, IntegerWord integer, Text text);
 
     const Routine& routine_;
+    int beyond_;
     std::vector<std::vector<std::uint32_t>> words_;
     std::vector<void*> addresses_;
 };

@@ -1,0 +1,37 @@
+// A climate data file that a few words make, so that seeds can be small.
+#pragma once
+
+#include <cstring>
+#include <string>
+
+#include "fuzz/bytes.h"
+
+namespace quorvel::fuzz {
+
+inline constexpr int two_stations = 40 * 432;
+
+struct ClimateImage {
+    std::int32_t H = 0;  // second word of the header; 0 lets station 1 begin at record 3
+    int length = two_stations;
+    std::string_view values;  // over and over; without any, numbers that rise from 0 to 1
+
+    std::string bytes() const {
+        std::string file(static_cast<std::size_t>(length), '\0');
+        if (values.empty())
+            fill_rising(file);
+        else
+            for (std::size_t i = 0; i < file.size(); ++i) file[i] = values[i % values.size()];
+        if (file.size() >= 8) std::memcpy(&file[4], &H, sizeof H);
+        return file;
+    }
+
+  private:
+    static void fill_rising(std::string& file) {
+        for (std::size_t i = 0; i + 4 <= file.size(); i += 4) {
+            const float value = static_cast<float>(i % 4096) / 4096;
+            std::memcpy(&file[i], &value, sizeof value);
+        }
+    }
+};
+
+}  // namespace quorvel::fuzz
