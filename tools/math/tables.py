@@ -8,7 +8,7 @@ import struct
 from mpmath import acot, asin, atan, cos, floor, log, mp, mpf, pi, power, sin, sqrt
 
 mp.prec = 200
-SINE_STEPS = 256  # per turn
+SINE_STEPS = 512  # per turn
 LOG_STEPS = 128  # per octave
 EXP_STEPS = 64  # per octave
 # the leading coefficient of exp2_cubic in tools/math/coefficients.sollya
@@ -30,7 +30,7 @@ def in_rows(texts, per_row):
 
 
 def sines():
-    return [nearest(0 if 2 * k % SINE_STEPS == 0 else sin(2 * pi * k / SINE_STEPS)) for k in range(SINE_STEPS)]
+    return [nearest(0 if 2 * k % SINE_STEPS == 0 else sin(2 * pi * k / SINE_STEPS)) for k in range(SINE_STEPS * 5 // 4)]
 
 
 def log_step(i):
@@ -91,8 +91,8 @@ print(f"""// Tables of the single-precision functions, written by tools/math/tab
 
 namespace quorvel::math::detail {{
 
-// sin(2 pi k / {SINE_STEPS})
-inline constexpr double kSines[{SINE_STEPS}] = {{
+// sin(2 pi k / {SINE_STEPS}) over five quarters of a turn: the cosine of a step lies a quarter further on
+inline constexpr double kSines[{SINE_STEPS * 5 // 4}] = {{
 {in_rows(sines(), 4)}
 }};
 

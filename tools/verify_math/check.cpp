@@ -30,7 +30,7 @@ class Progress {
     }
     void show(std::uint64_t done) const {
         if (kTerminal)
-            std::fprintf(stderr, "\r%-16s %3d %%", name_.c_str(),
+            std::fprintf(stderr, "\r%-14s %3d %%", name_.c_str(),
                          static_cast<int>(100 * done / count_));
     }
 
@@ -46,16 +46,22 @@ class Findings {
     explicit Findings(const Function& function) : reference(function), name_(function.name) {}
 
     template <class... T>
-    void rounding(float computed, float exact, T... arguments) {
-        ++outcome.inputs;
+    void rounding(const char* form, float computed, float exact, T... arguments) {
         const bool both_nan = std::isnan(computed) && std::isnan(exact);
         if (both_nan ||
             std::bit_cast<std::uint32_t>(computed) == std::bit_cast<std::uint32_t>(exact))
             return;
         if (++outcome.misrounded <= 5)
-            std::fprintf(stderr, "%s(%s) = %a, correctly rounded %a\n", name_.c_str(),
+            std::fprintf(stderr, "%s%s(%s) = %a, correctly rounded %a\n", form, name_.c_str(),
                          list(arguments...).c_str(), static_cast<double>(computed),
                          static_cast<double>(exact));
+    }
+
+    template <class... T>
+    void rounding(float single, float in_loop, float exact, T... arguments) {
+        ++outcome.inputs;
+        rounding("", single, exact, arguments...);
+        rounding("loop::", in_loop, exact, arguments...);
     }
 
     template <class... T>
@@ -123,33 +129,38 @@ Outcome in_parallel(const Function& function, std::uint64_t count,
 Outcome check(const FloatFunction& function, std::uint64_t count) {
     return in_parallel(function.reference, count,
                        [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
-                           std::vector<float> x(last - first), computed(last - first);
-                           for (std::uint64_t i = first; i < last; ++i)
-                               x[i - first] = float_sample(i, count);
-                           function.evaluate(x.data(), computed.data(), x.size());
-                           for (std::size_t i = 0; i < x.size(); ++i)
-                               findings.rounding(computed[i], findings.reference.rounded(x[i]),
-                                                 x[i]);
+                           const std::size_t n = last - first;
+                           std::vector<float> x(n), single(n), in_loop(n);
+                           for (std::size_t i = 0; i < n; ++i)
+                               x[i] = float_sample(first + i, count);
+                           function.single(x.data(), single.data(), n);
+                           function.in_loop(x.data(), in_loop.data(), n);
+                           for (std::size_t i = 0; i < n; ++i)
+                               findings.rounding(single[i], in_loop[i],
+                                                 findings.reference.rounded(x[i]), x[i]);
                        });
 }
 
 Outcome check(const FloatPairFunction& function, std::uint64_t count) {
-    const bool is_pow = function.reference.name.ends_with("pow");
+    const bool is_pow = function.reference.name == "pow";
     const std::uint64_t hard_count = std::min(count / 16, std::uint64_t{1} << 22);
     const auto hard = is_pow ? pow_hard_cases(hard_count) : atan2_hard_cases(hard_count);
     const auto pair = [&](std::uint64_t i) {
         return i < hard.size() ? hard[i] : is_pow ? pow_sample(i) : atan2_sample(i);
     };
-    return in_parallel(
-        function.reference, count,
-        [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
-            std::vector<float> x(last - first), y(last - first), computed(last - first);
-            for (std::uint64_t i = first; i < last; ++i)
-                std::tie(x[i - first], y[i - first]) = pair(i);
-            function.evaluate(x.data(), y.data(), computed.data(), x.size());
-            for (std::size_t i = 0; i < x.size(); ++i)
-                findings.rounding(computed[i], findings.reference.rounded(x[i], y[i]), x[i], y[i]);
-        });
+    return in_parallel(function.reference, count,
+                       [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
+                           const std::size_t n = last - first;
+                           std::vector<float> x(n), y(n), single(n), in_loop(n);
+                           for (std::size_t i = 0; i < n; ++i)
+                               std::tie(x[i], y[i]) = pair(first + i);
+                           function.single(x.data(), y.data(), single.data(), n);
+                           function.in_loop(x.data(), y.data(), in_loop.data(), n);
+                           for (std::size_t i = 0; i < n; ++i)
+                               findings.rounding(single[i], in_loop[i],
+                                                 findings.reference.rounded(x[i], y[i]), x[i],
+                                                 y[i]);
+                       });
 }
 
 Outcome check(const DoubleFunction& function, std::uint64_t count) {

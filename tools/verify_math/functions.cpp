@@ -23,41 +23,44 @@ namespace own = quorvel::math;
     [](const float* __restrict in, float* __restrict out, std::size_t count) { \
         for (std::size_t i = 0; i < count; ++i) out[i] = expression(in[i]);    \
     }
-#define FLOAT(f, form) \
-    FloatFunction { {#form, PLATFORM(f), MPFR(f)}, LOOP(own::form) }
+#define PAIRS(f)                                                        \
+    [](const float* x, const float* y, float* out, std::size_t count) { \
+        for (std::size_t i = 0; i < count; ++i) out[i] = f(x[i], y[i]); \
+    }
+#define FLOAT(f) \
+    FloatFunction { {#f, PLATFORM(f), MPFR(f)}, LOOP(own::f), LOOP(own::loop::f) }
+#define SINCOS(f)                                                                             \
+    FloatFunction {                                                                           \
+        {"sincos." #f, PLATFORM(f), MPFR(f)}, LOOP([](float x) { return own::sincos(x).f; }), \
+            LOOP([](float x) { return own::loop::sincos(x).f; })                              \
+    }
+#define FLOAT2(f)                                                                   \
+    FloatPairFunction {                                                             \
+        {#f, nullptr, nullptr, PLATFORM2(f), MPFR2(f)}, PAIRS(own::f), own::loop::f \
+    }
 #define DOUBLE(f, low, high, near_one)                                                      \
     DoubleFunction {                                                                        \
         {#f, PLATFORM(f), MPFR(f)}, [](double x) { return own::f(x); }, low, high, near_one \
     }
 
-#define SINCOS(f, form)                                                                    \
-    FloatFunction {                                                                        \
-        {#form "." #f, PLATFORM(f), MPFR(f)}, LOOP([](float x) { return own::form(x).f; }) \
-    }
-
-#define PAIRS(f)                                                        \
-    [](const float* x, const float* y, float* out, std::size_t count) { \
-        for (std::size_t i = 0; i < count; ++i) out[i] = f(x[i], y[i]); \
-    }
-#define FLOAT2(f, form, evaluate) \
-    FloatPairFunction { {#form, nullptr, nullptr, PLATFORM2(f), MPFR2(f)}, evaluate }
-
 constexpr FloatFunction kFloat[] = {
-    FLOAT(sin, sin),     FLOAT(sin, loop::sin),     FLOAT(cos, cos),     FLOAT(cos, loop::cos),
-    SINCOS(sin, sincos), SINCOS(sin, loop::sincos), SINCOS(cos, sincos), SINCOS(cos, loop::sincos),
-    FLOAT(tan, tan),     FLOAT(tan, loop::tan),     FLOAT(asin, asin),   FLOAT(asin, loop::asin),
-    FLOAT(acos, acos),   FLOAT(acos, loop::acos),   FLOAT(atan, atan),   FLOAT(atan, loop::atan),
-    FLOAT(exp, exp),     FLOAT(exp, loop::exp),     FLOAT(exp10, exp10), FLOAT(exp10, loop::exp10),
-    FLOAT(log, log),     FLOAT(log, loop::log),     FLOAT(log10, log10), FLOAT(log10, loop::log10),
-    FLOAT(sqrt, sqrt),
+    FLOAT(sin),
+    FLOAT(cos),
+    SINCOS(sin),
+    SINCOS(cos),
+    FLOAT(tan),
+    FLOAT(asin),
+    FLOAT(acos),
+    FLOAT(atan),
+    FLOAT(exp),
+    FLOAT(exp10),
+    FLOAT(log),
+    FLOAT(log10),
+    // which has one form only
+    {{"sqrt", PLATFORM(sqrt), MPFR(sqrt)}, LOOP(own::sqrt), LOOP(own::sqrt)},
 };
 
-constexpr FloatPairFunction kFloatPair[] = {
-    FLOAT2(atan2, atan2, PAIRS(own::atan2)),
-    FLOAT2(atan2, loop::atan2, own::loop::atan2),
-    FLOAT2(pow, pow, PAIRS(own::pow)),
-    FLOAT2(pow, loop::pow, own::loop::pow),
-};
+constexpr FloatPairFunction kFloatPair[] = {FLOAT2(atan2), FLOAT2(pow)};
 
 constexpr DoubleFunction kDouble[] = {
     DOUBLE(sin, -30, 40, false), DOUBLE(cos, -30, 40, false),    DOUBLE(tan, -30, 40, false),

@@ -8,14 +8,17 @@
 
 namespace verify {
 
+// Both forms of a single-precision function, evaluated over arrays
 struct FloatFunction {
+    using Evaluate = void (*)(const float* x, float* result, std::size_t count);
     Function reference;
-    void (*evaluate)(const float* x, float* result, std::size_t count);
+    Evaluate single, in_loop;
 };
 
 struct FloatPairFunction {
+    using Evaluate = void (*)(const float* x, const float* y, float* result, std::size_t count);
     Function reference;
-    void (*evaluate)(const float* x, const float* y, float* result, std::size_t count);
+    Evaluate single, in_loop;
 };
 
 struct DoubleFunction {

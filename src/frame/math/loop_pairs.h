@@ -2,11 +2,10 @@
 //
 // A plain loop over math::atan2 or math::pow does not vectorise, since they decide by a branch
 // whether the double determines the rounding. Here blocks of doubles are calculated and rounded
-// without branches; a block with a pair that is in doubt, one block in 2^13 or more, is repeated
-// one pair after the other.
+// without branches; a block with a pair in doubt, one in 2^14 at most, or with special values is
+// repeated one pair after the other.
 //
-// Algorithm: atan2 as for a single pair; pow by log and exp as for loops, relative error below
-// 2^-45.
+// Algorithm: the first step of atan2 and the second one of pow for a single pair.
 #pragma once
 
 #include "frame/math/atan2.h"
@@ -17,16 +16,6 @@ namespace detail {
 
 QUORVEL_INLINE double atan2_for_loop(float y, float x) noexcept {
     return atan2_in_double(static_cast<double>(y), static_cast<double>(x));
-}
-
-// Not a number for a base that has no logarithm
-QUORVEL_INLINE double pow_for_loop(float x, float y) noexcept {
-    const double base = static_cast<double>(x);
-    const auto [n, mantissa] = split_exponent(base);
-    const double log_power = static_cast<double>(y) * log_sum(n, mantissa).high;
-    const double power = exp_in_double(clamp(log_power, 128.0));
-    const bool has_logarithm = (base > 0.0) & (base < kInfinity);
-    return has_logarithm ? power : std::numeric_limits<double>::quiet_NaN();
 }
 
 template <auto in_double, auto single>
@@ -60,8 +49,8 @@ QUORVEL_INLINE void atan2(const float* y, const float* x, float* angle,
 
 QUORVEL_INLINE void pow(const float* x, const float* y, float* power, std::size_t count) noexcept {
     using namespace detail;
-    by_blocks<pow_for_loop, [](float a, float b) { return math::pow(a, b); }>(x, y, power, count,
-                                                                              0x1p-45);
+    by_blocks<power_by_log, [](float a, float b) { return math::pow(a, b); }>(x, y, power, count,
+                                                                              kPowerErrorByLog);
 }
 
 }  // namespace loop

@@ -2,10 +2,11 @@
 //
 // Algorithm: 2^(y log2 x) in double, log2 x by the table of log and a quintic, the power of two as
 // in exp; relative error below 2^-36. Where that leaves the rounding in doubt (one call in 2^11)
-// and outside the range of normal floats, x^y in double of relative error below 2^-52. Where that
-// still does (one call in 2^26), log x by its series in atanh and e^(y log x) by Taylor's in 106
-// bits, of relative error below 2^-92. No power is expected nearer than 2^-86 to a midpoint of two
-// floats without being one, so what is nearer than 2^-88 is taken for the midpoint itself.
+// and outside the range of normal floats, e^(y log x) by the polynomials for loops, of relative
+// error below 2^-45. Where that still does (one in 2^20), log x by its series in atanh and e^(y log
+// x) by Taylor's in 106 bits, of relative error below 2^-92. No power is expected nearer than 2^-86
+// to a midpoint of two floats without being one, so what is nearer than 2^-88 is taken for the
+// midpoint itself.
 //
 // The further steps are branches, and with them a plain loop does not vectorise; see loop_pairs.h.
 //
@@ -73,12 +74,23 @@ QUORVEL_INLINE bool within_normal_powers(double exponent) noexcept {
     return bits(exponent + kTo64ths) - (bits(kTo64ths) - 125 * 64) <= 2 * 125 * 64;
 }
 
+constexpr double kPowerErrorByLog = 0x1p-45;
+
+// Not a number for a base that has no logarithm
+QUORVEL_INLINE double power_by_log(float x, float y) noexcept {
+    const double base = static_cast<double>(x);
+    const auto [n, mantissa] = split_exponent(base);
+    const double log_power = static_cast<double>(y) * log_sum(n, mantissa).high;
+    const double power = exp_in_double(clamp(log_power, 128.0));
+    const bool has_logarithm = (base > 0.0) & (base < kInfinity);
+    return has_logarithm ? power : std::numeric_limits<double>::quiet_NaN();
+}
+
 inline float pow_of_any(float x, float y) noexcept {
+    const double power = power_by_log(x, y);
+    if (rounds_safely(power, kPowerErrorByLog)) return static_cast<float>(power);
     if (!(x > 0.0f && x - x == 0.0f && y - y == 0.0f)) return pow_of_special(x, y);
-    const double base = static_cast<double>(x), power = static_cast<double>(y);
-    const double value = std::min(pow(base, power), 0x1p200);
-    if (rounds_safely(value, 0x1p-51)) return static_cast<float>(value);
-    return pow_accurate(base, power);
+    return pow_accurate(static_cast<double>(x), static_cast<double>(y));
 }
 
 }  // namespace detail

@@ -12,6 +12,18 @@ QUORVEL_INLINE std::uint32_t magnitude_bits(float x) noexcept {
     return std::bit_cast<std::uint32_t>(x) & 0x7fffffff;
 }
 
+// Bit patterns of floats
+constexpr std::uint32_t kLeastNormal = 0x00800000, kOne = 0x3f800000, kLargest = 0x7f7fffff;
+
+// Whether |x| lies between two floats of these bit patterns, inclusive
+template <std::uint32_t kLow, std::uint32_t kHigh>
+QUORVEL_INLINE bool magnitude_within(float x) noexcept {
+    return 2 * std::bit_cast<std::uint32_t>(x) - 2 * kLow <= 2 * (kHigh - kLow);
+}
+
+// Added to a small x it leaves 64 x, rounded, in the lowest bits.
+constexpr double kTo64ths = kToInteger / 64.0;
+
 // Whether a midpoint of two floats lies within kError units in the last place of `value`, which is
 // in the range of normal floats or 0. A relative error of 2^-n is up to 2^(53-n) units.
 template <std::uint32_t kError>

@@ -22,8 +22,8 @@ namespace detail {
 
 constexpr std::uint32_t kExpError = 0x10000, kLogError = 0x4a000;  // see near_midpoint
 
-// Added to x it leaves 64 x, rounded, in the lowest bits.
-constexpr double kTo64ths = kToInteger / 64.0;
+// 87 and 37.75, as bit patterns
+constexpr std::uint32_t kExpLimit = 0x42ae0000, kExp10Limit = 0x42170000;
 
 // 2^x, |x| <= 256. The cubic is split into factors, the leading one of which is in the table.
 QUORVEL_INLINE double table_exp2(double x) noexcept {
@@ -41,7 +41,7 @@ struct LogStep {
 QUORVEL_INLINE LogStep log_step(float x) noexcept {
     const auto b = std::bit_cast<std::uint32_t>(x);
     const std::uint32_t fraction = b & 0x007fffff, k = fraction >> 16;
-    const auto m = static_cast<double>(std::bit_cast<float>(fraction + 0x3f800000));
+    const double m = from_bits(bits(1.0) + (std::uint64_t{fraction} << 29));
     const auto biased_exponent = static_cast<double>(static_cast<std::int32_t>(b >> 23));
     return {biased_exponent + kLogSteps.log2[k], m * kLogSteps.inverse[k] - 1.0};
 }
@@ -55,21 +55,21 @@ QUORVEL_INLINE double table_log(float x) noexcept {
 }
 
 QUORVEL_INLINE bool normal_and_positive(float x) noexcept {
-    return std::bit_cast<std::uint32_t>(x) - 0x00800000 < 0x7f000000;
+    return std::bit_cast<std::uint32_t>(x) - kLeastNormal <= kLargest - kLeastNormal;
 }
 
 }  // namespace detail
 
 QUORVEL_INLINE float exp(float x) noexcept {
     using namespace detail;
-    return rounded<loop::exp, kExpError>(x, magnitude_bits(x) <= 0x42ae0000, [](double t) {
+    return rounded<loop::exp, kExpError>(x, magnitude_within<0, kExpLimit>(x), [](double t) {
         return table_exp2(t * 0x1.71547652b82fep0);
     });
 }
 
 QUORVEL_INLINE float exp10(float x) noexcept {
     using namespace detail;
-    return rounded<loop::exp10, kExpError>(x, magnitude_bits(x) <= 0x42170000, [](double t) {
+    return rounded<loop::exp10, kExpError>(x, magnitude_within<0, kExp10Limit>(x), [](double t) {
         return table_exp2(t * 0x1.a934f0979a371p1);
     });
 }

@@ -26,7 +26,6 @@ struct ArcSine {
     double angle, rest;
 };
 QUORVEL_INLINE ArcSine table_asin(double x) noexcept {
-    constexpr double kTo64ths = kToInteger / 64.0;
     const double shifted = x + kTo64ths, s = shifted - kTo64ths;
     const ArcSineStep& step = kArcSineSteps[64 + static_cast<std::int32_t>(bits(shifted))];
     const double d = x * step.cosine - s * sqrt(1.0 - x * x), z = d * d;
@@ -46,23 +45,20 @@ QUORVEL_INLINE double table_atan(double x, std::uint32_t half_octave) noexcept {
     return flip_sign(angle + (t - t * z * p), sign(x));
 }
 
-QUORVEL_INLINE bool normal_up_to(float x, std::uint32_t limit) noexcept {
-    return magnitude_bits(x) - 0x00800000 <= limit - 0x00800000;
-}
-
 }  // namespace detail
 
 QUORVEL_INLINE float asin(float x) noexcept {
     using namespace detail;
-    return rounded<loop::asin, kArcSineError>(x, normal_up_to(x, 0x3f800000), [](double t) {
-        const auto [angle, rest] = table_asin(t);
-        return angle + rest;
-    });
+    return rounded<loop::asin, kArcSineError>(x, magnitude_within<kLeastNormal, kOne>(x),
+                                              [](double t) {
+                                                  const auto [angle, rest] = table_asin(t);
+                                                  return angle + rest;
+                                              });
 }
 
 QUORVEL_INLINE float acos(float x) noexcept {
     using namespace detail;
-    return rounded<loop::acos, kArcSineError>(x, magnitude_bits(x) <= 0x3f800000, [](double t) {
+    return rounded<loop::acos, kArcSineError>(x, magnitude_within<0, kOne>(x), [](double t) {
         const auto [angle, rest] = table_asin(t);
         return (kHalfPi - angle) - rest;
     });
@@ -70,9 +66,9 @@ QUORVEL_INLINE float acos(float x) noexcept {
 
 QUORVEL_INLINE float atan(float x) noexcept {
     using namespace detail;
-    return rounded<loop::atan, kArcTangentError>(x, normal_up_to(x, 0x7f7fffff), [x](double t) {
-        return table_atan(t, magnitude_bits(x) >> 22);
-    });
+    return rounded<loop::atan, kArcTangentError>(
+        x, magnitude_within<kLeastNormal, kLargest>(x),
+        [x](double t) { return table_atan(t, magnitude_bits(x) >> 22); });
 }
 
 }  // namespace quorvel::math
