@@ -4,7 +4,8 @@
 Each change (a constant in its last digit, < to <=, a swapped sign, a dropped clamp, two exchanged
 rows of a table) is built and tested in a copy of the tree. It is killed by a test, or only by the
 corpus hashes, or it survives; those that do not compile do not count. Survivors are listed: each is
-either equivalent, that is without influence on any result, or asks for a better test.
+either equivalent, that is without influence on any result, and explained in equivalent.toml, or asks
+for a better test.
 """
 
 import argparse
@@ -12,8 +13,10 @@ import concurrent.futures
 import os
 import queue
 import random
+import shutil
 import subprocess
 import sys
+import tomllib
 from collections import Counter
 from pathlib import Path
 
@@ -23,11 +26,17 @@ ROOT = Path(__file__).resolve().parents[2]
 # Elementary functions have their own exhaustive check, ./dev verify-math.
 LEFT_OUT = ("src/frame/math", "src/frame/dll_main.cpp", "src/frame/version.cpp")
 TARGETS = ("quorvel", "quorvel_tests", "quorvel_corpus")
-LONGEST_TEST = 300  # s; a change that makes a search endless is killed too
+LONGEST_TEST = 90  # s; a change that makes a search endless is killed too
 
 
 def git(*arguments):
     return subprocess.run(["git", *arguments], cwd=ROOT, capture_output=True, check=True).stdout
+
+
+def explained():
+    """Changes that are known to change no result."""
+    entries = tomllib.loads(Path(__file__).with_name("equivalent.toml").read_text())["equivalent"]
+    return {(entry["file"], entry["before"], entry["after"]) for entry in entries}
 
 
 def sources():
@@ -42,12 +51,15 @@ class Tree:
 
     def __init__(self, folder):
         self.source, self.build = folder / "source", folder / "build"
-        self.source.mkdir(parents=True, exist_ok=True)
+        shutil.rmtree(folder, ignore_errors=True)  # a change may still be in what an earlier run has built
+        self.source.mkdir(parents=True)
         subprocess.run(["tar", "x", "-C", self.source], input=git("archive", "HEAD"), check=True)
         # Optimisation changes no result, and takes time.
         options = ["-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1", "-DQUORVEL_TESTS=ON", "-DQUORVEL_HOSTS=ON"]
         self._run("cmake", "-S", self.source, "-B", self.build, *options, check=True)
         self._run("cmake", "--build", self.build, "--target", *TARGETS, check=True)
+        if not self._passes_tests():
+            sys.exit("The tests fail without any change.")
         self.hashes = self._run(self.build / "quorvel_corpus").stdout
 
     def _run(self, *command, check=False):
@@ -58,6 +70,9 @@ class Tree:
             return self._run(*command).returncode == 0
         except subprocess.TimeoutExpired:
             return False
+
+    def _passes_tests(self):
+        return self._passes(self.build / "quorvel_tests", "--gtest_brief=1", "--gtest_fail_fast")
 
     def _same_hashes(self):
         try:
@@ -72,7 +87,7 @@ class Tree:
             path.write_text("\n".join(mutation.apply(original.split("\n"))))
             if not self._passes("cmake", "--build", self.build, "--target", "quorvel"):
                 return "does not compile"
-            if not self._passes(self.build / "quorvel_tests", "--gtest_brief=1", "--gtest_fail_fast"):
+            if not self._passes_tests():
                 return "killed by a test"
             return "survives" if self._same_hashes() else "killed by the hashes only"
         finally:
@@ -107,7 +122,7 @@ def main():
     for number in range(options.jobs):
         print(f"Preparing tree {number + 1}", file=sys.stderr)
         trees.put(Tree(ROOT / "build" / "mutate" / str(number)))
-    fates, survivors = Counter(), []
+    fates, equivalent = Counter(), explained()
 
     def judge(mutation):
         tree = trees.get()
@@ -123,20 +138,21 @@ def main():
             done, running = concurrent.futures.wait(running, return_when=concurrent.futures.FIRST_COMPLETED)
             for future in done:
                 mutation, fate = future.result()
+                if fate == "survives" and mutation.key() in equivalent:
+                    fate = "equivalent"
                 fates[fate] += 1
                 if fate in ("survives", "killed by the hashes only"):
                     print(f"{fate}: {mutation}", flush=True)
-                survivors += [mutation] if fate == "survives" else []
                 judged = sum(fates.values()) - fates["does not compile"]
-                print(f"\r{judged} of {options.count}, {len(survivors)} survive ", end="", file=sys.stderr, flush=True)
+                print(f"\r{judged} of {options.count}, {fates['survives']} survive ", end="", file=sys.stderr, flush=True)
                 if judged + len(running) < options.count and (following := next(waiting, None)):
                     running.add(pool.submit(judge, following))
 
-    judged = sum(fates.values()) - fates["does not compile"]
     print(file=sys.stderr)
     for fate, count in fates.most_common():
         print(f"{count:5d}  {fate}")
-    print(f"{100 * (judged - len(survivors)) / max(judged, 1):.1f} % of {judged} changes are noticed")
+    changing = sum(fates.values()) - fates["does not compile"] - fates["equivalent"]
+    print(f"{100 * (changing - fates['survives']) / max(changing, 1):.1f} % of {changing} changes of a result are noticed")
 
 
 if __name__ == "__main__":

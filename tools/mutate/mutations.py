@@ -1,6 +1,7 @@
 """The small changes to a source line that a test ought to notice."""
 
 import re
+import struct
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -30,9 +31,13 @@ class Mutation:
         changed[self.line : self.line + self.before.count("\n") + 1] = self.after.split("\n")
         return changed
 
+    def key(self):
+        """What tells it from all others, wherever in the file the line stands."""
+        return (str(self.file), *(" / ".join(part.strip() for part in text.split("\n")) for text in (self.before, self.after)))
+
     def __str__(self):
-        strip = lambda text: " / ".join(part.strip() for part in text.split("\n"))
-        return f"{self.file}:{self.line + 1}  {self.kind}\n    {strip(self.before)}\n    {strip(self.after)}"
+        _, before, after = self.key()
+        return f"{self.file}:{self.line + 1}  {self.kind}\n    {before}\n    {after}"
 
 
 def _code(line):
@@ -45,9 +50,18 @@ def _other_digit(number):
     return number[: len(number.rstrip(".")) - 1] + str((int(digit) + 1) % 10) + ("." if number.endswith(".") else "")
 
 
+def _value(number, code_after):
+    """What the compiler makes of it: many a decimal more gives the same single-precision number."""
+    exponent, single = re.match(r"([eE][-+]?\d+)?(f?)", code_after).groups(default="")
+    value = float(number + exponent)
+    return struct.pack("f", value) if single else value
+
+
 def _digits(code):
     for match in NUMBER.finditer(code):
-        yield "digit", code[: match.start()] + _other_digit(match[0]) + code[match.end() :]
+        other, after = _other_digit(match[0]), code[match.end() :]
+        if _value(other, after) != _value(match[0], after):
+            yield "digit", code[: match.start()] + other + after
 
 
 def _swaps(code):
@@ -79,8 +93,20 @@ def _clamps(code):
                 yield "clamp", code[: match.start()] + f"({call[0]})" + code[call[1] :]
 
 
-def mutations_of(file, lines):
+def _compiled(lines):
+    """Lines of this platform, with their numbers."""
+    elsewhere = False
     for number, line in enumerate(lines):
+        if line.startswith("#ifdef _WIN32"):
+            elsewhere = True
+        elif line.startswith(("#else", "#endif")):
+            elsewhere = False
+        if not elsewhere:
+            yield number, line
+
+
+def mutations_of(file, lines):
+    for number, line in _compiled(lines):
         code = _code(line)
         if NO_CODE.match(line) or not code.strip():
             continue
