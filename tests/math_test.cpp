@@ -1,6 +1,6 @@
-// The elementary functions of the core. All arguments of each are verified by tools/verify_math;
-// here stand what IEEE 754 lays down, the arguments hardest to round, and identities that hold to
-// the last bit because both sides are correctly rounded.
+// The elementary functions of the core. tools/verify_math compares all arguments of each with MPFR,
+// of which every run of the tests takes a sample; here stand what a sample misses: what IEEE 754
+// lays down, and the arguments hardest to round.
 #include "frame/math.h"
 
 #include <gtest/gtest.h>
@@ -8,8 +8,6 @@
 #include <bit>
 #include <cmath>
 #include <limits>
-#include <random>
-#include <vector>
 
 namespace {
 
@@ -24,141 +22,102 @@ bool same(T a, T b) {
     EXPECT_PRED2((same<std::decay_t<decltype(computed)>>), computed, expected)
 
 template <typename T>
-class SpecialValues : public testing::Test {
-  protected:
-    static constexpr T zero = 0, one = 1, two = 2, three = 3, half = T(0.5);
-    static constexpr T inf = std::numeric_limits<T>::infinity();
-    static constexpr T nan = std::numeric_limits<T>::quiet_NaN();
-    static constexpr T tiny = std::numeric_limits<T>::denorm_min();
-    static constexpr T huge = std::numeric_limits<T>::max();
-};
+class SpecialValues : public testing::Test {};
 using Precisions = testing::Types<float, double>;
 TYPED_TEST_SUITE(SpecialValues, Precisions);
 
-#define USE_VALUES                                                                      \
-    [[maybe_unused]] constexpr auto zero = TestFixture::zero, one = TestFixture::one,   \
-                                    two = TestFixture::two, three = TestFixture::three, \
-                                    half = TestFixture::half, inf = TestFixture::inf,   \
-                                    nan = TestFixture::nan, tiny = TestFixture::tiny,   \
-                                    huge = TestFixture::huge
+#define USE_VALUES                                                                            \
+    using Limits = std::numeric_limits<TypeParam>;                                            \
+    [[maybe_unused]] constexpr TypeParam zero = 0, one = 1, two = 2, three = 3, half = 0.5f,  \
+                                         inf = Limits::infinity(), nan = Limits::quiet_NaN(), \
+                                         tiny = Limits::denorm_min(), huge = Limits::max()
 
-TYPED_TEST(SpecialValues, OfTrigonometricFunctions) {
+TYPED_TEST(SpecialValues, OfFunctionsOfOneArgument) {
     USE_VALUES;
+    using Function = TypeParam (*)(TypeParam);
+    const Function sin = own::sin, cos = own::cos, tan = own::tan, asin = own::asin,
+                   acos = own::acos, atan = own::atan, exp = own::exp, log = own::log;
     for (const TypeParam sign : {one, -one}) {
-        EXPECT_SAME(own::sin(sign * zero), sign * zero);
-        EXPECT_SAME(own::tan(sign * zero), sign * zero);
-        EXPECT_SAME(own::asin(sign * zero), sign * zero);
-        EXPECT_SAME(own::atan(sign * zero), sign * zero);
-        EXPECT_SAME(own::cos(sign * zero), one);
-        for (const TypeParam small : {tiny, tiny * 12345, std::numeric_limits<TypeParam>::min()}) {
-            EXPECT_SAME(own::sin(sign * small), sign * small);
-            EXPECT_SAME(own::tan(sign * small), sign * small);
-            EXPECT_SAME(own::asin(sign * small), sign * small);
-            EXPECT_SAME(own::atan(sign * small), sign * small);
-        }
-        EXPECT_SAME(own::sin(sign * inf), nan);
-        EXPECT_SAME(own::cos(sign * inf), nan);
-        EXPECT_SAME(own::tan(sign * inf), nan);
-        EXPECT_SAME(own::asin(sign * std::nextafter(one, two)), nan);
-        EXPECT_SAME(own::acos(sign * std::nextafter(one, two)), nan);
-        EXPECT_SAME(own::asin(sign * inf), nan);
-        EXPECT_SAME(own::acos(sign * inf), nan);
-        EXPECT_SAME(own::atan(sign * inf), sign * own::asin(one));
+        for (const Function f : {sin, tan, asin, atan})
+            for (const TypeParam small : {zero, tiny, tiny * 12345, Limits::min()})
+                EXPECT_SAME(f(sign * small), sign * small);
+        EXPECT_SAME(cos(sign * zero), one);
+        EXPECT_SAME(exp(sign * zero), one);
+        EXPECT_SAME(log(sign * zero), -inf);
+        for (const Function f : {sin, cos, tan, asin, acos}) EXPECT_SAME(f(sign * inf), nan);
+        for (const Function f : {asin, acos}) EXPECT_SAME(f(sign * std::nextafter(one, two)), nan);
+        EXPECT_SAME(atan(sign * inf), sign * asin(one));
     }
-    EXPECT_SAME(own::acos(one), zero);
-    for (const auto f :
-         {+[](TypeParam x) { return own::sin(x); }, +[](TypeParam x) { return own::cos(x); },
-          +[](TypeParam x) { return own::tan(x); }, +[](TypeParam x) { return own::asin(x); },
-          +[](TypeParam x) { return own::acos(x); }, +[](TypeParam x) { return own::atan(x); },
-          +[](TypeParam x) { return own::exp(x); }, +[](TypeParam x) { return own::log(x); }})
-        EXPECT_SAME(f(nan), nan);
+    EXPECT_SAME(acos(one), zero);
+    for (const TypeParam large : {huge, inf}) {
+        EXPECT_SAME(exp(large), inf);
+        EXPECT_SAME(exp(-large), zero);
+    }
+    EXPECT_SAME(log(one), zero);
+    EXPECT_SAME(log(inf), inf);
+    for (const TypeParam negative : {-tiny, -inf}) EXPECT_SAME(log(negative), nan);
+    EXPECT_GT(exp(log(huge) - half), huge / 2);
+    EXPECT_GT(exp(log(tiny) + half), zero);
+    for (const Function f : {sin, cos, tan, asin, acos, atan, exp, log}) EXPECT_SAME(f(nan), nan);
 }
 
 TYPED_TEST(SpecialValues, OfArcTangentOfTwoArguments) {
     USE_VALUES;
-    const TypeParam quarter = own::acos(zero), straight = own::acos(-one), eighth = own::atan(one);
-    for (const TypeParam sign : {one, -one}) {
-        EXPECT_SAME(own::atan2(sign * zero, zero), sign * zero);
-        EXPECT_SAME(own::atan2(sign * zero, -zero), sign * straight);
-        EXPECT_SAME(own::atan2(sign * zero, tiny), sign * zero);
-        EXPECT_SAME(own::atan2(sign * zero, -tiny), sign * straight);
-        EXPECT_SAME(own::atan2(sign * tiny, zero), sign * quarter);
-        EXPECT_SAME(own::atan2(sign * tiny, -zero), sign * quarter);
-        EXPECT_SAME(own::atan2(sign * huge, inf), sign * zero);
-        EXPECT_SAME(own::atan2(sign * huge, -inf), sign * straight);
-        EXPECT_SAME(own::atan2(sign * inf, huge), sign * quarter);
-        EXPECT_SAME(own::atan2(sign * inf, inf), sign * eighth);
-        EXPECT_SAME(own::atan2(sign * inf, -inf), sign * own::atan2(one, -one));
-        EXPECT_SAME(own::atan2(sign * tiny, huge), sign * zero);
-        EXPECT_SAME(own::atan2(sign * huge, -huge), sign * own::atan2(one, -one));
-        EXPECT_SAME(own::atan2(sign * inf, nan), nan);
-        EXPECT_SAME(own::atan2(nan, sign * inf), nan);
-        EXPECT_SAME(own::atan2(nan, sign * zero), nan);
+    const TypeParam quarter = own::acos(zero), straight = own::acos(-one), eighth = own::atan(one),
+                    three_eighths = own::atan2(one, -one);
+    const struct {
+        TypeParam y, x, angle;
+    } cases[] = {{zero, zero, zero},
+                 {zero, -zero, straight},
+                 {zero, tiny, zero},
+                 {zero, -tiny, straight},
+                 {tiny, zero, quarter},
+                 {tiny, -zero, quarter},
+                 {huge, inf, zero},
+                 {huge, -inf, straight},
+                 {inf, huge, quarter},
+                 {inf, inf, eighth},
+                 {inf, -inf, three_eighths},
+                 {tiny, huge, zero},
+                 {huge, -huge, three_eighths},
+                 {inf, nan, nan}};
+    for (const auto& [y, x, angle] : cases) {
+        EXPECT_PRED2(same<TypeParam>, own::atan2(y, x), angle) << y << ", " << x;
+        EXPECT_PRED2(same<TypeParam>, own::atan2(-y, x), -angle) << -y << ", " << x;
     }
-}
-
-TYPED_TEST(SpecialValues, OfExponentialAndLogarithm) {
-    USE_VALUES;
-    EXPECT_SAME(own::exp(zero), one);
-    EXPECT_SAME(own::exp(-zero), one);
-    EXPECT_SAME(own::exp(inf), inf);
-    EXPECT_SAME(own::exp(-inf), zero);
-    EXPECT_SAME(own::exp(huge), inf);
-    EXPECT_SAME(own::exp(-huge), zero);
-    EXPECT_SAME(own::log(zero), -inf);
-    EXPECT_SAME(own::log(-zero), -inf);
-    EXPECT_SAME(own::log(one), zero);
-    EXPECT_SAME(own::log(inf), inf);
-    EXPECT_SAME(own::log(-tiny), nan);
-    EXPECT_SAME(own::log(-inf), nan);
-    EXPECT_GT(own::exp(own::log(huge) - half), huge / 2);
-    EXPECT_GT(own::exp(own::log(tiny) + half), zero);
+    EXPECT_SAME(own::atan2(nan, zero), nan);
 }
 
 TYPED_TEST(SpecialValues, OfPower) {
     USE_VALUES;
     const struct {
         TypeParam x, y, power;
-    } cases[] = {
-        {nan, zero, one},
-        {one, nan, one},
-        {one, -inf, one},
-        {-one, inf, one},
-        {-one, nan, nan},
-        {nan, one, nan},
-        {two, nan, nan},
-        {-two, half, nan},
-        {-two, three, -8},
-        {-two, two, 4},
-        {-two, -three, TypeParam(-0.125)},
-        {zero, three, zero},
-        {-zero, three, -zero},
-        {-zero, two, zero},
-        {-zero, half, zero},
-        {zero, -one, inf},
-        {-zero, -one, -inf},
-        {-zero, -two, inf},
-        {-zero, -inf, inf},
-        {inf, half, inf},
-        {inf, -half, zero},
-        {-inf, three, -inf},
-        {-inf, two, inf},
-        {-inf, -three, -zero},
-        {-inf, half, inf},
-        {half, inf, zero},
-        {half, -inf, inf},
-        {-two, inf, inf},
-        {-two, -inf, zero},
-        {two, huge, inf},
-        {two, -huge, zero},
-        {-two, huge, inf},
-        {half, huge, zero},
-        {huge, two, inf},
-        {-huge, three, -inf},
-        {tiny, two, zero},
-        {-tiny, three, -zero},
-        {tiny, half, own::sqrt(tiny)},
-    };
+    } cases[] = {{nan, zero, one},
+                 {one, nan, one},
+                 {one, -inf, one},
+                 {-one, inf, one},
+                 {-one, nan, nan},
+                 {nan, one, nan},
+                 {-two, half, nan},
+                 {-two, three, -8},
+                 {-two, -three, TypeParam(-0.125)},
+                 {zero, three, zero},
+                 {-zero, three, -zero},
+                 {-zero, two, zero},
+                 {zero, -one, inf},
+                 {-zero, -one, -inf},
+                 {-zero, -two, inf},
+                 {inf, half, inf},
+                 {inf, -half, zero},
+                 {-inf, three, -inf},
+                 {-inf, -three, -zero},
+                 {half, inf, zero},
+                 {half, -inf, inf},
+                 {two, huge, inf},
+                 {two, -huge, zero},
+                 {-huge, three, -inf},
+                 {-tiny, three, -zero},
+                 {tiny, half, own::sqrt(tiny)}};
     for (const auto& c : cases)
         EXPECT_PRED2(same<TypeParam>, own::pow(c.x, c.y), c.power) << c.x << "^" << c.y;
 }
@@ -183,130 +142,10 @@ TEST(CorrectRounding, OfHardArguments) {
     EXPECT_EQ(own::log(0x1.b121a6p76f), 0x1.a9a3f2p5f);
     EXPECT_EQ(own::log(0x1.6351d8p95f), 0x1.08b512p6f);
     EXPECT_EQ(own::log10(0x1.fddcf4p-98f), -0x1.d33a46p4f);
-}
-
-TEST(CorrectRounding, OfPowersOnMidpointsGoesToEven) {
-    EXPECT_EQ(own::pow(4097.0f, 2.0f), 16785408.0f);   // 16785409, down
-    EXPECT_EQ(own::pow(259.0f, 3.0f), 17373980.0f);    // 17373979, up
-    EXPECT_EQ(own::pow(67081.0f, 1.5f), 17373980.0f);  // 259^2
-    EXPECT_EQ(own::pow(0x1p-149f, 1.0f), 0x1p-149f);
-    EXPECT_EQ(own::pow(0x1p-75f, 2.0f), 0.0f);         // half the smallest number
-    EXPECT_EQ(own::pow(0x1.8p-74f, 2.0f), 0x1p-147f);  // 4.5 times the smallest
-    EXPECT_EQ(own::pow(0x1.fffffep0f, 128.0f), 0x1.ffffp127f);
-    // a quotient halfway between subnormals has an arc tangent just below
-    EXPECT_EQ(own::atan2(3 * 0x1p-149f, 2.0f), 0x1p-149f);
-}
-
-TEST(CorrectRounding, OfWholePowersOfTen) {
     float power = 1.0f;
     for (int n = 0; n <= 10; ++n, power *= 10.0f) {
         EXPECT_EQ(own::exp10(static_cast<float>(n)), power);
         EXPECT_EQ(own::log10(power), static_cast<float>(n));
-        EXPECT_EQ(own::pow(10.0f, static_cast<float>(n)), power);
-    }
-}
-
-// A function in its forms for a single value and for loops
-struct Forms {
-    const char* name;
-    float (*single)(float);
-    float (*in_loop)(float);
-};
-#define FORMS(f)                                                                       \
-    Forms {                                                                            \
-#f, [](float x) { return own::f(x); }, [](float x) { return own::loop::f(x); } \
-    }
-#define SINCOS_FORMS(f)                                         \
-    Forms {                                                     \
-        "sincos." #f, [](float x) { return own::sincos(x).f; }, \
-            [](float x) { return own::loop::sincos(x).f; }      \
-    }
-constexpr Forms kForms[] = {
-    FORMS(sin),  FORMS(cos),  SINCOS_FORMS(sin), SINCOS_FORMS(cos), FORMS(tan), FORMS(asin),
-    FORMS(acos), FORMS(atan), FORMS(exp),        FORMS(exp10),      FORMS(log), FORMS(log10),
-};
-
-// Where IEEE 754 lays down the result, and where the quick calculation of a single value begins or
-// ends
-TEST(BothForms, AgreeAtTheLimits) {
-    constexpr float kInfinity = std::numeric_limits<float>::infinity();
-    for (const Forms& f : kForms)
-        for (const float limit : {0.0f,      0x1p-149f,
-                                  0x1p-126f, 0x1p-7f,
-                                  0.125f,    1.0f,
-                                  2.0f,      8.0f,
-                                  37.75f,    38.5f,
-                                  45.0f,     87.0f,
-                                  88.75f,    104.0f,
-                                  0x1p14f,   0x1p28f,
-                                  0x1p78f,   std::numeric_limits<float>::max(),
-                                  kInfinity, std::numeric_limits<float>::quiet_NaN()})
-            for (const float x :
-                 {std::nextafter(limit, 0.0f), limit, std::nextafter(limit, kInfinity)})
-                for (const float signed_x : {x, -x})
-                    EXPECT_PRED2(same<float>, f.single(signed_x), f.in_loop(signed_x))
-                        << f.name << "(" << std::hexfloat << signed_x << ")";
-}
-
-class Identities : public testing::Test {
-  protected:
-    float any() { return std::bit_cast<float>(static_cast<std::uint32_t>(random_())); }
-    float between(float low, float high) {
-        return std::uniform_real_distribution<float>(low, high)(random_);
-    }
-
-    static constexpr int kSamples = 100000;
-
-  private:
-    std::mt19937 random_{1};
-};
-
-TEST_F(Identities, HoldForEveryBitPattern) {
-    for (int i = 0; i < kSamples; ++i) {
-        const float x = any(), a = std::abs(x);
-        const own::SinCos both = own::sincos(x);
-        ASSERT_PRED2(same<float>, both.sin, own::sin(x)) << x;
-        ASSERT_PRED2(same<float>, both.cos, own::cos(x)) << x;
-        for (const Forms& f : kForms)
-            ASSERT_PRED2(same<float>, f.single(x), f.in_loop(x)) << f.name << "(" << x << ")";
-        ASSERT_PRED2(same<float>, own::sin(-x), -own::sin(x)) << x;
-        ASSERT_PRED2(same<float>, own::cos(-x), own::cos(x)) << x;
-        ASSERT_PRED2(same<float>, own::tan(-x), -own::tan(x)) << x;
-        ASSERT_PRED2(same<float>, own::atan(-x), -own::atan(x)) << x;
-        ASSERT_PRED2(same<float>, own::atan2(x, 1.0f), own::atan(x)) << x;
-        ASSERT_PRED2(same<float>, own::pow(x, 1.0f), x) << x;
-        ASSERT_PRED2(same<float>, own::pow(x, 2.0f), x * x) << x;
-        ASSERT_PRED2(same<float>, own::pow(x, -1.0f), 1.0f / x) << x;
-        ASSERT_PRED2(same<float>, own::pow(a, 0.5f), own::sqrt(a)) << x;
-        ASSERT_PRED2(same<float>, own::pow(10.0f, x), own::exp10(x)) << x;
-    }
-}
-
-TEST_F(Identities, HoldForArraysOfPairs) {
-    constexpr std::size_t kCount = 20011;
-    std::vector<float> x(kCount), y(kCount), angle(kCount), power(kCount);
-    for (std::size_t i = 0; i < kCount; ++i) {
-        x[i] = i % 64 == 0 ? any() : between(0.0f, 10.0f);
-        y[i] = i % 256 < 128 ? any() : between(-10.0f, 10.0f);
-    }
-    own::loop::atan2(y.data(), x.data(), angle.data(), kCount);
-    own::loop::pow(x.data(), y.data(), power.data(), kCount);
-    for (std::size_t i = 0; i < kCount; ++i) {
-        ASSERT_PRED2(same<float>, angle[i], own::atan2(y[i], x[i])) << y[i] << ", " << x[i];
-        ASSERT_PRED2(same<float>, power[i], own::pow(x[i], y[i])) << x[i] << ", " << y[i];
-    }
-}
-
-TEST_F(Identities, HoldBetweenDirections) {
-    for (int i = 0; i < kSamples; ++i) {
-        const float y = between(0.0f, 10.0f), x = between(-10.0f, 10.0f);
-        const float angle = own::atan2(y, x);
-        ASSERT_PRED2(same<float>, own::atan2(-y, x), -angle) << y << ", " << x;
-        ASSERT_PRED2(same<float>, own::atan2(y * 0x1p60f, x * 0x1p60f), angle) << y << ", " << x;
-        ASSERT_NEAR(angle + own::atan2(x, y), own::acos(0.0f), 3e-7f) << y << ", " << x;
-        const float radius = own::sqrt(x * x + y * y);
-        ASSERT_NEAR(radius * own::sin(angle), y, 5e-7f * radius) << y << ", " << x;
-        ASSERT_NEAR(radius * own::cos(angle), x, 5e-7f * radius) << y << ", " << x;
     }
 }
 

@@ -2,28 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "common/library.h"
 #include "support/random_arguments.h"
 
 namespace {
 
+using quorvel::test::Random;
+
 constexpr float standard_pressure = 101325.0f;
-constexpr float infinity = std::numeric_limits<float>::infinity();
-constexpr float not_a_number = std::numeric_limits<float>::quiet_NaN();
 
 float saturation_content(float t, float p) { return lib::PSGS(t, t, p, 1); }
-
-struct Draw {
-    explicit Draw(std::uint64_t seed) : random(seed) {}
-
-    float between(double low, double high) {
-        return static_cast<float>(low + (high - low) * random.unit());
-    }
-
-    quorvel::test::Random random;
-};
 
 // ASHRAE Handbook Fundamentals 2017, chapter 1, table 2, at 101.325 kPa; volumes to 0.001. The
 // moisture contents differ by what the saturation pressure does, 0.4 % at most.
@@ -118,11 +107,11 @@ TEST(PercentageSaturation, IsOneHundredAtSaturation) {
 
 // The searches stop where a trial one last step lower is too dry, and the wet bulb itself is not.
 TEST(WetBulb, EnclosesTheHumidity) {
-    Draw draw(1);
+    Random random(1);
     for (int i = 0; i < 20000; ++i) {
-        const float t = draw.between(-40.0, 80.0), p = draw.between(60000.0, 110000.0);
-        const float mu = draw.between(0.0, 99.0), gs = saturation_content(t, p);
-        const int type = 1 + draw.random.below(2);
+        const float t = random.real(-40.0, 80.0), p = random.real(60000.0, 110000.0);
+        const float mu = random.real(0.0, 99.0), gs = saturation_content(t, p);
+        const int type = 1 + random.below(2);
         const auto content = [&](float twb) { return lib::PSGS(t, twb, p, type); };
 
         const float of_mu = lib::PSTWB(t, mu, p, type);
@@ -143,24 +132,15 @@ TEST(WetBulb, EnclosesTheHumidity) {
 TEST(WetBulb, OfSaturatedAirIsTheDryBulb) {
     for (float t : {-15.0f, 0.0f, 21.3f, 60.0f}) {
         const float gs = saturation_content(t, standard_pressure);
-        for (float mu : {100.0f, 130.0f, infinity})
-            EXPECT_NEAR(lib::PSTWB(t, mu, standard_pressure, 1), t, 1e-5f);
-        for (float g : {gs, 2.0f * gs, infinity})
-            EXPECT_EQ(lib::PSWBLB(t, g, standard_pressure, 1), t);
+        EXPECT_NEAR(lib::PSTWB(t, 130.0f, standard_pressure, 1), t, 1e-5f);
+        EXPECT_EQ(lib::PSWBLB(t, 2.0f * gs, standard_pressure, 1), t);
     }
 }
 
-TEST(WetBulb, OfMoistureContentAnswersDryBulbsBeyondMeaning) {
-    EXPECT_EQ(lib::PSWBLB(12000.0f, 0.01f, standard_pressure, 1), 12000.0f);  // above saturation
-    EXPECT_EQ(lib::PSWBLB(12000.0f, -0.7f, standard_pressure, 1), -100.0f);
-    EXPECT_EQ(lib::PSWBLB(infinity, 0.01f, standard_pressure, 1), -100.0f);
-    EXPECT_EQ(lib::PSWBLB(not_a_number, 0.01f, standard_pressure, 1), -200.0f);
-}
-
 TEST(SaturationTemperature, InvertsTheEnthalpyWithinItsStep) {
-    Draw draw(2);
+    Random random(2);
     for (int i = 0; i < 5000; ++i) {
-        const float t = draw.between(-12.0, 59.0), p = draw.between(70000.0, 110000.0);
+        const float t = random.real(-12.0, 59.0), p = random.real(70000.0, 110000.0);
         const float h = lib::PSHWET(t, t, p, 1);
         if (h < -10.0f || h > 460.0f) continue;
         const float below = t - lib::PSTSAT(h, p);
@@ -170,10 +150,8 @@ TEST(SaturationTemperature, InvertsTheEnthalpyWithinItsStep) {
 }
 
 TEST(SaturationTemperature, IsFixedOutsideTheRangeOfTheSearch) {
-    for (float p : {1000.0f, standard_pressure, not_a_number}) {
-        for (float h : {-10.001f, -500.0f, -infinity}) EXPECT_EQ(lib::PSTSAT(h, p), -13.4f);
-        for (float h : {460.01f, 5000.0f, infinity}) EXPECT_EQ(lib::PSTSAT(h, p), 60.0f);
-    }
+    EXPECT_EQ(lib::PSTSAT(-10.001f, standard_pressure), -13.4f);
+    EXPECT_EQ(lib::PSTSAT(460.01f, standard_pressure), 60.0f);
     EXPECT_NEAR(lib::PSTSAT(-10.0f, standard_pressure), -12.98f, 0.01f);
     EXPECT_NEAR(lib::PSTSAT(460.0f, standard_pressure), 59.98f, 0.01f);
 }
@@ -194,10 +172,10 @@ double virial_volume(double t, double g, double p) {
 }
 
 TEST(SpecificVolume, FollowsTheVirialEquationCloseToTheIdealGas) {
-    Draw draw(3);
+    Random random(3);
     for (int i = 0; i < 20000; ++i) {
-        const float t = draw.between(-50.0, 70.0), p = draw.between(50000.0, 110000.0);
-        const float g = saturation_content(t, p) * draw.between(0.0, 1.0);
+        const float t = random.real(-50.0, 70.0), p = random.real(50000.0, 110000.0);
+        const float g = saturation_content(t, p) * random.real(0.0, 1.0);
         const double v = lib::PSSPVL(t, g, p);
         EXPECT_NEAR(v / virial_volume(t, g, p), 1.0, 2e-6) << t << ' ' << g << ' ' << p;
         const double ideal = 287.04 * (t + 273.15) / p * (1.0 + g / 0.62197);
@@ -210,9 +188,7 @@ TEST(SpecificVolume, CountsSupersaturationAsSaturation) {
         const float gs = saturation_content(t, standard_pressure);
         const float v = lib::PSSPVL(t, gs, standard_pressure);
         EXPECT_EQ(lib::PSSPVL(t, 1.5f * gs, standard_pressure), v);
-        EXPECT_EQ(lib::PSSPVL(t, infinity, standard_pressure), v);
         EXPECT_LT(lib::PSSPVL(t, 0.9f * gs, standard_pressure), v);
-        EXPECT_TRUE(std::isnan(lib::PSSPVL(t, not_a_number, standard_pressure)));
     }
 }
 
@@ -220,25 +196,6 @@ TEST(WeightedTemperature, OfEqualTemperaturesIsTheirs) {
     for (float t : {-10.0f, 0.0f, 23.7f}) EXPECT_NEAR(lib::PSTEFF(t, t), t, 1e-5f);
     EXPECT_NEAR(lib::PSTEFF(20.0f, 10.0f), 765.5f / 44.61f, 1e-5f);
     EXPECT_NEAR(lib::PSTEFF(10.0f, 20.0f), 272.8f / 24.61f, 1e-5f);
-}
-
-// A search without an end returns how far it has come, which is nothing plausible.
-TEST(MoistAirSearches, EndForAnyArgument) {
-    const float odd[] = {0.0f,  -0.0f, -1.0f,  1e-30f,   -0.622f,   -300.0f,     1000.0f,
-                         1e10f, 3e38f, -3e38f, infinity, -infinity, not_a_number};
-    for (float t : odd)
-        for (float humidity : odd)
-            for (float p : odd) {
-                lib::PSTWB(t, humidity, p, 1);
-                lib::PSWBLB(t, humidity, p, 1);
-                lib::PSTSAT(humidity, p);
-            }
-    EXPECT_LT(lib::PSWBLB(20.0f, not_a_number, standard_pressure, 1), -10000.0f);
-    EXPECT_LT(lib::PSWBLB(20.0f, -0.7f, standard_pressure, 1), -10000.0f);
-    EXPECT_LT(lib::PSWBLB(20.0f, 0.005f, not_a_number, 1), -10000.0f);
-    EXPECT_GT(lib::PSTSAT(50.0f, 100.0f), 10000.0f);
-    EXPECT_GT(lib::PSTSAT(not_a_number, standard_pressure), 10000.0f);
-    EXPECT_GT(lib::PSTSAT(50.0f, not_a_number), 10000.0f);
 }
 
 }  // namespace

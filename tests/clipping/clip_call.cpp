@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <numbers>
 #include <numeric>
 #include <set>
 
@@ -128,6 +129,19 @@ Clipped clip(const PlanRing& a, const PlanRing& b, const Capacities& capacities)
     for (const auto& pieces : {result.difference, result.overlap})
         result.whole = result.whole && std::all_of(pieces.begin(), pieces.end(), is_whole);
     return result;
+}
+
+PlanRing rectangle(double x0, double y0, double x1, double y1) {
+    return {{x0, y0}, {x0, y1}, {x1, y1}, {x1, y0}};
+}
+
+PlanRing regular(int n, double radius, double x, double y) {
+    PlanRing ring;
+    for (int i = 0; i < n; ++i) {
+        const double angle = -2.0 * std::numbers::pi * (i + 0.3) / n;
+        ring.push_back({x + radius * std::cos(angle), y + radius * std::sin(angle)});
+    }
+    return ring;
 }
 
 }  // namespace quorvel::test

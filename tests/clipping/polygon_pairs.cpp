@@ -10,10 +10,6 @@ namespace {
 
 constexpr double full_turn = 2.0 * std::numbers::pi;
 
-double between(double low, double high, Random& random) {
-    return low + (high - low) * random.unit();
-}
-
 GridPoint on_grid(double x, double y) { return {std::llround(x / grid), std::llround(y / grid)}; }
 
 std::int64_t cross(GridPoint a, GridPoint b, GridPoint c) {
@@ -73,25 +69,24 @@ struct Radii {
 
 GridPolygon star(int n, Radii radii, double x, double y, Random& random) {
     std::vector<double> angles;
-    for (int i = 0; i < n; ++i) angles.push_back(between(0.0, full_turn, random));
+    for (int i = 0; i < n; ++i) angles.push_back(random.between(0.0, full_turn));
     std::sort(angles.begin(), angles.end());
     GridPolygon polygon;
     for (double angle : angles) {
-        const double r = between(radii.low, radii.high, random);
+        const double r = random.between(radii.low, radii.high);
         polygon.push_back(on_grid(x + r * std::cos(angle), y + r * std::sin(angle)));
     }
     return polygon;
 }
 
 GridPolygon star(Random& random) {
-    return star(3 + random.below(7), {0.2, 2.5}, between(-2, 2, random), between(-2, 2, random),
+    return star(3 + random.below(7), {0.2, 2.5}, random.between(-2, 2), random.between(-2, 2),
                 random);
 }
 
 GridPolygon convex(Random& random) {
-    const double r = between(0.5, 2.5, random);
-    return star(3 + random.below(9), {r, r}, between(-2, 2, random), between(-2, 2, random),
-                random);
+    const double r = random.between(0.5, 2.5);
+    return star(3 + random.below(9), {r, r}, random.between(-2, 2), random.between(-2, 2), random);
 }
 
 // A rectangle of whole steps, the axes of which are turned and stretched alike.
@@ -139,25 +134,22 @@ PolygonPair stars(Random& random) { return {star(random), star(random)}; }
 
 PolygonPair convex_ones(Random& random) { return {convex(random), convex(random)}; }
 
-PolygonPair aligned_rectangles(Random& random) {
-    return {rectangle(0.5, turned(0), random), rectangle(0.5, turned(0), random)};
-}
-
 PolygonPair rotated_rectangles(Random& random) {
-    return {rectangle(0.5, turned(between(0, full_turn, random)), random),
-            rectangle(0.5, turned(between(0, full_turn, random)), random)};
+    return {rectangle(0.5, turned(random.between(0, full_turn)), random),
+            rectangle(0.5, turned(random.between(0, full_turn)), random)};
 }
 
 // In line with one another to the last bit, or to the rounding of the grid.
 PolygonPair rectangles_of_a_frame(Random& random) {
-    const Axes axes = random.below(2) ? Axes{0.75, 1.0} : turned(between(0, full_turn, random));
+    const Axes frames[] = {{1.0, 0.0}, {0.75, 1.0}, turned(random.between(0, full_turn))};
+    const Axes axes = frames[random.below(3)];
     return {rectangle(0.5, axes, random), rectangle(0.5, axes, random)};
 }
 
 PolygonPair one_inside(Random& random) {
-    const double x = between(-2, 2, random), y = between(-2, 2, random);
+    const double x = random.between(-2, 2), y = random.between(-2, 2);
     const GridPolygon outer = star(4 + random.below(6), {1.0, 2.5}, x, y, random);
-    const double size = between(0.1, 0.6, random);
+    const double size = random.between(0.1, 0.6);
     const GridPolygon inner = star(3 + random.below(6), {0.3 * size, size}, x, y, random);
     return random.below(2) ? PolygonPair{outer, inner} : PolygonPair{inner, outer};
 }
@@ -179,7 +171,7 @@ PolygonPair shared_edge(Random& random) {
     const auto i = static_cast<std::size_t>(random.below(static_cast<int>(a.size())));
     GridPolygon b{a[i], a[(i + 1) % a.size()]};
     for (int extra = 1 + random.below(3); extra > 0; --extra)
-        b.push_back(on_grid(between(-3, 3, random), between(-3, 3, random)));
+        b.push_back(on_grid(random.between(-3, 3), random.between(-3, 3)));
     return {a, b};
 }
 
@@ -189,7 +181,7 @@ PolygonPair shared_vertices(Random& random) {
     for (const GridPoint& p : a)
         if (random.below(3)) b.push_back(p);
     for (int extra = random.below(3); extra > 0; --extra)
-        b.push_back(on_grid(between(-3, 3, random), between(-3, 3, random)));
+        b.push_back(on_grid(random.between(-3, 3), random.between(-3, 3)));
     return {a, b};
 }
 
@@ -203,10 +195,10 @@ PolygonPair partly_shared_edges(Random& random) {
 PolygonPair edge_through_vertex(Random& random) {
     const GridPolygon a = star(random);
     const GridPoint v = vertex_of(a, random),
-                    d = on_grid(between(-3, 3, random), between(-3, 3, random));
+                    d = on_grid(random.between(-3, 3), random.between(-3, 3));
     GridPolygon b{{v.x - d.x, v.y - d.y}, {v.x + d.x, v.y + d.y}};
     for (int extra = 1 + random.below(3); extra > 0; --extra)
-        b.push_back(on_grid(between(-4, 4, random), between(-4, 4, random)));
+        b.push_back(on_grid(random.between(-4, 4), random.between(-4, 4)));
     return {a, b};
 }
 
@@ -244,7 +236,6 @@ const std::vector<PairClass>& pair_classes() {
     static const std::vector<PairClass> classes = {
         {"StarShaped", stars},
         {"Convex", convex_ones},
-        {"AlignedRectangles", aligned_rectangles},
         {"RotatedRectangles", rotated_rectangles},
         {"RectanglesOfOneFrame", rectangles_of_a_frame},
         {"OneInsideTheOther", one_inside},

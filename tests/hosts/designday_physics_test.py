@@ -37,16 +37,6 @@ class Sun(unittest.TestCase):
                 self.assertAlmostEqual(noon["sun_altitude_deg"], 90 - abs(angle), delta=0.4)
                 self.assertAlmostEqual(noon["sun_azimuth_deg"] % 360, 180 if angle > 0 else 0, delta=0.05)
 
-    def test_day_is_symmetric_about_noon(self):
-        day = hours()["South"]
-        for before in range(1, 12):
-            morning, afternoon = day[NOON - before], day[NOON + before]
-            if morning["sun_altitude_deg"] is None:
-                self.assertIsNone(afternoon["sun_altitude_deg"])
-                continue
-            self.assertAlmostEqual(morning["sun_altitude_deg"], afternoon["sun_altitude_deg"], delta=0.01)
-            self.assertAlmostEqual(morning["sun_azimuth_deg"] + afternoon["sun_azimuth_deg"], 360, delta=0.02)
-
     def test_clock_follows_longitude_zone_and_season(self):
         """London, Madrid and Sydney: the sun is south or north when 4 minutes a degree say so."""
         for longitude, utc_offset, month, day_of_year in [(-0.29, 1, "June", 172), (-3.68, 2, "July", 204),
@@ -63,9 +53,6 @@ class Sun(unittest.TestCase):
 
 
 class Irradiance(unittest.TestCase):
-    def test_clear_south_facade_at_50_north_in_june(self):
-        self.assertTrue(450 < hours()["South"][NOON]["incident_W_m2"] < 600)
-
     def test_direct_sun_falls_off_with_the_cosine(self):
         faces = [window(str(azimuth), azimuth, tilt=tilt) for azimuth, tilt in
                  [(0, 90), (70, 90), (180, 60), (250, 30), (300, 120), (90, 0)]]
@@ -136,15 +123,6 @@ class Glazing(unittest.TestCase):
             reflectance = first["reflectance"] + first["transmittance"] ** 2 * second["reflectance"] / 0.94
             absorptance = 1 - reflectance - series
             self.assertAlmostEqual(noon[name]["direct_absorptance"], absorptance, delta=2e-4, msg=name)
-
-    def test_transmittance_falls_towards_grazing_incidence(self):
-        day = hours(window("W", 270), window("S", 270, **GLAZINGS["shading"]))
-        for rows in day.values():
-            met = sorted((row["incidence_deg"], row["direct_transmittance"]) for row in rows
-                         if row["direct_transmittance"] is not None)
-            self.assertGreater(len(met), 6)
-            for (_, nearer), (_, further) in zip(met, met[1:]):
-                self.assertLessEqual(further, nearer + 1e-4)
 
 
 class Temperatures(unittest.TestCase):

@@ -2,7 +2,6 @@
 
 import re
 import unittest
-import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 import host
@@ -40,7 +39,6 @@ def climate(keys):
 
 BAD = [
     (changed("latitude", "95"), "site.latitude: value 95; allowed -90 to 90 degrees north"),
-    (changed("latitude", '"north"'), 'site.latitude: value "north"; allowed -90 to 90'),
     (changed("longitude", "nan"), "site.longitude: value nan; allowed -180 to 180"),
     (changed("height", "inf"), "site.height: value inf; allowed -430 to 4000 m"),
     (changed("class", "7"), "site.class: value 7; allowed whole numbers 1 to 6"),
@@ -48,22 +46,18 @@ BAD = [
     (changed("class", "99999999999"), "site.class: value 99999999999; allowed"),
     (changed("class", '5\nsky = "grey"'), 'site.sky: value "grey"; allowed clear, bright'),
     (changed("class", "5\nutc_offset = 25"), "site.utc_offset: value 25; allowed -12 to 14 h"),
-    (changed("name", '""'), 'site.name: value ""; allowed text'),
     (changed("name", '"two\\nlines"'), "site.name: value"),
     (changed("name", f'"{"x" * 41}"'), "site.name: value"),
     (changed("month", "13"), "day.month: value 13; allowed January"),
-    (changed("month", '"june"'), 'day.month: value "june"; allowed January'),
     (changed("outdoor_min", "25"), "day.outdoor_max: value 20; allowed 25 to 60 °C"),
     (changed("room", "true"), "day.room: value true; allowed -30 to 60 °C"),
     (changed("room", "20\nhour_of_max = 6"), "day.hour_of_max: value 6; allowed 13 to 18 h"),
     (changed("area", "0"), "window[1].area: value 0; allowed 0.01 to 1000 m²"),
-    (changed("area", "-inf"), "window[1].area: value -inf; allowed"),
     (changed("area", "1\ntilt = 181"), "window[1].tilt: value 181; allowed 0 to 180 degrees"),
     (changed("orientation", "1979-05-27"), "window[1].orientation: value date or time; allowed 0 to 360"),
     (panes("[]"), "window[1].panes: value list of 0; allowed 1 to 5 tables"),
     (panes("[" + "{transmittance = 0.8}," * 6 + "]"), "window[1].panes: value list of 6; allowed 1 to 5"),
     (panes("[0.8]"), "window[1].panes: value list of 1; allowed"),
-    (panes("0.8"), "window[1].panes: value 0.8; allowed"),
     (panes("[{transmittance = 0.8}, {transmittance = 0.95}]"),
      "window[1].panes[2].transmittance: value 0.95; allowed 0.05 to 0.91"),
     (panes("[{transmittance = 0.8, reflectance = 0.3}]"), "window[1].panes[1].reflectance: value 0.3; allowed 0.01 to 0.2 beside"),
@@ -75,7 +69,6 @@ BAD = [
     (without(GOOD, "panes") + "shading = 0.5\n", "window[1].shading: value 0.5; allowed a table"),
     (without(GOOD, "panes") + 'shading = { short_wave = 0.5, long_wave = 0, panes = 1 }\nblind = {}\n',
      "window[1].blind: needs panes; shading"),
-    (GOOD + "blind = 1\n", "window[1].blind: value 1; allowed a table"),
     (GOOD + "blind = {}\n", "window[1].blind: needs kind (slatted, roller) and side (inside, outside)"),
     (blind(kind="curtain"), 'window[1].blind.kind: value "curtain"; allowed slatted, roller'),
     (blind(side="between"), 'window[1].blind.side: value "between"; allowed inside, outside'),
@@ -101,28 +94,19 @@ BAD = [
     (GOOD.replace("[[window]]", "[window]"), "window: value table; allowed 1 to 6 tables"),
     (GOOD + (host.table("[[window]]", WINDOW) * 6), "window: value list of 7; allowed 1 to 6"),
     (changed("latitude", "51,5"), "not valid TOML"),
-    (GOOD + "[site]\n", "not valid TOML"),
     (b"\xff\xfe\x00", "not valid TOML"),
 ]
 
 
 class BadInput(host.InputCase, unittest.TestCase):
     good, bad = GOOD, BAD
-
-    def test_the_line_is_that_of_the_value(self):
-        text = "# a comment first\n\n" + changed("area", "1e9")
-        line = text.splitlines().index("area = 1e9") + 1
-        process = host.run("job.toml", files={"job.toml": text})
-        self.expect(process, 2, rf"^job\.toml:{line}: window\[1\]\.area: value")
-
-    def test_whole_tables_missing(self):
-        for text, missing in [("", "site, day, window"), (host.table("[site]", SITE), "day, window")]:
-            process = host.run("job.toml", files={"job.toml": text})
-            self.expect(process, 2, rf"^job\.toml(:\d+)?: missing {missing}$")
+    at_line = "# a comment first\n\n" + changed("area", "1e9"), "area = 1e9", "window[1].area: value"
 
 
 class Output(host.ReportCase, unittest.TestCase):
     examples = EXAMPLES
+    keys = ["latitude", "class", "utc_offset", "hour_of_max", "transmittance", "short_wave", "sky_model", "climate",
+            "blind", "absorptance", "--svg"]
 
     def test_totals_and_peak_are_those_of_the_hours(self):
         windows = [window("South", 180), window("West", 270, area=3.5)]
@@ -143,28 +127,16 @@ class Output(host.ReportCase, unittest.TestCase):
             self.assertEqual(len({len(line) for line in block}), 1)
             self.assertEqual([line.split()[0] for line in block[1:]], [str(hour) for hour in range(1, 25)])
 
-    def test_help_names_every_key(self):
-        process = host.run("--help")
-        self.assertEqual(process.returncode, 0)
-        text = process.stdout.decode()
-        for key in ("latitude", "class", "utc_offset", "hour_of_max", "transmittance", "short_wave", "sky_model",
-                    "climate", "blind", "absorptance", "--svg"):
-            self.assertIn(key, text)
-        self.assertLessEqual(max(map(len, text.splitlines())), 100)
 
-
-class Chart(unittest.TestCase):
-    @host.needs_gnuplot
-    def test_picture_shows_names_and_numbers_and_is_the_same_twice(self):
-        text = job(window("A_1 & <'B'>", 180), window("Rückseite {^}", 0), site={"name": "St. John's"})
-        pictures = [host.run("--svg", "day.svg", "job.toml", files={"job.toml": text}).written for _ in range(2)]
-        self.assertEqual(pictures[0], pictures[1])
-        self.assertEqual(list(pictures[0]), ["day.svg"])  # and nothing is left behind
-        words = " ".join(ElementTree.fromstring(pictures[0]["day.svg"]).itertext())
+class Chart(host.ChartCase, unittest.TestCase):
+    def test_picture_shows_names_and_numbers(self):
+        _, words = self.draw(job(window("A_1 & <'B'>", 180), window("Rückseite {^}", 0), site={"name": "St. John's"}))
         for part in ("St. John's, 21 June", "A_1 & <'B'>", "Rückseite {^}", "W/m²", "at hour 12", "outdoor air"):
             self.assertIn(part, words)
 
-    def test_without_gnuplot_one_line_tells(self):
+
+class ChartWithoutGnuplot(unittest.TestCase):
+    def test_one_line_tells(self):
         process = host.run("--svg", "day.svg", "job.toml", files={"job.toml": GOOD},
                                     environment={"PATH": "/nowhere"})
         self.assertEqual(process.returncode, 1)

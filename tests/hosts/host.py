@@ -9,6 +9,7 @@ import shutil
 import subprocess
 import tempfile
 import unittest
+import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 EMULATOR = os.environ.get("QUORVEL_EMULATOR")  # unset or empty where the program runs by itself
@@ -64,8 +65,8 @@ needs_gnuplot = unittest.skipIf(EMULATOR or not shutil.which("gnuplot"), "no gnu
 
 
 class InputCase:
-    """What every host's bad input is held to; a test case adds it, with a `good` text and, as `bad`, texts with
-    what the one line must name after "job.toml:LINE: "."""
+    """What every host's bad input is held to; a test case adds it, with a `good` text, as `bad` texts with what the
+    one line must name after "job.toml:LINE: ", and as `at_line` one of them with the line that is at fault."""
 
     def expect(self, process, status, beginning):
         self.assertEqual(process.returncode, status, process.stderr)
@@ -80,6 +81,11 @@ class InputCase:
                 process = run("job.toml", files={"job.toml": text})
                 self.expect(process, 2, rf"^job\.toml{line}: {re.escape(message)}")
 
+    def test_the_line_is_that_of_the_value(self):
+        text, line, message = self.at_line
+        number = text.splitlines().index(line) + 1
+        self.expect(run("job.toml", files={"job.toml": text}), 2, rf"^job\.toml:{number}: {re.escape(message)}")
+
     def test_arguments_and_files(self):
         for arguments, line in [(["none.toml"], "^none.toml: cannot be read"), (["."], r"^\.: cannot be read"),
                                 ([], "FILE is required"), (["job.toml", "more"], "more"), (["job.toml", "--svg"], "--svg")]:
@@ -92,7 +98,8 @@ class InputCase:
 
 
 class ReportCase:
-    """What every host's printed report is held to; a test case adds it and names its `examples`."""
+    """What every host's printed report and help are held to; a test case adds it and names its `examples` and the
+    `keys` of its input."""
 
     def report(self, text):
         process = run("job.toml", files={"job.toml": text})
@@ -107,3 +114,19 @@ class ReportCase:
             first, second = (self.report(example.read_bytes()) for _ in range(2))
             self.assertEqual(first, second)
             self.assertNotRegex(first, r"\b(nan|inf)\b|-0\.0\b| \n")
+
+    def test_help_names_every_key(self):
+        text = run("--help").stdout.decode()
+        self.assertEqual([key for key in self.keys if key not in text], [])
+        self.assertLessEqual(max(map(len, text.splitlines())), 100)
+
+
+@needs_gnuplot
+class ChartCase:
+    def draw(self, text, *options):
+        """The picture, which is the same twice and leaves nothing behind; and the words in it."""
+        one, other = (run("--svg", "chart.svg", *options, "job.toml", files={"job.toml": text}) for _ in range(2))
+        self.assertEqual((one.returncode, one.stderr, list(one.written)), (0, b"", ["chart.svg"]))
+        self.assertEqual(one.written, other.written)
+        picture = one.written["chart.svg"].decode()
+        return picture, " ".join(ElementTree.fromstring(picture).itertext())

@@ -16,12 +16,10 @@ BAD = [
     (job(site={"latitude": 91}), "site.latitude: value 91; allowed -90 to 90 degrees north"),
     (job(site={"height": float("nan")}), "site.height: value nan; allowed -430 to 4000 m"),
     (job(day={"month": "Juni"}), 'day.month: value "Juni"; allowed January'),
-    (job(day={"month": 0}), "day.month: value 0; allowed January"),
     (job(day={"day_of_year": 366}), "day.day_of_year: value 366; allowed whole numbers 1 to 365"),
     (job(day={"day_of_year": 1, "month": 1}), "day: needs either month or day_of_year"),
     (job().replace('month = "June"', ""), "day: needs either month or day_of_year"),
     (job(window={"width": 0}), "window.width: value 0; allowed 0.05 to 50 m"),
-    (job(window={"height": float("inf")}), "window.height: value inf; allowed"),
     (job(window={"orientation": -1}), "window.orientation: value -1; allowed 0 to 360 degrees clockwise"),
     (job(window={"tilt": "vertical"}), 'window.tilt: value "vertical"; allowed 0 to 180'),
     (job(window={"sill": -1}), "window.sill: value -1; allowed 0 to 1000 m above the ground"),
@@ -29,7 +27,6 @@ BAD = [
     (job(left_fin={"depth": 0}), "left_fin.depth: value 0; allowed 0.01 to 20 m"),
     (job(right_fin=FIN | {"offset": -0.1}), "right_fin.offset: value -0.1; allowed 0 to 50 m"),
     (job(right_fin={"offset": 1}), "right_fin: missing depth"),
-    (job(left_fin=FIN | {"left": 1}), "left_fin.left: unknown key; known are depth, offset, above, below"),
     (job(overhang=FIN | {"slope": 90}), "overhang.slope: value 90; allowed -80 to 80 degrees, falling outwards"),
     (job(overhang=FIN).replace("[overhang]", "[[overhang]]"), "overhang: value list of 1; allowed a table"),
     (job({"distance": 1001}), "obstruction[1].distance: value 1001; allowed -1000 to 1000 m"),
@@ -37,7 +34,6 @@ BAD = [
     (job({"depth": 0}), "obstruction[1].depth: value 0; allowed 0.01 to"),
     (job({"base": 6}), "obstruction[1].top: must be above the base"),
     (job({"rotation": 361}), "obstruction[1].rotation: value 361; allowed -360 to 360 degrees"),
-    (job({"height": 3}), "obstruction[1].height: unknown key; known are name, distance"),
     (job(*[{}] * 21), "obstruction: value list of 21; allowed 1 to 20 tables"),
     (job() + "[shutter]\n", "shutter: unknown key; known are site, day, window, left_fin"),
     (host.table("[site]", SITE) + host.table("[day]", DAY), "missing window"),
@@ -47,12 +43,7 @@ BAD = [
 
 class BadInput(host.InputCase, unittest.TestCase):
     good, bad = job(), BAD
-
-    def test_the_line_is_that_of_the_value(self):
-        text = "# a comment first\n\n" + job({}, {"top": -1})
-        line = text.splitlines().index("top = -1") + 1
-        process = host.run("job.toml", files={"job.toml": text})
-        self.expect(process, 2, rf"^job\.toml:{line}: obstruction\[2\]\.top: value -1")
+    at_line = "# a comment first\n\n" + job({}, {"top": -1}), "top = -1", "obstruction[2].top: value -1"
 
     def test_hours(self):
         for hours_given in ("25", "-1", "noon", "9,nan", ""):
@@ -64,6 +55,9 @@ class BadInput(host.InputCase, unittest.TestCase):
 
 class Output(host.ReportCase, unittest.TestCase):
     examples = EXAMPLES
+    keys = [*SITE, *DAY, *WINDOW, *SCREEN, "height", "day_of_year", "tilt", "sill", "[left_fin]", "[right_fin]",
+            "[overhang]", "[[obstruction]]", "depth", "offset", "above", "below", "left", "right", "slope", "base",
+            "rotation", "--svg", "--csv", "--hours"]
 
     def test_report_says_what_the_values_say(self):
         keys = {"overhang": FIN | {"left": 0.5}, "left_fin": FIN, "window": {"orientation": 210, "sill": 2}}
@@ -101,14 +95,6 @@ class Output(host.ReportCase, unittest.TestCase):
         self.assertEqual(hours(day={"month": "June"}), hours(day={"day_of_year": 172}))
         self.assertEqual(hours(day={"month": 2}), hours(day={"day_of_year": 52}))
 
-    def test_help_names_every_key(self):
-        text = host.run("--help").stdout.decode()
-        keys = [*SITE, *DAY, *WINDOW, *SCREEN, "height", "day_of_year", "tilt", "sill", "[left_fin]", "[right_fin]",
-                "[overhang]", "[[obstruction]]", "depth", "offset", "above", "below", "left", "right", "slope", "base",
-                "rotation", "--svg", "--csv", "--hours"]
-        self.assertEqual([key for key in keys if key not in text], [])
-        self.assertLessEqual(max(map(len, text.splitlines())), 100)
-
 
 def polygons(svg, colour):
     """Of the polygons filled with a colour, the corners in pixels, down from the top."""
@@ -123,19 +109,10 @@ def holds(corners, x, y):
     return sum((a[1] > y) != (b[1] > y) and x < a[0] + (y - a[1]) / (b[1] - a[1]) * (b[0] - a[0]) for a, b in edges) % 2 == 1
 
 
-@host.needs_gnuplot
-class Chart(unittest.TestCase):
-    def draw(self, text, *options):
-        process = host.run("--svg", "shade.svg", *options, "job.toml", files={"job.toml": text})
-        self.assertEqual((process.returncode, process.stderr), (0, b""))
-        self.assertEqual(list(process.written), ["shade.svg"])  # and nothing is left behind
-        return process.written["shade.svg"]
-
-    def test_picture_names_everything_and_is_the_same_twice(self):
+class Chart(host.ChartCase, unittest.TestCase):
+    def test_picture_names_everything(self):
         text = job({}, site={"name": "St. John's"}, window={"name": "A_1 & <'B'>"}, overhang=FIN)
-        svg = self.draw(text, "--hours", "9,12.5,23")
-        self.assertEqual(svg, self.draw(text, "--hours", "9,12.5,23"))
-        words = " ".join(ElementTree.fromstring(svg).itertext())
+        _, words = self.draw(text, "--hours", "9,12.5,23")
         for part in ("A_1 & <'B'>, St. John's, 21 June", "09:00", "12:30", "% sunlit", "23:00", "no sun", "W/m²"):
             self.assertIn(part, words)
 
@@ -143,7 +120,7 @@ class Chart(unittest.TestCase):
         """Of a grid of points on each window drawn, those outside all shadows are the sunlit part."""
         keys = {"window": {"orientation": 200, "sill": 1}, "overhang": FIN, "right_fin": FIN | {"offset": 0.3}}
         box = {"offset": 2, "depth": 2, "rotation": 20}
-        svg = self.draw(job(box, **keys), "--hours", "11,13,15,17")
+        svg, _ = self.draw(job(box, **keys), "--hours", "11,13,15,17")
         windows = [corners for corners in polygons(svg, (251, 210, 106)) if len(corners) <= 5]
         self.assertEqual(len(windows), 4)
         for corners, hour in zip(windows, (11, 13, 15, 17)):

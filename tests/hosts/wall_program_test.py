@@ -2,7 +2,6 @@
 
 import re
 import unittest
-import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 import host
@@ -24,13 +23,10 @@ def climate(**keys):
 BAD = [
     (job(wall={"name": ""}), 'wall.name: value ""; allowed text'),
     (job(wall={"heat_flow": "sideways"}), 'wall.heat_flow: value "sideways"; allowed up, horizontal, down, or 0 to 2'),
-    (job(wall={"heat_flow": 3}), "wall.heat_flow: value 3; allowed up"),
     (job(wall={"exposure": 0}), "wall.exposure: value 0; allowed sheltered, normal, severe, or 1 to 3"),
     (job(wall={"inside_resistance": 0}), "wall.inside_resistance: value 0; allowed 0.01 to 1 m²K/W"),
     (job(wall={"tilt": 90}), "wall.tilt: unknown key; known are name, heat_flow"),
     (layer(PLASTER, thickness=0), "layer[1].thickness: value 0; allowed 0.1 to 1000 mm"),
-    (layer(PLASTER, thickness=-13), "layer[1].thickness: value -13; allowed"),
-    (layer(PLASTER, thickness="13 mm"), 'layer[1].thickness: value "13 mm"; allowed 0.1 to 1000 mm'),
     (layer(PLASTER, conductivity=0), "layer[1].conductivity: value 0; allowed 0.005 to 500 W/mK"),
     (layer(PLASTER, density=float("nan")), "layer[1].density: value nan; allowed 0.5 to 12000 kg/m³"),
     (layer(PLASTER, specific_heat=1), "layer[1].specific_heat: value 1; allowed 100 to 5000 J/kgK"),
@@ -43,18 +39,13 @@ BAD = [
     (layer(CAVITY, emissivities=[0.9, 0.9]), "layer[1]: an air gap needs either resistance or emissivities"),
     (layer(CAVITY, resistance=None, emissivities=[0.9]), "layer[1].emissivities: value list of 1; allowed 2 numbers"),
     (layer(CAVITY, resistance=None, emissivities=[0.9, 0]), "layer[1].emissivities[2]: value 0; allowed 0.01 to 1"),
-    (layer(CAVITY, resistance=None, emissivities="low"), 'layer[1].emissivities: value "low"; allowed 0.01 to 1'),
     (layer(SHEET, vapour_resistance=-1), "layer[1].vapour_resistance: value -1; allowed 0.01 to"),
     (layer(SHEET, thickness=1), "layer[1].thickness: unknown key; known are name, vapour_resistance"),
-    (layer(SHEET, name=None), "layer[1]: missing name"),
     (job(*[PLASTER] * 21), "layer: value list of 21; allowed 1 to 20 tables"),
-    (job().replace("[[layer]]", "[layer]", 1).replace("[[layer]]", "[other]"), "other: unknown key; known are wall, layer"),
     (climate(inside_temperature=61), "climate.inside_temperature: value 61; allowed -50 to 60 °C"),
     (climate(inside_humidity=-1), "climate.inside_humidity: value -1; allowed 0 to 100 %"),
     (climate(outside_temperature=YEAR[:11]), "climate.outside_temperature: value list of 11; allowed 12 numbers"),
-    (climate(outside_temperature=YEAR[:11] + ["cold"]), 'climate.outside_temperature[12]: value "cold"; allowed -50'),
     (climate(outside_humidity=[80] * 11 + [101]), "climate.outside_humidity[12]: value 101; allowed 0 to 100 %"),
-    (climate(outside_humidity=True).replace("True", "true"), "climate.outside_humidity: value true; allowed 0 to"),
     (host.table("[wall]", WALL) + host.table("[climate]", CLIMATE), "missing layer"),
     (job().replace("outside_humidity = 85", ""), "climate: missing outside_humidity"),
     (job().replace("0.57", "0,57"), "not valid TOML"),
@@ -63,16 +54,14 @@ BAD = [
 
 class BadInput(host.InputCase, unittest.TestCase):
     good, bad = job(), BAD
-
-    def test_the_line_is_that_of_the_value(self):
-        text = climate(outside_temperature=YEAR[:11] + [99]).replace(" 5, 7,", " 5,\n7,").replace("99", "\n99")
-        line = text.splitlines().index("99]") + 1
-        process = host.run("job.toml", files={"job.toml": text})
-        self.expect(process, 2, rf"^job\.toml:{line}: climate\.outside_temperature\[12\]: value 99")
+    at_line = (climate(outside_temperature=YEAR[:11] + [99]).replace(" 5, 7,", " 5,\n7,").replace("99", "\n99"), "99]",
+               "climate.outside_temperature[12]: value 99")
 
 
 class Output(host.ReportCase, unittest.TestCase):
     examples = EXAMPLES
+    keys = [*WALL, *PLASTER, *CAVITY, *SHEET, *CLIMATE, "heat_flow", "exposure", "inside_resistance",
+            "outside_resistance", "emissivities", "drawing", "--svg", "--csv"]
 
     def test_months_are_those_of_single_cases(self):
         """Numbers stand for the whole year, lists for its months; the two may be mixed."""
@@ -98,42 +87,27 @@ class Output(host.ReportCase, unittest.TestCase):
         block = BRICK | {"thickness": 1000, "conductivity": 0.01, "density": 10000}
         self.assertRegex(self.report(job(*[block] * 20)), r"Decrement factor +–  lags by – h")
 
-    def test_help_names_every_key(self):
-        text = host.run("--help").stdout.decode()
-        keys = [*WALL, *PLASTER, *CAVITY, *SHEET, *CLIMATE, "heat_flow", "exposure", "inside_resistance",
-                "outside_resistance", "emissivities", "drawing", "--svg", "--csv"]
-        self.assertEqual([key for key in keys if key not in text], [])
-        self.assertLessEqual(max(map(len, text.splitlines())), 100)
 
-
-class Chart(unittest.TestCase):
-    @host.needs_gnuplot
-    def test_picture_is_to_scale_names_everything_and_is_the_same_twice(self):
+class Chart(host.ChartCase, unittest.TestCase):
+    def test_picture_is_to_scale_and_names_everything(self):
         layers = [PLASTER | {"name": "A & <'B'>", "drawing": "plaster"}, SHEET, WOOL, CAVITY, BRICK | {"drawing": "masonry"}]
         text = job(*layers, wall={"name": "St. John's"}, climate={"outside_temperature": YEAR})
-        pictures = [host.run("--svg", "wall.svg", "job.toml", files={"job.toml": text}).written for _ in range(2)]
-        self.assertEqual(pictures[0], pictures[1])
-        self.assertEqual(list(pictures[0]), ["wall.svg"])  # and nothing is left behind
-        svg = ElementTree.fromstring(pictures[0]["wall.svg"])
-        words = " ".join(svg.itertext())
+        svg, words = self.draw(text)
         for part in ("St. John's", "A & <'B'>", "Sheet", "Brick", "January: inside 20 °C", "U-value 0.3", "at saturation"):
             self.assertIn(part, words)
         edge = r"stroke='rgb\(124, 132, 148\)'  d='M([\d.]+),([\d.]+) L\1,([\d.]+) "
-        upright = re.findall(edge, pictures[0]["wall.svg"].decode())
+        upright = re.findall(edge, svg)
         faces = sorted({float(x) for x, low, high in upright if abs(float(high) - float(low)) > 200})
         places = [0, 13, 93, 143, 363]  # mm; the sheet stands at 13
         self.assertEqual(len(faces), len(places))
         for face, place in zip(faces, places):
             self.assertAlmostEqual((face - faces[0]) / (faces[-1] - faces[0]), place / 363, delta=1e-3)
 
-    @host.needs_gnuplot
     def test_every_layer_count_and_drawing_can_be_drawn(self):
         drawings = ["plain", "masonry", "concrete", "insulation", "timber", "plaster", "bitumen"]
         many = [PLASTER | {"thickness": 0.1 + 20 * (i % 3), "drawing": drawings[i % 7]} for i in range(20)]
         for layers in ([SHEET], [PLASTER | {"thickness": 0.1}], many):
-            process = host.run("--svg", "wall.svg", "job.toml", files={"job.toml": job(*layers)})
-            self.assertEqual((process.returncode, process.stderr), (0, b""))
-            self.assertTrue(ElementTree.fromstring(process.written["wall.svg"]).tag.endswith("svg"))
+            self.draw(job(*layers))
 
 
 if __name__ == "__main__":

@@ -46,15 +46,12 @@ void ClimateFileImage::fill(int station, Random& random) {
     constexpr struct {
         double low, high;
     } ranges[] = {{0.05, 0.9}, {0, 1.2}, {-5, 30}, {-9, 18}, {-6, 20}, {-9, 16}, {0.1, 0.9}};
-    const auto between = [&](double low, double high) {
-        return static_cast<float>(low + (high - low) * random.unit());
-    };
     for (int month = 1; month <= 12; ++month)
         for (const int first : {0, rows_per_set}) {
             set(station, first, month, static_cast<float>(14 + random.below(3)));
             set(station, first + 1, month, static_cast<float>(4 + random.below(4)));
             std::array<float, 10> frequency;
-            for (float& f : frequency) f = between(0, 1);
+            for (float& f : frequency) f = random.real(0, 1);
             frequency[9] = 1.0f;
             std::ranges::sort(frequency);
             for (int band = 0; band < 10; ++band)
@@ -62,7 +59,7 @@ void ClimateFileImage::fill(int station, Random& random) {
             int row = first + 12;
             for (const auto& [low, high] : ranges)
                 for (int band = 0; band < 10; ++band)
-                    set(station, row++, month, between(low, high));
+                    set(station, row++, month, random.real(low, high));
         }
 }
 

@@ -23,6 +23,8 @@ class Random {
     }
     int below(int n) { return static_cast<int>(bits() % static_cast<unsigned>(n)); }
     double unit() { return static_cast<double>(bits() >> 11) * 0x1p-53; }
+    double between(double low, double high) { return low + (high - low) * unit(); }
+    float real(double low, double high) { return static_cast<float>(between(low, high)); }
 
   private:
     std::uint64_t state_;
