@@ -81,6 +81,11 @@ TEST_F(FaultyFile, TruncatedAnywhereGivesTheMonthsBeforeTheEnd) {
     EXPECT_EQ(read(fresh, name), request());
 }
 
+#ifdef __linux__
+// Its first bytes are no memory of the process: reading them is an error, again and again.
+TEST_F(FaultyFile, ReadErrorsEndTheCall) { EXPECT_EQ(read(library, "/proc/self/mem"), request()); }
+#endif
+
 TEST_F(FaultyFile, WhatIsNoFileIsNotRead) {
     const auto file = [&](const char* called) { return (folder.path() / called).string(); };
     std::filesystem::create_directory(file("folder"));

@@ -58,6 +58,18 @@ TEST(Clipping, HoleIsCutAlongLevelBridges) {
     EXPECT_EQ(head(clip(outer, reversed(inner)).ovl, 6), (std::vector{4, 8, 7, 6, 5, 0}));
 }
 
+// Past the edge where a bridge lands, the ray meets other parts of the ring.
+TEST(Clipping, BridgesLandOnTheNearestEdge) {
+    PlanRing u{{3, 1}, {3, 4}, {6, 4}, {6, 0}, {0, 0}, {0, 4}, {1, 4}, {1, 1}};
+    const PlanRing hole{{5, 2}, {4, 2.5}, {5, 3}};
+    for (std::size_t start = 0; start < u.size(); ++start) {
+        const Clipped clipped = clip(u, hole);
+        EXPECT_EQ(clipped.ierr, 0);
+        EXPECT_EQ(clipped.pool[11], (PlanPoint{3.0, 2.5})) << start;
+        std::ranges::rotate(u, u.begin() + 1);
+    }
+}
+
 TEST(Clipping, RingsThatDoNotCross) {
     const PlanRing square = rectangle(0, 0, 2, 2), triangle{{2, 1}, {4, 2}, {4, 0}};
     for (const PlanRing& apart :

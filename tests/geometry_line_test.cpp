@@ -82,6 +82,8 @@ TEST(Lines, OfSegmentsReachATenthOfAMillimetreFurther) {
     EXPECT_TRUE(crosses(1.0f, 0.0f));
     EXPECT_TRUE(crosses(1.00005f, -0.5f));
     EXPECT_TRUE(crosses(-0.00009f, 0.00009f));
+    EXPECT_FALSE(crosses(-0.0001f, -0.5f));
+    EXPECT_EQ(crossing({0, 0}, {1, 0}, {0.5f, -0.0001f}, {0.5f, -1}), nowhere);
     EXPECT_FALSE(crosses(1.00011f, -0.5f));
     EXPECT_FALSE(crosses(0.5f, 0.00011f));
     EXPECT_FALSE(crosses(0.5f, -1.00011f));

@@ -36,7 +36,7 @@ bool fill(Real* record, Integer month, Call& call) {
 void CLBNF0(const char* file, const Integer* station, const Integer* month, Real* records) {
     Call call;
     if (!call.file.open(file, *station)) return;
-    const Integer first = *month == 0 ? 1 : table_row(*month, 12) + 1;
+    const Integer first = table_row(*month, 12) + 1;
     const Integer last = *month == 0 ? 12 : first;
     for (Integer m = first; m <= last; ++m)
         if (!fill(records + reals_per_record * (m - 1), m, call)) return;

@@ -24,6 +24,11 @@ inline float unusual(float value, int rarity, Random& random) {
     return kind == 1 ? any_bits(random) : value;
 }
 
+// A limit of the formulas, or a neighbour of it: which side it belongs to shows in nothing else.
+inline float about(float limit, Random& random) {
+    return std::bit_cast<float>(std::bit_cast<std::int32_t>(limit) + random.below(7) - 3);
+}
+
 // Which not-a-number it is does not matter.
 template <std::size_t n>
 testing::AssertionResult same_bits(const std::array<float, n>& ours,

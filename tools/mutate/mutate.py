@@ -57,7 +57,7 @@ class Tree:
         # Optimisation changes no result, and takes time.
         options = ["-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1", "-DQUORVEL_TESTS=ON", "-DQUORVEL_HOSTS=ON"]
         self._run("cmake", "-S", self.source, "-B", self.build, *options, check=True)
-        self._run("cmake", "--build", self.build, "--target", *TARGETS, check=True)
+        self._run("cmake", "--build", self.build, "-j", str(os.cpu_count()), "--target", *TARGETS, check=True)
         if not self._passes_tests():
             sys.exit("The tests fail without any change.")
         self.hashes = self._run(self.build / "quorvel_corpus").stdout
