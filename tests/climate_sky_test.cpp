@@ -196,6 +196,7 @@ TEST(Muneer, LowSunsHaveFormsOfTheirOwn) {
                 1e-3);
     const float still = std::nextafter(5.0f, 0.0f);
     EXPECT_NEAR(slope(below, still), slope(0.1f, still), 1e-3f) << "but not under overcast";
+    EXPECT_GT(std::fabs(slope(below, 5.0f) - slope(0.1f, 5.0f)), 1.0f);
 }
 
 TEST(SlopeDiffuse, IsMuneersForASunnySkyAndFollowsTheClearness) {

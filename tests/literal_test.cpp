@@ -44,10 +44,11 @@ TEST(LiteralForm, SunOfTheDesignDay) {
     Random random(3);
     for (int i = 0; i < cases; ++i) {
         const int day = 1 + random.below(365);
-        const float polar_circle = 1.5707964f - literal::CLSNGE(0.0f, day, 12.0f).declination;
-        const float latitude = random.below(8) || polar_circle > 1.5707964f
-                                   ? random.real(-1.5707964f, 1.5707964f)
-                                   : about(polar_circle, random);
+        const float declination = literal::CLSNGE(0.0f, day, 12.0f).declination;
+        const float polar_circle = 1.5707964f - std::fabs(declination);
+        const float noted[] = {about(declination, random), about(polar_circle, random)};
+        const float latitude =
+            random.below(4) ? random.real(-1.5707964f, 1.5707964f) : noted[random.below(2)];
         const float hour =
             random.below(4) ? random.real(0.0f, 24.0f) : static_cast<float>(random.below(25));
         std::array<float, 5> ours;
