@@ -144,6 +144,11 @@ TEST(Clipping, DegenerateRings) {
     }
 }
 
+PlanRing small(PlanRing ring) {
+    for (PlanPoint& p : ring) p = {p.x / 100.0, p.y / 100.0};
+    return ring;
+}
+
 struct StatusCase {
     const char* name;
     PlanRing a, b;
@@ -154,6 +159,8 @@ struct StatusCase {
 const PlanRing unit = rectangle(0, 0, 1, 1), shifted = rectangle(0.5, 0.5, 1.5, 1.5);
 const PlanRing bow_tie{{0, 0}, {1, 1}, {1, 0}, {0, 1}};
 const PlanRing wide = rectangle(-1, -1, 2, 2);
+// Five corners that all turn the same way, twice round.
+const PlanRing pentagram{{-3, -2}, {1, 3}, {1, -3}, {-3, 2}, {3, 0}};
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 // Codes 105 to 108 and 111 cannot occur: a crossing is never missing from a chain, and parallel
@@ -164,6 +171,8 @@ const StatusCase status_cases[] = {
     {"no vertices at all", {}, {}, {}, 1},
     {"A crosses itself", bow_tie, unit, {}, 3},
     {"B crosses itself", unit, bow_tie, {}, 4},
+    {"A goes twice round", pentagram, unit, {}, 3},
+    {"B goes twice round", unit, small(pentagram), {}, 4},
     {"A without area", {{0, 0}, {1, 1}, {2, 2}}, unit, {}, 5},
     {"as many crossings as allowed", unit, shifted, {.kmax = 2}, 0},
     {"more crossings than allowed", unit, shifted, {.kmax = 1}, 6},
