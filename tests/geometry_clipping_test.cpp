@@ -208,8 +208,13 @@ TEST(Clipping, StatusCodes) {
 
 TEST(Clipping, ManyVertices) {
     const Capacities ample{2000, 1024, 2000, 2000};
-    PlanRing gear = regular(256, 1.0);
-    for (std::size_t i = 0; i < gear.size(); i += 2) gear[i] = {0.9 * gear[i].x, 0.9 * gear[i].y};
+    const auto gear_of = [](int n) {
+        PlanRing ring = regular(n, 1.0);
+        for (std::size_t i = 0; i < ring.size(); i += 2)
+            ring[i] = {0.9 * ring[i].x, 0.9 * ring[i].y};
+        return ring;
+    };
+    const PlanRing gear = gear_of(256);
     const Clipped clipped = clip(gear, regular(128, 0.95), ample);
     EXPECT_EQ(clipped.ierr, 0);
     EXPECT_EQ(clipped.fault, "");
@@ -217,6 +222,9 @@ TEST(Clipping, ManyVertices) {
     EXPECT_NEAR(total_area(clipped.overlap) + total_area(clipped.difference), signed_area(gear),
                 1e-12);
     EXPECT_EQ(clip(gear, regular(128, 0.95), {2000, 255, 2000, 2000}).ierr, 6);
+    // Whatever is allowed, there is room for 1024 crossings.
+    EXPECT_EQ(clip(gear_of(1024), regular(512, 0.95), {3000, 1 << 20, 3000, 3000}).ierr, 0);
+    EXPECT_EQ(clip(gear_of(1026), regular(513, 0.95), {3000, 1 << 20, 3000, 3000}).ierr, 6);
 }
 
 class ClippingPairs : public testing::TestWithParam<PairClass> {};

@@ -136,6 +136,7 @@ TEST(SideOfLine, IsThatOfTheTurn) {
     }
     const Point origin{0, 0}, north{0, 1};
     EXPECT_EQ(lib::IGEPNT(origin, north, Point{1.01e-5f, 3}), 1);
+    EXPECT_EQ(lib::IGEPNT(origin, north, Point{1e-5f, 3}), 1);
     EXPECT_EQ(lib::IGEPNT(origin, north, Point{0.99e-5f, 3}), 0);
     EXPECT_EQ(lib::IGEPNT(origin, north, Point{-1.01e-5f, -3}), -1);
     EXPECT_EQ(lib::IGEPNT(origin, origin, Point{-1, 5}), -1) << "as though the line ran north";

@@ -66,7 +66,10 @@ TEST(LiteralForm, RadiationOnASurface) {
         const float altitude =
             random.below(8) ? random.real(0.0f, 1.5707964f) : about(0.080085576f, random);
         const float azimuth = random.real(0.0f, 6.2831855f);
-        const float gamma = random.real(0.0f, 6.2831855f), tilt = random.real(0.0f, 3.1415927f);
+        const bool facing_sun = random.below(8) == 0;
+        const float gamma = facing_sun ? about(azimuth, random) : random.real(0.0f, 6.2831855f);
+        const float tilt =
+            facing_sun ? about(1.5707964f - altitude, random) : random.real(0.0f, 3.1415927f);
         const float height = random.below(8) ? random.real(0.0f, 3000.0f) : about(300.0f, random);
         const int sky = random.below(2);
         std::array<float, 8> ours;
