@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <numbers>
 #include <vector>
 
 #include "clipping/clip_call.h"
@@ -106,6 +107,26 @@ TEST(Overlap, Limits) {
     EXPECT_FLOAT_EQ(five.area, 2.5f);
     EXPECT_EQ(overlap(comb(6), rectangle(-1, 0.5, 20, 3)), Outputs{});
     EXPECT_EQ(overlap(rectangle(0, 0, 1, 1), rectangle(3, 0, 4, 1)), Outputs{});
+}
+
+// What the first leaves of the second has a list of 50 entries, although nobody sees it.
+TEST(Overlap, DifferenceThatDoesNotFit) {
+    const auto ring = [](int n, double start, double radius, double x) {
+        PlanRing points;
+        for (int i = 0; i < n; ++i) {
+            const double angle = -2.0 * std::numbers::pi * (i + start) / n;
+            points.push_back({x + radius * std::cos(angle), radius * std::sin(angle)});
+        }
+        return points;
+    };
+    // One corner of the first reaches through the middle of an edge of the second.
+    const auto bitten = [&](int n) {
+        return overlap(ring(9, 0.0, 0.3, 0.72), ring(n, 0.5, 1.0, 0.0)).area;
+    };
+    EXPECT_NEAR(bitten(38), 0.26f, 0.01f);
+    EXPECT_EQ(bitten(39), 0.0f);
+    EXPECT_NEAR(overlap(regular(20, 0.3), regular(21, 1.0)).area, 0.28f, 0.01f);
+    EXPECT_EQ(overlap(regular(20, 0.3), regular(22, 1.0)).area, 0.0f);
 }
 
 TEST(Overlap, SmallCoordinatesAreZero) {
