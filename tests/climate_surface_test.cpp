@@ -68,6 +68,15 @@ TEST(SurfaceIrradiance, OnLevelSurfacesIsThatOfTheSkyOrTheGround) {
     EXPECT_NEAR(soffit.diffuse, 0.0f, 1e-4f);
 }
 
+// By rounding the cosine exceeds 1 now and then.
+TEST(SurfaceIrradiance, OnSurfacesThatFaceTheSunIsNormal) {
+    for (float altitude = 0.001f; altitude < 1.57f; altitude += 0.001f) {
+        const Surface surface(altitude, 2.0f, 2.0f, 0.5f * pi - altitude);
+        EXPECT_LT(surface.incidence, 1e-3f) << altitude;
+        EXPECT_NEAR(surface.direct, 720.0f, 1e-3f) << altitude;
+    }
+}
+
 TEST(SurfaceIrradiance, FollowsTheAngleOfIncidenceAndSeesADarkerNorth) {
     for (float facing = 0.0f; facing < 6.3f; facing += 0.3f)
         for (float tilt = 0.0f; tilt <= 3.14f; tilt += 0.3f) {

@@ -78,7 +78,9 @@ TEST(Clipping, RingsThatDoNotCross) {
         EXPECT_EQ(head(clipped.dif, 6), (std::vector{4, 1, 2, 3, 4, 0}));
         EXPECT_EQ(clipped.ovl[0], 0);
     }
-    for (const PlanRing& around : {rectangle(-1, -1, 3, 3), square, reversed(square)}) {
+    // Round 64 corners at most, one look tells.
+    for (const PlanRing& around : {rectangle(-1, -1, 3, 3), square, reversed(square),
+                                   regular(63, 5), regular(64, 5), regular(65, 5)}) {
         const Clipped clipped = clip(square, around);
         EXPECT_EQ(clipped.dif[0], 0);
         EXPECT_EQ(head(clipped.ovl, 6), (std::vector{4, 1, 2, 3, 4, 0}));

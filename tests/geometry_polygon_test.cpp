@@ -276,6 +276,10 @@ TEST(SpacePolygon, ContainsItsBoundaryButNotWhatIsInLineWithAnEdge) {
     const std::vector<float> l{0, 0, 0, 0, 5, 0, 1, 5, 0, 1, 1, 0, 5, 1, 0, 5, 0, 0, 0, 0, 0};
     EXPECT_FALSE(inside({1, 0.5f, 0}, l));
     EXPECT_TRUE(inside({1.01f, 0.5f, 0}, l));
+    const std::vector<float> beside_0{0, -1, 0, 2, -1, 0, 2, 0, 0,  1, 0,
+                                      0, 1,  1, 0, 0,  1, 0, 0, -1, 0};
+    EXPECT_FALSE(inside({0.5f, 0.97e-6f, 0}, beside_0));
+    EXPECT_TRUE(inside({0.5f, 1.03e-6f, 0}, beside_0));
     // Inside by less than 1e-6 at a corner, but not in line with its edges.
     const std::vector<float> large{0, 0, 0, 0, 9, 0, 9, 9, 0, 9, 0, 0, 0, 0, 0};
     EXPECT_FALSE(inside({0.6e-6f, 0.6e-6f, 0}, large));

@@ -1,4 +1,6 @@
 // The routines that were made fast give the very bits of their literal forms.
+#include <algorithm>
+
 #include "common/library.h"
 #include "literal/climate.h"
 #include "literal/compare.h"
@@ -66,10 +68,15 @@ TEST(LiteralForm, RadiationOnASurface) {
         const float altitude =
             random.below(8) ? random.real(0.0f, 1.5707964f) : about(0.080085576f, random);
         const float azimuth = random.real(0.0f, 6.2831855f);
-        const bool facing_sun = random.below(8) == 0;
-        const float gamma = facing_sun ? about(azimuth, random) : random.real(0.0f, 6.2831855f);
-        const float tilt =
-            facing_sun ? about(1.5707964f - altitude, random) : random.real(0.0f, 3.1415927f);
+        const struct {
+            float gamma, tilt;
+        } surfaces[] = {
+            {about(azimuth, random), about(1.5707964f - altitude, random)},
+            {about(azimuth + 3.1415927f, random), about(1.5707964f + altitude, random)},
+            {random.real(0.0f, 6.2831855f), random.real(0.0f, 3.1415927f)},
+        };
+        // Towards the sun, away from it, and mostly anywhere.
+        const auto [gamma, tilt] = surfaces[std::min(random.below(16), 2)];
         const float height = random.below(8) ? random.real(0.0f, 3000.0f) : about(300.0f, random);
         const int sky = random.below(2);
         std::array<float, 8> ours;
