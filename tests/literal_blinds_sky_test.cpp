@@ -18,7 +18,9 @@ TEST(LiteralForm, BlindsInBeamAndDiffuseRadiation) {
         const float beta = unusual(i % 4 ? angle : 5.0f * std::round(angle / 5.0f), rarity, random);
         const float s = unusual(random.real(0.01f, 0.3f), rarity, random);
         const float w = unusual(random.real(0.01f, 0.3f), rarity, random);
-        const float phi = unusual(random.real(-1.5709f, 1.5709f), rarity, random);
+        const float along_blind = about(random.below(2) ? 1.5707953f : -1.570796f, random);
+        const float phi = unusual(random.below(16) ? random.real(-1.5709f, 1.5709f) : along_blind,
+                                  rarity, random);
         const float f = unusual(random.real(-0.5f, 1.0f), rarity, random);
         const float alpha = unusual(random.real(0.0f, 1.0f), rarity, random);
         const float alpha_b = unusual(random.real(0.0f, 1.0f), rarity, random);
