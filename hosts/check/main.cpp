@@ -103,17 +103,20 @@ bool check_installation(bool quick) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    bool quick = false, right = true;
-    CLI::App app{
-        "Checks the Quorvel library of this machine: that it can be loaded, is of this version, "
-        "gives\nthe published values, and gives the same bits as on every other machine."};
-    app.name("quorvel-check");
-    app.add_flag("--quick", quick, "Leave out the comparison of bits, which takes some seconds");
-    app.footer(
-        "The library, quorvel.dll or libquorvel.so, is looked for beside the program, or is the\n"
-        "file that the environment variable QUORVEL_LIBRARY names.\n"
-        "Exit status: 0 all is right, 1 something is not, 2 bad command line.");
+    bool right = true;
     const int status = host::run("quorvel-check", [&] {
+        bool quick = false;
+        CLI::App app{
+            "Checks the Quorvel library of this machine: that it can be loaded, is of this "
+            "version, gives\nthe published values, and gives the same bits as on every other "
+            "machine."};
+        app.name("quorvel-check");
+        app.add_flag("--quick", quick,
+                     "Leave out the comparison of bits, which takes some seconds");
+        app.footer(
+            "The library, quorvel.dll or libquorvel.so, is looked for beside the program, or is "
+            "the\nfile that the environment variable QUORVEL_LIBRARY names.\n"
+            "Exit status: 0 all is right, 1 something is not, 2 bad command line.");
         if (host::parse(app, argc, argv)) right = check_installation(quick);
     });
     return status == host::success && !right ? host::failure : status;

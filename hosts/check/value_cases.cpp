@@ -14,7 +14,6 @@ namespace quorvel::check {
 namespace {
 
 using test::Argument;
-using test::Direction;
 using test::Routine;
 using test::Type;
 
@@ -162,6 +161,7 @@ std::string fault_of(const ValueCase& value_case) {
     std::vector<Storage> arguments = arguments_of(routine, value_case);
     Storage result(routine.result == Type::None ? Type::Real : routine.result, 1);
     std::vector<void*> addresses;
+    addresses.reserve(arguments.size());
     for (Storage& argument : arguments) addresses.push_back(argument.address());
     routine.call(reinterpret_cast<test::Address>(host::routine_address(routine.name)),
                  addresses.data(), result.address());

@@ -5,6 +5,7 @@
 // may follow KMAX LDIF LOVL, the room that is left in the pool, how many points more than there are
 // npool tells, and digits that replace the positions of the vertices in turn.
 #include <algorithm>
+#include <bit>
 #include <cstring>
 #include <vector>
 
@@ -152,7 +153,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
                   alias = overlap(lib::GEHOLE, polygons.a, polygons.b);
     require_overlap(o);
     require(same_bits(o.x, alias.x, o.x.size()) && same_bits(o.y, alias.y, o.y.size()) &&
-                o.count == alias.count && std::memcmp(&o.area, &alias.area, sizeof o.area) == 0,
+                o.count == alias.count &&
+                std::bit_cast<std::uint32_t>(o.area) == std::bit_cast<std::uint32_t>(alias.area),
             "GEHOLE is GEOVER");
     return 0;
 }
