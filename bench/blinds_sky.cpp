@@ -4,10 +4,10 @@
 
 #include <array>
 
-#include "common/library.h"
+#include "conformance/random_arguments.h"
 #include "literal/blinds.h"
 #include "literal/sky.h"
-#include "support/random_arguments.h"
+#include "quorvel/library.h"
 
 namespace {
 
@@ -22,7 +22,7 @@ constexpr float extraterrestrial = 1367.0f;
 const std::array<Case, 1024>& cases() {
     static const auto table = [] {
         std::array<Case, 1024> made;
-        quorvel::test::Random random(1);
+        quorvel::conformance::Random random(1);
         const auto draw = [&](float low, float high) {
             return low + (high - low) * static_cast<float>(random.unit());
         };

@@ -3,9 +3,9 @@
 
 #include <array>
 
-#include "common/library.h"
+#include "conformance/climate_file.h"
 #include "literal/climate_file.h"
-#include "support/climate_file.h"
+#include "quorvel/library.h"
 
 namespace {
 
@@ -22,7 +22,7 @@ Records request(int call) {
     return records;
 }
 
-const std::string file(quorvel::test::example_file);
+const std::string file(quorvel::conformance::example_file);
 
 void clbnf0(benchmark::State& state) {
     const auto month = static_cast<int>(state.range(0));
@@ -61,7 +61,7 @@ void ten_records(benchmark::State& state) {
 BENCHMARK(ten_records)->Name("ClimateFile/ten_records");
 
 void clbnf3(benchmark::State& state) {
-    quorvel::test::open_example();
+    quorvel::conformance::open_example();
     const auto step = static_cast<int>(state.range(0));
     std::array<float, 12> values;
     int row = 0;

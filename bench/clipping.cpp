@@ -15,12 +15,12 @@
 #include <polyclipping/clipper.hpp>
 #include <vector>
 
-#include "common/library.h"
-#include "support/random_arguments.h"
+#include "conformance/random_arguments.h"
+#include "quorvel/library.h"
 
 namespace {
 
-using quorvel::test::Random;
+using quorvel::conformance::Random;
 
 struct Polygon {
     std::vector<float> x, y;

@@ -3,9 +3,9 @@
 
 #include <array>
 
-#include "common/library.h"
+#include "conformance/random_arguments.h"
 #include "literal/fabric.h"
-#include "support/random_arguments.h"
+#include "quorvel/library.h"
 
 namespace {
 
@@ -17,7 +17,7 @@ struct Construction {
 };
 
 std::array<Construction, 256> draw() {
-    quorvel::test::Random random(1);
+    quorvel::conformance::Random random(1);
     const auto between = [&](float low, float high) {
         return low + (high - low) * static_cast<float>(random.unit());
     };

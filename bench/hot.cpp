@@ -3,12 +3,12 @@
 
 #include <array>
 
-#include "common/library.h"
+#include "conformance/random_arguments.h"
 #include "literal/climate.h"
 #include "literal/glazing.h"
 #include "literal/psychro.h"
 #include "psychro/saturation.h"
-#include "support/random_arguments.h"
+#include "quorvel/library.h"
 
 namespace {
 
@@ -17,7 +17,7 @@ template <std::size_t n>
 class Values {
   public:
     Values(float low, float high, std::uint64_t seed) {
-        quorvel::test::Random random(seed);
+        quorvel::conformance::Random random(seed);
         for (float& value : values_) value = low + (high - low) * static_cast<float>(random.unit());
     }
     float operator[](std::size_t i) const { return values_[i % n]; }

@@ -3,10 +3,10 @@
 // Names read Group/What; compare figures of one run with one another, since machines differ.
 #include <benchmark/benchmark.h>
 
-#include "common/library.h"
-#include "support/climate_file.h"
+#include "conformance/climate_file.h"
+#include "quorvel/library.h"
 
-using namespace quorvel::test;
+using namespace quorvel::conformance;
 
 namespace {
 

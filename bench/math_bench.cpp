@@ -12,7 +12,7 @@
 #include <random>
 #include <string>
 
-#include "frame/math.h"
+#include "math/math.h"
 
 namespace {
 

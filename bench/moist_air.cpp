@@ -3,9 +3,9 @@
 
 #include <array>
 
-#include "common/library.h"
+#include "conformance/random_arguments.h"
 #include "literal/moist_air.h"
-#include "support/random_arguments.h"
+#include "quorvel/library.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ struct State {
 const std::array<State, states>& air() {
     static const auto table = [] {
         std::array<State, states> made;
-        quorvel::test::Random random(1);
+        quorvel::conformance::Random random(1);
         for (State& state : made) {
             state.t = -10.0f + 55.0f * static_cast<float>(random.unit());
             state.mu = 5.0f + 95.0f * static_cast<float>(random.unit());

@@ -2,12 +2,12 @@
 set(QUORVEL_GENERATED ${PROJECT_BINARY_DIR}/generated)
 file(MAKE_DIRECTORY ${QUORVEL_GENERATED})
 file(GLOB QUORVEL_CATALOGUE CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/catalogue/*.toml)
-file(GLOB QUORVEL_GENERATOR CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tools/catalogue/*.py)
+file(GLOB QUORVEL_GENERATOR CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/generate/*.py)
 
 function(quorvel_generate product output)
     add_custom_command(
         OUTPUT ${output}
-        COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/catalogue/generate.py ${product} ${output}
+        COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/generate/generate.py ${product} ${output}
         COMMAND ${CMAKE_COMMAND} -E touch ${output}
         DEPENDS ${QUORVEL_CATALOGUE} ${QUORVEL_GENERATOR}
         COMMENT "Generating ${product}"

@@ -1,10 +1,11 @@
 // Blinds and sky give the very bits of their literal forms; the blinds also for arguments that no
 // blind has.
-#include "common/library.h"
 #include "literal/blinds.h"
 #include "literal/compare.h"
 #include "literal/sky.h"
+#include "quorvel/library.h"
 
+using namespace quorvel::conformance;
 using namespace quorvel::test;
 
 namespace {

@@ -1,9 +1,10 @@
 // Layer calculations give the very bits of their literal forms, also where layers are resistances,
 // missing, without heat capacity, or beyond anything that is built.
-#include "common/library.h"
 #include "literal/compare.h"
 #include "literal/fabric.h"
+#include "quorvel/library.h"
 
+using namespace quorvel::conformance;
 using namespace quorvel::test;
 
 namespace {

@@ -1,8 +1,9 @@
 // The wet-bulb searches foresee most of their trials, and still give the bits of the literal forms.
-#include "common/library.h"
 #include "literal/compare.h"
 #include "literal/moist_air.h"
+#include "quorvel/library.h"
 
+using namespace quorvel::conformance;
 using namespace quorvel::test;
 
 namespace {

@@ -1,11 +1,11 @@
 // The routines that were made fast give the very bits of their literal forms.
 #include <algorithm>
 
-#include "common/library.h"
 #include "literal/climate.h"
 #include "literal/compare.h"
 #include "literal/glazing.h"
 #include "literal/psychro.h"
+#include "quorvel/library.h"
 
 using namespace quorvel::test;
 

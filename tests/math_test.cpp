@@ -1,7 +1,7 @@
 // The elementary functions of the core. tools/verify_math compares all arguments of each with MPFR,
 // of which every run of the tests takes a sample; here stand what a sample misses: what IEEE 754
 // lays down, and the arguments hardest to round.
-#include "frame/math.h"
+#include "math/math.h"
 
 #include <gtest/gtest.h>
 

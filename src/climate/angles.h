@@ -2,7 +2,7 @@
 // above.
 #pragma once
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::climate {
 

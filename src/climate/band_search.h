@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "frame/numeric.h"
+#include "base/numeric.h"
 
 namespace quorvel::climate {
 

@@ -1,7 +1,7 @@
 // The design day of each month: one day that stands for the month in design calculations.
 #pragma once
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::climate {
 

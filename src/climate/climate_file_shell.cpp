@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <mutex>
 
-#include "frame/lock.h"
+#include "base/lock.h"
 
 using namespace quorvel;
 

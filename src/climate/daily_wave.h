@@ -2,8 +2,8 @@
 // Hours are 0 to 24.
 #pragma once
 
-#include "frame/contract.h"
-#include "frame/math.h"
+#include "base/contract.h"
+#include "math/math.h"
 
 namespace quorvel::climate {
 

@@ -11,8 +11,8 @@
 #include <cmath>
 #include <limits>
 
-#include "frame/contract.h"
-#include "frame/math.h"
+#include "base/contract.h"
+#include "math/math.h"
 
 namespace quorvel::climate {
 

@@ -1,8 +1,8 @@
 // Sol-air temperature, and the long-wave radiation that a surface loses to the sky.
 #pragma once
 
-#include "frame/contract.h"
-#include "frame/math.h"
+#include "base/contract.h"
+#include "math/math.h"
 
 namespace quorvel::climate {
 

@@ -1,8 +1,8 @@
 // The annual cycle of the earth and the difference between solar time and the clock.
 #pragma once
 
-#include "frame/contract.h"
-#include "frame/math.h"
+#include "base/contract.h"
+#include "math/math.h"
 
 namespace quorvel::climate {
 

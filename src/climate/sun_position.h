@@ -3,9 +3,9 @@
 
 #include <cmath>
 
+#include "base/numeric.h"
 #include "climate/angles.h"
 #include "climate/solar_time.h"
-#include "frame/numeric.h"
 
 namespace quorvel::climate {
 

@@ -3,9 +3,9 @@
 // Angles are in radians, irradiances in W/m².
 #pragma once
 
+#include "base/numeric.h"
 #include "climate/angles.h"
-#include "frame/math.h"
-#include "frame/numeric.h"
+#include "math/math.h"
 
 namespace quorvel::climate {
 

@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-#include "frame/contract.h"
-#include "frame/math.h"
+#include "base/contract.h"
+#include "math/math.h"
 
 namespace quorvel::fabric {
 

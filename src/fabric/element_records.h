@@ -4,7 +4,7 @@
 
 #include <span>
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::fabric {
 

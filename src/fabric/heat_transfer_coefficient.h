@@ -4,8 +4,8 @@
 #include <array>
 #include <cmath>
 
-#include "frame/contract.h"
-#include "frame/math.h"
+#include "base/contract.h"
+#include "math/math.h"
 
 namespace quorvel::fabric {
 

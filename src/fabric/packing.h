@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::fabric {
 

@@ -4,7 +4,7 @@
 // ceiling), pi/2 vertical, pi horizontal with heat flowing downwards (a floor).
 #pragma once
 
-#include "frame/numeric.h"
+#include "base/numeric.h"
 
 namespace quorvel::fabric {
 

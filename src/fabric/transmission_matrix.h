@@ -6,7 +6,7 @@
 #pragma once
 
 #include "fabric/layers.h"
-#include "frame/math.h"
+#include "math/math.h"
 
 namespace quorvel::fabric {
 

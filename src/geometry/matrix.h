@@ -5,7 +5,7 @@
 #include <cmath>
 #include <utility>
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::geometry {
 

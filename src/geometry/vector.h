@@ -2,8 +2,8 @@
 // precision. Sums run from x to z, as written.
 #pragma once
 
-#include "frame/contract.h"
-#include "frame/math.h"
+#include "base/contract.h"
+#include "math/math.h"
 
 namespace quorvel::geometry {
 

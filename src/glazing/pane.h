@@ -8,8 +8,8 @@
 
 #include <cmath>
 
-#include "frame/contract.h"
-#include "frame/math.h"
+#include "base/contract.h"
+#include "math/math.h"
 
 namespace quorvel::glazing {
 

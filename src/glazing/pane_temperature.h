@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::glazing {
 

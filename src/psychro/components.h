@@ -2,7 +2,7 @@
 // Temperatures in °C, enthalpies in kJ/kg from dry air and liquid water at 0 °C, kJ/kgK.
 #pragma once
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::psychro {
 

@@ -1,8 +1,8 @@
 // Saturation and actual vapour pressure of moist air.
 #pragma once
 
-#include "frame/math.h"
-#include "frame/numeric.h"
+#include "base/numeric.h"
+#include "math/math.h"
 
 namespace quorvel::psychro {
 

@@ -2,7 +2,7 @@
 // equation. Where a search would never end, what it has reached is returned.
 #pragma once
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::psychro {
 

@@ -7,7 +7,7 @@
 #include <numeric>
 #include <set>
 
-#include "common/library.h"
+#include "quorvel/library.h"
 
 namespace quorvel::test {
 namespace {

@@ -5,9 +5,11 @@
 #include <vector>
 
 #include "clipping/clip_call.h"
-#include "support/random_arguments.h"
+#include "conformance/random_arguments.h"
 
 namespace quorvel::test {
+
+using conformance::Random;
 
 // Vertices lie on a grid, so that single and double precision and whole numbers all hold the very
 // same polygons, and points can be put on edges exactly.

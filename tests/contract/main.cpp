@@ -10,10 +10,10 @@
 #include <cinttypes>
 #include <cstdio>
 
-#include "common/library.h"
+#include "conformance/climate_file.h"
 #include "contract/guarded_call.h"
 #include "contract/steps.h"
-#include "support/climate_file.h"
+#include "quorvel/library.h"
 
 using namespace quorvel::test;
 

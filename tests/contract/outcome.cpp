@@ -4,7 +4,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "support/canonical.h"
+#include "conformance/canonical.h"
 
 namespace quorvel::test {
 namespace {

@@ -5,9 +5,11 @@
 #include <span>
 #include <vector>
 
-#include "support/random_arguments.h"
+#include "conformance/random_arguments.h"
 
 namespace quorvel::test {
+
+using namespace conformance;
 
 using Words = std::vector<std::vector<std::uint32_t>>;
 

@@ -7,9 +7,9 @@
 #include <cstdlib>
 #include <thread>
 
-#include "common/library.h"
+#include "conformance/climate_file.h"
 #include "contract/outcome.h"
-#include "support/climate_file.h"
+#include "quorvel/library.h"
 
 using namespace quorvel::test;
 

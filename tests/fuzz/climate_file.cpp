@@ -12,10 +12,10 @@
 #include <array>
 #include <bit>
 
-#include "common/library.h"
 #include "fuzz/climate_image.h"
 #include "fuzz/input_file.h"
 #include "literal/climate_file.h"
+#include "quorvel/library.h"
 
 namespace {
 

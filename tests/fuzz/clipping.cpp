@@ -9,9 +9,9 @@
 #include <cstring>
 #include <vector>
 
-#include "common/library.h"
 #include "contract/steps.h"
 #include "fuzz/bytes.h"
+#include "quorvel/library.h"
 
 namespace {
 

@@ -6,14 +6,14 @@
 #include <string>
 
 #include "common/input.h"
+#include "conformance/climate_file.h"
 #include "fuzz/bytes.h"
 #include "fuzz/library.h"
-#include "support/climate_file.h"
 
 namespace quorvel::fuzz {
 
 // A new folder to work in, with the example of a climate data file in it.
-inline void enter_folder() { static const test::ExampleFolder folder; }
+inline void enter_folder() { static const conformance::ExampleFolder folder; }
 
 inline void write_file(const std::string& name, std::string_view bytes) {
     std::ofstream stream(name, std::ios::binary);

@@ -1,4 +1,4 @@
-#include "common/library.h"
+#include "quorvel/library.h"
 
 #include <stdexcept>
 #include <string_view>

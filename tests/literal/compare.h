@@ -7,9 +7,11 @@
 #include <bit>
 #include <cmath>
 
-#include "support/random_arguments.h"
+#include "conformance/random_arguments.h"
 
 namespace quorvel::test {
+
+using namespace conformance;
 
 inline float any_bits(Random& random) {
     return std::bit_cast<float>(static_cast<std::uint32_t>(random.bits()));

@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-#include "frame/math.h"
 #include "literal/psychro.h"
+#include "math/math.h"
 
 namespace literal {
 

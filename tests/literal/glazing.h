@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "frame/math.h"
+#include "math/math.h"
 
 namespace literal {
 

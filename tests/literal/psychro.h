@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-#include "frame/math.h"
+#include "math/math.h"
 
 namespace literal {
 

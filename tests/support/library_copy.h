@@ -2,10 +2,12 @@
 // routines whose state lasts as long as the library is loaded.
 #pragma once
 
-#include "common/library.h"
-#include "support/climate_file.h"
+#include "conformance/climate_file.h"
+#include "quorvel/library.h"
 
 namespace quorvel::test {
+
+using namespace conformance;
 
 class LibraryCopy {
     TemporaryFolder folder_;

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Writes the tables of src/frame/math/tables.h to standard output.
+"""Writes the tables of src/math/tables.h to standard output.
 
-Needs Debian's python3-mpmath. Run: tools/math/tables.py > src/frame/math/tables.h
+Needs Debian's python3-mpmath. Run: tools/math/tables.py > src/math/tables.h
 """
 import struct
 

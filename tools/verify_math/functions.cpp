@@ -2,7 +2,7 @@
 
 #include <math.h>
 
-#include "frame/math.h"
+#include "math/math.h"
 
 namespace verify {
 

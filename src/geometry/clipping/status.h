@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/contract.h"
+#include "base/contract.h"
 
 namespace quorvel::geometry::clipping {
 

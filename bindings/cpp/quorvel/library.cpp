@@ -1,0 +1,51 @@
+#include "quorvel/library.h"
+
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
+
+namespace quorvel::host {
+namespace {
+
+#ifdef _WIN32
+constexpr const char* default_name = "quorvel.dll";
+
+void* open(const char* name) { return reinterpret_cast<void*>(LoadLibraryA(name)); }
+void* find(void* library, const char* symbol) {
+    return reinterpret_cast<void*>(GetProcAddress(reinterpret_cast<HMODULE>(library), symbol));
+}
+std::string last_error() { return "Windows error " + std::to_string(GetLastError()); }
+#else
+constexpr const char* default_name = "libquorvel.so";
+
+void* open(const char* name) { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
+void* find(void* library, const char* symbol) { return dlsym(library, symbol); }
+std::string last_error() { return dlerror(); }
+#endif
+
+void* library = nullptr;
+
+}  // namespace
+
+void load_library() {
+    const char* chosen = std::getenv("QUORVEL_LIBRARY");
+    const char* name = chosen ? chosen : default_name;
+    library = open(name);
+    if (!library)
+        throw std::runtime_error(std::string("cannot load ") + name + ": " + last_error());
+}
+
+void* routine_address(const char* name) {
+    if (!library) load_library();
+    void* address = find(library, name);
+    if (!address) throw std::runtime_error(std::string("the library does not export ") + name);
+    return address;
+}
+
+}  // namespace quorvel::host

@@ -1,0 +1,76 @@
+// One 64-bit hash per exported routine over a fixed corpus of arguments: equal hashes mean equal
+// bits.
+//
+//     quorvel_corpus              prints "NAME HASH" for every routine
+//     quorvel_corpus --shuffled   the same with the routines in random order, in the user's locale
+//     quorvel_corpus NAME         prints every case of one routine: arguments before, results after
+//
+// The library under test is the one that library.h loads (QUORVEL_LIBRARY names another one).
+#include "conformance/corpus.h"
+
+#include <cinttypes>
+#include <clocale>
+#include <cstdio>
+#include <ctime>
+#include <exception>
+#include <string_view>
+#include <utility>
+
+#include "conformance/climate_file.h"
+#include "quorvel/library.h"
+
+using namespace quorvel::conformance;
+
+namespace {
+
+void print_cases(const Routine& routine) {
+    bool given = false;
+    const auto print = [&](const char* separator, std::uint32_t word) {
+        std::fputs(separator, stdout);
+        std::printf(" %08" PRIx32, word);
+    };
+    run_corpus(
+        routine,
+        [&](std::uint32_t word) {
+            print(given ? "" : "\n", word);
+            given = true;
+        },
+        [&](std::uint32_t word) {
+            print(given ? " :" : "", word);
+            given = false;
+        });
+    std::puts("");
+}
+
+void print_hashes(const std::vector<Routine>& routines) {
+    for (const Routine& routine : routines)
+        std::printf("%s %s\n", routine.name, corpus_hash(routine).c_str());
+}
+
+std::vector<Routine> shuffled(std::vector<Routine> routines) {
+    Random random(static_cast<std::uint64_t>(std::time(nullptr)));
+    for (int i = static_cast<int>(routines.size()); i > 1; --i)
+        std::swap(routines[static_cast<std::size_t>(i - 1)],
+                  routines[static_cast<std::size_t>(random.below(i))]);
+    return routines;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+    const std::string_view wanted = argc > 1 ? argv[1] : "";
+    quorvel::host::load_library();
+    const ExampleFolder folder;
+    if (wanted.empty()) return print_hashes(routines()), 0;
+    if (wanted == "--shuffled") {
+        std::setlocale(LC_ALL, "");
+        return print_hashes(shuffled(routines())), 0;
+    }
+    for (const Routine& routine : routines())
+        if (wanted == routine.name) return print_cases(routine), 0;
+    std::fprintf(stderr, "no exported routine is called %s\n", argv[1]);
+    return 2;
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 2;
+}

@@ -1,0 +1,21 @@
+// Every transcendental function of the library goes through this header.
+//
+// The single-precision functions are correctly rounded (nearest, ties to even) for every argument,
+// the double-precision ones deviate by less than one unit in the last place; all return the same
+// bits whatever compiler, optimisation or instruction set translates them. See docs/math.md.
+//
+// Each single-precision function exists twice, with the same results:
+//   math::f        for single values: tables and branches, which make it quick on its own
+//   math::loop::f  for a plain loop over an array: neither, so that the loop vectorises; atan2 and
+//                  pow take whole arrays
+#pragma once
+
+#include "math/atan2.h"
+#include "math/double_exp_log.h"
+#include "math/double_inverse_trig.h"
+#include "math/double_trig.h"
+#include "math/loop_pairs.h"
+#include "math/power.h"
+#include "math/scalar_exp_log.h"
+#include "math/scalar_inverse_trig.h"
+#include "math/scalar_trig.h"

@@ -1,0 +1,180 @@
+// Climate data files that are missing, damaged or no files at all, and names of every kind.
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+#include "support/library_copy.h"
+
+using namespace quorvel::conformance;
+using namespace quorvel::test;
+
+namespace {
+
+constexpr float untouched = -77.0f;
+constexpr int rows_per_set = 82;
+
+using Records = std::array<float, 132>;
+
+// Set 1 in the first half of the year and set 2 in the second, at rising percentages.
+Records request() {
+    Records records;
+    records.fill(untouched);
+    for (std::size_t month = 0; month < 12; ++month) {
+        records[11 * month + 9] = month < 6 ? 1.0f : 2.0f;
+        records[11 * month + 10] = static_cast<float>(5 + 8 * month);
+    }
+    return records;
+}
+
+class FaultyFile : public testing::Test {
+  protected:
+    FaultyFile() {
+        image.fill(1, random);
+        image.save(name);
+    }
+    Records read(const LibraryCopy& from, const std::string& file) const {
+        Records records = request();
+        from.CLBNF0(file, 1, 0, records);
+        return records;
+    }
+    bool is_filled(const Records& records, int month) const {
+        return records[11 * static_cast<std::size_t>(month - 1)] != untouched;
+    }
+    // The last record that a month needs: that of the upper band of Q7.
+    std::int64_t last_record(int month) const {
+        const Records records = request();
+        const std::size_t at = 11 * static_cast<std::size_t>(month - 1);
+        const int first = records[at + 9] == 2.0f ? rows_per_set : 0;
+        const float fraction = records[at + 10] / 100.0f;
+        int upper = 1;
+        while (upper < 10 && image.value(1, first + 1 + upper, month) < fraction) ++upper;
+        return image.record_of(1, first + 71 + upper);
+    }
+
+    TemporaryFolder folder;
+    std::string name = (folder.path() / "stations.climate").string();
+    Random random{11};
+    ClimateFileImage image{1, 1};
+    LibraryCopy library;
+};
+
+TEST_F(FaultyFile, TruncatedAnywhereGivesTheMonthsBeforeTheEnd) {
+    const Records whole = read(library, name);
+    for (auto size = static_cast<std::int64_t>(image.bytes().size()); size >= 0; --size) {
+        std::filesystem::resize_file(name, static_cast<std::uintmax_t>(size));
+        const Records records = read(library, name);
+        bool readable = true;
+        for (int month = 1; month <= 12; ++month) {
+            readable = readable && last_record(month) * record_bytes <= size;
+            ASSERT_EQ(is_filled(records, month), readable) << size << ", " << month;
+            const auto begin = 11 * (month - 1);
+            ASSERT_TRUE(std::equal(records.begin() + begin, records.begin() + begin + 11,
+                                   readable ? whole.begin() + begin : request().begin() + begin));
+        }
+    }
+    // Without a header there is nothing, even in a file that has all the rest.
+    const LibraryCopy fresh;
+    EXPECT_EQ(read(fresh, name), request());
+}
+
+#ifdef __linux__
+// Its first bytes are no memory of the process: reading them is an error, again and again.
+TEST_F(FaultyFile, ReadErrorsEndTheCall) { EXPECT_EQ(read(library, "/proc/self/mem"), request()); }
+#endif
+
+TEST_F(FaultyFile, WhatIsNoFileIsNotRead) {
+    const auto file = [&](const char* called) { return (folder.path() / called).string(); };
+    std::filesystem::create_directory(file("folder"));
+    std::vector<std::string> names = {
+        file("none"), file("folder"),        file("none") + "/none",   name + "/", "", " ",
+        "/",          std::string(300, 'x'), std::string(1 << 20, 'x')};
+#ifdef _WIN32
+    for (const char* device : {"NUL", "CON", "COM1", "\\\\.\\pipe\\none", "\\\\.\\C:"})
+        names.emplace_back(device);
+#else
+    // The longest name there can be, and one more character.
+    std::string longest = name;
+    longest.insert(folder.path().string().size(), 4095 - name.size(), '/');
+    EXPECT_TRUE(is_filled(read(library, longest), 1));
+    names.push_back(longest + "x");
+    mkfifo(file("pipe").c_str(), 0600);
+    for (const char* device : {"/dev/zero", "/dev/null", "/dev/tty", "/dev/urandom"})
+        names.emplace_back(device);
+    names.push_back(file("pipe"));
+    if (geteuid() != 0) {
+        image.save(file("secret"));
+        chmod(file("secret").c_str(), 0);
+        names.push_back(file("secret"));
+    }
+#endif
+    for (const std::string& no_file : names) {
+        EXPECT_EQ(read(library, no_file), request()) << no_file;
+        // Nor does it take the place of the file on the unit.
+        const Records records = read(library, name);
+        read(library, no_file);
+        std::array<float, 12> values{};
+        library.CLBNF3(13, values);
+        EXPECT_EQ(values[4], image.value(1, 12, 5)) << no_file;
+        EXPECT_TRUE(is_filled(records, 12));
+    }
+}
+
+TEST_F(FaultyFile, TrailingBlanksOfANameDoNotCount) {
+    const Records whole = read(library, name);
+    EXPECT_TRUE(is_filled(whole, 1));
+    for (const std::size_t blanks : {1, 3, 5000, 1 << 20})
+        EXPECT_EQ(read(library, name + std::string(blanks, ' ')), whole) << blanks;
+    const auto with_blanks = folder.path() / " two  words";
+    image.save(with_blanks);
+    EXPECT_EQ(read(library, with_blanks.string() + " "), whole);
+    // Bytes beyond ASCII are the system's business.
+    const auto accented = folder.path().string() + "/caf\xe9";
+    std::ofstream(accented, std::ios::binary)
+        .write(reinterpret_cast<const char*>(image.bytes().data()),
+               static_cast<std::streamsize>(image.bytes().size()));
+    EXPECT_EQ(read(library, accented), whole);
+}
+
+#ifdef __linux__
+std::ptrdiff_t open_handles() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                         std::filesystem::directory_iterator{});
+}
+
+TEST_F(FaultyFile, NoHandleStaysOpen) {
+    mkfifo((name + "-pipe").c_str(), 0600);
+    const auto before = open_handles();
+    for (const auto* damage : {"", "-none", "-pipe", "/"}) {
+        read(library, name + damage);
+        std::array<float, 12> values;
+        library.CLBNF3(100, values);
+        EXPECT_EQ(open_handles(), before) << damage;
+    }
+    std::filesystem::resize_file(name, 5000);
+    read(library, name);
+    std::filesystem::remove(name);
+    read(library, name);
+    EXPECT_EQ(open_handles(), before);
+}
+
+TEST_F(FaultyFile, OffsetsGoBeyondFourGigabytes) {
+    // A sparse file: one station, and nothing before it but the header.
+    constexpr int station = 1'000'000;
+    const auto begin = 19 * std::int64_t{station} - 15;
+    std::ofstream file(name, std::ios::binary | std::ios::in);
+    file.seekp((begin - 1) * record_bytes);
+    file.write(reinterpret_cast<const char*>(&image.bytes()[3 * record_bytes]), 19 * record_bytes);
+    file.close();
+    Records records = request();
+    library.CLBNF0(name, station, 0, records);
+    EXPECT_EQ(records, read(library, name));
+    EXPECT_TRUE(is_filled(records, 12));
+}
+#endif
+
+}  // namespace

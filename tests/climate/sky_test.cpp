@@ -1,0 +1,229 @@
+// Sky models on tilted surfaces: Perez against the published table and a second evaluation, Muneer
+// against the integral over his sky, and all of them against one another.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+#include "conformance/random_arguments.h"
+#include "quorvel/library.h"
+
+namespace {
+
+using quorvel::conformance::Random;
+
+constexpr double pi = std::numbers::pi;
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+constexpr float vertical = 1.5707964f;
+
+float perez(float altitude, float tilt, float beam, float diffuse, float incidence,
+            float normal = 1367.0f) {
+    float sky;
+    lib::CLPERSKY(altitude, tilt, beam, diffuse, sky, incidence, normal);
+    return sky;
+}
+
+// Table 6 of Perez et al., Solar Energy 44 (1990), with the limits of its table 1.
+struct Row {
+    double limit, f11, f12, f13, f21, f22, f23;
+} const published[] = {
+    {1.065, -0.008, 0.588, -0.062, -0.060, 0.072, -0.022},
+    {1.230, 0.130, 0.683, -0.151, -0.019, 0.066, -0.029},
+    {1.500, 0.330, 0.487, -0.221, 0.055, -0.064, -0.026},
+    {1.950, 0.568, 0.187, -0.295, 0.109, -0.152, -0.014},
+    {2.800, 0.873, -0.392, -0.362, 0.226, -0.462, 0.001},
+    {4.500, 1.132, -1.237, -0.412, 0.288, -0.823, 0.056},
+    {6.200, 1.060, -1.600, -0.359, 0.264, -1.127, 0.131},
+    {1e9, 0.678, -0.327, -0.250, 0.156, -1.377, 0.251},
+};
+
+// Clearness less 1 that a ratio of normal beam to diffuse of 1 gives, by the zenith angle.
+double clearness_gain(double Z) {
+    const double kappa = 1.041;  // per rad³; 5.534e-6 per degree³
+    return 1.0 / (1.0 + kappa * Z * Z * Z);
+}
+
+double beam_for_clearness(double clearness, double altitude, double diffuse) {
+    return (clearness - 1.0) / clearness_gain(pi / 2.0 - altitude) * diffuse * std::sin(altitude);
+}
+
+// A second evaluation, by the published coefficients; the air mass is the altered one.
+double perez_expected(double altitude, double tilt, double beam, double diffuse, double incidence,
+                      double normal) {
+    const double Z = pi / 2.0 - altitude;
+    const double air_mass =
+        1.0 / (std::sin(altitude) + 0.50572 / std::pow(altitude + 6.07995, 1.6364));
+    const double brightness = air_mass * diffuse / normal;
+    const double clearness = 1.0 + beam / std::sin(altitude) / diffuse * clearness_gain(Z);
+    const Row* row = published;
+    while (clearness > row->limit) ++row;
+    const double F1 = row->f11 + row->f12 * brightness + row->f13 * Z;
+    const double circumsolar = std::max(0.0, F1);
+    const double ratio = std::max(0.0, std::cos(incidence)) / std::max(0.0871557, std::cos(Z));
+    return diffuse *
+           (0.5 * (1.0 + std::cos(tilt)) + circumsolar * (ratio - 0.5 * (1.0 + std::cos(tilt))) +
+            (row->f21 + row->f22 * brightness + row->f23 * Z) * std::sin(tilt));
+}
+
+TEST(Perez, AgreesWithThePublishedCoefficients) {
+    Random random(1);
+    for (int i = 0; i < 20000; ++i) {
+        const double altitude = random.between(0.05, 1.55), diffuse = random.between(20.0, 500.0);
+        // In every row, and close to its limits on both sides.
+        const Row& row = published[random.below(7)];
+        const double clearness = row.limit * (i % 2   ? random.between(0.8, 1.2)
+                                              : i % 4 ? 0.9998
+                                                      : 1.0002);
+        const double beam = std::max(0.0, beam_for_clearness(clearness, altitude, diffuse));
+        const double tilt = random.between(0.0, pi), incidence = random.between(0.0, pi);
+        // Half of the cases have no brightness, and the altered air mass does not matter.
+        const double normal = random.below(2) ? 1e20 : random.between(1320.0, 1415.0);
+        const double expected = perez_expected(altitude, tilt, beam, diffuse, incidence, normal);
+        const double brightness = diffuse / normal / std::sin(altitude);
+        const double rounding = 0.0005 * (1.0 + brightness + pi / 2.0) *
+                                (1.0 + 1.0 / std::max(0.0871557, std::sin(altitude)));
+        EXPECT_NEAR(perez(static_cast<float>(altitude), static_cast<float>(tilt),
+                          static_cast<float>(beam), static_cast<float>(diffuse),
+                          static_cast<float>(incidence), static_cast<float>(normal)),
+                    expected, rounding * diffuse)
+            << altitude << ' ' << clearness;
+    }
+}
+
+struct Muneer {
+    float beam, diffuse, ground, incidence;
+
+    Muneer(float altitude, float azimuth, float facing, float tilt, float beam_horizontal,
+           float diffuse_horizontal, float outside = 1000.0f) {
+        lib::CLMUNRAD(altitude, azimuth, facing, tilt, beam_horizontal, diffuse_horizontal, outside,
+                      0.2f, beam, diffuse, ground, incidence);
+    }
+};
+
+// Irradiance of a tilted surface under the sky of radiance 1 + b sin(altitude), by that on the
+// horizontal, from the integral over the part of the sky that the surface sees.
+double muneer_integral(double b, double tilt) {
+    constexpr int n = 400;
+    double on_surface = 0.0, on_horizontal = 0.0;
+    for (int i = 0; i < n; ++i)
+        for (int j = 0; j < 2 * n; ++j) {
+            const double h = (i + 0.5) * pi / 2.0 / n, azimuth = (j + 0.5) * pi / n;
+            const double radiance = (1.0 + b * std::sin(h)) * std::cos(h);
+            const double towards =
+                std::sin(h) * std::cos(tilt) + std::cos(h) * std::sin(tilt) * std::cos(azimuth);
+            on_horizontal += radiance * std::sin(h);
+            on_surface += radiance * std::max(0.0, towards);
+        }
+    return on_surface / on_horizontal;
+}
+
+TEST(Muneer, BackgroundIsTheIntegralOverItsSky) {
+    constexpr float altitude = 0.5f, azimuth = 2.0f, opposite = 2.0f + 3.1415927f;
+    for (const float tilt : {0.6f, 1.0f, vertical, 2.5f}) {
+        const double shaded = muneer_integral(5.73, tilt), overcast = muneer_integral(1.68, tilt),
+                     sunny = muneer_integral(-0.62, tilt);
+        const auto sunlit = [&](float beam) {
+            return Muneer(altitude, azimuth, azimuth, tilt, beam, 100.0f).diffuse / 100.0f;
+        };
+        EXPECT_NEAR(sunlit(std::nextafter(5.0f, 0.0f)), overcast, 1e-4);
+        EXPECT_NEAR(sunlit(5.0f), sunny, 1e-4) << "index of the sunny sky, no circumsolar part";
+        const auto mixed = [&](double Kb) {
+            const double circumsolar = std::sin(altitude + tilt) / std::sin(altitude);
+            return sunny + Kb * (circumsolar - sunny);
+        };
+        EXPECT_NEAR(sunlit(std::nextafter(5.0f, 9.0f)), mixed(0.005), 1e-4);
+        EXPECT_NEAR(sunlit(300.0f), mixed(0.3), 2e-4);
+
+        const Muneer turned(altitude, azimuth, opposite, tilt, 300.0f, 100.0f);
+        EXPECT_TRUE(turned.beam == 0.0f && turned.incidence == vertical);
+        EXPECT_NEAR(turned.diffuse / 100.0f, shaded, 1e-4);
+
+        const auto factor = [&](float alt, float beam) {
+            return lib::CLDIFRAD(100, alt, beam, kNaN, tilt, 0);
+        };
+        EXPECT_NEAR(factor(0.0f, 300.0f), shaded, 1e-4);
+        EXPECT_NEAR(factor(altitude, 4.9f), overcast, 1e-4);
+        EXPECT_NEAR(factor(altitude, 5.0f), sunny, 1e-4);
+    }
+}
+
+TEST(Muneer, BeamGroundAndIncidenceAgreeWithTheDesignSky) {
+    Random random(2);
+    for (int i = 0; i < 2000; ++i) {
+        const float altitude = random.real(0.02, 1.52), azimuth = random.real(0.0, 6.28),
+                    facing = random.real(0.0, 6.28);
+        const float tilt = random.real(0.0, 3.14), normal = random.real(5.0, 905.0);
+        const float horizontal = normal * std::sin(altitude);
+        const Muneer surface(altitude, azimuth, facing, tilt, horizontal, 100.0f);
+        float direct, diffuse, ground, incidence;
+        lib::CLSOR2(altitude, azimuth, facing, tilt, normal, 100.0f, 0.2f, 1.0f, 1.0f, direct,
+                    diffuse, ground, incidence);
+        EXPECT_NEAR(surface.beam, direct, 2e-3f);
+        EXPECT_NEAR(surface.ground, ground, 1e-4f);
+        EXPECT_NEAR(surface.incidence, incidence, 1e-3f);
+    }
+    for (float altitude = 1.0f; altitude < 1.57f; altitude += 0.01f) {
+        const auto tilt = static_cast<float>(pi / 2.0 - altitude);
+        EXPECT_LT(Muneer(altitude, 2.0f, 2.0f, tilt, 100.0f, 100.0f).incidence, 1e-3f)
+            << "rounding takes some of the cosines beyond 1";
+    }
+}
+
+TEST(Muneer, LowSunsHaveFormsOfTheirOwn) {
+    const auto slope = [](float altitude, float beam) {
+        return lib::CLDIFSLO(100, altitude, 2.0f, 1.5f, 1.2f, beam, 100.0f, 0);
+    };
+    const float below = std::nextafter(0.1f, 0.0f), outside = 1367.0f * lib::CLETAJ(100);
+    const double cosine =
+        std::sin(0.1) * std::cos(1.2) + std::cos(0.1) * std::sin(1.2) * std::cos(0.5);
+    const double sky = std::pow(std::cos(0.6), 2), horizon = std::pow(std::sin(0.6), 3);
+
+    // 0.1 in single precision is above the limit in double.
+    EXPECT_NEAR(Muneer(below, 2.0f, 1.5f, 1.2f, 20.0f, 100.0f).diffuse,
+                100.0 * cosine * (1.0 + horizon), 1e-3);
+    const double factor = lib::CLDIFRAD(100, 0.1f, 20.0f, kNaN, 1.2f, 0);
+    EXPECT_NEAR(Muneer(0.1f, 2.0f, 1.5f, 1.2f, 20.0f, 100.0f).diffuse,
+                100.0 * (factor * 0.98 + 0.02 * cosine / std::sin(0.1)), 1e-3);
+
+    const double Kb = 20.0 / (outside * std::sin(0.1));
+    EXPECT_NEAR(slope(below, 20.0f),
+                100.0 * sky * (1.0 + Kb * horizon) *
+                    (1.0 + Kb * cosine * cosine * std::pow(std::cos(0.1), 3)),
+                1e-3);
+    EXPECT_NEAR(slope(0.1f, 20.0f), 100.0 * (factor * (1.0 - Kb) + Kb * cosine / std::sin(0.1)),
+                1e-3);
+    const float still = std::nextafter(5.0f, 0.0f);
+    EXPECT_NEAR(slope(below, still), slope(0.1f, still), 1e-3f) << "but not under overcast";
+    EXPECT_GT(std::fabs(slope(below, 5.0f) - slope(0.1f, 5.0f)), 1.0f);
+}
+
+TEST(SlopeDiffuse, IsMuneersForASunnySkyAndFollowsTheClearness) {
+    Random random(3);
+    const auto difference = [](double tilt) {
+        return std::sin(tilt) - tilt * std::cos(tilt) - pi * std::pow(std::sin(tilt / 2.0), 2);
+    };
+    for (int i = 0; i < 2000; ++i) {
+        const float altitude = random.real(0.11, 1.51), azimuth = random.real(0.0, 6.28),
+                    facing = random.real(0.0, 6.28);
+        const float tilt = random.real(0.0, 1.6), beam = random.real(6.0, 606.0);
+        const int day = 1 + random.below(365);
+        const float outside = 1367.0f * lib::CLETAJ(day) * std::sin(altitude);
+        const Muneer surface(altitude, azimuth, facing, tilt, beam, 100.0f, outside);
+        const float slope = lib::CLDIFSLO(day, altitude, azimuth, facing, tilt, beam, 100.0f, 0);
+        const double Kb = beam / outside, half = std::pow(std::cos(tilt / 2.0), 2);
+        const auto factor = [&](int model) {
+            return lib::CLDIFRAD(day, altitude, beam, kNaN, tilt, model);
+        };
+        const bool behind = surface.beam == 0.0f;
+        EXPECT_NEAR(slope, behind ? 100.0 * factor(0) * (1.0 - Kb) : surface.diffuse, 2e-3);
+        EXPECT_NEAR(factor(1), half + (0.00333 - 0.415 * Kb - 0.6987 * Kb * Kb) * difference(tilt),
+                    2e-6 * (1.0 + Kb * Kb));
+        EXPECT_NEAR(factor(2), half + (0.00263 - 0.712 * Kb - 0.6883 * Kb * Kb) * difference(tilt),
+                    2e-6 * (1.0 + Kb * Kb));
+        EXPECT_EQ(lib::CLDIFRAD(day, altitude, beam, kNaN, 0.0f, i % 3), 1.0f);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,258 @@
+// Slatted blinds against a radiosity balance drawn from the corners of their slats, roller blinds,
+// and stacks of layers against the adding method.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <numbers>
+#include <numeric>
+#include <vector>
+
+#include "conformance/random_arguments.h"
+#include "quorvel/library.h"
+
+namespace {
+
+using quorvel::conformance::Random;
+
+constexpr double kDegree = std::numbers::pi / 180.0;
+
+struct Optics {
+    float t = -7.0f, a = -7.0f, r = -7.0f;
+    bool operator==(const Optics&) const = default;
+};
+
+Optics slats(float s, float w, float beta, float phi, float alpha) {
+    Optics blind;
+    lib::WNDRSL(s, w, beta, phi, alpha, blind.t, blind.a, blind.r);
+    return blind;
+}
+
+Optics slats(float s, float w, float beta, float phi, float alpha, float alpha_b) {
+    Optics blind;
+    lib::WNDRS2(s, w, beta, phi, alpha, alpha_b, blind.t, blind.a, blind.r);
+    return blind;
+}
+
+Optics slats(float s, float w, float beta, float phi, float alpha, float alpha_b, float f) {
+    Optics blind;
+    lib::WNDRS3(s, w, beta, phi, f, alpha, alpha_b, blind.t, blind.a, blind.r);
+    return blind;
+}
+
+struct Diffuse {
+    float t_sky, t_ground, a_sky, a_ground;
+    bool operator==(const Diffuse&) const = default;
+};
+
+Diffuse diffuse_slats(float s, float w, float beta, float alpha) {
+    Diffuse blind;
+    lib::WNDFSL(s, w, beta, alpha, blind.t_sky, blind.t_ground, blind.a_sky, blind.a_ground);
+    return blind;
+}
+
+struct Point {
+    double x, y;
+};
+
+struct Strip {
+    Point from, to;
+    double length() const { return std::hypot(to.x - from.x, to.y - from.y); }
+};
+
+// Crossed strings: share of what leaves strip a diffusely that arrives at strip b.
+double exchange(const Strip& a, const Strip& b) {
+    const auto string = [](Point p, Point q) { return Strip{p, q}.length(); };
+    return std::fabs(string(a.from, b.from) + string(a.to, b.to) - string(a.from, b.to) -
+                     string(a.to, b.from)) /
+           (2.0 * a.length());
+}
+
+// The gap between two slats of width 1: outer edges at x = 0, a beam from above on the lower slat.
+struct ReferenceGap {
+    double s, beta;  // radians
+    Point inner{std::cos(beta), std::sin(beta)};
+    Strip lower{{0.0, 0.0}, inner}, upper{{0.0, s}, {inner.x, inner.y + s}};
+    Strip outside{lower.from, upper.from}, inside{lower.to, upper.to};
+
+    struct Values {
+        double t, a, r;
+    };
+
+    // Of a beam with phi + beta > 0. The strip that the beam lights sends on to the other slat and
+    // the openings; from there on both slats are evenly lit, and reflection follows reflection.
+    Values beam(double phi, double rho, double rho_b) const {
+        const double lit = s * std::cos(phi) / std::sin(phi + beta);
+        const double end = std::min(lit, 1.0), struck = std::min(1.0, 1.0 / lit);
+        const Strip strip{lower.from, {inner.x * end, inner.y * end}};
+        Values sum = {1.0 - struck + struck * rho * exchange(strip, inside), struck * (1.0 - rho),
+                      struck * rho * exchange(strip, outside)};
+        double on_upper = struck * rho * exchange(strip, upper), on_lower = 0.0;
+        for (int i = 0; i < 3000 && on_upper + on_lower > 1e-12; ++i) {
+            sum.a += on_upper * (1.0 - rho_b) + on_lower * (1.0 - rho);
+            sum.t += on_upper * rho_b * exchange(upper, inside);
+            sum.t += on_lower * rho * exchange(lower, inside);
+            sum.r += on_upper * rho_b * exchange(upper, outside);
+            sum.r += on_lower * rho * exchange(lower, outside);
+            const double back = on_upper * rho_b * exchange(upper, lower);
+            on_upper = on_lower * rho * exchange(lower, upper);
+            on_lower = back;
+        }
+        return sum;
+    }
+};
+
+TEST(Slats, FollowTheRadiosityBalanceOfTheirGap) {
+    Random random(1);
+    for (int i = 0; i < 20000; ++i) {
+        const double s = random.between(0.2, 2.0), beta = random.between(-85.0, 85.0),
+                     phi = random.between(-1.5, 1.5);
+        const float alpha = random.real(0.05, 1.0);
+        // A black opposite face too leaves the transmittance exact, but not the absorptance.
+        const bool equal_faces = i % 4 != 0;
+        const float alpha_b = equal_faces ? alpha : 1.0f;
+        if (std::fabs(phi + beta * kDegree) < 0.011) continue;
+        const double side = phi + beta * kDegree > 0.0 ? 1.0 : -1.0;
+        const auto expected =
+            ReferenceGap{s, side * beta * kDegree}.beam(side * phi, 1.0 - alpha, 1.0 - alpha_b);
+        const Optics blind = slats(static_cast<float>(s), 1.0f, static_cast<float>(beta),
+                                   static_cast<float>(phi), alpha, alpha_b);
+        EXPECT_NEAR(blind.t, expected.t, 5e-5) << s << ' ' << beta << ' ' << phi << ' ' << alpha;
+        if (equal_faces) {
+            EXPECT_NEAR(blind.a, expected.a, 5e-5) << s << ' ' << beta << ' ' << phi;
+            EXPECT_NEAR(blind.r, expected.r, 5e-5) << s << ' ' << beta << ' ' << phi;
+        }
+    }
+}
+
+TEST(Slats, ThreeRoutinesAreOneModel) {
+    Random random(2);
+    for (int i = 0; i < 3000; ++i) {
+        const float s = random.real(0.2, 1.2), beta = random.real(-90.0, 90.0);
+        const float phi = random.real(-1.55, 1.55);
+        const float alpha = random.real(0.0, 1.0), alpha_b = random.real(0.0, 1.0);
+        const Optics two = slats(s, 1.0f, beta, phi, alpha, alpha_b);
+        EXPECT_EQ(slats(s, 1.0f, beta, phi, alpha), slats(s, 1.0f, beta, phi, alpha, alpha));
+        EXPECT_EQ(slats(s, 1.0f, beta, phi, alpha, alpha_b, 0.0f), two);
+        const Optics open = slats(s, 1.0f, beta, phi, alpha, alpha_b, 0.2f);
+        EXPECT_FLOAT_EQ(open.t, 0.2f + 0.8f * two.t);
+        EXPECT_FLOAT_EQ(open.a, 0.8f * two.a);
+        EXPECT_FLOAT_EQ(open.r, 0.8f * two.r);
+    }
+    EXPECT_LT(slats(0.1f, 1.0f, 0.0f, 1.0f, 0.9f, 0.1f).r, -1.0f) << "documented overshoot";
+}
+
+TEST(DiffuseSlats, OfBlackSlatsPassWhatTheOpeningsSeeOfEachOther) {
+    for (const float s : {0.5f, 0.8f, 1.0f, 2.0f})
+        for (float beta = -71.0f; beta <= 71.0f; beta += 3.0f) {
+            const Diffuse blind = diffuse_slats(s, 1.0f, beta, 1.0f);
+            const ReferenceGap gap{s, beta * kDegree};
+            EXPECT_NEAR(0.5f * (blind.t_sky + blind.t_ground), exchange(gap.outside, gap.inside),
+                        0.02)
+                << s << ' ' << beta;
+            EXPECT_NEAR(blind.t_sky + blind.a_sky, 1.0f, 1e-6f);
+        }
+}
+
+TEST(DiffuseSlats, SwapSkyAndGroundWithTheSlats) {
+    for (float beta = 0.0f; beta <= 90.0f; beta += 2.5f) {
+        const Diffuse lowered = diffuse_slats(0.7f, 1.0f, beta, 0.4f);
+        const Diffuse raised = diffuse_slats(0.7f, 1.0f, -beta, 0.4f);
+        EXPECT_EQ(lowered, (Diffuse{raised.t_ground, raised.t_sky, raised.a_ground, raised.a_sky}));
+        EXPECT_TRUE(lowered.t_sky < lowered.t_ground || beta < 10.0f || beta > 70.0f) << beta;
+        Diffuse two, open;
+        lib::WNDFS2(0.7f, 1.0f, beta, 0.4f, 0.4f, two.t_sky, two.t_ground, two.a_sky, two.a_ground);
+        lib::WNDFS3(0.7f, 1.0f, beta, 0.2f, 0.4f, 0.4f, open.t_sky, open.t_ground, open.a_sky,
+                    open.a_ground);
+        EXPECT_EQ(two, lowered);
+        EXPECT_NEAR(open.t_sky, 0.2f + 0.8f * two.t_sky, 1e-6f);
+    }
+}
+
+TEST(RollerBlind, IsTheSameInDiffuseRadiation) {
+    for (float tau = 0.0f; tau <= 1.0f; tau += 0.05f)
+        for (float rho = 0.0f; tau + rho <= 1.0f; rho += 0.05f) {
+            Optics blind;
+            lib::WNDFRO(tau, rho, blind.t, blind.a, blind.r);
+            EXPECT_NEAR(blind.t, tau, 2e-7f);
+            EXPECT_NEAR(blind.a, 1.0f - tau - rho, 2e-7f);
+            EXPECT_NEAR(blind.r, rho, 3e-7f);
+        }
+}
+
+Optics stack(const std::vector<Optics>& layers) {
+    std::array<float, 12> t{}, a{}, r{};
+    for (std::size_t j = 0; j < layers.size(); ++j) {
+        t[j] = layers[j].t;
+        a[j] = layers[j].a;
+        r[j] = layers[j].r;
+    }
+    Optics total;
+    lib::WNCOMP(static_cast<std::int32_t>(layers.size()), t, a, r, total.t, total.a, total.r);
+    return total;
+}
+
+// Power series in the number of steps back by a layer, of which nine passes hold eight.
+struct Series {
+    std::array<double, 9> c{};
+    double sum() const { return std::accumulate(c.begin(), c.end(), 0.0); }
+    friend Series operator*(double factor, Series a) {
+        for (double& x : a.c) x *= factor;
+        return a;
+    }
+    friend Series operator*(const Series& a, const Series& b) {
+        Series product;
+        for (std::size_t i = 0; i < 9; ++i)
+            for (std::size_t j = 0; i + j < 9; ++j) product.c[i + j] += a.c[i] * b.c[j];
+        return product;
+    }
+};
+
+// All inter-reflections of a stack, by adding one layer after the other in front of it.
+struct Added {
+    Series t{{1.0}}, r;
+
+    void add(const Optics& layer) {
+        Series returned;  // what comes back to the new layer, a step further
+        std::copy(r.c.begin(), r.c.end() - 1, returned.c.begin() + 1);
+        Series between{{1.0}}, power{{1.0}};
+        for (int i = 0; i < 8; ++i) {
+            power = layer.r * (power * returned);
+            for (std::size_t k = 0; k < 9; ++k) between.c[k] += power.c[k];
+        }
+        t = layer.t * (t * between);
+        r = layer.t * layer.t * (returned * between);
+        r.c[0] += layer.r;
+    }
+};
+
+TEST(Stack, AddsUpAllPathsWithEightStepsBack) {
+    Random random(3);
+    for (int i = 0; i < 5000; ++i) {
+        std::vector<Optics> layers;
+        Added expected;
+        for (int n = random.below(12); n > 0; --n) {
+            const float r = (i % 2 ? 0.25f : 0.95f) * static_cast<float>(random.unit());
+            const float t = (1.0f - r) * static_cast<float>(random.unit());
+            layers.push_back({t, 1.0f - t - r, r});
+            expected.add(layers.back());
+        }
+        const Optics traced = stack(layers);
+        EXPECT_NEAR(traced.t, expected.t.sum(), 1e-6) << layers.size();
+        EXPECT_NEAR(traced.r, expected.r.sum(), 1e-6) << layers.size();
+        const double lost = 1.0 - traced.t - traced.a - traced.r;
+        EXPECT_GE(lost, -1e-6) << layers.size();
+        EXPECT_TRUE(i % 2 == 0 || layers.size() > 3 || lost < 1e-5) << lost;
+    }
+}
+
+TEST(Stack, OfNoneOneOrTooManyLayers) {
+    EXPECT_EQ(stack({}), (Optics{1.0f, 0.0f, 0.0f}));
+    EXPECT_EQ(stack({{0.3f, 0.1f, 0.6f}}), (Optics{0.3f, 0.1f, 0.6f}));
+    EXPECT_EQ(stack({{1.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 1.0f}}).r, 1.0f) << "layer n is met first";
+    EXPECT_EQ(stack(std::vector<Optics>(12, Optics{0.5f, 0.5f, 0.0f})), Optics{}) << "untouched";
+}
+
+}  // namespace
