@@ -1,13 +1,9 @@
-// The calling contract: types, conventions and constants that every exported routine shares.
-//
-// Exported routines are declared in quorvel.h, which is produced from the catalogue; the shells
-// (*_shell.cpp) define them, so that the compiler holds every definition against its declaration.
+// The types and constants that every routine shares. The exported interface, quorvel.h, is made
+// from the catalogue and included by the entry points only.
 #pragma once
 
 #include <cfloat>
 #include <cstdint>
-
-#include "quorvel.h"
 
 namespace quorvel {
 
@@ -28,7 +24,5 @@ inline constexpr Real zero_celsius = 273.15f;  // K
 inline constexpr Real undefined = 1.0e20f;
 inline constexpr Real undefined_limit = 1.0e10f;
 constexpr bool is_undefined(Real value) noexcept { return value > undefined_limit; }
-
-constexpr Integer logical(bool value) noexcept { return value ? -1 : 0; }
 
 }  // namespace quorvel

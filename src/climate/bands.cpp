@@ -1,5 +1,7 @@
 #include "climate/bands.h"
 
+#include <algorithm>
+
 namespace quorvel::climate {
 namespace {
 

@@ -1,4 +1,5 @@
 #include "climate/bands.h"
+#include "entry/entry.h"
 
 #include <algorithm>
 

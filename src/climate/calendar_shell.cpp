@@ -1,4 +1,5 @@
 #include "climate/calendar.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

@@ -8,6 +8,7 @@
 //   12..81   Q1 to Q7, ten rows each   band quantities
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>

@@ -1,4 +1,5 @@
 #include "climate/daily_wave.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

@@ -1,4 +1,5 @@
 #include "climate/muneer_sky.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

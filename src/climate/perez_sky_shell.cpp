@@ -1,4 +1,5 @@
 #include "climate/perez_sky.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

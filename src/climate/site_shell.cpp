@@ -1,4 +1,5 @@
 #include "climate/site.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

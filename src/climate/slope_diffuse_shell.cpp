@@ -1,4 +1,5 @@
 #include "climate/slope_diffuse.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

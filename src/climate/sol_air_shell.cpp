@@ -1,4 +1,5 @@
 #include "climate/sol_air.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

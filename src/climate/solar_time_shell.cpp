@@ -1,4 +1,5 @@
 #include "climate/solar_time.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

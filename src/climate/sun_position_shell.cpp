@@ -1,4 +1,5 @@
 #include "climate/sun_position.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

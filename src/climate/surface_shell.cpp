@@ -1,4 +1,5 @@
 #include "climate/surface.h"
+#include "entry/entry.h"
 
 using namespace quorvel;
 

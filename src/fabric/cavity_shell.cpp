@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "fabric/cavity.h"
 
 using namespace quorvel;

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "fabric/condensation.h"
 
 using namespace quorvel;

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "fabric/element_records.h"
 
 using namespace quorvel;

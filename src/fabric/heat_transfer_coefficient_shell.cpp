@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "fabric/heat_transfer_coefficient.h"
 
 using namespace quorvel;

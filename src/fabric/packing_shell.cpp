@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "fabric/packing.h"
 
 using namespace quorvel;

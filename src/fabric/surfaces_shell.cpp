@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "fabric/surfaces.h"
 
 using namespace quorvel;

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "fabric/u_value.h"
 
 using namespace quorvel;

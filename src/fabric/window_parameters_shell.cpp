@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "fabric/window_parameters.h"
 
 using namespace quorvel;

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "geometry/clipping/clipping.h"
 #include "geometry/clipping/overlap.h"
 

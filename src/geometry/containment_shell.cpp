@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "geometry/containment.h"
 
 using namespace quorvel;

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "geometry/corners.h"
 
 #include "geometry/points.h"
@@ -28,18 +29,18 @@ void store(const Quadrilateral& q, DoubleReal* at) noexcept {
 }  // namespace
 
 Integer GEPLEL(const DoubleReal* t1, const DoubleReal* t2) {
-    return logical(geometry::parallel_planes(corners<Triangle>(t1), corners<Triangle>(t2)));
+    return entry::logical(geometry::parallel_planes(corners<Triangle>(t1), corners<Triangle>(t2)));
 }
 
 Integer GEPSID(const DoubleReal* t1, const DoubleReal* t2, Integer* i, Integer* j) {
     const auto sides = geometry::parallel_sides(corners<Triangle>(t1), corners<Triangle>(t2));
     *i = sides.first;
     *j = sides.second;
-    return logical(sides.first != geometry::no_sides.first);
+    return entry::logical(sides.first != geometry::no_sides.first);
 }
 
 Integer GERECT(const DoubleReal* q) {
-    return logical(geometry::rectangular(corners<Quadrilateral>(q)));
+    return entry::logical(geometry::rectangular(corners<Quadrilateral>(q)));
 }
 
 void GETILT(const DoubleReal* t, DoubleReal* azimuth, DoubleReal* tilt) {

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "geometry/lines.h"
 
 #include "geometry/collinearity.h"
@@ -22,7 +23,7 @@ Integer IGELIN(const Real* x, const Real* y, const Integer* n) {
 }
 
 Integer GECOIN(const Real* x1, const Real* y1, const Real* x2, const Real* y2) {
-    return logical(geometry::coincide({*x1, *y1}, {*x2, *y2}));
+    return entry::logical(geometry::coincide({*x1, *y1}, {*x2, *y2}));
 }
 
 Integer IGEPNT(const Real* a, const Real* b, const Real* c) {

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "geometry/orientation.h"
 
 using namespace quorvel;

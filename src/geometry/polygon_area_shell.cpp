@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "geometry/polygon_area.h"
 
 using namespace quorvel;

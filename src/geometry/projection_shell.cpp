@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "geometry/projection.h"
 
 using namespace quorvel;

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "geometry/points.h"
 
 using namespace quorvel;

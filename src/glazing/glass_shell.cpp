@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "glazing/glass.h"
 #include "glazing/store_optics.h"
 

@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "glazing/pane.h"
 
 #include "glazing/store_optics.h"

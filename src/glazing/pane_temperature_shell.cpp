@@ -1,3 +1,4 @@
+#include "entry/entry.h"
 #include "glazing/pane_temperature.h"
 
 using namespace quorvel;

@@ -19,41 +19,47 @@
 namespace quorvel::psychro {
 
 // Psychrometer coefficient times atmospheric pressure, Pa/K.
+template <class R>
 struct PsychrometerSlope {
-    Real wet, iced;
+    R wet, iced;
 
-    Real at(Real twb) const noexcept { return twb < 0.0f ? iced : wet; }
+    R at(R twb) const noexcept { return select(twb < 0.0f, iced, wet); }
 };
 
+template <class R>
 class WetBulbForecast {
   public:
     // For air at t [°C] with vapour pressure pv [Pa]; saturation is ps(t).
-    WetBulbForecast(Real t, Real saturation, Real pv, const PsychrometerSlope& slope) noexcept
+    WetBulbForecast(R t, R saturation, R pv, const PsychrometerSlope<R>& slope) noexcept
         : t_(t), pv_(pv), slope_(slope), x0_(t), ps_(saturation) {}
 
     // Newton's steps, with the slope of ps after Clausius and Clapeyron (latent heat over gas
     // constant: about 5340 K); where they end matters to speed only.
     void approach_root(int steps) noexcept {
         for (int i = 0; i < steps; ++i) {
-            const Real T = x0_ + zero_celsius;
+            const R T = x0_ + zero_celsius;
             x0_ -= excess(x0_) / (ps_ * (5340.0f / (T * T)) + slope_.at(x0_));
             ps_ = saturation_pressure(x0_);
         }
     }
 
-    Real saturation_near_root() const noexcept { return ps_; }
-    void set_margin(Real margin) noexcept { margin_ = margin; }  // Pa
+    R saturation_near_root() const noexcept { return ps_; }
+    void set_margin(R margin) noexcept { margin_ = margin; }  // Pa
 
-    bool above(Real twb) const noexcept { return twb >= x0_ && excess(twb) > margin_; }
-    bool below(Real twb) const noexcept { return twb <= x0_ && excess(twb) < -margin_; }
+    MaskOf<R> above(R twb) const noexcept {
+        return both(twb >= x0_, [&] { return excess(twb) > margin_; });
+    }
+    MaskOf<R> below(R twb) const noexcept {
+        return both(twb <= x0_, [&] { return excess(twb) < -margin_; });
+    }
 
   private:
-    Real excess(Real twb) const noexcept { return ps_ - slope_.at(twb) * (t_ - twb) - pv_; }
+    R excess(R twb) const noexcept { return ps_ - slope_.at(twb) * (t_ - twb) - pv_; }
 
-    Real t_, pv_;
-    PsychrometerSlope slope_;
-    Real x0_, ps_;  // °C, Pa
-    Real margin_ = std::numeric_limits<Real>::infinity();
+    R t_, pv_;
+    PsychrometerSlope<R> slope_;
+    R x0_, ps_;  // °C, Pa
+    R margin_ = std::numeric_limits<Real>::infinity();
 };
 
 }  // namespace quorvel::psychro

@@ -1,0 +1,79 @@
+// What formulas need of a number besides arithmetic, so that one text serves any number type R: one
+// number here, and whatever else has these functions.
+//
+//     MaskOf<R>, IntegerOf<R>     what comparisons give; selectors, days and counts
+//     select(mask, a, b)          one of two values at hand
+//     either(mask, f, g)          one of two calculations; only what is needed is evaluated
+//     piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where none does
+//     both(mask, f)               mask & f(), where f is evaluated only if needed
+//     lookup(table, index)        an element of a table, counted from 0; the index must be in it
+//
+// Masks are combined by & | and !, since && and || cannot be had for more than one number. A formula
+// that takes no R from its arguments is called as f<R>(...).
+#pragma once
+
+#include <cmath>
+#include <type_traits>
+
+#include "base/contract.h"
+
+namespace quorvel {
+
+template <class R>
+struct NumberTypes;
+template <class R>
+    requires std::is_floating_point_v<R>
+struct NumberTypes<R> {
+    using Mask = bool;
+    using Integer = quorvel::Integer;
+};
+
+template <class R>
+using MaskOf = typename NumberTypes<R>::Mask;
+template <class R>
+using IntegerOf = typename NumberTypes<R>::Integer;
+
+template <class T>
+constexpr T select(bool mask, const T& a, const T& b) noexcept {
+    return mask ? a : b;
+}
+
+template <class F, class G>
+constexpr auto either(bool mask, F f, G g) noexcept -> decltype(f()) {
+    return mask ? f() : g();
+}
+
+template <class F>
+constexpr auto piecewise(F last) noexcept {
+    return last();
+}
+template <class Mask, class F, class... Rest>
+constexpr auto piecewise(Mask mask, F f, Rest... rest) noexcept {
+    return either(mask, f, [&] { return piecewise(rest...); });
+}
+
+template <class F>
+constexpr bool both(bool mask, F f) noexcept {
+    return mask && f();
+}
+
+template <class T>
+constexpr T lookup(const T* table, Integer index) noexcept {
+    return table[index];
+}
+
+constexpr Real to_real(Integer n) noexcept { return static_cast<Real>(n); }
+// Towards zero; x must lie within the range of an Integer.
+constexpr Integer to_integer(Real x) noexcept { return static_cast<Integer>(x); }
+
+inline Real absolute(Real x) noexcept { return std::fabs(x); }
+inline DoubleReal absolute(DoubleReal x) noexcept { return std::fabs(x); }
+
+// A result that a routine may leave unwritten.
+template <class R>
+struct Maybe {
+    R value;
+    MaskOf<R> written;
+};
+
+}  // namespace quorvel
