@@ -1,44 +1,67 @@
 """The catalogue of routines, read and checked."""
 
+import math
 import re
-import tomllib
-from dataclasses import dataclass, field
+from dataclasses import dataclass, field, replace
 from pathlib import Path
 
-NUMBERS = {"Real": "float", "DoubleReal": "double", "Integer": "int32_t"}
-C_TYPES = {**NUMBERS, "Text": "char"}
+import checks
+import quantities as quantity_file
+from checks import C_TYPES
+from examples import example
+from place import CatalogueError, read
 
+__all__ = ["C_TYPES", "CatalogueError", "Argument", "Family", "Result", "Routine", "load"]
 
-class CatalogueError(Exception):
-    """A fault in a catalogue file, with the file, routine and argument named."""
+DESCRIBED = {"is": checks.is_text, **quantity_file.KINDS}
+ARGUMENT = {
+    **DESCRIBED,
+    "name": checks.is_text,
+    "dir": checks.is_direction,
+    "shape": checks.is_list_of(checks.is_extent),
+    "draw": checks.is_interval,
+    "ignored": checks.is_flag,
+    "unwritten": checks.is_text,
+    "none": checks.is_flag,
+}
+RESULT = {**DESCRIBED, "logical": checks.is_flag, "none": checks.is_flag}
+ROUTINE = {
+    **dict.fromkeys(("export", "name", "summary", "formula", "source", "state", "entry"), checks.is_text),
+    "args": checks.is_list_of(checks.is_table),
+    "result": checks.is_table,
+    "notes": checks.is_list_of(checks.is_text),
+    "examples": checks.is_list_of(checks.is_table),
+}
 
 
 @dataclass(frozen=True)
 class Argument:
+    quantity: str
     name: str
-    dir: str
+    type: str
+    meaning: str
+    unit: str = ""
+    dir: str = "in"
+    range: tuple = ()  # valid values, ends included; none without limit
+    values: dict = field(default_factory=dict)  # of a selector: number and meaning by identifier
+    shape: tuple = ()
+    draw: tuple = ()  # what random arguments are drawn from
+    ignored: bool = False
+    unwritten: str = ""  # when a call leaves the output as it was
+    none: bool = False  # 1e20 stands for "does not exist"
+
+
+@dataclass(frozen=True)
+class Result:
+    quantity: str
     type: str
     meaning: str
     unit: str = ""
     range: tuple = ()
     values: dict = field(default_factory=dict)
     shape: tuple = ()
-    ignored: bool = False
-
-    @property
-    def bounds(self):
-        """Lowest and highest valid value, or None."""
-        if self.values:
-            keys = [int(key) for key in self.values]
-            return min(keys), max(keys)
-        return tuple(self.range) or None
-
-
-@dataclass(frozen=True)
-class Result:
-    type: str
-    meaning: str
-    unit: str = ""
+    logical: bool = False
+    none: bool = False
 
 
 @dataclass(frozen=True)
@@ -47,9 +70,14 @@ class Routine:
     name: str
     summary: str
     source: str
+    topic: str
     args: tuple = ()
     result: Result | None = None
     notes: tuple = ()
+    formula: str = ""
+    examples: tuple = ()
+    state: str = ""
+    entry: str = ""
 
 
 @dataclass(frozen=True)
@@ -59,63 +87,104 @@ class Family:
     routines: tuple
 
 
-def _check(condition, where, complaint):
-    if not condition:
-        raise CatalogueError(f"{where}: {complaint}")
+def _described(kind, table, quantities, place, **defaults):
+    """An argument or a result: its quantity, and what it overrides of it."""
+    name = table["is"]
+    place.require(name in quantities, f"there is no quantity {name}", name)
+    quantity = quantities[name]
+    inherited = {key: getattr(quantity, key) for key in quantity_file.KINDS}
+    own = {key: value for key, value in table.items() if key != "is"}
+    thing = kind(**{"quantity": name, **defaults, **inherited, **own})
+    checks.check_described(thing, place)
+    return thing
 
 
-def _build(kind, table, where):
-    try:
-        return kind(**table)
-    except TypeError as error:
-        raise CatalogueError(f"{where}: {str(error).split('__init__() ')[-1]}") from None
+def _drawn(arg):
+    if arg.draw:
+        return arg.draw
+    if arg.values:
+        numbers = [number for number, _ in arg.values.values()]
+        return min(numbers), max(numbers)
+    return tuple(arg.range)
 
 
-def _argument(table, names, where):
-    arg = _build(Argument, table, where)
-    where = f"{where}, argument {arg.name}"
-    _check(re.fullmatch(r"[a-z]\w*", arg.name), where, "the name must be a lower-case identifier")
-    _check(arg.name not in names, where, "the name stands twice")
-    _check(arg.dir in ("in", "out", "inout"), where, "dir must be in, out or inout")
-    _check(arg.type in C_TYPES, where, f"type must be one of {', '.join(C_TYPES)}")
+def _argument(table, quantities, place):
+    checks.check_keys(table, ARGUMENT, ["is"], place)
+    arg = _described(Argument, table, quantities, place, name=table["is"])
+    checks.check_name(arg.name, place)
     if arg.type == "Text":
-        _check(arg.dir == "in" and not arg.shape, where, "a text is one input")
+        place.require(arg.dir == "in" and not arg.shape, "a text is one input")
         return arg
-    _check(arg.unit or arg.type == "Integer", where, "a real needs a unit (1 for a pure number)")
-    if arg.dir != "out" and not arg.ignored:
-        _check(arg.bounds, where, "an input needs a range or values")
-        _check(arg.values or arg.bounds[0] < arg.bounds[1], where, "the range is empty")
+    if arg.dir == "out":
+        place.require("draw" not in table, "nothing is drawn for an output", "draw =")
+        return arg
+    arg = replace(arg, draw=_drawn(arg))
+    place.require(arg.ignored or arg.draw, "an input without range or values needs a draw")
+    place.require(all(map(math.isfinite, arg.draw)), "an input without upper or lower limit needs a draw")
+    whole = all(isinstance(end, int) and end in checks.INT32 for end in arg.draw)
+    place.require(arg.type != "Integer" or whole, "an Integer is drawn from whole ends", "draw =")
     return arg
 
 
-def _routine(table, where):
-    where = f"{where}, {table.get('export', 'a routine without export')}"
-    args, names = [], set()
-    for entry in table.get("args", []):
-        arg = _argument({**entry, "shape": tuple(entry.get("shape", ()))}, names, where)
-        args.append(arg)
-        names.add(arg.name)
-    for extent in (extent for arg in args for extent in arg.shape):
-        _check(isinstance(extent, int) or extent in names, where, f"extent {extent} is no argument")
-    result = _build(Result, table["result"], where) if "result" in table else None
-    routine = _build(Routine, {**table, "args": tuple(args), "result": result}, where)
-    _check(re.fullmatch(r"[A-Z][A-Z0-9]{3,8}", routine.export), where, "not an exported name")
-    _check(not result or result.type in NUMBERS, where, "the result has an unknown type")
-    return routine
+def _arguments(tables, quantities, place):
+    args = []
+    for index, table in enumerate(tables):
+        where = place.entry("is", index)
+        args.append(_argument(table, quantities, where))
+        where.require(args[-1].name not in (arg.name for arg in args[:-1]), f"{args[-1].name} stands twice")
+    counts = [arg.name for arg in args if arg.type == "Integer" and not arg.shape and arg.dir != "out"]
+    for index, arg in enumerate(args):
+        for extent in arg.shape:
+            known = isinstance(extent, int) or extent in counts
+            place.entry("is", index).require(known, f"extent {extent} is no Integer that is given")
+    return tuple(args)
+
+
+def _result(table, quantities, place):
+    checks.check_keys(table, RESULT, ["is"], place)
+    result = _described(Result, table, quantities, place)
+    place.require(result.type != "Text", "a function cannot return a text", "result =")
+    return result
+
+
+def _routine(table, quantities, topic, place):
+    checks.check_keys(table, ROUTINE, ["export", "name", "summary", "source"], place)
+    place.require(re.fullmatch(r"[A-Z][A-Z0-9]{3,8}", table["export"]), "not an exported name", "export =")
+    place.require(re.fullmatch(r"[a-z][a-z0-9_]*", table["name"]), "not a lower-case identifier", "name =")
+    args = _arguments(table.get("args", []), quantities, place)
+    result = _result(table["result"], quantities, place) if "result" in table else None
+    plain = {**table, "args": args, "result": result, "examples": (), "topic": topic}
+    routine = Routine(**{**plain, "notes": tuple(table.get("notes", ()))})
+    entries = enumerate(table.get("examples", []))
+    return replace(routine, examples=tuple(example(routine, entry, place.entry("given", n)) for n, entry in entries))
+
+
+def _topic(path, quantities):
+    content, places = read(path)
+    if list(content) != ["routine"]:
+        raise CatalogueError(f"{path}: a file of a topic holds routines and nothing else")
+    for table, place in zip(content["routine"], places, strict=True):
+        yield _routine(table, quantities, path.stem, place), place
 
 
 def load(folder):
-    """All families of the catalogue, in the order of their file names."""
-    families, seen = [], set()
-    for path in sorted(Path(folder).glob("*.toml")):
-        try:
-            table = tomllib.loads(path.read_text(encoding="utf-8"))
-        except tomllib.TOMLDecodeError as error:
-            raise CatalogueError(f"{path}: {error}") from None
-        routines = tuple(_routine(entry, path.name) for entry in table["routine"])
-        for routine in routines:
-            _check(routine.export not in seen, path.name, f"{routine.export} is described twice")
-            seen.add(routine.export)
-        families.append(Family(table["family"], table["title"], routines))
-    _check(families, folder, "no catalogue files here")
+    """All families of the catalogue in the order of families.toml, their topics by name."""
+    folder = Path(folder)
+    quantities, quantity_places = quantity_file.load(folder / "quantities.toml")
+    families, seen, used = [], {}, set()
+    titles, places = read(folder / "families.toml")
+    for (name, table), place in zip(titles.items(), places):
+        checks.check_keys(table, {"title": checks.is_text}, ["title"], place)
+        routines = []
+        for path in sorted((folder / name).glob("*.toml")):
+            for routine, where in _topic(path, quantities):
+                for own in (routine.export, f"{name}::{routine.name}"):
+                    where.require(own not in seen, f"{own} is described twice")
+                    seen[own] = where
+                used.update(arg.quantity for arg in routine.args)
+                used.update([routine.result.quantity] if routine.result else [])
+                routines.append(routine)
+        families.append(Family(name, table["title"], tuple(routines)))
+    for name, place in quantity_places.items():
+        place.require(name in used, f"no routine has the quantity {name}")
     return families

@@ -1,5 +1,6 @@
 """quorvel.h: the documented C header."""
 
+import math
 import textwrap
 
 from catalogue import C_TYPES
@@ -50,23 +51,31 @@ WIDTH = 100
 
 
 def _number(value):
-    return f"{value:g}" if isinstance(value, float) else str(value)
+    return f"{value:.8g}" if isinstance(value, float) else str(value)
+
+
+def _interval(low, high):
+    if high == math.inf:
+        return f"from {_number(low)}"
+    return f"to {_number(high)}" if low == -math.inf else f"{_number(low)} .. {_number(high)}"
 
 
 def _domain(arg):
     if arg.ignored:
         return "not used"
+    if arg.dir == "out":
+        return ""
     if arg.values:
         return "selector"
     if arg.type == "Text":
         return "text"
-    return f"{_number(arg.range[0])} .. {_number(arg.range[1])}" if arg.range else ""
+    return _interval(*arg.range) if arg.range else "any"
 
 
 def _meaning(arg):
     text = arg.meaning
     if arg.values:
-        text += ": " + ", ".join(f"{key} {meaning}" for key, meaning in arg.values.items())
+        text += ": " + ", ".join(f"{number} {meaning}" for number, meaning in arg.values.values())
     if arg.shape:
         text += f" [{', '.join(str(extent) for extent in arg.shape)}]"
     return text

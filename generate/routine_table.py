@@ -11,7 +11,7 @@ def _extent(extent, names):
 
 
 def _argument(arg, names):
-    low, high = arg.bounds or (0, 0)
+    low, high = arg.draw or (0, 0)
     shape = ", ".join(_extent(extent, names) for extent in arg.shape)
     return (
         f'{{"{arg.name}", Type::{arg.type}, Direction::{arg.dir.capitalize()}, '

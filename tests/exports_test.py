@@ -14,7 +14,7 @@ import unittest
 from pathlib import Path
 
 ROOT = Path(__file__).parents[1]
-sys.path[:0] = [str(ROOT / "tools" / "catalogue"), str(ROOT / "tests" / "abi")]
+sys.path[:0] = [str(ROOT / "generate"), str(ROOT / "tests" / "abi")]
 import catalogue  # noqa: E402
 from check_abi import BASELINE, parameters  # noqa: E402
 
@@ -81,7 +81,7 @@ class Exports(unittest.TestCase):
         self.assertFalse(imported & {name + suffix for name in names for suffix in ("", "f", "l")})
 
     def test_header_follows_from_the_catalogue(self):
-        generate = ROOT / "tools" / "catalogue" / "generate.py"
+        generate = ROOT / "generate" / "generate.py"
         done = subprocess.run([sys.executable, generate, "header", ROOT / "include" / "quorvel.h", "--check"])
         self.assertEqual(done.returncode, 0)
 
