@@ -1,20 +1,24 @@
-"""Entry points: reads the arguments of a call, hands their values to the core function of the same clear
-name, and stores what it returns. A core function that does not fit the catalogue does not compile.
+"""Entry points: each reads the arguments of a call, hands their values to the core function, and stores what
+that returns. A core function that does not fit the catalogue does not compile.
 
 Routines with an `entry` in the catalogue are written by hand in src/entry/.
 """
 
-from catalogue import C_TYPES
+from pathlib import Path
 
-TYPES = {"Real": "Real", "DoubleReal": "DoubleReal", "Integer": "Integer", "Text": "char"}
+TYPES = {"Real": "Real", "DoubleReal": "DoubleReal", "Integer": "Integer"}
 
-# What the core functions take for arrays of a fixed shape
+# What core functions take for a fixed number of values
 VALUES = {
-    (2,): "geometry::PlanVector<{}>",
-    (3,): "geometry::SpaceVector<{}>",
-    (3, 3): "geometry::Matrix3<{}>",
-    (3, 4): "geometry::Quadrilateral<{}>",
+    ("Real", (2,)): "geometry::PlanVector<Real>",
+    ("Real", (3,)): "geometry::SpaceVector<Real>",
+    ("Real", (3, 3)): "geometry::RotationMatrix<Real>",
+    ("DoubleReal", (3,)): "geometry::SpaceVector<DoubleReal>",
+    ("DoubleReal", (3, 3)): "geometry::Triangle<DoubleReal>",
+    ("DoubleReal", (3, 4)): "geometry::Quadrilateral<DoubleReal>",
 }
+
+CONVERTED = {"psychro"}
 
 
 def _parameter(arg):
@@ -22,13 +26,11 @@ def _parameter(arg):
 
 
 def _value(arg):
-    if not arg.shape:
-        return f"*{arg.name}"
-    return f"load<{(arg.value or VALUES[arg.shape]).format(TYPES[arg.type])}>({arg.name})"
+    return f"load<{VALUES[arg.type, arg.shape]}>({arg.name})" if arg.shape else f"*{arg.name}"
 
 
 def _number_type(routine):
-    types = [arg.type for arg in routine.args] + ([routine.result.type] if routine.result else [])
+    types = [thing.type for thing in (*routine.args, routine.result) if thing]
     return "DoubleReal" if "DoubleReal" in types else "Real"
 
 
@@ -37,28 +39,44 @@ def _call(family, routine):
     return f"{family.family}::{routine.core or routine.name}<{_number_type(routine)}>({given})"
 
 
-def _body(family, routine):
+def _statements(family, routine):
     call = _call(family, routine)
     outputs = [arg.name for arg in routine.args if arg.dir != "in"]
-    stores = [f"    store({name}_value, {name});\n" for name in outputs]
-    wrap = "logical({})" if routine.result and routine.result.logical else "{}"
+    result = "logical({})" if routine.result and routine.result.logical else "{}"
     if not outputs:
-        return f"    return {wrap.format(call)};\n"
+        return [f"return {result.format(call)};"]
     if len(outputs) == 1 and not routine.result:
-        return f"    store({call}, {outputs[0]});\n"
-    names = ", ".join((["result"] if routine.result else []) + [f"{name}_value" for name in outputs])
-    end = [f"    return {wrap.format('result')};\n"] if routine.result else []
-    return "".join([f"    const auto [{names}] = {call};\n", *stores, *end])
+        return [f"store({call}, {outputs[0]});"]
+    names = ["result"] * bool(routine.result) + [f"{name}_value" for name in outputs]
+    return [
+        f"const auto [{', '.join(names)}] = {call};",
+        *(f"store({name}_value, {name});" for name in outputs),
+        *[f"return {result.format('result')};"] * bool(routine.result),
+    ]
 
 
 def _definition(family, routine):
     result = TYPES[routine.result.type] if routine.result else "void"
     parameters = ", ".join(_parameter(arg) for arg in routine.args)
-    return f"\n{result} {routine.export}({parameters}) {{\n{_body(family, routine)}}}\n"
+    body = "".join(f"    {statement}\n" for statement in _statements(family, routine))
+    return f"\n{result} {routine.export}({parameters}) {{\n{body}}}\n"
 
 
-def render(family, topic):
-    """The entry points of one topic."""
-    made = [routine for routine in topic.routines if not routine.entry]
-    head = f'#include "{family.family}/{topic.stem}.h"\n\n#include "entry/entry.h"\n\nusing namespace quorvel;\nusing namespace quorvel::entry;\n'
-    return head + "".join(_definition(family, routine) for routine in made)
+def _text(family, routines):
+    made = [routine for routine in routines if not routine.entry and family.family in CONVERTED]
+    if not made:
+        return "// All entry points of this topic are written by hand.\n"
+    headers = (f"{family.family}/{made[0].topic}.h", "entry/entry.h")
+    head = "".join(f'#include "{name}"\n' for name in headers)
+    using = "\nusing namespace quorvel;\nusing namespace quorvel::entry;\n"
+    return head + using + "".join(_definition(family, routine) for routine in made)
+
+
+def files(families):
+    """The texts of the files by their names, one for each topic."""
+    texts = {}
+    for family in families:
+        for topic in dict.fromkeys(routine.topic for routine in family.routines):
+            routines = [routine for routine in family.routines if routine.topic == topic]
+            texts[Path(family.family) / f"{topic}.cpp"] = _text(family, routines)
+    return texts

@@ -99,20 +99,6 @@ QUORVEL_API float PSCPVA(const float *temperature);
 QUORVEL_API float PSHFG(const float *temperature);
 
 /*
- * PSTEFF (weighted_temperature): Weighted temperature of two air temperatures.
- * Given:
- *     first_temperature   float  °C  -100 .. 200  temperature with the greater weight
- *     second_temperature  float  °C  -100 .. 200  temperature with the lesser, negative weight
- * Result:
- *     float  °C  weighted temperature
- * Notes:
- *     - Two equal temperatures give that temperature. Infinite where t2 is above t1 by 34.61 K.
- * Source: (41.94 t1 - 7.33 t2) / (34.61 + t1 - t2); its derivation is not known, so the second
- *     temperature has no other meaning than the formula's.
- */
-QUORVEL_API float PSTEFF(const float *first_temperature, const float *second_temperature);
-
-/*
  * PSGS (moisture_content_from_psychrometer): Moisture content of air from the reading of a wet-and-
  *     dry-bulb psychrometer.
  * Given:
@@ -333,6 +319,20 @@ QUORVEL_API float PSVP(const float *dry_bulb, const float *relative_humidity);
  */
 QUORVEL_API float PSVAP(const float *dry_bulb, const float *wet_bulb, const float *pressure,
                         const int32_t *psychrometer);
+
+/*
+ * PSTEFF (weighted_temperature): Weighted temperature of two air temperatures.
+ * Given:
+ *     first_temperature   float  °C  -100 .. 200  temperature with the greater weight
+ *     second_temperature  float  °C  -100 .. 200  temperature with the lesser, negative weight
+ * Result:
+ *     float  °C  weighted temperature
+ * Notes:
+ *     - Two equal temperatures give that temperature. Infinite where t2 is above t1 by 34.61 K.
+ * Source: (41.94 t1 - 7.33 t2) / (34.61 + t1 - t2); its derivation is not known, so the second
+ *     temperature has no other meaning than the formula's.
+ */
+QUORVEL_API float PSTEFF(const float *first_temperature, const float *second_temperature);
 
 /*
  * PSTWET (psychrometer_wet_bulb): Wet-bulb temperature that a psychrometer reads at a dry-bulb
