@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Hold the corpus hashes of one or more builds of the library against the committed ones.
 
-    check_hashes.py [--write] HASHES PROGRAM [LIBRARY ...]
+    check_hashes.py [--write] [--family NAME] HASHES PROGRAM [LIBRARY ...]
 
 PROGRAM is the corpus program (with its emulator in front, if any). Without LIBRARY it runs on the
 library it finds itself; with libraries, on each in turn. A build that differs from the committed
@@ -58,6 +58,7 @@ def first_difference(program, routine, reference, library):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--write", action="store_true", help="write HASHES anew (say why in the changelog)")
+    parser.add_argument("--family", help="only the routines of one family, in their own order")
     parser.add_argument("hashes", type=Path)
     parser.add_argument("program", type=shlex.split)
     parser.add_argument("libraries", nargs="*")
@@ -68,6 +69,11 @@ def main():
         options.hashes.write_text("".join(f"{line}\n" for line in run(options.program, libraries[0])))
         return
     committed = options.hashes.read_text().splitlines()
+    if options.family:
+        lines = run(options.program, libraries[0], options.family)
+        differing = sorted(set(lines) - set(committed))
+        print("DIFFERS" if differing else "the same", *dict.fromkeys(line.split()[0] for line in differing or lines))
+        sys.exit(bool(differing))
     failed = False
     for library in libraries:
         label = library or " ".join(options.program)

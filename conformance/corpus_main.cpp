@@ -2,17 +2,20 @@
 // bits.
 //
 //     quorvel_corpus              prints "NAME HASH" for every routine
+//     quorvel_corpus FAMILY       the same for the routines of one family
 //     quorvel_corpus --shuffled   the same with the routines in random order, in the user's locale
 //     quorvel_corpus NAME         prints every case of one routine: arguments before, results after
 //
 // The library under test is the one that library.h loads (QUORVEL_LIBRARY names another one).
 #include "conformance/corpus.h"
 
+#include <algorithm>
 #include <cinttypes>
 #include <clocale>
 #include <cstdio>
 #include <ctime>
 #include <exception>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -68,7 +71,11 @@ int main(int argc, char** argv) try {
     }
     for (const Routine& routine : routines())
         if (wanted == routine.name) return print_cases(routine), 0;
-    std::fprintf(stderr, "no exported routine is called %s\n", argv[1]);
+    std::vector<Routine> family;
+    std::ranges::copy_if(routines(), std::back_inserter(family),
+                         [&](const Routine& routine) { return wanted == routine.family; });
+    if (!family.empty()) return print_hashes(family), 0;
+    std::fprintf(stderr, "no exported routine and no family is called %s\n", argv[1]);
     return 2;
 } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

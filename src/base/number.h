@@ -8,8 +8,8 @@
 //     both(mask, f)               mask & f(), where f is evaluated only if needed
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
 //
-// Masks are combined by & | and !, since && and || cannot be had for more than one number. A formula
-// that takes no R from its arguments is called as f<R>(...).
+// Masks are combined by & | and !, since && and || cannot be had for more than one number. A
+// formula that takes no R from its arguments is called as f<R>(...).
 #pragma once
 
 #include <cmath>
@@ -22,7 +22,7 @@ namespace quorvel {
 template <class R>
 struct NumberTypes;
 template <class R>
-    requires std::is_floating_point_v<R>
+requires std::is_floating_point_v<R>
 struct NumberTypes<R> {
     using Mask = bool;
     using Integer = quorvel::Integer;

@@ -8,7 +8,7 @@
 #include <unistd.h>
 #endif
 
-#include "support/library_copy.h"
+#include "climate/library_copy.h"
 
 using namespace quorvel::conformance;
 using namespace quorvel::test;

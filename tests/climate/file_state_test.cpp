@@ -6,8 +6,8 @@
 #include <limits>
 #include <thread>
 
+#include "climate/library_copy.h"
 #include "literal/climate_file.h"
-#include "support/library_copy.h"
 
 using namespace quorvel::conformance;
 using namespace quorvel::test;

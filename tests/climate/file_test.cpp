@@ -4,7 +4,7 @@
 #include <bit>
 #include <cmath>
 
-#include "support/library_copy.h"
+#include "climate/library_copy.h"
 
 using namespace quorvel::conformance;
 using namespace quorvel::test;

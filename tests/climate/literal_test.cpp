@@ -1,50 +1,19 @@
-// The routines that were made fast give the very bits of their literal forms.
+// Sun and sky give the very bits of their literal forms.
 #include <algorithm>
 
 #include "literal/climate.h"
 #include "literal/compare.h"
-#include "literal/glazing.h"
-#include "literal/psychro.h"
+#include "literal/sky.h"
 #include "quorvel/library.h"
 
+using namespace quorvel::conformance;
 using namespace quorvel::test;
 
 namespace {
 
-constexpr int cases = 200000;
-
-TEST(LiteralForm, WetBulbOfPsychrometer) {
-    Random random(1);
-    for (int i = 0; i < cases; ++i) {
-        const float t = random.real(-60.0f, 110.0f), rh = random.real(-5.0f, 110.0f);
-        const float p = random.real(5000.0f, 120000.0f);
-        const int type = 1 + random.below(2);
-        ASSERT_TRUE(same_bits<1>({lib::PSTWET(t, rh, p, type)}, {literal::PSTWET(t, rh, p, type)}))
-            << t << ' ' << rh << ' ' << p << ' ' << type;
-    }
-}
-
-TEST(LiteralForm, GlassInBeamAndDiffuseRadiation) {
-    Random random(2);
-    for (int i = 0; i < cases / 4; ++i) {
-        const float Tn = random.real(-0.01f, 0.92f);
-        const float theta = random.below(8)
-                                ? random.real(-1.6f, 1.6f)
-                                : about(random.below(2) ? 0.01f : -0.010000167f, random);
-        const float R0 = random.below(2) ? 0.0f : random.real(0.0f, 1.0f);
-        std::array<float, 8> ours, expected;
-        lib::WNDRGL(Tn, R0, theta, ours[0], ours[1], ours[2], ours[3], ours[4], ours[5]);
-        lib::WNDFGL(Tn, R0, ours[6], ours[7]);
-        const literal::Pane pane = literal::WNDRGL(Tn, R0, theta);
-        literal::WNDFGL(Tn, R0, expected[6], expected[7]);
-        expected = {pane.Tp, pane.Ap, pane.Rp, pane.Ts, pane.As, pane.Rs, expected[6], expected[7]};
-        ASSERT_TRUE(same_bits(ours, expected)) << Tn << ' ' << R0 << ' ' << theta;
-    }
-}
-
 TEST(LiteralForm, SunOfTheDesignDay) {
     Random random(3);
-    for (int i = 0; i < cases; ++i) {
+    for (int i = 0; i < 200000; ++i) {
         const int day = 1 + random.below(365);
         const float declination = literal::CLSNGE(0.0f, day, 12.0f).declination;
         const float polar_circle = 1.5707964f - std::fabs(declination);
@@ -64,7 +33,7 @@ TEST(LiteralForm, SunOfTheDesignDay) {
 
 TEST(LiteralForm, RadiationOnASurface) {
     Random random(4);
-    for (int i = 0; i < cases; ++i) {
+    for (int i = 0; i < 200000; ++i) {
         const float altitude =
             random.below(8) ? random.real(0.0f, 1.5707964f) : about(0.080085576f, random);
         const float azimuth = random.real(0.0f, 6.2831855f);
@@ -92,6 +61,23 @@ TEST(LiteralForm, RadiationOnASurface) {
             same_bits<8>(ours, {angles.incidence, angles.vertical, angles.horizontal, design.direct,
                                 design.diffuse, plane.direct, plane.diffuse, plane.reflected}))
             << altitude << ' ' << azimuth << ' ' << gamma << ' ' << tilt << ' ' << height;
+    }
+}
+
+TEST(LiteralForm, AnisotropicSky) {
+    Random random(3);
+    for (int i = 0; i < 200000; ++i) {
+        const float altitude = random.real(i % 8 ? 0.0f : -4.0f, i % 8 ? 1.5708f : 4.0f);
+        const float tilt = random.real(i % 8 ? 0.0f : -7.0f, i % 8 ? 3.1416f : 7.0f);
+        const float incidence = random.real(0.0f, 3.1416f);
+        const float beam = random.below(8) ? random.real(0.0f, 1000.0f) : 0.0f;
+        const float diffuse = random.real(1.0f, 600.0f);
+        const float normal = random.real(1320.0f, 1415.0f);
+        float ours;
+        lib::CLPERSKY(altitude, tilt, beam, diffuse, ours, incidence, normal);
+        ASSERT_TRUE(same_bits<1>(
+            {ours}, {literal::CLPERSKY(altitude, tilt, beam, diffuse, incidence, normal)}))
+            << altitude << ' ' << tilt << ' ' << beam << ' ' << diffuse << ' ' << incidence;
     }
 }
 

@@ -1,8 +1,8 @@
-// Blinds and sky give the very bits of their literal forms; the blinds also for arguments that no
+// Panes and blinds give the very bits of their literal forms; the blinds also for arguments that no
 // blind has.
 #include "literal/blinds.h"
 #include "literal/compare.h"
-#include "literal/sky.h"
+#include "literal/glazing.h"
 #include "quorvel/library.h"
 
 using namespace quorvel::conformance;
@@ -38,20 +38,21 @@ TEST(LiteralForm, BlindsInBeamAndDiffuseRadiation) {
     }
 }
 
-TEST(LiteralForm, AnisotropicSky) {
-    Random random(3);
-    for (int i = 0; i < 200000; ++i) {
-        const float altitude = random.real(i % 8 ? 0.0f : -4.0f, i % 8 ? 1.5708f : 4.0f);
-        const float tilt = random.real(i % 8 ? 0.0f : -7.0f, i % 8 ? 3.1416f : 7.0f);
-        const float incidence = random.real(0.0f, 3.1416f);
-        const float beam = random.below(8) ? random.real(0.0f, 1000.0f) : 0.0f;
-        const float diffuse = random.real(1.0f, 600.0f);
-        const float normal = random.real(1320.0f, 1415.0f);
-        float ours;
-        lib::CLPERSKY(altitude, tilt, beam, diffuse, ours, incidence, normal);
-        ASSERT_TRUE(same_bits<1>(
-            {ours}, {literal::CLPERSKY(altitude, tilt, beam, diffuse, incidence, normal)}))
-            << altitude << ' ' << tilt << ' ' << beam << ' ' << diffuse << ' ' << incidence;
+TEST(LiteralForm, GlassInBeamAndDiffuseRadiation) {
+    Random random(2);
+    for (int i = 0; i < 50000; ++i) {
+        const float Tn = random.real(-0.01f, 0.92f);
+        const float theta = random.below(8)
+                                ? random.real(-1.6f, 1.6f)
+                                : about(random.below(2) ? 0.01f : -0.010000167f, random);
+        const float R0 = random.below(2) ? 0.0f : random.real(0.0f, 1.0f);
+        std::array<float, 8> ours, expected;
+        lib::WNDRGL(Tn, R0, theta, ours[0], ours[1], ours[2], ours[3], ours[4], ours[5]);
+        lib::WNDFGL(Tn, R0, ours[6], ours[7]);
+        const literal::Pane pane = literal::WNDRGL(Tn, R0, theta);
+        literal::WNDFGL(Tn, R0, expected[6], expected[7]);
+        expected = {pane.Tp, pane.Ap, pane.Rp, pane.Ts, pane.As, pane.Rs, expected[6], expected[7]};
+        ASSERT_TRUE(same_bits(ours, expected)) << Tn << ' ' << R0 << ' ' << theta;
     }
 }
 

@@ -1,4 +1,4 @@
-#include "support/library_copy.h"
+#include "climate/library_copy.h"
 
 #include <stdexcept>
 

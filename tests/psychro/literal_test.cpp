@@ -1,6 +1,7 @@
 // The wet-bulb searches foresee most of their trials, and still give the bits of the literal forms.
 #include "literal/compare.h"
 #include "literal/moist_air.h"
+#include "literal/psychro.h"
 #include "quorvel/library.h"
 
 using namespace quorvel::conformance;
@@ -72,6 +73,17 @@ TEST(LiteralForm, WetBulbSearchesOfAnyBits) {
         return Air{t, p, any(), random.below(2) ? any() : random.real(-1.0f, 1.0f),
                    1 + random.below(2)};
     });
+}
+
+TEST(LiteralForm, WetBulbOfPsychrometer) {
+    Random random(1);
+    for (int i = 0; i < 200000; ++i) {
+        const float t = random.real(-60.0f, 110.0f), rh = random.real(-5.0f, 110.0f);
+        const float p = random.real(5000.0f, 120000.0f);
+        const int type = 1 + random.below(2);
+        ASSERT_TRUE(same_bits<1>({lib::PSTWET(t, rh, p, type)}, {literal::PSTWET(t, rh, p, type)}))
+            << t << ' ' << rh << ' ' << p << ' ' << type;
+    }
 }
 
 }  // namespace
