@@ -72,17 +72,19 @@ def _domain(arg):
     return _interval(*arg.range) if arg.range else "any"
 
 
-def _meaning(arg):
+def _meaning(arg, returned):
     text = arg.meaning
     if arg.values:
         text += ": " + ", ".join(f"{number} {meaning}" for number, meaning in arg.values.values())
     if arg.shape:
         text += f" [{', '.join(str(extent) for extent in arg.shape)}]"
-    return text
+    if returned and arg.unwritten:
+        text += f"; left as it was {arg.unwritten}"
+    return text + "; 1e20 for none" * (returned and arg.none)
 
 
-def _rows(args):
-    cells = [(arg.name, C_TYPES[arg.type], arg.unit, _domain(arg), _meaning(arg)) for arg in args]
+def _rows(args, returned):
+    cells = [(arg.name, C_TYPES[arg.type], arg.unit, _domain(arg), _meaning(arg, returned)) for arg in args]
     widths = [max(len(row[column]) for row in cells) for column in range(4)]
     for row in cells:
         lead = "    " + "  ".join(cell.ljust(width) for cell, width in zip(row, widths)) + "  "
@@ -94,17 +96,20 @@ def _paragraph(text, first, rest):
 
 
 def comment(routine):
-    """The routine's block, always in one order: purpose, given, returned, notes, source."""
+    """The routine's block, always in one order: purpose, given, returned, formula, notes, example, source."""
     lines = _paragraph(f"{routine.export} ({routine.name}): {routine.summary}", "", "    ")
     given = [arg for arg in routine.args if arg.dir != "out"]
     returned = [arg for arg in routine.args if arg.dir != "in"]
     if given:
-        lines += ["Given:", *_rows(given)]
+        lines += ["Given:", *_rows(given, returned=False)]
     if returned:
-        lines += ["Returned:", *_rows(returned)]
+        lines += ["Returned:", *_rows(returned, returned=True)]
     if routine.result:
         value = f"{C_TYPES[routine.result.type]}  {routine.result.unit}".rstrip()
-        lines += ["Result:", *_paragraph(routine.result.meaning, f"    {value}  ", "        ")]
+        meaning = routine.result.meaning + "; 1e20 for none" * routine.result.none
+        lines += ["Result:", *_paragraph(meaning, f"    {value}  ", "        ")]
+    if routine.formula:
+        lines += _paragraph(f"Formula: {routine.formula}", "", "    ")
     if routine.notes:
         lines.append("Notes:")
         for note in routine.notes:

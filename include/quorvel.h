@@ -35,12 +35,12 @@ extern "C" {
 /*
  * PSHDRY (dry_air_enthalpy): Specific enthalpy of dry air.
  * Given:
- *     temperature  float  °C  -100 .. 200  temperature
+ *     temperature  float  °C  -50 .. 100  temperature
  * Result:
  *     float  kJ/kg  specific enthalpy, 0 at 0 °C
  * Notes:
  *     - Within 0.02 kJ/kg of the ASHRAE tables from -20 to 50 °C, but 0.3 above them at -50 °C.
- *     - At 0 °C it is 0.0007 kJ/kg: the constant of the fit is kept.
+ *     - At 0 °C it is 0.0007 kJ/kg: the constant of the fit is deliberate.
  * Source: Polynomial fit to tables of dry air; its author is not known.
  */
 QUORVEL_API float PSHDRY(const float *temperature);
@@ -48,7 +48,7 @@ QUORVEL_API float PSHDRY(const float *temperature);
 /*
  * PSHVAP (water_vapour_enthalpy): Specific enthalpy of water vapour.
  * Given:
- *     temperature  float  °C  -100 .. 200  temperature
+ *     temperature  float  °C  -50 .. 100  temperature
  * Result:
  *     float  kJ/kg  specific enthalpy, from liquid water at 0 °C
  * Notes:
@@ -60,12 +60,12 @@ QUORVEL_API float PSHVAP(const float *temperature);
 /*
  * PSCPDR (dry_air_specific_heat): Specific heat of dry air at constant pressure.
  * Given:
- *     temperature  float  °C  -100 .. 200  temperature
+ *     temperature  float  °C  -50 .. 100  temperature
  * Result:
  *     float  kJ/kgK  specific heat
  * Notes:
  *     - The pieces meet, but for steps of 0.00004 kJ/kgK up at 40 °C and down at 50 °C, which are
- *       kept.
+ *       deliberate.
  * Source: Straight lines between tabulated values for each 10 K; the author of the table is not
  *     known.
  */
@@ -74,7 +74,7 @@ QUORVEL_API float PSCPDR(const float *temperature);
 /*
  * PSCPVA (water_vapour_specific_heat): Specific heat of water vapour at constant pressure.
  * Given:
- *     temperature  float  °C  -100 .. 200  temperature
+ *     temperature  float  °C  -50 .. 100  temperature
  * Result:
  *     float  kJ/kgK  specific heat
  * Notes:
@@ -86,12 +86,12 @@ QUORVEL_API float PSCPVA(const float *temperature);
 /*
  * PSHFG (latent_heat): Latent heat of evaporation of water, of sublimation of ice below 0 °C.
  * Given:
- *     temperature  float  °C  -100 .. 200  temperature
+ *     temperature  float  °C  -50 .. 100  temperature
  * Result:
  *     float  kJ/kg  latent heat
  * Notes:
- *     - At exactly 60 °C the result is 0: the table's row for it is empty, which is kept. Just
- *       below and above, it is 2357.9.
+ *     - At exactly 60 °C the result is 0: the table's row for it is empty, which is deliberate.
+ *       Just below and above, it is 2357.9.
  *     - Within 0.5 kJ/kg of the international values (IAPWS 1995) from 0 to 60 °C.
  * Source: Straight lines between tabulated values for each 10 K; the author of the table is not
  *     known.
@@ -109,16 +109,17 @@ QUORVEL_API float PSHFG(const float *temperature);
  *                                                 (naturally ventilated)
  * Result:
  *     float  kg/kg  moisture content, water vapour per dry air
+ * Formula: g = 0.62197 f pv / (p - f pv)
  * Notes:
  *     - A wet bulb at or above the dry bulb counts as saturation; the coefficient of an iced bulb
  *       is taken when the wet bulb is below 0 °C.
  *     - The enhancement factor takes its ice coefficients at 0 °C and below, where the saturation
- *       pressure counts exactly 0 °C as water; the difference is kept.
+ *       pressure counts exactly 0 °C as water; the difference is deliberate.
  *     - Not limited: a reading drier than any air gives a negative content, a vapour pressure above
- *       p too.
+ *       the atmospheric too.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
- * Source: Vapour pressure of PSVAP; g = 0.62197 f pv / (p - f pv), where the enhancement factor is
- *     a quadratic in absolute temperature whose coefficients are linear in pressure.
+ * Source: Vapour pressure of PSVAP; the enhancement factor f is a quadratic in absolute temperature
+ *     whose coefficients are linear in pressure.
  */
 QUORVEL_API float PSGS(const float *dry_bulb, const float *wet_bulb, const float *pressure,
                        const int32_t *psychrometer);
@@ -132,6 +133,7 @@ QUORVEL_API float PSGS(const float *dry_bulb, const float *wet_bulb, const float
  *     pressure          float  Pa     50000 .. 110000  atmospheric pressure
  * Result:
  *     float  %  percentage saturation
+ * Formula: 100 g / gs(t, p)
  * Notes:
  *     - Not limited: supersaturated air gives more than 100.
  *     - Percentage saturation is not relative humidity, the ratio of vapour pressures, and is the
@@ -212,13 +214,15 @@ QUORVEL_API float PSTSAT(const float *enthalpy, const float *pressure);
  *     moisture_content       float    kg/kg  0 .. 0.1         moisture content of the room air
  *     reference_temperature  float    °C     -100 .. 200      second reference temperature
  *     bathers                int32_t         from 0           number of bathers, below 1 unoccupied
- *     reference_coefficient  float    W/m²K  from 0           coefficient of the exchange with t2
+ *     reference_coefficient  float    W/m²K  from 0           coefficient of the exchange with the
+ *                                                             second reference temperature
  *     pressure               float    Pa     50000 .. 110000  atmospheric pressure
  * Returned:
  *     evaporation_rate  float  kg/(m²s)    evaporation rate
  *     latent_load       float  W           latent load, 2.45 MJ per kg evaporated
  *     convective_load   float  W           convection from the water to the room air at 10 W/m²K
- *     reference_load    float  W           exchange of the water with t2
+ *     reference_load    float  W           exchange of the water with the second reference
+ *                                          temperature
  * Notes:
  *     - The vapour pressure is that of a sling psychrometer at the wet bulb of PSWBLB, and good to
  *       the step of that search.
@@ -247,15 +251,17 @@ QUORVEL_API void TPPOOL(const float *water_area, const float *wetted_area,
  *                                                             sling psychrometer
  *     reference_temperature  float    °C     -100 .. 200      second reference temperature
  *     bathers                int32_t         from 0           number of bathers, below 1 unoccupied
- *     reference_coefficient  float    W/m²K  from 0           coefficient of the exchange with t2
+ *     reference_coefficient  float    W/m²K  from 0           coefficient of the exchange with the
+ *                                                             second reference temperature
  *     pressure               float    Pa     50000 .. 110000  atmospheric pressure
  * Returned:
  *     evaporation_rate  float  kg/(m²s)    evaporation rate
  *     latent_load       float  W           latent load, 2.45 MJ per kg evaporated
  *     convective_load   float  W           convection from the water to the room air at 10 W/m²K
- *     reference_load    float  W           exchange of the water with t2
+ *     reference_load    float  W           exchange of the water with the second reference
+ *                                          temperature
  * Notes:
- *     - A wet bulb at or above ta counts as saturated air at ta.
+ *     - A wet bulb at or above the dry bulb counts as saturated air.
  *     - Nothing is limited: a calm pool close to equilibrium with the air has a negative rate.
  *     - With bathers the rate per area falls as the pool grows, and an area of 0 divides by zero.
  * Source: Regressions of the kind that Biasin and Krumme gave in 1974 (unoccupied -0.059 + 0.000079
@@ -277,7 +283,7 @@ QUORVEL_API void TPPOOL2(const float *water_area, const float *wetted_area,
  *     float  Pa  saturation vapour pressure
  * Notes:
  *     - Exactly 0 °C counts as water. The two branches meet there only to 0.04 Pa (610.34 over
- *       water, 610.30 over ice); the step is kept.
+ *       water, 610.30 over ice); the step is deliberate.
  *     - Within 0.4 % of the international formulation from -20 to 150 °C, within 1 % down to -40
  *       °C.
  * Source: National Engineering Laboratory, Steam Tables 1964, in the reduced form that building
@@ -292,6 +298,7 @@ QUORVEL_API float PSSVP(const float *temperature);
  *     relative_humidity  float  %   0 .. 100     relative humidity
  * Result:
  *     float  Pa  vapour pressure
+ * Formula: pv = rh / 100 ps(t)
  * Notes:
  *     - Relative humidity is limited to 0 to 100 %, not rejected.
  * Source: Definition of relative humidity, with the saturation pressure of PSSVP.
@@ -309,13 +316,14 @@ QUORVEL_API float PSVP(const float *dry_bulb, const float *relative_humidity);
  *                                                 (naturally ventilated)
  * Result:
  *     float  Pa  vapour pressure
+ * Formula: pv = ps(twb) - A p (t - twb)
  * Notes:
  *     - The coefficient of an iced bulb is taken when the wet bulb is below 0 °C.
  *     - A wet bulb at or above the dry bulb gives the saturation pressure at the dry-bulb
  *       temperature.
  *     - The result is not limited: a reading drier than any air gives a negative pressure.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
- * Source: Psychrometer equation pv = ps(twb) - A p (t - twb) with the customary coefficients A.
+ * Source: Psychrometer equation with the customary coefficients A.
  */
 QUORVEL_API float PSVAP(const float *dry_bulb, const float *wet_bulb, const float *pressure,
                         const int32_t *psychrometer);
@@ -327,10 +335,12 @@ QUORVEL_API float PSVAP(const float *dry_bulb, const float *wet_bulb, const floa
  *     second_temperature  float  °C  -100 .. 200  temperature with the lesser, negative weight
  * Result:
  *     float  °C  weighted temperature
+ * Formula: (41.94 t1 - 7.33 t2) / (34.61 + t1 - t2)
  * Notes:
- *     - Two equal temperatures give that temperature. Infinite where t2 is above t1 by 34.61 K.
- * Source: (41.94 t1 - 7.33 t2) / (34.61 + t1 - t2); its derivation is not known, so the second
- *     temperature has no other meaning than the formula's.
+ *     - Two equal temperatures give that temperature. Infinite where the second is above the first
+ *       by 34.61 K.
+ * Source: The derivation is not known, so the second temperature has no other meaning than the
+ *     formula's.
  */
 QUORVEL_API float PSTEFF(const float *first_temperature, const float *second_temperature);
 
@@ -347,7 +357,7 @@ QUORVEL_API float PSTEFF(const float *first_temperature, const float *second_tem
  *     float  °C  wet-bulb temperature, never above the dry bulb
  * Notes:
  *     - The coefficient of an iced bulb is taken when the dry bulb is below 0 °C, where PSVAP looks
- *       at the wet bulb; the asymmetry is kept.
+ *       at the wet bulb; the asymmetry is deliberate.
  *     - A stepping search that ends within 0.1 K: the result moves in small jumps with its
  *       arguments.
  *     - Relative humidity is limited to 0 to 100 %. Where the search would never end (a pressure of
@@ -372,7 +382,7 @@ QUORVEL_API float PSTWET(const float *dry_bulb, const float *relative_humidity,
  * Notes:
  *     - A stepping search with steps down to 0.01 K: the result is above the exact wet bulb by less
  *       than that and moves in small jumps with its arguments.
- *     - The percentage is not limited: 100 and more give t.
+ *     - The percentage is not limited: 100 and more give the dry bulb.
  *     - About 0 °C, where the coefficient changes to that of an iced bulb, two wet bulbs can belong
  *       to one percentage; which of them is found depends on the steps.
  *     - Where the search would never end (below absolute zero, say), the value it has reached is
@@ -398,8 +408,8 @@ QUORVEL_API float PSTWB(const float *dry_bulb, const float *percentage_saturatio
  * Notes:
  *     - A stepping search with steps of 5 K down to 0.005 K and a last one of 0.0005 K: the result
  *       is within 0.005 K of the exact wet bulb.
- *     - At saturation or above the result is t, whatever t is. Otherwise a dry bulb above 10000 °C
- *       gives -100, one that is not a number -200.
+ *     - At saturation or above the result is the dry bulb, whatever that is. Otherwise a dry bulb
+ *       above 10000 °C gives -100, one that is not a number -200.
  *     - Where the search would never end (a moisture content that is not a number, or far below 0),
  *       the value it has reached is returned.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
@@ -430,17 +440,20 @@ QUORVEL_API float PSWBLB(const float *dry_bulb, const float *moisture_content,
  *                                                   environments, 2 internal partition, the same
  *                                                   swing on both sides
  * Returned:
- *     admittance          float  W/m²K    admittance Y
- *     admittance_lead     float  h        time lead of the admittance, 0 to 24 / harmonic
- *     decrement_factor    float  1        decrement factor f, 0 for a partition
+ *     admittance          float  W/m²K    admittance Y; left as it was with more than 20 layers
+ *     admittance_lead     float  h        time lead of the admittance, 0 to 24 / harmonic; left as
+ *                                         it was with more than 20 layers
+ *     decrement_factor    float  1        decrement factor f, 0 for a partition; left as it was
+ *                                         with more than 20 layers
  *     decrement_lag       float  h        time lag of the decrement factor, 0 to 24 / harmonic, 0
- *                                         for a partition
- *     surface_factor      float  1        surface factor F
- *     surface_factor_lag  float  h        time lag of the surface factor, 0 to 24 / harmonic
- *     u_value             float  W/m²K    U-value, as TPUVAL gives it
+ *                                         for a partition; left as it was with more than 20 layers
+ *     surface_factor      float  1        surface factor F; left as it was with more than 20 layers
+ *     surface_factor_lag  float  h        time lag of the surface factor, 0 to 24 / harmonic; left
+ *                                         as it was with more than 20 layers
+ *     u_value             float  W/m²K    U-value, as TPUVAL gives it; left as it was with more
+ *                                         than 20 layers
  * Notes:
- *     - More than 20 layers write nothing. A count below 1 leaves the two surfaces alone; no array
- *       is read.
+ *     - A count below 1 leaves the two surfaces alone; no array is read.
  *     - Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U,
  *       the time shifts are not numbers. One below 0 gives no numbers.
  *     - A layer without heat capacity acts as its resistance. One with very little is the less
@@ -472,8 +485,8 @@ QUORVEL_API void TPADMT(const float *thickness, const float *conductivity, const
  * Result:
  *     float  m²K/W  cavity resistance, not below 0.1
  * Notes:
- *     - A width below 0.001 gives 0.1, where TPRCA2 and TPRCAX give 0: meant so. Not a number stays
- *       so.
+ *     - A width below 0.001 gives 0.1, where TPRCA2 and TPRCAX give 0: deliberate. Not a number
+ *       stays so.
  *     - The emissivities of the faces are 0.85 and 0.86.
  * Source: As TPRCA2.
  */
@@ -539,11 +552,12 @@ QUORVEL_API float TPRCAX(const float *tilt, const float *cavity_width, const flo
  *                                                        [layers]
  *     layers              int32_t               0 .. 20  number of layers
  * Returned:
- *     vapour_resistance  float  N s/kg    total vapour resistance
+ *     vapour_resistance  float  N s/kg    total vapour resistance; left as it was with more than 20
+ *                                         layers
  * Notes:
  *     - A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness,
  *       whatever its resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
- *     - More than 20 layers write nothing; a count below 1 gives 0.
+ *     - A count below 1 gives 0.
  *     - Results are in N s/kg, resistivities in GN s/(kg m).
  * Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
  */
@@ -567,20 +581,24 @@ QUORVEL_API void TPDAMP(const float *thickness, const float *vapour_resistivity,
  *                                                             GN s/kg [layers]
  *     inside_resistance    float    m²K/W        from 0       resistance of the inside surface
  *     outside_resistance   float    m²K/W        from 0       resistance of the outside surface
- *     layers               int32_t               0 .. 20      number of layers
+ *     layers               int32_t               1 .. 20      number of layers
  *     inside_temperature   float    °C           -100 .. 200  inside air temperature
  *     outside_temperature  float    °C           -100 .. 200  outside air temperature
  *     inside_humidity      float    %            0 .. 100     inside relative humidity
  *     outside_humidity     float    %            0 .. 100     outside relative humidity
  * Returned:
- *     interface_temperature          float  °C    temperature at the first n + 1 interfaces, from
- *                                                 the inside surface to the outside one [21]
- *     interface_vapour_pressure      float  Pa    vapour pressure at them [21]
- *     interface_saturation_pressure  float  Pa    saturation pressure at them [21]
+ *     interface_temperature          float  °C    temperature at the interfaces, from the inside
+ *                                                 surface to the outside one [21]; left as it was
+ *                                                 with a count outside 1 to 20, and beyond element
+ *                                                 layers + 1
+ *     interface_vapour_pressure      float  Pa    vapour pressure at them [21]; left as it was with
+ *                                                 a count outside 1 to 20, and beyond element
+ *                                                 layers + 1
+ *     interface_saturation_pressure  float  Pa    saturation pressure at them [21]; left as it was
+ *                                                 with a count outside 1 to 20, and beyond element
+ *                                                 layers + 1
  * Notes:
- *     - Only n + 1 elements of each profile are written. More than 20 layers, or fewer than 1,
- *       write nothing.
- *     - Vapour condenses at an interface where p equals ps.
+ *     - Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
  *     - Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to
  *       saturation there. Between two surfaces without any vapour resistance the vapour pressure is
  *       no number.
@@ -630,7 +648,7 @@ QUORVEL_API int32_t ITPCON(const float *warm_temperature, const float *cold_temp
  *     record_number    int32_t            from 1   record asked about
  *     item             int32_t            1 .. 72  property asked for
  * Result:
- *     float  by item  the property, 1e20 if it does not exist
+ *     float  by item  the property, 1e20 if it does not exist; 1e20 for none
  * Notes:
  *     - The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2
  *       another layer, 3 gap (300 of given resistance, 302 filled with gas), 4 translucent layer, 5
@@ -651,7 +669,7 @@ QUORVEL_API int32_t ITPCON(const float *warm_temperature, const float *cold_temp
  *     - Items of every class: 71 and 72 are 1 if the list ends with a record of code 601 and 602,
  *       whichever valid record is asked about.
  *     - The complements of an undefined packed field, items 34, 35, 44, 45, 52 and 53, are -1e20 or
- *       -2e20, not 1e20: meant so.
+ *       -2e20, not 1e20: deliberate.
  * Source: Layout of the element records.
  */
 QUORVEL_API float BELDAT(const float *element_records, const int32_t *record_count,
@@ -672,10 +690,10 @@ QUORVEL_API float BELDAT(const float *element_records, const int32_t *record_cou
  * Result:
  *     float  W/m²K  convective coefficient
  * Notes:
- *     - Any other kind gives 0.
- *     - The coefficients 1.23 and 1.50 of kind 2 have the laminar term larger than the turbulent
- *       one, in kind 1 it is the other way round; both are as published.
- *     - A length of 0 gives an infinite coefficient, one below 0 no number for kinds 1 and 2.
+ *     - Any other direction gives 0.
+ *     - The coefficients 1.23 and 1.50 of a vertical surface have the laminar term larger than the
+ *       turbulent one, with an upward flow it is the other way round; both are as published.
+ *     - A length of 0 gives an infinite coefficient, one below 0 no number but for a downward flow.
  * Source: Alamdari and Hammond, Improved data correlations for buoyancy-driven convection in rooms,
  *     Building Services Engineering Research and Technology 4, 1983.
  */
@@ -686,14 +704,16 @@ QUORVEL_API float TPHCON(const float *temperature_difference, const float *chara
  * TPCOLW (pack_two_fractions): Packs two fractions of two decimals into one real, or unpacks them.
  * Given:
  *     packing        int32_t     selector      direction: 1 pack, 2 unpack, as any other value
- *     packed_number  float    1  0 .. 9999.99  packed number; written in mode 1 only
- *     fraction_1     float    1  0 .. 0.99     fraction behind the point; not written in mode 1
- *     fraction_2     float    1  0 .. 0.99     fraction held as units and tens; not written in mode
- *                                              1
+ *     packed_number  float    1  0 .. 9999.99  packed number
+ *     fraction_1     float    1  0 .. 0.99     fraction behind the point
+ *     fraction_2     float    1  0 .. 0.99     fraction held as units and tens
  * Returned:
- *     packed_number  float  1  0 .. 9999.99  packed number; written in mode 1 only
- *     fraction_1     float  1  0 .. 0.99     fraction behind the point; not written in mode 1
- *     fraction_2     float  1  0 .. 0.99     fraction held as units and tens; not written in mode 1
+ *     packed_number  float  1  0 .. 9999.99  packed number; left as it was when unpacking; 1e20 for
+ *                                            none
+ *     fraction_1     float  1  0 .. 0.99     fraction behind the point; left as it was when
+ *                                            packing; 1e20 for none
+ *     fraction_2     float  1  0 .. 0.99     fraction held as units and tens; left as it was when
+ *                                            packing; 1e20 for none
  * Notes:
  *     - As TPCOLT with a third fraction of 0, which is not returned: what stands above 100 is
  *       ignored.
@@ -707,27 +727,28 @@ QUORVEL_API void TPCOLW(const int32_t *packing, float *packed_number, float *fra
  *     them.
  * Given:
  *     packing        int32_t     selector      direction: 1 pack, 2 unpack, as any other value
- *     packed_number  float    1  0 .. 9999.99  packed number; written in mode 1 only
- *     fraction_1     float    1  0 .. 0.99     fraction behind the point; not written in mode 1
- *     fraction_2     float    1  0 .. 0.99     fraction held as units and tens; not written in mode
- *                                              1
- *     fraction_3     float    1  0 .. 0.99     fraction held as hundreds and thousands; not written
- *                                              in mode 1
+ *     packed_number  float    1  0 .. 9999.99  packed number
+ *     fraction_1     float    1  0 .. 0.99     fraction behind the point
+ *     fraction_2     float    1  0 .. 0.99     fraction held as units and tens
+ *     fraction_3     float    1  0 .. 0.99     fraction held as hundreds and thousands
  * Returned:
- *     packed_number  float  1  0 .. 9999.99  packed number; written in mode 1 only
- *     fraction_1     float  1  0 .. 0.99     fraction behind the point; not written in mode 1
- *     fraction_2     float  1  0 .. 0.99     fraction held as units and tens; not written in mode 1
- *     fraction_3     float  1  0 .. 0.99     fraction held as hundreds and thousands; not written
- *                                            in mode 1
+ *     packed_number  float  1  0 .. 9999.99  packed number; left as it was when unpacking; 1e20 for
+ *                                            none
+ *     fraction_1     float  1  0 .. 0.99     fraction behind the point; left as it was when
+ *                                            packing; 1e20 for none
+ *     fraction_2     float  1  0 .. 0.99     fraction held as units and tens; left as it was when
+ *                                            packing; 1e20 for none
+ *     fraction_3     float  1  0 .. 0.99     fraction held as hundreds and thousands; left as it
+ *                                            was when packing; 1e20 for none
  * Notes:
  *     - 0.25, 0.40, 0.07 are packed as 740.25.
  *     - Fractions that add up to more than 1e10, and a packed number above 1e10, are undefined and
  *       give 1e20.
- *     - p2 and p3 are cut to two decimals, with a tenth of a hundredth to spare; p1 is added as it
- *       stands and cut when unpacked.
+ *     - Fractions 2 and 3 are cut to two decimals, with a tenth of a hundredth to spare; fraction 1
+ *       is added as it stands and cut when unpacked.
  *     - All triples from 0.00 to 0.99 come back, as hundredths times the float 0.01: for 29 of the
  *       hundred fractions, 0.40 among them, that is the float next to the nearest.
- *     - A p2 of 1.00 is carried into p3, a p1 of 1.00 into p2.
+ *     - A fraction of 1.00 is carried into the next one, 1 into 2 and 2 into 3.
  * Source: Format of the packed property numbers of element records (BELDAT).
  */
 QUORVEL_API void TPCOLT(const int32_t *packing, float *packed_number, float *fraction_1,
@@ -737,18 +758,19 @@ QUORVEL_API void TPCOLT(const int32_t *packing, float *packed_number, float *fra
  * TPCOLW2 (pack_three_fractions_third_first): TPCOLT with its arguments in another order.
  * Given:
  *     packing        int32_t     selector      direction: 1 pack, 2 unpack, as any other value
- *     packed_number  float    1  0 .. 9999.99  packed number; written in mode 1 only
- *     fraction_3     float    1  0 .. 0.99     fraction held as hundreds and thousands; not written
- *                                              in mode 1
- *     fraction_1     float    1  0 .. 0.99     fraction behind the point; not written in mode 1
- *     fraction_2     float    1  0 .. 0.99     fraction held as units and tens; not written in mode
- *                                              1
+ *     packed_number  float    1  0 .. 9999.99  packed number
+ *     fraction_3     float    1  0 .. 0.99     fraction held as hundreds and thousands
+ *     fraction_1     float    1  0 .. 0.99     fraction behind the point
+ *     fraction_2     float    1  0 .. 0.99     fraction held as units and tens
  * Returned:
- *     packed_number  float  1  0 .. 9999.99  packed number; written in mode 1 only
- *     fraction_3     float  1  0 .. 0.99     fraction held as hundreds and thousands; not written
- *                                            in mode 1
- *     fraction_1     float  1  0 .. 0.99     fraction behind the point; not written in mode 1
- *     fraction_2     float  1  0 .. 0.99     fraction held as units and tens; not written in mode 1
+ *     packed_number  float  1  0 .. 9999.99  packed number; left as it was when unpacking; 1e20 for
+ *                                            none
+ *     fraction_3     float  1  0 .. 0.99     fraction held as hundreds and thousands; left as it
+ *                                            was when packing; 1e20 for none
+ *     fraction_1     float  1  0 .. 0.99     fraction behind the point; left as it was when
+ *                                            packing; 1e20 for none
+ *     fraction_2     float  1  0 .. 0.99     fraction held as units and tens; left as it was when
+ *                                            packing; 1e20 for none
  * Source: As TPCOLT.
  */
 QUORVEL_API void TPCOLW2(const int32_t *packing, float *packed_number, float *fraction_3,
@@ -759,21 +781,25 @@ QUORVEL_API void TPCOLW2(const int32_t *packing, float *packed_number, float *fr
  *     one real, as absorptance and transmittances, or unpacks them.
  * Given:
  *     packing        int32_t     selector      direction: 1 pack, 2 unpack, as any other value
- *     packed_number  float    1  0 .. 9999.99  packed number; written in mode 1 only
- *     absorptance    float    1  0 .. 1        absorptance; not written in mode 1
- *     reflectance_1  float    1  0 .. 1        reflectance of the first face; not written in mode 1
- *     reflectance_2  float    1  0 .. 1        reflectance of the second face; not written in mode
- *                                              1
+ *     packed_number  float    1  0 .. 9999.99  packed number
+ *     absorptance    float    1  0 .. 1        absorptance
+ *     reflectance_1  float    1  0 .. 1        reflectance of the first face
+ *     reflectance_2  float    1  0 .. 1        reflectance of the second face
  * Returned:
- *     packed_number  float  1  0 .. 9999.99  packed number; written in mode 1 only
- *     absorptance    float  1  0 .. 1        absorptance; not written in mode 1
- *     reflectance_1  float  1  0 .. 1        reflectance of the first face; not written in mode 1
- *     reflectance_2  float  1  0 .. 1        reflectance of the second face; not written in mode 1
+ *     packed_number  float  1  0 .. 9999.99  packed number; left as it was when unpacking; 1e20 for
+ *                                            none
+ *     absorptance    float  1  0 .. 1        absorptance; left as it was when packing; 1e20 for
+ *                                            none
+ *     reflectance_1  float  1  0 .. 1        reflectance of the first face; left as it was when
+ *                                            packing; 1e20 for none
+ *     reflectance_2  float  1  0 .. 1        reflectance of the second face; left as it was when
+ *                                            packing; 1e20 for none
  * Notes:
- *     - Packed as TPCOLT packs a, 1 - a - r1, 1 - a - r2. Undefined values as there.
- *     - A face that neither absorbs nor reflects, a = r1 = 0, transmits 1.00, which is carried into
- *       the next position.
- *     - a + r1 or a + r2 above 1 does not come back.
+ *     - Packed as TPCOLT packs the absorptance and the transmittances 1 - absorptance - reflectance
+ *       of the two faces. Undefined values as there.
+ *     - A face that neither absorbs nor reflects transmits 1.00, which is carried into the next
+ *       position.
+ *     - Absorptance and reflectance of a face that exceed 1 together do not come back.
  * Source: As TPCOLT.
  */
 QUORVEL_API void TPCOSW(const int32_t *packing, float *packed_number, float *absorptance,
@@ -833,10 +859,9 @@ QUORVEL_API float TPRSU2(const int32_t *surface, const float *tilt, const int32_
  *     surface_resistance_2  float    m²K/W  from 0   resistance of the other
  *     layers                int32_t         0 .. 20  number of layers
  * Returned:
- *     u_value  float  W/m²K    U-value
+ *     u_value  float  W/m²K    U-value; left as it was with more than 20 layers
  * Notes:
- *     - More than 20 layers write nothing. A count below 1 leaves the two surfaces alone; no array
- *       is read.
+ *     - A count below 1 leaves the two surfaces alone; no array is read.
  *     - How far below 0 a thickness is makes no difference here; it does in TPDAMP and TPGRAD.
  *     - A thickness that is no number gives no number.
  * Source: Resistances in series; ISO 6946.
@@ -870,7 +895,7 @@ QUORVEL_API float TPUMOD(const float *u_value, const float *tilt, const int32_t 
  * TPWNDO (window_parameters): U-value, admittance, decrement factor and surface factor of a glazing
  *     of one to three panes.
  * Given:
- *     panes           int32_t       1 .. 5       number of panes, pane 1 nearest the room
+ *     panes           int32_t       1 .. 3       number of panes, pane 1 nearest the room
  *     pane_kind_1     int32_t       selector     kind of pane 1: 1 closes the cavities on both
  *                                                sides, 2 closes none
  *     emissivity_1    float    1    0 .. 1       long-wave emissivity of pane 1
@@ -899,10 +924,10 @@ QUORVEL_API float TPUMOD(const float *u_value, const float *tilt, const int32_t 
  *     u_value             float  W/m²K    U-value
  * Notes:
  *     - The resistance of the glass is neglected and nothing is stored in it.
- *     - Of three panes one may be open: the middle one leaves a single cavity of width d1 + d2.
- *       With two open panes, and with one open pane of two, there is no cavity.
- *     - The kinds of the n panes are told by their sum: 0, 1, 2 count as three closed panes.
- *     - Another number of panes counts as one pane, with e3 outside.
+ *     - Of three panes one may be open: the middle one leaves a single cavity as wide as both. With
+ *       two open panes, and with one open pane of two, there is no cavity.
+ *     - The kinds of the panes are told by their sum: 0, 1, 2 count as three closed panes.
+ *     - Another number of panes counts as one pane, with the emissivity of pane 3 outside.
  *     - Cavities as TPRCA2: one that it rejects has no resistance.
  * Source: Surface resistances of TPRSU2 and cavities of TPRCA2 in series.
  */
@@ -935,12 +960,14 @@ QUORVEL_API void TPWNDO(const int32_t *panes, const int32_t *pane_kind_1,
  *     perpendicular_reflectance    float  1    reflectance, perpendicular
  * Notes:
  *     - The unpolarised values are the means of the two polarisations.
- *     - An r0 in 0.01..0.99 means coated: factors on tn and on 1 - r0 are interpolated from a table
- *       every 5 degrees, the same for both polarisations; beyond 1.57 rad everything is reflected.
- *       Any other r0 means uncoated and is not used.
- *     - Uncoated glass has the refractive index 1.52. Below tn = 0.001 it is opaque and reflects
- *       everything.
- *     - tn is not tested for coated glass: with tn + r0 above 1 the three do not add up to 1.
+ *     - A normal reflectance in 0.01..0.99 means coated: factors on the normal transmittance and on
+ *       1 - normal_reflectance are interpolated from a table every 5 degrees, the same for both
+ *       polarisations; beyond 1.57 rad everything is reflected. Any other means uncoated and is not
+ *       used.
+ *     - Uncoated glass has the refractive index 1.52. Below a transmittance of 0.001 it is opaque
+ *       and reflects everything.
+ *     - The transmittance of coated glass is not tested: where it exceeds 1 with the reflectance
+ *       the three do not add up to 1.
  * Source: Uncoated glass: WNKL, WNRANG, WNREFL, WNABEN, WNTAR in turn. Coated glass: tabulated
  *     angular factors whose origin is not recorded.
  */
@@ -959,7 +986,7 @@ QUORVEL_API void WNDRGL(const float *normal_transmittance, const float *normal_r
  *     transmittance  float  1    diffuse transmittance
  *     absorptance    float  1    diffuse absorptance
  * Notes:
- *     - The pane is taken exactly as by WNDRGL, r0 and opaque glass included.
+ *     - The pane is taken exactly as by WNDRGL, coated and opaque glass included.
  *     - The bits are those of WNDRGL summed over the bands.
  * Source: WNDRGL at the centres of 18 bands of 5 degrees, each weighted with the integral of 2 sin
  *     cos over the band.
@@ -971,13 +998,13 @@ QUORVEL_API void WNDFGL(const float *normal_transmittance, const float *normal_r
  * WNCOM2 (stacked_layers): Transmittance, absorptance and reflectance of a stack of layers, each
  *     reflection counted once.
  * Given:
- *     layers                int32_t     0 .. 20   number of layers; layer n is met first
+ *     layers                int32_t     from 0    number of layers; the last is met first
  *     layer_transmittances  float    1  0 .. 1    transmittance of each layer [layers]
  *     unused                float    1  not used  accepted for the sake of existing callers
  *     layer_reflectances    float    1  0 .. 1    reflectance of each layer [layers]
  * Returned:
  *     transmittance  float  1    transmittance of the stack
- *     absorptance    float  1    absorptance, 1 - t_total - r_total
+ *     absorptance    float  1    absorptance, 1 - transmittance - reflectance
  *     reflectance    float  1    reflectance of the stack
  * Notes:
  *     - A layer's reflection passes the layers above it once each way; there is no further inter-
@@ -995,24 +1022,25 @@ QUORVEL_API void WNCOM2(const int32_t *layers, const float *layer_transmittances
  * WNCOMP (traced_layers): Transmittance, absorptance and reflectance of a stack of layers with the
  *     inter-reflections between all of them.
  * Given:
- *     layers                int32_t     0 .. 20  number of layers; layer n is met first
+ *     layers                int32_t     0 .. 11  number of layers; the last is met first
  *     layer_transmittances  float    1  0 .. 1   transmittance of each layer, the same from both
  *                                                sides [layers]
  *     layer_absorptances    float    1  0 .. 1   absorptance of each layer [layers]
  *     layer_reflectances    float    1  0 .. 1   reflectance of each layer, the same from both
  *                                                sides [layers]
  * Returned:
- *     transmittance  float  1    transmittance of the stack
- *     absorptance    float  1    absorptance of the stack
- *     reflectance    float  1    reflectance of the stack
+ *     transmittance  float  1    transmittance of the stack; left as it was with more than 11
+ *                                layers
+ *     absorptance    float  1    absorptance of the stack; left as it was with more than 11 layers
+ *     reflectance    float  1    reflectance of the stack; left as it was with more than 11 layers
  * Notes:
  *     - In a pass the flux goes forward through all layers and back by one; nine passes are made.
  *       What needs more than eight steps back is missing from all three results: nothing of one
  *       layer; of two, the ninth power of the product of their reflectances as a share of the
  *       transmittance; of ten and eleven layers all that the last ones reflect.
- *     - A count below 1 is an empty stack, which transmits everything; no array is read. A count
- *       above 11 writes nothing.
- *     - That t, a and r of a layer add up to 1 is left to the caller.
+ *     - A count below 1 is an empty stack, which transmits everything; no array is read.
+ *     - That transmittance, absorptance and reflectance of a layer add up to 1 is left to the
+ *       caller.
  * Source: Tracing of one forward and one backward flux, which tends to the adding method.
  */
 QUORVEL_API void WNCOMP(const int32_t *layers, const float *layer_transmittances,
@@ -1027,11 +1055,12 @@ QUORVEL_API void WNCOMP(const int32_t *layers, const float *layer_transmittances
  *     blind_reflectance    float  1    0 .. 1    reflectance of the blind
  *     incidence            float  rad  not used  angle of incidence
  * Returned:
- *     transmittance  float  1    transmittance, tau
- *     absorptance    float  1    absorptance, 1 - tau - rho
- *     reflectance    float  1    reflectance, rho
+ *     transmittance  float  1    transmittance, that of the blind
+ *     absorptance    float  1    absorptance, the rest
+ *     reflectance    float  1    reflectance, that of the blind
  * Notes:
- *     - Nothing is limited: tau + rho above 1 gives a negative absorptance.
+ *     - Nothing is limited: a blind that transmits and reflects more than 1 gives a negative
+ *       absorptance.
  * Source: Conservation of energy.
  */
 QUORVEL_API void WNDRRO(const float *blind_transmittance, const float *blind_reflectance,
@@ -1045,13 +1074,14 @@ QUORVEL_API void WNDRRO(const float *blind_transmittance, const float *blind_ref
  *     blind_transmittance  float  1  0 .. 1  transmittance of the blind
  *     blind_reflectance    float  1  0 .. 1  reflectance of the blind
  * Returned:
- *     transmittance  float  1    transmittance, tau to rounding
- *     absorptance    float  1    absorptance, 1 - tau - rho to rounding
- *     reflectance    float  1    reflectance, 1 - t - a
+ *     transmittance  float  1    transmittance, that of the blind to rounding
+ *     absorptance    float  1    absorptance, the rest to rounding
+ *     reflectance    float  1    reflectance, 1 - transmittance - absorptance
  * Notes:
  *     - The blind is the same at every angle; the sum of the bands' weights, 0.9999999, remains as
  *       a factor.
- *     - Nothing is limited: tau + rho above 1 gives a negative absorptance.
+ *     - Nothing is limited: a blind that transmits and reflects more than 1 gives a negative
+ *       absorptance.
  * Source: WNDRRO, integrated as in WNDFSL.
  */
 QUORVEL_API void WNDFRO(const float *blind_transmittance, const float *blind_reflectance,
@@ -1065,8 +1095,8 @@ QUORVEL_API void WNDFRO(const float *blind_transmittance, const float *blind_ref
  * Result:
  *     float  rad  refraction angle
  * Notes:
- *     - Where the sine of theta is below 0.01 in size the result is theta / n, the ratio of the
- *       angles in place of that of the sines.
+ *     - Where the sine of the incidence is below 0.01 in size the result is incidence /
+ *       refractive_index, the ratio of the angles in place of that of the sines.
  *     - An index so far below 1 that the reflection is total gives no number.
  * Source: Snell's law.
  */
@@ -1077,7 +1107,8 @@ QUORVEL_API float WNRANG(const float *incidence, const float *refractive_index);
  *     Fresnel's equations.
  * Given:
  *     incidence         float  rad  -1.5708 .. 1.5708  angle of incidence
- *     refraction_angle  float  rad  -1.5708 .. 1.5708  refraction angle, of the sign of theta
+ *     refraction_angle  float  rad  -1.5708 .. 1.5708  refraction angle, of the sign of the
+ *                                                      incidence
  *     refractive_index  float  1    1 .. 4             refractive index, used at normal incidence
  *                                                      only
  * Returned:
@@ -1085,10 +1116,10 @@ QUORVEL_API float WNRANG(const float *incidence, const float *refractive_index);
  *                                            incidence
  *     perpendicular_reflectance  float  1    reflectance, polarised perpendicular to it
  * Notes:
- *     - Up to an angle of 0.01 in size, and for a theta that is no number, both are the value at
- *       normal incidence, ((1 - n) / (1 + n))^2. WNRANG tests the sine of the angle instead; the
- *       two limits differ on purpose.
- *     - rs is written before rp.
+ *     - Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value
+ *       at normal incidence, ((1 - n) / (1 + n))^2 with the refractive index n. WNRANG tests the
+ *       sine of the angle instead; the two limits differ deliberately.
+ *     - The perpendicular one is written first.
  * Source: Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter
  *     5.
  */
@@ -1104,7 +1135,8 @@ QUORVEL_API void WNREFL(const float *incidence, const float *refraction_angle,
  *     absorption_product  float  1    0 .. 20            absorption coefficient times thickness
  *     unused              float  1    not used           accepted for the sake of existing callers
  * Result:
- *     float  1  absorbed share, 1 - exp(-kl / cos refracted)
+ *     float  1  absorbed share
+ * Formula: 1 - exp(-absorption_product / cos(refraction_angle))
  * Source: Bouguer's law of absorption.
  */
 QUORVEL_API float WNABEN(const float *refraction_angle, const float *absorption_product,
@@ -1140,12 +1172,12 @@ QUORVEL_API void WNTAR(const float *single_pass_absorptance, const float *face_r
  *     float  1  absorption coefficient times thickness
  * Notes:
  *     - Evaluated as written in single precision, where a difference of roots cancels for nearly
- *       opaque glass: the relative error of tn, given back by WNTNOR, is up to 1.5e-5 / tn^2, which
- *       is 0.02 % at 0.3, 0.15 % at 0.1 and 0.6 % at 0.05; at 0.002 and less the result is
- *       infinite.
- *     - Above the transmittance of glass that absorbs nothing, 0.918 for n = 1.52, the result is
- *       negative.
- *     - tn = 0 and n = 1 divide by zero and give no finite number.
+ *       opaque glass: the relative error of the transmittance T, given back by WNTNOR, is up to
+ *       1.5e-5 / T^2, which is 0.02 % at 0.3, 0.15 % at 0.1 and 0.6 % at 0.05; at 0.002 and less
+ *       the result is infinite.
+ *     - Above the transmittance of glass that absorbs nothing, 0.918 for an index of 1.52, the
+ *       result is negative.
+ *     - A transmittance of 0 and an index of 1 divide by zero and give no finite number.
  * Source: The slab of WNTAR at normal incidence, solved for the absorption.
  */
 QUORVEL_API float WNKL(const float *normal_transmittance, const float *refractive_index);
@@ -1177,16 +1209,19 @@ QUORVEL_API float WNTNOR(const float *absorption_product, const float *normal_re
  *     absorbed_4           float    W/m²  from 0       absorbed in pane 4
  *     absorbed_5           float    W/m²  from 0       absorbed in pane 5
  * Returned:
- *     pane_temperature_1  float  °C    temperature of pane 1, nearest the room
- *     pane_temperature_2  float  °C    temperature of pane 2
- *     pane_temperature_3  float  °C    temperature of pane 3
- *     pane_temperature_4  float  °C    temperature of pane 4
- *     pane_temperature_5  float  °C    temperature of pane 5
+ *     pane_temperature_1  float  °C    temperature of pane 1, nearest the room; left as it was with
+ *                                      a count outside 1 to 5
+ *     pane_temperature_2  float  °C    temperature of pane 2; left as it was with a count outside 2
+ *                                      to 5
+ *     pane_temperature_3  float  °C    temperature of pane 3; left as it was with a count outside 3
+ *                                      to 5
+ *     pane_temperature_4  float  °C    temperature of pane 4; left as it was with a count outside 4
+ *                                      to 5
+ *     pane_temperature_5  float  °C    temperature of pane 5; left as it was with a count outside 4
+ *                                      to 5
  * Notes:
- *     - Only the first n absorbed values are read and the first n temperatures written, but for n =
- *       4.
- *     - Four panes are calculated as five: s5 is read (give 0 for it) and t5 is written.
- *     - A count outside 1..5 writes nothing.
+ *     - Only as many absorbed values are read as there are panes. Four panes are calculated as
+ *       five: what the fifth absorbs is read (give 0 for it), and its temperature is written.
  * Source: Heat balance of the panes with fixed resistances: 0.12 m²K/W at the room side, 0.06 m²K/W
  *     outdoors; coefficients rounded to two decimals.
  */
@@ -1202,24 +1237,26 @@ QUORVEL_API void WNTEMP(const float *inside_temperature, const float *outside_te
  *     glazing unit known only by its shading coefficients.
  * Given:
  *     shortwave_shading_coefficient  float  1    0 .. 1.05          short-wave shading coefficient;
- *                                                                   the total one if scl is missing
+ *                                                                   the total one if the long-wave
+ *                                                                   one is missing
  *     longwave_shading_coefficient   float  1    0 .. 1             long-wave shading coefficient,
  *                                                                   0 if missing
  *     incidence                      float  rad  -1.5708 .. 1.5708  angle of incidence
  * Returned:
  *     transmittance  float  1    transmittance
  *     absorptance    float  1    absorptance
- *     reflectance    float  1    reflectance, 1 - t - a, at least 0.01 to rounding
+ *     reflectance    float  1    reflectance, 1 - transmittance - absorptance, at least 0.01 to
+ *                                rounding
  * Notes:
- *     - An scl below 0.0001 counts as missing: sc is then split into 0.9 short-wave and 0.1 long-
- *       wave.
+ *     - A long-wave coefficient below 0.0001 counts as missing: the other is then split into 0.9
+ *       short-wave and 0.1 long-wave.
  *     - An uncoated pane of index 1.52 and normal transmittance 0.87 times the short-wave
  *       coefficient carries the angular behaviour.
  *     - If the two coefficients add up to at most 1, the absorptance is 2.61 times the long-wave
  *       one at normal incidence and follows the pane over the angle; otherwise it is that of the
- *       pane. sc = 1 with scl missing belongs to the former, but only as single precision rounds.
- *     - The absorptance is at most 0.99 - t. An opaque unit, whose equivalent pane absorbs nothing,
- *       gets just that: sc = scl = 0 gives t = 0, a = 0.99.
+ *       pane. A total of 1 belongs to the former, but only as single precision rounds.
+ *     - The absorptance is at most 0.99 - transmittance. An opaque unit, whose equivalent pane
+ *       absorbs nothing, gets just that: coefficients of 0 give an absorptance of 0.99.
  * Source: Shading coefficients relative to clear float glass of total transmittance 0.87, of whose
  *     absorbed part a third flows inwards.
  */
@@ -1232,17 +1269,18 @@ QUORVEL_API void WNDRSC(const float *shortwave_shading_coefficient,
  *     of a glazing unit known only by its shading coefficients.
  * Given:
  *     shortwave_shading_coefficient  float  1  0 .. 1.05  short-wave shading coefficient; the total
- *                                                         one if scl is missing
+ *                                                         one if the long-wave one is missing
  *     longwave_shading_coefficient   float  1  0 .. 1     long-wave shading coefficient, 0 if
  *                                                         missing
  * Returned:
  *     transmittance  float  1    diffuse transmittance
  *     absorptance    float  1    diffuse absorptance
- *     reflectance    float  1    diffuse reflectance, 1 - t - a
+ *     reflectance    float  1    diffuse reflectance, 1 - transmittance - absorptance
  * Notes:
  *     - Coefficients as in WNDRSC. If they add up to at most 1 the absorptance is 2.61 times the
  *       long-wave one, otherwise that of the equivalent pane.
- *     - The absorptance is at most 0.99 - t. Unlike WNDRSC, sc = scl = 0 gives a = 0 and r = 1.
+ *     - The absorptance is at most 0.99 - transmittance. Unlike WNDRSC, coefficients of 0 give a
+ *       reflectance of 1.
  * Source: WNDRSC, with the equivalent pane integrated as in WNDFGL.
  */
 QUORVEL_API void WNDFSC(const float *shortwave_shading_coefficient,
@@ -1250,23 +1288,24 @@ QUORVEL_API void WNDFSC(const float *shortwave_shading_coefficient,
                         float *absorptance, float *reflectance);
 
 /*
- * WNDRSM (unit_direct_shares): WNDRSC, with the remainder 1 - t - a split among the panes of the
- *     unit.
+ * WNDRSM (unit_direct_shares): WNDRSC, with the remainder that is neither transmitted nor absorbed
+ *     split among the panes of the unit.
  * Given:
  *     shortwave_shading_coefficient  float    1    0 .. 1.05          short-wave shading
  *                                                                     coefficient; the total one if
- *                                                                     scl is missing
+ *                                                                     the long-wave one is missing
  *     longwave_shading_coefficient   float    1    0 .. 1             long-wave shading
  *                                                                     coefficient, 0 if missing
  *     incidence                      float    rad  -1.5708 .. 1.5708  angle of incidence
  *     panes                          int32_t       1 .. 5             number of panes
  * Returned:
  *     transmittance  float  1    transmittance
- *     pane_shares    float  1    share of each pane in 1 - t - a [panes]
+ *     pane_shares    float  1    share of each pane in 1 - transmittance - absorptance [panes];
+ *                                left as it was with a count outside 1 to 5
  *     absorptance    float  1    absorptance
  * Notes:
- *     - What is split is the remainder 1 - t - a, not the absorptance.
- *     - A pane count outside 1..5 leaves the panes untouched; t and a are returned all the same.
+ *     - What is split is the remainder, not the absorptance.
+ *     - Transmittance and absorptance are returned whatever the number of panes.
  * Source: WNDRSC; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not
  *     recorded.
  */
@@ -1276,21 +1315,22 @@ QUORVEL_API void WNDRSM(const float *shortwave_shading_coefficient,
                         float *absorptance);
 
 /*
- * WNDFSM (unit_diffuse_shares): WNDFSC, with the remainder 1 - t - a split among the panes of the
- *     unit.
+ * WNDFSM (unit_diffuse_shares): WNDFSC, with the remainder that is neither transmitted nor absorbed
+ *     split among the panes of the unit.
  * Given:
  *     shortwave_shading_coefficient  float    1  0 .. 1.05  short-wave shading coefficient; the
- *                                                           total one if scl is missing
+ *                                                           total one if the long-wave one is
+ *                                                           missing
  *     longwave_shading_coefficient   float    1  0 .. 1     long-wave shading coefficient, 0 if
  *                                                           missing
  *     panes                          int32_t     1 .. 5     number of panes
  * Returned:
  *     transmittance  float  1    diffuse transmittance
- *     pane_shares    float  1    share of each pane in 1 - t - a [panes]
+ *     pane_shares    float  1    share of each pane in 1 - transmittance - absorptance [panes];
+ *                                left as it was with a count outside 1 to 5
  *     absorptance    float  1    diffuse absorptance
  * Notes:
- *     - The panes as in WNDRSM: the remainder is split, and a count outside 1..5 leaves them
- *       untouched.
+ *     - The remainder is split as in WNDRSM.
  * Source: WNDFSC, with the shares of WNDRSM.
  */
 QUORVEL_API void WNDFSM(const float *shortwave_shading_coefficient,
@@ -1306,19 +1346,19 @@ QUORVEL_API void WNDFSM(const float *shortwave_shading_coefficient,
  *                                                                     other value
  *     shortwave_shading_coefficient  float    1    0 .. 1.05          short-wave shading
  *                                                                     coefficient; the total one if
- *                                                                     scl is missing
+ *                                                                     the long-wave one is missing
  *     longwave_shading_coefficient   float    1    0 .. 1             long-wave shading
  *                                                                     coefficient, 0 if missing
- *     incidence                      float    rad  -1.5708 .. 1.5708  angle of incidence, read in
- *                                                                     mode 1 only
+ *     incidence                      float    rad  -1.5708 .. 1.5708  angle of incidence, read for
+ *                                                                     direct radiation only
  *     panes                          int32_t       1 .. 5             number of panes
  * Returned:
  *     transmittance  float  1    transmittance
- *     pane_shares    float  1    share of each pane in 1 - t - a [panes]
+ *     pane_shares    float  1    share of each pane in 1 - transmittance - absorptance [panes];
+ *                                left as it was with a count outside 1 to 5
  *     absorptance    float  1    absorptance
  * Notes:
- *     - The panes as in WNDRSM: the remainder is split, and a count outside 1..5 leaves them
- *       untouched.
+ *     - The remainder is split as in WNDRSM.
  * Source: WNDRSM and WNDFSM.
  */
 QUORVEL_API void WNDRS0(const int32_t *radiation, const float *shortwave_shading_coefficient,
@@ -1330,8 +1370,8 @@ QUORVEL_API void WNDRS0(const int32_t *radiation, const float *shortwave_shading
  * WNDRSL (slat_direct): Transmittance, absorptance and reflectance of a slatted blind for a beam,
  *     both faces of the slats alike.
  * Given:
- *     slat_spacing      float  m    from 0             spacing of the slats; only s / w matters, in
- *                                                      whatever unit
+ *     slat_spacing      float  m    from 0             spacing of the slats; only its ratio to
+ *                                                      their width matters, in whatever unit
  *     slat_width        float  m    from 0             width of a slat
  *     slat_angle        float  °    -90 .. 90          slat angle in degrees, 0 for level slats,
  *                                                      positive with the outer edge lowered
@@ -1341,17 +1381,17 @@ QUORVEL_API void WNDRS0(const int32_t *radiation, const float *shortwave_shading
  * Returned:
  *     transmittance  float  1    transmittance
  *     absorptance    float  1    absorptance
- *     reflectance    float  1    reflectance, 1 - t - a
+ *     reflectance    float  1    reflectance, 1 - transmittance - absorptance
  * Notes:
  *     - The slats are flat, thin, opaque and diffusely reflecting. After the first reflection each
  *       slat is taken as evenly lit.
  *     - For slat angles up to 90 degrees and an absorptance in 0..1 all three are in 0..1, but for
- *       the rounding of single precision: 1e-4 for slats that are nearly closed, 4e-7 / cos phi for
- *       grazing beams.
- *     - A beam within 0.01 rad of the slats' plane passes whole (t = 1, a = r = 0). A beam along
- *       the blind (cosine of phi below 1e-6, or phi 1.570796 or more in size) meets an opaque
- *       sheet: t = 0, a = alpha, r = 1 - alpha.
- *     - The mirror image (-beta and -phi) gives the same bits.
+ *       the rounding of single precision: 1e-4 for slats that are nearly closed, 4e-7 over the
+ *       cosine of the profile angle for grazing beams.
+ *     - A beam within 0.01 rad of the slats' plane passes whole. A beam along the blind (cosine of
+ *       the profile angle below 1e-6, or the angle 1.570796 or more in size) meets an opaque sheet
+ *       with the absorptance of the slats.
+ *     - The mirror image, with both angles negative, gives the same bits.
  * Source: Exchange factors by H. C. Hottel's crossed strings, and the inter-reflection between two
  *     neighbouring slats.
  */
@@ -1364,8 +1404,8 @@ QUORVEL_API void WNDRSL(const float *slat_spacing, const float *slat_width,
  * WNDRS2 (two_faced_slat_direct): Transmittance, absorptance and reflectance of a blind for a beam,
  *     whose slats have two different faces.
  * Given:
- *     slat_spacing          float  m    from 0             spacing of the slats; only s / w
- *                                                          matters, in whatever unit
+ *     slat_spacing          float  m    from 0             spacing of the slats; only its ratio to
+ *                                                          their width matters, in whatever unit
  *     slat_width            float  m    from 0             width of a slat
  *     slat_angle            float  °    -90 .. 90          slat angle in degrees, 0 for level
  *                                                          slats, positive with the outer edge
@@ -1378,16 +1418,17 @@ QUORVEL_API void WNDRSL(const float *slat_spacing, const float *slat_width,
  * Returned:
  *     transmittance  float  1    transmittance
  *     absorptance    float  1    absorptance
- *     reflectance    float  1    reflectance, 1 - t - a, not limited
+ *     reflectance    float  1    reflectance, 1 - transmittance - absorptance, not limited
  * Notes:
  *     - Equal faces give the bits of WNDRSL and keep the balance.
- *     - Unequal faces do not: whatever is absorbed after the first reflection counts with alpha, as
- *       if both faces absorbed like the one struck and reflected like the opposite one. A bright
- *       face opposite a dark one absorbs too little, and r holds the rest; a dark face opposite a
- *       bright one absorbs too much, in dense blinds many times what arrives, and r is negative by
- *       as much. Where alpha is at most alpha_b, all three stay in 0..1.
- *     - The face struck first is the upper one where phi + beta is positive and the lower one else;
- *       alpha is to be chosen accordingly.
+ *     - Unequal faces do not: whatever is absorbed after the first reflection counts with that of
+ *       the face struck, as if both faces absorbed like the one struck and reflected like the
+ *       opposite one. A bright face opposite a dark one absorbs too little, and the reflectance
+ *       holds the rest; a dark face opposite a bright one absorbs too much, in dense blinds many
+ *       times what arrives, and the reflectance is negative by as much. Where the face struck
+ *       absorbs at most what the opposite one does, all three stay in 0..1.
+ *     - The face struck first is the upper one where profile angle and slat angle have a positive
+ *       sum and the lower one else; the absorptances are to be chosen accordingly.
  * Source: As WNDRSL.
  */
 QUORVEL_API void WNDRS2(const float *slat_spacing, const float *slat_width,
@@ -1399,8 +1440,8 @@ QUORVEL_API void WNDRS2(const float *slat_spacing, const float *slat_width,
  * WNDRS3 (open_slat_direct): WNDRS2 for a blind that leaves a share of the radiation to pass
  *     untouched.
  * Given:
- *     slat_spacing          float  m    from 0             spacing of the slats; only s / w
- *                                                          matters, in whatever unit
+ *     slat_spacing          float  m    from 0             spacing of the slats; only its ratio to
+ *                                                          their width matters, in whatever unit
  *     slat_width            float  m    from 0             width of a slat
  *     slat_angle            float  °    -90 .. 90          slat angle in degrees, 0 for level
  *                                                          slats, positive with the outer edge
@@ -1417,9 +1458,10 @@ QUORVEL_API void WNDRS2(const float *slat_spacing, const float *slat_width,
  *     absorptance    float  1    absorptance
  *     reflectance    float  1    reflectance
  * Notes:
- *     - Without an open share these are the bits of WNDRS2; an f that is not a number is none.
- *     - A beam along the blind gives t = f, a = alpha, r = 1 - f - alpha: the open share does not
- *       reduce the absorptance there, and r is negative where f + alpha exceeds 1. Kept.
+ *     - Without an open share these are the bits of WNDRS2; a share that is not a number is none.
+ *     - A beam along the blind is transmitted by the open share and absorbed as by the face struck:
+ *       the share does not reduce the absorptance there, and the reflectance, 1 less both, may be
+ *       negative: deliberate.
  * Source: As WNDRSL.
  */
 QUORVEL_API void WNDRS3(const float *slat_spacing, const float *slat_width,
@@ -1432,8 +1474,8 @@ QUORVEL_API void WNDRS3(const float *slat_spacing, const float *slat_width,
  * WNDFSL (slat_diffuse): Transmittance and absorptance of a slatted blind for the diffuse radiation
  *     from the sky's and from the ground's side, both faces of the slats alike.
  * Given:
- *     slat_spacing      float  m  from 0     spacing of the slats; only s / w matters, in whatever
- *                                            unit
+ *     slat_spacing      float  m  from 0     spacing of the slats; only its ratio to their width
+ *                                            matters, in whatever unit
  *     slat_width        float  m  from 0     width of a slat
  *     slat_angle        float  °  -90 .. 90  slat angle in degrees, 0 for level slats, positive
  *                                            with the outer edge lowered
@@ -1460,8 +1502,8 @@ QUORVEL_API void WNDFSL(const float *slat_spacing, const float *slat_width,
 /*
  * WNDFS2 (two_faced_slat_diffuse): WNDFSL for slats with two different faces.
  * Given:
- *     slat_spacing          float  m  from 0     spacing of the slats; only s / w matters, in
- *                                                whatever unit
+ *     slat_spacing          float  m  from 0     spacing of the slats; only its ratio to their
+ *                                                width matters, in whatever unit
  *     slat_width            float  m  from 0     width of a slat
  *     slat_angle            float  °  -90 .. 90  slat angle in degrees, 0 for level slats, positive
  *                                                with the outer edge lowered
@@ -1474,10 +1516,10 @@ QUORVEL_API void WNDFSL(const float *slat_spacing, const float *slat_width,
  *     sky_absorptance       float  1    absorptance for radiation from above the horizon
  *     ground_absorptance    float  1    absorptance for radiation from below it
  * Notes:
- *     - alpha belongs to whichever face a beam strikes first. Slats with different upper and lower
- *       faces need two calls: with alpha of the upper face for the results of the sky, of the lower
- *       face for those of the ground. Beams between the horizon and the plane of the slats strike
- *       the other face all the same.
+ *     - The absorptances belong to whichever face a beam strikes first. Slats with different upper
+ *       and lower faces need two calls: with the upper face struck for the results of the sky, with
+ *       the lower face for those of the ground. Beams between the horizon and the plane of the
+ *       slats strike the other face all the same.
  *     - Unequal faces as in WNDRS2.
  * Source: WNDRS2, integrated as in WNDFSL.
  */
@@ -1491,8 +1533,8 @@ QUORVEL_API void WNDFS2(const float *slat_spacing, const float *slat_width,
  * WNDFS3 (open_slat_diffuse): WNDFS2 for a blind that leaves a share of the radiation to pass
  *     untouched.
  * Given:
- *     slat_spacing          float  m  from 0     spacing of the slats; only s / w matters, in
- *                                                whatever unit
+ *     slat_spacing          float  m  from 0     spacing of the slats; only its ratio to their
+ *                                                width matters, in whatever unit
  *     slat_width            float  m  from 0     width of a slat
  *     slat_angle            float  °  -90 .. 90  slat angle in degrees, 0 for level slats, positive
  *                                                with the outer edge lowered
@@ -1521,7 +1563,7 @@ QUORVEL_API void WNDFS3(const float *slat_spacing, const float *slat_width,
  * CLBAND (band_climate): Monthly climate of one of ten bands of days, or interpolated at a
  *     cumulative percentage of days.
  * Given:
- *     band        int32_t     1 .. 10   band, or 0 to interpolate at the percentage
+ *     band        int32_t     0 .. 10   band, or 0 to interpolate at the percentage
  *     month       int32_t     1 .. 12   month
  *     band_set    int32_t     selector  set of bands: 1 bands from the warmest to the coldest days,
  *                                       2 bands from the highest to the lowest Q1
@@ -1529,7 +1571,7 @@ QUORVEL_API void WNDFS3(const float *slat_spacing, const float *slat_width,
  *                                       returned
  * Returned:
  *     percentage  float  %    0 .. 100  cumulative percentage of days: given with band 0, otherwise
- *                                       returned
+ *                                       returned; left as it was with band 0
  *     q1          float  1              quantity Q1: beam factor
  *     q2          float  1              quantity Q2: diffuse factor
  *     q3          float  °C             quantity Q3: air temperature at time A
@@ -1541,7 +1583,6 @@ QUORVEL_API void WNDFS3(const float *slat_spacing, const float *slat_width,
  *     q7          float  %              quantity Q7: cloud-free share of the sky
  *     q8          float  m/s            quantity Q8: wind speed
  * Notes:
- *     - With band 0 the percentage is left as given.
  *     - A percentage below band 1 extrapolates backwards from it, by the step to band 2 at most;
  *       one above 100 gives band 10.
  *     - A band below 0 counts as 1 and above 10 as 10, a month outside 1 to 12 as the nearest, a
@@ -1582,17 +1623,17 @@ QUORVEL_API void CLBAN1(const float *fraction, const int32_t *month, const float
 /*
  * CLBAN2 (interpolate_band_rows): Value between two rows of the band table.
  * Given:
- *     base_row     int32_t     any      row before the quantity's band 1: 2 for F, 12 for Q1, 22
- *                                       for Q2 and so on in set 1; 92 more in set 2
- *     lower_band   int32_t     1 .. 10  lower band
- *     upper_band   int32_t     1 .. 10  upper band
- *     month        int32_t     1 .. 12  month
- *     band_weight  float    1  -1 .. 1  share of the step from the lower to the upper row
+ *     base_row     int32_t     0 .. 174  row before the quantity's band 1: 2 for F, 12 for Q1, 22
+ *                                        for Q2 and so on in set 1; 92 more in set 2
+ *     lower_band   int32_t     1 .. 10   lower band
+ *     upper_band   int32_t     1 .. 10   upper band
+ *     month        int32_t     1 .. 12   month
+ *     band_weight  float    1  -1 .. 1   share of the step from the lower to the upper row
  * Returned:
  *     value  float  1    value, in the quantity's unit
  * Notes:
- *     - Rows base + lower and base + upper outside 1 to 184 count as the nearest row, a month
- *       outside 1 to 12 as the nearest month.
+ *     - Rows base_row + lower_band and base_row + upper_band outside 1 to 184 count as the nearest
+ *       row, a month outside 1 to 12 as the nearest month.
  * Source: Linear interpolation in the band table.
  */
 QUORVEL_API void CLBAN2(const int32_t *base_row, const int32_t *lower_band,
@@ -1602,7 +1643,7 @@ QUORVEL_API void CLBAN2(const int32_t *base_row, const int32_t *lower_band,
 /*
  * CLBAN3 (band_row): One row of the band table, a value per month.
  * Given:
- *     row  int32_t    any  row: 1 to 92 in set 1, 93 to 184 in set 2
+ *     row  int32_t    1 .. 184  row: 1 to 92 in set 1, 93 to 184 in set 2
  * Returned:
  *     values  float  1    values from January to December, in the row's unit [12]
  * Notes:
@@ -1637,7 +1678,7 @@ QUORVEL_API void CLDAY(const int32_t *month, int32_t *day);
  * Notes:
  *     - The two counts are separate sets and not the same date: in February day 52 of the year (the
  *       21st) stands beside the 20th.
- *     - A month outside 1 to 12 gives 0; an option other than 1 counts as 2.
+ *     - A month outside 1 to 12 gives 0; another way of counting counts as 2.
  * Source: Table of customary design days, close to the 21st of each month.
  */
 QUORVEL_API void CLDAYEX(const int32_t *month, int32_t *day, const int32_t *day_kind);
@@ -1665,7 +1706,7 @@ QUORVEL_API int32_t ICLDAY(const int32_t *month);
  * Notes:
  *     - The two counts are separate sets and not the same date: in February day 52 of the year (the
  *       21st) stands beside the 20th.
- *     - A month outside 1 to 12 gives 0; an option other than 1 counts as 2.
+ *     - A month outside 1 to 12 gives 0; another way of counting counts as 2.
  * Source: Table of customary design days, close to the 21st of each month.
  */
 QUORVEL_API int32_t ICLDAYEX(const int32_t *month, const int32_t *day_kind);
@@ -1693,7 +1734,7 @@ QUORVEL_API int32_t ICLDA2(const int32_t *month);
  *     int32_t  second design day
  * Notes:
  *     - Both counts are the same date here.
- *     - A month outside 1 to 12 gives 0; an option other than 1 counts as 2.
+ *     - A month outside 1 to 12 gives 0; another way of counting counts as 2.
  * Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
  */
 QUORVEL_API int32_t ICLDA2EX(const int32_t *month, const int32_t *day_kind);
@@ -1705,10 +1746,11 @@ QUORVEL_API int32_t ICLDA2EX(const int32_t *month, const int32_t *day_kind);
  *     file_name        char        text     name of the climate data file, as the operating system
  *                                           takes it; trailing blanks do not count
  *     station          int32_t     from 1   station of the file
- *     month            int32_t     1 .. 12  month whose record is filled, 0 for all twelve
+ *     month            int32_t     0 .. 12  month whose record is filled, 0 for all twelve
  *     station_records  float    1  any      a record of 11 reals per month, see the notes [11, 12]
  * Returned:
- *     station_records  float  1  any  a record of 11 reals per month, see the notes [11, 12]
+ *     station_records  float  1  any  a record of 11 reals per month, see the notes [11, 12]; left
+ *                                     as it was from the first month on that cannot be read
  * Notes:
  *     - Given in a record: 10 set of bands, rounded to the nearest integer (2 is set 2, any other
  *       set 1); 11 percentage of days. Returned, in the units of the file: 1 Q4, 2 Q6, 3 time B, 4
@@ -1717,9 +1759,7 @@ QUORVEL_API int32_t ICLDA2EX(const int32_t *month, const int32_t *day_kind);
  *     - A percentage at or below band 1's frequency gives band 1, one at or above band 10's gives
  *       band 10: nothing is extrapolated, unlike CLBAND. One that is not a number makes the
  *       quantities not numbers.
- *     - A file that is missing, not a regular file, too short or unreadable ends the call: months
- *       before the one that cannot be read are filled, that one and those after it are left as they
- *       were.
+ *     - A file that is missing, not a regular file, too short or unreadable ends the call.
  *     - A month outside 0 to 12 counts as 1 or 12.
  *     - The library keeps the word of the header that places the stations for as long as it is
  *       loaded: files read by one process must agree in it. It also keeps the record read last,
@@ -1737,24 +1777,30 @@ QUORVEL_API void CLBNF0(const char *file_name, const int32_t *station, const int
  * Given:
  *     file_unit   int32_t     selector  unit: 31 the file that CLBNF0 opened last
  *     station     int32_t     from 1    station of the file
- *     band        int32_t     1 .. 10   band, or 0 to interpolate at the percentage
+ *     band        int32_t     0 .. 10   band, or 0 to interpolate at the percentage
  *     month       int32_t     1 .. 12   month
  *     band_set    int32_t     selector  set of bands: 1 set 1, 2 set 2
  *     percentage  float    %  0 .. 100  cumulative percentage of days, used with band 0
  * Returned:
- *     q1      float  1    quantity Q1, not below 0
- *     q2      float  1    quantity Q2, not below 0
- *     q3      float  1    quantity Q3, in the unit of the file
- *     q4      float  1    quantity Q4, in the unit of the file
- *     q5      float  1    quantity Q5, in the unit of the file
- *     q6      float  1    quantity Q6, in the unit of the file
- *     q7      float  1    quantity Q7, a fraction, 0 to 1
- *     time_a  float  h    time A
- *     time_b  float  h    time B
+ *     q1      float  1    quantity Q1, not below 0; left as it was when the file cannot be read, or
+ *                         with another unit
+ *     q2      float  1    quantity Q2, not below 0; left as it was when the file cannot be read, or
+ *                         with another unit
+ *     q3      float  1    quantity Q3, in the unit of the file; left as it was when the file cannot
+ *                         be read, or with another unit
+ *     q4      float  1    quantity Q4, in the unit of the file; left as it was when the file cannot
+ *                         be read, or with another unit
+ *     q5      float  1    quantity Q5, in the unit of the file; left as it was when the file cannot
+ *                         be read, or with another unit
+ *     q6      float  1    quantity Q6, in the unit of the file; left as it was when the file cannot
+ *                         be read, or with another unit
+ *     q7      float  1    quantity Q7, a fraction, 0 to 1; left as it was when the file cannot be
+ *                         read, or with another unit
+ *     time_a  float  h    time A; left as it was when the file cannot be read, or with another unit
+ *     time_b  float  h    time B; left as it was when the file cannot be read, or with another unit
  * Notes:
  *     - Percentages as in CLBNF0; unlike CLBAND, a band's own percentage is not returned.
- *     - When the file cannot be read, or the unit is another one, nothing is returned; CLBNF2 and
- *       CLBNF3 then go on with the unit and station given here all the same.
+ *     - CLBNF2 and CLBNF3 go on with the unit and station given here even if nothing could be read.
  *     - A band below 0 counts as 1 and above 10 as 10, a month outside 1 to 12 as the nearest, a
  *       set other than 2 as 1.
  * Source: As CLBNF0.
@@ -1789,18 +1835,17 @@ QUORVEL_API void CLBNF1(const float *fraction, const int32_t *month, int32_t *lo
  * CLBNF2 (interpolate_station_rows): Value between two rows of the station given to CLBNF0 or
  *     CLBNFI last.
  * Given:
- *     base_row     int32_t     any      row before the quantity's band 1: 2 for F, 12 for Q1, 22
- *                                       for Q2 and so on in set 1; 82 more in set 2
- *     lower_band   int32_t     1 .. 10  lower band
- *     upper_band   int32_t     1 .. 10  upper band
- *     month        int32_t     1 .. 12  month
- *     band_weight  float    1  -1 .. 1  share of the step from the lower to the upper row
+ *     base_row     int32_t     2 .. 154  row before the quantity's band 1: 2 for F, 12 for Q1, 22
+ *                                        for Q2 and so on in set 1; 82 more in set 2
+ *     lower_band   int32_t     1 .. 10   lower band
+ *     upper_band   int32_t     1 .. 10   upper band
+ *     month        int32_t     1 .. 12   month
+ *     band_weight  float    1  -1 .. 1   share of the step from the lower to the upper row
  * Returned:
- *     value  float  1    value, in the quantity's unit
+ *     value  float  1    value, in the quantity's unit; left as it was when the file cannot be read
  * Notes:
- *     - Rows base + lower and base + upper outside 1 to 171 count as the nearest row of the
- *       station, a month outside 1 to 12 as the nearest month.
- *     - When the file cannot be read nothing is returned.
+ *     - Rows base_row + lower_band and base_row + upper_band outside 1 to 171 count as the nearest
+ *       row of the station, a month outside 1 to 12 as the nearest month.
  * Source: Linear interpolation in the bands of the climate data file.
  */
 QUORVEL_API void CLBNF2(const int32_t *base_row, const int32_t *lower_band,
@@ -1810,13 +1855,12 @@ QUORVEL_API void CLBNF2(const int32_t *base_row, const int32_t *lower_band,
 /*
  * CLBNF3 (station_row): One row of the station given to CLBNF0 or CLBNFI last.
  * Given:
- *     row  int32_t    any  row: 1 time A, 2 time B, 3 to 12 F, 13 to 82 Q1 to Q7, ten each; 82 more
- *                          in set 2
+ *     row  int32_t    1 .. 171  row: 1 time A, 2 time B, 3 to 12 F, 13 to 82 Q1 to Q7, ten each; 82
+ *                               more in set 2
  * Returned:
- *     values  float  1    value of each month [12]
+ *     values  float  1    value of each month [12]; left as it was when the file cannot be read
  * Notes:
  *     - A station has 171 rows; numbers outside count as the first or the last.
- *     - When the file cannot be read nothing is returned.
  * Source: Climate data file.
  */
 QUORVEL_API void CLBNF3(const int32_t *row, float *values);
@@ -1852,8 +1896,8 @@ QUORVEL_API float CLTAO(const float *hour, const float *highest_temperature,
  *     hour              float  h  0 .. 24  hour
  *     mean              float  1  any      mean, in the unit of the result
  *     amplitude         float  1  any      half the difference of the extremes, in the same unit
- *     first_hour        float  h  0 .. 24  hour of the first extreme, the highest if factor times
- *                                          amplitude is positive
+ *     first_hour        float  h  0 .. 24  hour of the first extreme, the highest if amplitude
+ *                                          times amplitude_factor is positive
  *     second_hour       float  h  0 .. 24  hour of the second extreme, after the first
  *     amplitude_factor  float  1  any      factor on the amplitude
  * Result:
@@ -1872,11 +1916,11 @@ QUORVEL_API float CLTAOX(const float *hour, const float *mean, const float *ampl
  * CLSNNR (design_irradiance): Design irradiance by solar altitude: direct normal and diffuse
  *     horizontal.
  * Given:
- *     solar_altitude  float    rad  -1.5707964 .. 1.5707964  solar altitude
- *     solar_azimuth   float    rad  not used                 solar azimuth
- *     site_height     float    m    0 .. 4000                height of the site above sea level
- *     sky_kind        int32_t       selector                 kind of sky: 0 clear, 1 cloudy: the
- *                                                            larger diffuse irradiance
+ *     solar_altitude  float    rad  0 .. 1.5707964  solar altitude
+ *     solar_azimuth   float    rad  not used        solar azimuth
+ *     site_height     float    m    0 .. 4000       height of the site above sea level
+ *     sky_kind        int32_t       selector        kind of sky: 0 clear, 1 cloudy: the larger
+ *                                                   diffuse irradiance
  * Returned:
  *     direct_normal       float  W/m²    direct normal irradiance, the same for both skies
  *     diffuse_horizontal  float  W/m²    diffuse irradiance on the horizontal
@@ -1896,8 +1940,8 @@ QUORVEL_API void CLSNNR(const float *solar_altitude, const float *solar_azimuth,
 /*
  * CLHIGH (height_factor): Factor by which irradiance grows with the height of the site.
  * Given:
- *     site_height     float  m    0 .. 4000                height of the site above sea level
- *     solar_altitude  float  rad  -1.5707964 .. 1.5707964  solar altitude
+ *     site_height     float  m    0 .. 4000       height of the site above sea level
+ *     solar_altitude  float  rad  0 .. 1.5707964  solar altitude
  * Result:
  *     float  1  factor
  * Notes:
@@ -1924,9 +1968,9 @@ QUORVEL_API float CLETAJ(const int32_t *day);
 /*
  * CLMODUL (clearness_index): Global horizontal irradiance by that outside the atmosphere.
  * Given:
- *     day                int32_t        1 .. 366                 day of the year
- *     solar_altitude     float    rad   -1.5707964 .. 1.5707964  solar altitude
- *     global_horizontal  float    W/m²  from 0                   global horizontal irradiance
+ *     day                int32_t        1 .. 366        day of the year
+ *     solar_altitude     float    rad   0 .. 1.5707964  solar altitude
+ *     global_horizontal  float    W/m²  from 0          global horizontal irradiance
  * Result:
  *     float  1  clearness index
  * Notes:
@@ -1941,19 +1985,17 @@ QUORVEL_API float CLMODUL(const int32_t *day, const float *solar_altitude,
  * CLMUNRAD (muneer_slope): Irradiance on a tilted surface by Muneer's sky: beam, sky diffuse and
  *     ground-reflected.
  * Given:
- *     solar_altitude               float  rad   -1.5707964 .. 1.5707964  solar altitude
- *     solar_azimuth                float  rad   0 .. 6.2832              solar azimuth
- *     surface_azimuth              float  rad   0 .. 6.2832              azimuth of the surface's
- *                                                                        outward normal
- *     tilt                         float  rad   0 .. 3.1416              tilt from the horizontal
- *     beam_horizontal              float  W/m²  from 0                   beam irradiance on the
- *                                                                        horizontal
- *     diffuse_horizontal           float  W/m²  from 0                   diffuse irradiance on the
- *                                                                        horizontal
- *     extraterrestrial_horizontal  float  W/m²  0 .. 1415                irradiance on the
- *                                                                        horizontal outside the
- *                                                                        atmosphere
- *     ground_reflectance           float  1     0 .. 1                   reflectance of the ground
+ *     solar_altitude               float  rad   0 .. 1.5707964  solar altitude
+ *     solar_azimuth                float  rad   0 .. 6.2832     solar azimuth
+ *     surface_azimuth              float  rad   0 .. 6.2832     azimuth of the surface's outward
+ *                                                               normal
+ *     tilt                         float  rad   0 .. 3.1416     tilt from the horizontal
+ *     beam_horizontal              float  W/m²  from 0          beam irradiance on the horizontal
+ *     diffuse_horizontal           float  W/m²  from 0          diffuse irradiance on the
+ *                                                               horizontal
+ *     extraterrestrial_horizontal  float  W/m²  0 .. 1415       irradiance on the horizontal
+ *                                                               outside the atmosphere
+ *     ground_reflectance           float  1     0 .. 1          reflectance of the ground
  * Returned:
  *     surface_beam      float  W/m²    beam irradiance on the surface, 0 with the sun behind it
  *     surface_diffuse   float  W/m²    diffuse irradiance of the sky on the surface
@@ -1962,8 +2004,8 @@ QUORVEL_API float CLMODUL(const int32_t *day, const float *solar_altitude,
  *                                      surface
  * Notes:
  *     - Radiance index 5.73 with the sun behind the surface; else 1.68 for a beam below 5 W/m² and
- *       -0.62 from there on. The circumsolar part starts above 5: exactly 5 takes -0.62 without it,
- *       on purpose.
+ *       -0.62 from there on. The circumsolar part starts above 5: exactly 5 takes -0.62 without it:
+ *       deliberate.
  *     - A sun up to 0.1 rad above the horizon has a form of its own: the diffuse irradiance times
  *       the cosine of the angle of incidence, brightened with the tilt. The result jumps there and
  *       at the thresholds of the beam.
@@ -1984,21 +2026,19 @@ QUORVEL_API void CLMUNRAD(const float *solar_altitude, const float *solar_azimut
  * CLPERSKY (perez_diffuse): Diffuse irradiance of the sky on a tilted surface by the anisotropic
  *     sky of Perez.
  * Given:
- *     solar_altitude           float  rad   -1.5707964 .. 1.5707964  solar altitude
- *     tilt                     float  rad   0 .. 3.1416              tilt from the horizontal
- *     beam_horizontal          float  W/m²  from 0                   beam irradiance on the
- *                                                                    horizontal
- *     diffuse_horizontal       float  W/m²  from 0                   diffuse irradiance on the
- *                                                                    horizontal
- *     incidence                float  rad   -1.5708 .. 1.5708        angle of incidence of the sun
- *                                                                    on the surface
- *     extraterrestrial_normal  float  W/m²  1320 .. 1415             normal irradiance outside the
- *                                                                    atmosphere
+ *     solar_altitude           float  rad   0 .. 1.5707964  solar altitude
+ *     tilt                     float  rad   0 .. 3.1416     tilt from the horizontal
+ *     beam_horizontal          float  W/m²  from 0          beam irradiance on the horizontal
+ *     diffuse_horizontal       float  W/m²  from 0          diffuse irradiance on the horizontal
+ *     incidence                float  rad   0 .. 3.1416     angle of incidence of the sun on the
+ *                                                           surface
+ *     extraterrestrial_normal  float  W/m²  1320 .. 1415    normal irradiance outside the
+ *                                                           atmosphere
  * Returned:
  *     surface_diffuse  float  W/m²    diffuse irradiance of the sky on the surface
  * Notes:
  *     - The air mass is that of Kasten and Young with the altitude in radians in place of degrees:
- *       16 % too small for the sun at 2.5 degrees, 4 % at 30 and 2 % in the zenith; kept.
+ *       16 % too small for the sun at 2.5 degrees, 4 % at 30 and 2 % in the zenith: deliberate.
  *     - The circumsolar part is not below 0, the horizon's part may be; the sum is not limited.
  *     - Computed in double precision, coefficients and limits included; a clearness on the limit of
  *       two rows of coefficients belongs to the lower. The result jumps between rows, as the
@@ -2038,16 +2078,15 @@ QUORVEL_API void CLCONS(const int32_t *site_class, const int32_t *month, float *
  * CLDIFRAD (diffuse_tilt_factor): Diffuse irradiance of the sky on a tilted surface without
  *     circumsolar part, by that on the horizontal.
  * Given:
- *     day              int32_t        1 .. 366                 day of the year
- *     solar_altitude   float    rad   -1.5707964 .. 1.5707964  solar altitude
- *     beam_horizontal  float    W/m²  from 0                   beam irradiance on the horizontal
- *     unused           float    1     not used                 accepted for the sake of existing
- *                                                              callers
- *     tilt             float    rad   0 .. 3.1416              tilt from the horizontal
- *     sky_model        int32_t        selector                 model of the sky: 0 radiance index
- *                                                              by the kind of sky, 1 clearness,
- *                                                              northern Europe, 2 clearness,
- *                                                              southern Europe, as any other value
+ *     day              int32_t        1 .. 366        day of the year
+ *     solar_altitude   float    rad   0 .. 1.5707964  solar altitude
+ *     beam_horizontal  float    W/m²  from 0          beam irradiance on the horizontal
+ *     unused           float    1     not used        accepted for the sake of existing callers
+ *     tilt             float    rad   0 .. 3.1416     tilt from the horizontal
+ *     sky_model        int32_t        selector        model of the sky: 0 radiance index by the
+ *                                                     kind of sky, 1 clearness, northern Europe, 2
+ *                                                     clearness, southern Europe, as any other
+ *                                                     value
  * Result:
  *     float  1  factor, 1 for a horizontal surface
  * Notes:
@@ -2066,20 +2105,17 @@ QUORVEL_API float CLDIFRAD(const int32_t *day, const float *solar_altitude,
  * CLDIFSLO (slope_diffuse): Diffuse irradiance of the sky on a tilted surface by day of the year
  *     and model of the sky.
  * Given:
- *     day                 int32_t        1 .. 366                 day of the year
- *     solar_altitude      float    rad   -1.5707964 .. 1.5707964  solar altitude
- *     solar_azimuth       float    rad   0 .. 6.2832              solar azimuth
- *     surface_azimuth     float    rad   0 .. 6.2832              azimuth of the surface's outward
- *                                                                 normal
- *     tilt                float    rad   0 .. 3.1416              tilt from the horizontal
- *     beam_horizontal     float    W/m²  from 0                   beam irradiance on the horizontal
- *     diffuse_horizontal  float    W/m²  from 0                   diffuse irradiance on the
- *                                                                 horizontal
- *     sky_model           int32_t        selector                 model of the sky: 0 radiance
- *                                                                 index by the kind of sky, 1
- *                                                                 clearness, northern Europe, 2
- *                                                                 clearness, southern Europe, as
- *                                                                 any other value
+ *     day                 int32_t        1 .. 366        day of the year
+ *     solar_altitude      float    rad   0 .. 1.5707964  solar altitude
+ *     solar_azimuth       float    rad   0 .. 6.2832     solar azimuth
+ *     surface_azimuth     float    rad   0 .. 6.2832     azimuth of the surface's outward normal
+ *     tilt                float    rad   0 .. 3.1416     tilt from the horizontal
+ *     beam_horizontal     float    W/m²  from 0          beam irradiance on the horizontal
+ *     diffuse_horizontal  float    W/m²  from 0          diffuse irradiance on the horizontal
+ *     sky_model           int32_t        selector        model of the sky: 0 radiance index by the
+ *                                                        kind of sky, 1 clearness, northern Europe,
+ *                                                        2 clearness, southern Europe, as any other
+ *                                                        value
  * Result:
  *     float  W/m²  diffuse irradiance of the sky on the surface
  * Notes:
@@ -2102,19 +2138,18 @@ QUORVEL_API float CLDIFSLO(const int32_t *day, const float *solar_altitude,
  *     gain of heat.
  * Given:
  *     base_temperature     float  °C     -100 .. 200  base temperature, as of the air outdoors
- *     surface_coefficient  float  W/m²K  from 0       divisor, as the heat transfer coefficient of
- *                                                     the surface
- *     absorptance          float  1      0 .. 1       multiplier of the net gain, as the
- *                                                     absorptance
+ *     surface_coefficient  float  W/m²K  from 0       heat transfer coefficient of the surface
+ *     absorptance          float  1      0 .. 1       absorptance
  *     unused_1             float  1      not used     accepted for the sake of existing callers
  *     unused_2             float  1      not used     accepted for the sake of existing callers
- *     irradiance           float  W/m²   from 0       gain, as the solar irradiance
- *     long_wave_loss       float  W/m²   from 0       loss, as the long-wave radiation to the sky
+ *     irradiance           float  W/m²   from 0       solar irradiance on the surface
+ *     long_wave_loss       float  W/m²   from 0       net loss
  * Result:
- *     float  °C  base + multiplier (gain - loss) / divisor
+ *     float  °C  sol-air temperature
+ * Formula: base_temperature + absorptance (irradiance - long_wave_loss) / surface_coefficient
  * Notes:
- *     - The multiplier weighs the loss as it does the gain.
- *     - A divisor of 0 divides by zero.
+ *     - The absorptance weighs the long-wave loss as it does the irradiance.
+ *     - A coefficient of 0 divides by zero.
  * Source: Heat balance of an outer surface.
  */
 QUORVEL_API float CLTEO(const float *base_temperature, const float *surface_coefficient,
@@ -2130,8 +2165,8 @@ QUORVEL_API float CLTEO(const float *base_temperature, const float *surface_coef
  * Result:
  *     float  W/m²  net loss
  * Notes:
- *     - Horizontal 93 - 79 factor, vertical 21 - 17 factor, between them by the cosine of the
- *       angle. Less than nothing is 0; not a number stays so.
+ *     - Horizontal 93 - 79 cloud_cover, vertical 21 - 17 cloud_cover, between them by the cosine of
+ *       the tilt. Less than nothing is 0; not a number stays so.
  * Source: Net long-wave losses of horizontal and vertical surfaces by cloud cover, as building
  *     services guides print them; meaning of the arguments inferred from these values.
  */
@@ -2147,12 +2182,13 @@ QUORVEL_API float CLRERD(const float *tilt, const float *cloud_cover);
  *     reference_longitude  float    rad  -3.1416 .. 3.1416  longitude of the clock's meridian,
  *                                                           positive west
  * Result:
- *     float  h  correction: equation of time - offset - (longitude - reference longitude) / 0.2618
+ *     float  h  correction
+ * Formula: equation of time - clock_offset - (longitude - reference_longitude) / 0.2618
  * Notes:
  *     - Only the difference of the longitudes counts. Given positive east instead, it enters with
  *       the wrong sign.
  *     - The equation of time stays within 0.7 min of the true one.
- *     - The hour is rounded to 0.2618 rad here and not in CLSNGE; kept.
+ *     - The hour is rounded to 0.2618 rad here and not in CLSNGE: deliberate.
  * Source: Fourier series of the equation of time to the third harmonic, of the kind given by J. W.
  *     Spencer, Search 2 (1971); coefficients refitted.
  */
@@ -2163,7 +2199,7 @@ QUORVEL_API float CLTCOR(const float *clock_offset, const int32_t *day, const fl
  * CLYALLOP (almanac_position): Altitude, azimuth and declination of the sun by calendar date and
  *     clock.
  * Given:
- *     time_kind      int32_t       selector                 what the hour is: 1 solar time;
+ *     time_kind      int32_t       selector                 what the time is: 1 solar time;
  *                                                           longitude and zone meridian are set to
  *                                                           0, 2 clock of the zone, at the
  *                                                           longitude, 3 solar time; the zone
@@ -2173,17 +2209,14 @@ QUORVEL_API float CLTCOR(const float *clock_offset, const int32_t *day, const fl
  *     day_of_month   int32_t       1 .. 31                  day of the month
  *     clock_time     float    h    0 .. 24                  clock hour
  *     latitude       float    rad  -1.5707964 .. 1.5707964  latitude, positive north
- *     longitude      float    rad  -3.1416 .. 3.1416        longitude, positive west; written only
- *                                                           in mode 1
- *     zone_meridian  float    rad  -3.1416 .. 3.1416        zone angle, the longitude of the
- *                                                           clock's meridian, positive west;
- *                                                           written only in mode 1
+ *     longitude      float    rad  -3.1416 .. 3.1416        longitude, positive west
+ *     zone_meridian  float    rad  -3.1416 .. 3.1416        longitude of the clock's meridian,
+ *                                                           positive west
  * Returned:
- *     longitude       float  rad  -3.1416 .. 3.1416  longitude, positive west; written only in mode
- *                                                    1
- *     zone_meridian   float  rad  -3.1416 .. 3.1416  zone angle, the longitude of the clock's
- *                                                    meridian, positive west; written only in mode
- *                                                    1
+ *     longitude       float  rad  -3.1416 .. 3.1416  longitude, positive west; left as it was
+ *                                                    except with solar time
+ *     zone_meridian   float  rad  -3.1416 .. 3.1416  longitude of the clock's meridian, positive
+ *                                                    west; left as it was except with solar time
  *     solar_altitude  float  rad                     altitude, negative below the horizon; no
  *                                                    refraction
  *     solar_azimuth   float  rad                     azimuth
@@ -2191,12 +2224,12 @@ QUORVEL_API float CLTCOR(const float *clock_offset, const int32_t *day, const fl
  * Notes:
  *     - Within 0.03 degrees, and of the azimuth 0.1 degrees where the sun is near due south or
  *       north, since a cosine of azimuth beyond 0.999999 in size counts as 1. Of this 0.02 degrees
- *       come from a misplaced degree factor in the equation of the centre; kept.
+ *       come from a misplaced degree factor in the equation of the centre: deliberate.
  *     - The hour angle is not brought into -180 to 180 degrees. Its sign decides between morning
  *       and afternoon, so within an hour of midnight the azimuth may be the mirror image.
- *     - A mode other than 1 and 2 counts as 3. Date and hour are not checked: a day beyond the
- *       month's end counts on into the next month. Before March 1976 three years of four are a day
- *       late; 2100 is given a leap day.
+ *     - A kind of time other than 1 and 2 counts as 3. Date and hour are not checked: a day beyond
+ *       the month's end counts on into the next month. Before March 1976 three years of four are a
+ *       day late; 2100 is given a leap day.
  * Source: Low-precision formulas of B. D. Yallop for the sun, as printed in T. Muneer, Solar
  *     Radiation and Daylight Models for the Energy Efficient Design of Buildings, 1997.
  */
@@ -2230,17 +2263,19 @@ QUORVEL_API void CLRISESET(const int32_t *year, const int32_t *month, const int3
  *     latitude, day of the year and solar hour.
  * Given:
  *     latitude    float    rad  -1.5707964 .. 1.5707964  latitude, positive north
- *     day         int32_t       1 .. 366                 day of the year
+ *     day         int32_t       1 .. 365                 day of the year
  *     solar_time  float    h    0 .. 24                  solar time, noon at 12
  * Returned:
  *     declination     float  rad    declination
  *     solar_altitude  float  rad    altitude, 0 when the sun is below the horizon
  *     solar_azimuth   float  rad    azimuth, 0 when the sun is below the horizon
- *     sunrise         float  h      sunrise; 25 when the sun does not rise, 0 when it does not set
- *     sunset          float  h      sunset; 25 when the sun does not set, 0 when it does not rise
+ *     sunrise         float  h      sunrise; 25 when the sun does not rise, 0 when it does not set;
+ *                                   left as it was with latitude, day or hour outside its range
+ *     sunset          float  h      sunset; 25 when the sun does not set, 0 when it does not rise;
+ *                                   left as it was with latitude, day or hour outside its range
  * Notes:
  *     - Latitude, day or hour outside its range (day 366 too) gives a declination, altitude and
- *       azimuth of 0 and leaves sunrise and sunset as they are.
+ *       azimuth of 0.
  *     - Within 0.5 degrees of the true position; no leap years, no refraction, the sun a point.
  *     - Noon counts as morning. With the sun in the zenith the azimuth is arbitrary.
  *     - A latitude of 1.5707964, or its negative, is by rounding just beyond the pole: midnight sun
@@ -2286,19 +2321,15 @@ QUORVEL_API void CLSNSR(const float *solar_altitude, const float *solar_azimuth,
  * CLSORD (surface_irradiance): Irradiance on the plane of a surface: direct from the sun, diffuse
  *     from the sky, reflected from the ground.
  * Given:
- *     solar_altitude      float  rad   -1.5707964 .. 1.5707964  solar altitude
- *     solar_azimuth       float  rad   0 .. 6.2832              solar azimuth
- *     surface_azimuth     float  rad   0 .. 6.2832              azimuth of the surface's outward
- *                                                               normal
- *     tilt                float  rad   0 .. 3.1416              tilt from the horizontal
- *     direct_normal       float  W/m²  from 0                   direct normal irradiance
- *     diffuse_horizontal  float  W/m²  from 0                   diffuse irradiance on the
- *                                                               horizontal
- *     ground_reflectance  float  1     0 .. 1                   reflectance of the ground
- *     beam_factor         float  1     from 0                   factor on the direct normal
- *                                                               irradiance
- *     diffuse_factor      float  1     from 0                   factor on the diffuse horizontal
- *                                                               irradiance
+ *     solar_altitude      float  rad   0 .. 1.5707964  solar altitude
+ *     solar_azimuth       float  rad   0 .. 6.2832     solar azimuth
+ *     surface_azimuth     float  rad   0 .. 6.2832     azimuth of the surface's outward normal
+ *     tilt                float  rad   0 .. 3.1416     tilt from the horizontal
+ *     direct_normal       float  W/m²  from 0          direct normal irradiance
+ *     diffuse_horizontal  float  W/m²  from 0          diffuse irradiance on the horizontal
+ *     ground_reflectance  float  1     0 .. 1          reflectance of the ground
+ *     beam_factor         float  1     from 0          factor on the direct normal irradiance
+ *     diffuse_factor      float  1     from 0          factor on the diffuse horizontal irradiance
  * Returned:
  *     surface_beam      float  W/m²    beam irradiance on the surface, 0 with the sun behind it
  *     surface_diffuse   float  W/m²    diffuse irradiance of the sky on the surface
@@ -2322,19 +2353,15 @@ QUORVEL_API void CLSORD(const float *solar_altitude, const float *solar_azimuth,
  * CLSOR2 (surface_irradiance_and_incidence): Irradiance on the plane of a surface as CLSORD, and
  *     the angle of incidence.
  * Given:
- *     solar_altitude      float  rad   -1.5707964 .. 1.5707964  solar altitude
- *     solar_azimuth       float  rad   0 .. 6.2832              solar azimuth
- *     surface_azimuth     float  rad   0 .. 6.2832              azimuth of the surface's outward
- *                                                               normal
- *     tilt                float  rad   0 .. 3.1416              tilt from the horizontal
- *     direct_normal       float  W/m²  from 0                   direct normal irradiance
- *     diffuse_horizontal  float  W/m²  from 0                   diffuse irradiance on the
- *                                                               horizontal
- *     ground_reflectance  float  1     0 .. 1                   reflectance of the ground
- *     beam_factor         float  1     from 0                   factor on the direct normal
- *                                                               irradiance
- *     diffuse_factor      float  1     from 0                   factor on the diffuse horizontal
- *                                                               irradiance
+ *     solar_altitude      float  rad   0 .. 1.5707964  solar altitude
+ *     solar_azimuth       float  rad   0 .. 6.2832     solar azimuth
+ *     surface_azimuth     float  rad   0 .. 6.2832     azimuth of the surface's outward normal
+ *     tilt                float  rad   0 .. 3.1416     tilt from the horizontal
+ *     direct_normal       float  W/m²  from 0          direct normal irradiance
+ *     diffuse_horizontal  float  W/m²  from 0          diffuse irradiance on the horizontal
+ *     ground_reflectance  float  1     0 .. 1          reflectance of the ground
+ *     beam_factor         float  1     from 0          factor on the direct normal irradiance
+ *     diffuse_factor      float  1     from 0          factor on the diffuse horizontal irradiance
  * Returned:
  *     surface_beam      float  W/m²    beam irradiance on the surface, 0 with the sun behind it
  *     surface_diffuse   float  W/m²    diffuse irradiance of the sky on the surface
@@ -2359,26 +2386,29 @@ QUORVEL_API void CLSOR2(const float *solar_altitude, const float *solar_azimuth,
  * HOHOLEDP (clip): Difference A - B and overlap of two simple polygons A and B in plan, in double
  *     precision.
  * Given:
- *     x                    double   m  any     x of the pool of points; new points are appended
- *                                              [point_capacity]
- *     y                    double   m  any     y of the pool of points [point_capacity]
- *     vertices_a           int32_t     from 3  number of vertices of A, from 3
- *     positions_a          int32_t     from 1  vertices of A: positions in the pool, from 1
- *                                              [vertices_a]
- *     vertices_b           int32_t     from 3  number of vertices of B, from 3
- *     positions_b          int32_t     from 1  vertices of B [vertices_b]
- *     point_capacity       int32_t     from 0  capacity of the pool
- *     crossing_capacity    int32_t     from 0  most crossings of A and B to deal with, up to 1024
- *     difference_capacity  int32_t     from 0  capacity of dif
- *     overlap_capacity     int32_t     from 0  capacity of ovl
- *     used_points          int32_t     from 1  points in use in the pool
+ *     x                    double   m  any        x of the pool of points; new points are appended
+ *                                                 [point_capacity]
+ *     y                    double   m  any        y of the pool of points [point_capacity]
+ *     vertices_a           int32_t     from 3     number of vertices of A, from 3
+ *     positions_a          int32_t     from 1     vertices of A: positions in the pool, from 1
+ *                                                 [vertices_a]
+ *     vertices_b           int32_t     from 3     number of vertices of B, from 3
+ *     positions_b          int32_t     from 1     vertices of B [vertices_b]
+ *     point_capacity       int32_t     from 0     capacity of the pool
+ *     crossing_capacity    int32_t     0 .. 1024  most crossings of A and B to deal with, up to
+ *                                                 1024
+ *     difference_capacity  int32_t     from 0     capacity of difference_pieces
+ *     overlap_capacity     int32_t     from 0     capacity of overlap_pieces
+ *     used_points          int32_t     from 1     points in use in the pool
  * Returned:
  *     x                  double   m  any     x of the pool of points; new points are appended
  *                                            [point_capacity]
  *     y                  double   m  any     y of the pool of points [point_capacity]
  *     used_points        int32_t     from 1  points in use in the pool
- *     difference_pieces  int32_t             pieces of A - B [difference_capacity]
- *     overlap_pieces     int32_t             pieces of the overlap [overlap_capacity]
+ *     difference_pieces  int32_t             pieces of A - B [difference_capacity]; left as it was
+ *                                            with a status other than 0
+ *     overlap_pieces     int32_t             pieces of the overlap [overlap_capacity]; left as it
+ *                                            was with a status other than 0
  *     status             int32_t             0 success, else what went wrong
  * Notes:
  *     - A list of pieces is, for each piece, its number of vertices and their positions in the
@@ -2392,14 +2422,14 @@ QUORVEL_API void CLSOR2(const float *solar_altitude, const float *solar_azimuth,
  *       of the diagonal of the box round both counts as none, and the areas are exact to about this
  *       times the length of the boundaries. The areas of difference and overlap add up to that of A
  *       to rounding.
- *     - ierr = 1 or 2: A or B has fewer than 3 vertices, or one that is not in the pool (up to
- *       npool and nmax). 3 or 4: A or B crosses itself. 5: A has no area to speak of (25 square
- *       tolerances). B without area is nothing to subtract.
- *     - ierr = 6: more than kmax crossings. 7: the pool is full. 8 or 9: an edge of A or B carries
- *       more than 10 crossings, or has no length to sort them along. 10 or 11: dif or ovl is full.
- *       109: no bridge, for polygons with coordinates that are not numbers. In no case does
- *       anything happen beyond what the capacities allow. A failure leaves lists and pool as they
- *       are by then.
+ *     - Status 1 or 2: A or B has fewer than 3 vertices, or one that is not in the pool (up to
+ *       used_points and point_capacity). 3 or 4: A or B crosses itself. 5: A has no area to speak
+ *       of (25 square tolerances). B without area is nothing to subtract.
+ *     - Status 6: more than crossing_capacity crossings. 7: the pool is full. 8 or 9: an edge of A
+ *       or B carries more than 10 crossings, or has no length to sort them along. 10 or 11:
+ *       difference_pieces or overlap_pieces is full. 109: no bridge, for polygons with coordinates
+ *       that are not numbers. In no case does anything happen beyond what the capacities allow. A
+ *       failure leaves lists and pool as they are by then.
  *     - Two edges of A that meet in a reflex corner sharper than about 60 degrees, with a vertex of
  *       B in the corner: there an overlap can come out wrong.
  * Source: Boundary tracing from crossing to crossing: K. Weiler, P. Atherton, Hidden surface
@@ -2470,7 +2500,7 @@ QUORVEL_API void GEHOLE(const float *x_1, const float *y_1, const int32_t *verti
  *     y       float    m  any     y of the vertices [points]
  *     points  int32_t     from 1  number of points
  * Result:
- *     int32_t  1 on one line; otherwise the number (2..n) of the first point whose y differs from
+ *     int32_t  1 on one line; otherwise the number, from 2, of the first point whose y differs from
  *         that of point 1
  * Notes:
  *     - The points are held against the line through the first two that differ by 1e-5 or more in
@@ -2498,13 +2528,14 @@ QUORVEL_API int32_t IGELIN(const float *x, const float *y, const int32_t *points
  *                                     not enclosed, 1 enclosed [points]
  * Returned:
  *     enclosed         int32_t    selector  1 for points that are enclosed; left as given for
- *                                           others: 0 not enclosed, 1 enclosed [points]
+ *                                           others: 0 not enclosed, 1 enclosed [points]; left as it
+ *                                           was for points that are not enclosed
  *     enclosed_points  int32_t              number of enclosed points
  * Notes:
  *     - A point is enclosed when it is left of no edge, as IGEPNT sees it, or is at a vertex (to
  *       less than 1e-5 in each coordinate) that comes before any such edge.
  *     - Points that are not numbers are left of no edge, and so enclosed.
- *     - Without vertices or points the count is 0 and no flag is set.
+ *     - Without vertices or points the number enclosed is 0.
  * Source: A convex polygon is the intersection of half-planes.
  */
 QUORVEL_API void GECLOS(const float *x, const float *y, const int32_t *vertices,
@@ -2520,18 +2551,19 @@ QUORVEL_API void GECLOS(const float *x, const float *y, const int32_t *vertices,
  *     y              float    m  any     y of the vertices [vertices]
  *     vertices       int32_t     from 3  number of vertices
  * Returned:
- *     crossing_point  float    m    crossing point, or what the notes say [2]
+ *     crossing_point  float    m    crossing point, or what the notes say [2]; 1e20 for none
  *     crossing_code   int32_t       number of the vertex that ends the crossed edge, or what the
  *                                   notes say
  * Notes:
  *     - The edges are tried in turn, from vertex 1 to 2 on, as GECROS does; the first one that is
- *       crossed away from a ends the search. A crossing beyond 100000 is none.
- *     - No such edge, but a at a vertex j (to less than 1e-5): k = -j, and p is the last outcome of
- *       the search, a or 1e20.
- *     - Otherwise, a on edges: k is 999 + the number of the vertex that ends the last of them, and
- *       p that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more,
- *       small codes of this kind cannot be told from edges by k alone.)
- *     - Otherwise k = 0, and p is 1e20.
+ *       crossed away from the start ends the search. A crossing beyond 100000 is none.
+ *     - No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the
+ *       point is the last outcome of the search, the start or 1e20.
+ *     - Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the
+ *       last of them, and the point that vertex. (The sum is taken modulo 2^32. Of a polygon with
+ *       1000 vertices or more, small codes of this kind cannot be told from edges by the code
+ *       alone.)
+ *     - Otherwise the code is 0, and the point 1e20.
  * Source: As GECROS.
  */
 QUORVEL_API void GESIDE(const float *segment_start, const float *segment_end, const float *x,
@@ -2544,7 +2576,7 @@ QUORVEL_API void GESIDE(const float *segment_start, const float *segment_end, co
  * Given:
  *     point     float    m  any     point [3]
  *     polygon   float    m  any     vertices, the last of which repeats the first [3, vertices]
- *     vertices  int32_t     from 3  number of vertices, the repeated one included
+ *     vertices  int32_t     from 4  number of vertices, the repeated one included
  * Returned:
  *     inside  int32_t      1 inside, 0 outside
  * Notes:
@@ -2580,8 +2612,8 @@ QUORVEL_API int32_t GEPLEL(const double *triangle_1, const double *triangle_2);
  *     triangle_1  double  m  any  corners of one triangle [3, 3]
  *     triangle_2  double  m  any  corners of the other [3, 3]
  * Returned:
- *     side_1  int32_t      side of t1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none
- *     side_2  int32_t      side of t2, likewise
+ *     side_1  int32_t      side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none
+ *     side_2  int32_t      side of triangle 2, likewise
  * Result:
  *     int32_t  -1 if so, else 0
  * Notes:
@@ -2609,13 +2641,13 @@ QUORVEL_API int32_t GERECT(const double *quadrilateral);
 /*
  * GETILT (facing): Azimuth and tilt of the plane of a triangle.
  * Given:
- *     triangle  double  m  any       corners, clockwise seen from outside [3, 3]
- *     azimuth   double  °  0 .. 360  azimuth of the outward normal; given, what a level triangle
- *                                    gets, in radians
+ *     triangle  double  m  any          corners, clockwise seen from outside [3, 3]
+ *     azimuth   double  °  0 .. 6.2832  azimuth of the outward normal; given, what a level triangle
+ *                                       gets, in radians
  * Returned:
- *     azimuth  double  °  0 .. 360  azimuth of the outward normal; given, what a level triangle
- *                                   gets, in radians
- *     tilt     double  °            tilt: 0 horizontal facing up, 90 vertical, 180 facing down
+ *     azimuth  double  °  0 .. 6.2832  azimuth of the outward normal; given, what a level triangle
+ *                                      gets, in radians
+ *     tilt     double  °               tilt: 0 horizontal facing up, 90 vertical, 180 facing down
  * Notes:
  *     - A level triangle, the level part of whose normal (as long as twice its area) is shorter
  *       than 1e-10, gets the given azimuth times 180/pi.
@@ -2634,9 +2666,9 @@ QUORVEL_API void GETILT(const double *triangle, double *azimuth, double *tilt);
  *     local_1  double  m    the first in local coordinates [3, 4]
  *     local_2  double  m    the second in local coordinates [3, 4]
  * Notes:
- *     - The origin is corner 1 of q; x points to corner 2, y to corner 4, z along the cross product
- *       of the ways from corner 1 to corners 2 and 3.
- *     - Coordinates are dot products with the axes, so that lengths are kept only where q has a
+ *     - The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross
+ *       product of the ways from corner 1 to corners 2 and 3.
+ *     - Coordinates are dot products with the axes, so that lengths are kept only where that has a
  *       right angle at corner 1.
  *     - Coincident corners give what is not a number.
  * Source: Definition.
@@ -2666,7 +2698,7 @@ QUORVEL_API void GETRNS(double *corners, const double *x_axis, const double *y_a
  *     line_2_start  float  m  any  point of line 2 [2]
  *     line_2_end    float  m  any  another point of line 2 [2]
  * Returned:
- *     meeting_point  float  m    meeting point [2]
+ *     meeting_point  float  m    meeting point [2]; 1e20 for none
  * Notes:
  *     - Parallel lines give 1e20 in both coordinates: those for which |ab| |cd| times the sine of
  *       the angle between them is below 1e-10.
@@ -2684,7 +2716,7 @@ QUORVEL_API void GEMEET(const float *line_1_start, const float *line_1_end,
  *     segment_2_start  float  m  any  start of segment 2 [2]
  *     segment_2_end    float  m  any  end of segment 2 [2]
  * Returned:
- *     crossing_point  float  m    crossing point [2]
+ *     crossing_point  float  m    crossing point [2]; 1e20 for none
  * Notes:
  *     - Segments that do not meet, and parallel ones whether they meet or not, give 1e20 in both
  *       coordinates. Not a number counts as not meeting.
@@ -2748,7 +2780,7 @@ QUORVEL_API int32_t GECOIN(const float *x_1, const float *y_1, const float *x_2,
  * Result:
  *     int32_t  1 right of the line, -1 left of it, 0 nearer to it than 1e-5
  * Notes:
- *     - Where a and b are the same the line runs north.
+ *     - Where the two points of the line are the same the line runs north.
  *     - Not a number gives 0.
  * Source: Distance of a point from a line by its bearing.
  */
@@ -2762,8 +2794,8 @@ QUORVEL_API int32_t IGEPNT(const float *line_start, const float *line_end, const
  * Result:
  *     float  °  azimuth of the opposite direction, or angle of it
  * Notes:
- *     - It is the remainder of 630 - a by 360 with the sign of the dividend: angles above 630 give
- *       negative results.
+ *     - It is the remainder of 630 - angle by 360 with the sign of the dividend: angles above 630
+ *       give negative results.
  *     - Magnitudes from 1000 on are no angles and are returned as they are.
  * Source: Definition.
  */
@@ -2772,8 +2804,8 @@ QUORVEL_API float BORI(const float *angle);
 /*
  * GESUNV (direction_to): Unit vector of a direction, such as that to the sun.
  * Given:
- *     solar_altitude  float  rad  -1.5707964 .. 1.5707964  altitude
- *     solar_azimuth   float  rad  0 .. 6.2832              azimuth
+ *     solar_altitude  float  rad  -1.5708 .. 1.5708  altitude
+ *     solar_azimuth   float  rad  0 .. 6.2832        azimuth
  * Returned:
  *     direction  float  1    direction [3]
  * Source: Spherical to rectangular coordinates.
@@ -2789,19 +2821,19 @@ QUORVEL_API void GESUNV(const float *solar_altitude, const float *solar_azimuth,
  * Returned:
  *     rotation_matrix  float  1    matrix; its columns are the local axes in global coordinates [3,
  *                                  3]
- *     inverse_matrix   float  1    inverse of r [3, 3]
+ *     inverse_matrix   float  1    inverse of it [3, 3]
  * Notes:
  *     - Local x is level and points to the right seen from outside, y points up the slope, z
  *       outwards; the axes are right-handed.
- *     - Elements of r below 1e-5 in magnitude are set to 0. The inverse, by elimination with full
- *       pivoting, is the transpose to rounding.
+ *     - Elements of the matrix below 1e-5 in magnitude are set to 0. The inverse, by elimination
+ *       with full pivoting, is the transpose to rounding.
  * Source: Rotation matrices; Gauss-Jordan elimination.
  */
 QUORVEL_API void GERSET(const float *surface_azimuth, const float *tilt, float *rotation_matrix,
                         float *inverse_matrix);
 
 /*
- * GERAXI (local_to_global): Local to global coordinates: r p.
+ * GERAXI (local_to_global): Local to global coordinates: the rotation matrix times the vector.
  * Given:
  *     local_vector     float  m  any      vector in local coordinates [3]
  *     rotation_matrix  float  1  -1 .. 1  rotation matrix [3, 3]
@@ -2813,7 +2845,8 @@ QUORVEL_API void GERAXI(const float *local_vector, const float *rotation_matrix,
                         float *global_vector);
 
 /*
- * GERAX2 (global_to_local): Global to local coordinates: the transpose of r times p.
+ * GERAX2 (global_to_local): Global to local coordinates: the transpose of the rotation matrix times
+ *     the vector.
  * Given:
  *     global_vector    float  m  any      vector in global coordinates [3]
  *     rotation_matrix  float  1  -1 .. 1  rotation matrix [3, 3]
@@ -2878,8 +2911,10 @@ QUORVEL_API float GEAPO3(const float *x, const float *y, const float *z, const i
  * Returned:
  *     area          float  m²    area, positive when the vertices run as the corner at vertex 1
  *                                turns
- *     tilt          float  °     angle between the normal and the vertical
- *     back_azimuth  float  °     azimuth opposite to the normal
+ *     tilt          float  °     angle between the normal and the vertical; left as it was with
+ *                                fewer than one vertex
+ *     back_azimuth  float  °     azimuth opposite to the normal; left as it was with fewer than one
+ *                                vertex
  * Notes:
  *     - The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its
  *       opposite is the outward normal of a convex polygon that runs clockwise seen from outside.
@@ -2888,8 +2923,7 @@ QUORVEL_API float GEAPO3(const float *x, const float *y, const float *z, const i
  *       of the side if it points down.
  *     - Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and
  *       what faces north may get 0.00003.
- *     - Of one vertex or two the area is 0. Fewer than one vertex give an area of 0; tilt and
- *       orientation are then left as they are.
+ *     - Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
  * Source: Shoelace formula in the plane of the polygon.
  */
 QUORVEL_API void GEASO(const int32_t *vertices, const float *polygon, float *area, float *tilt,
@@ -2904,10 +2938,10 @@ QUORVEL_API void GEASO(const int32_t *vertices, const float *polygon, float *are
  *     point         float  m  any  the point [3]
  *     direction     float  1  any  direction, of any length [3]
  * Returned:
- *     projected_point  float  m    projected point [3]
+ *     projected_point  float  m    projected point [3]; 1e20 for none
  * Notes:
- *     - A direction parallel to the plane (d . normal of magnitude 1e-15 or less, or not a number)
- *       gives 1e20 in all coordinates.
+ *     - A direction parallel to the plane (its dot product with the normal of magnitude 1e-15 or
+ *       less, or not a number) gives 1e20 in all coordinates.
  * Source: Elementary analytic geometry.
  */
 QUORVEL_API void GEPROJ(const float *plane_point, const float *plane_normal, const float *point,
@@ -2922,13 +2956,13 @@ QUORVEL_API void GEPROJ(const float *plane_point, const float *plane_normal, con
  *     point         float  m  any  the point [3]
  *     direction     float  1  any  direction, of any length [3]
  * Returned:
- *     projected_point  float  m    projected point [3]
+ *     projected_point  float  m    projected point [3]; 1e20 for none
  * Notes:
  *     - A direction parallel to the plane or away from it, and a point that is in the plane
  *       already, give 1e20 in all coordinates.
- *     - Forwards means that the way from p to x, scaled to length 1, differs from d, scaled so, by
- *       1e-6 at most in each component. Coordinates that are large beside the way to the plane can
- *       spoil that by rounding.
+ *     - Forwards means that the way from the point to its projection, scaled to length 1, differs
+ *       from the direction, scaled so, by 1e-6 at most in each component. Coordinates that are
+ *       large beside the way to the plane can spoil that by rounding.
  * Source: As GEPROJ.
  */
 QUORVEL_API void GEPROJ2(const float *plane_point, const float *plane_normal, const float *point,
@@ -2943,7 +2977,7 @@ QUORVEL_API void GEPROJ2(const float *plane_point, const float *plane_normal, co
  *     point         float  m  any  the point [3]
  *     direction     float  1  any  direction, of any length [3]
  * Returned:
- *     projected_point  float  m    projected point, or p [3]
+ *     projected_point  float  m    projected point, or the point itself [3]
  * Notes:
  *     - A direction parallel to the plane (as in GEPROJ) gives what the division by zero makes of
  *       it: infinities, not a number or points far off.
