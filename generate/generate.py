@@ -9,10 +9,12 @@ import catalogue
 import entry_points
 import exports
 import header
+import interface
 import routine_table
 
 PRODUCTS = {
     "header": header.render,
+    "interface": interface.render,
     "version-script": exports.version_script,
     "module-definition": exports.module_definition,
     "routine-names": exports.macro_calls,
