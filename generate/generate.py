@@ -1,5 +1,10 @@
 #!/usr/bin/env python3
-"""Produce one of the files that follow from the catalogue of routines."""
+"""Produce what follows from the catalogue of routines.
+
+    generate.py [--check]                    all files that are held in the tree
+    generate.py [--check|--list] PRODUCT OUTPUT
+                                             one product of the build; OUTPUT is a folder for several files
+"""
 
 import argparse
 import sys
@@ -8,20 +13,28 @@ from pathlib import Path
 import catalogue
 import entry_points
 import exports
-import header
 import interface
 import routine_table
 
 PRODUCTS = {
-    "header": header.render,
     "interface": interface.render,
     "version-script": exports.version_script,
     "module-definition": exports.module_definition,
     "routine-names": exports.macro_calls,
     "routine-table": routine_table.render,
 }
-# Products of several files: OUTPUT is their folder
 FOLDERS = {"entry-points": entry_points.files}
+
+
+def texts(options, families):
+    """What to write, by file."""
+    if not options.product:
+        import held  # needs more than the builds do
+
+        return held.texts(families)
+    if options.product in FOLDERS:
+        return {options.output / name: text for name, text in FOLDERS[options.product](families).items()}
+    return {options.output: PRODUCTS[options.product](families)}
 
 
 def outdated(output, text):
@@ -29,29 +42,26 @@ def outdated(output, text):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("product", choices=[*PRODUCTS, *FOLDERS])
-    parser.add_argument("output", type=Path)
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("product", nargs="?", choices=[*PRODUCTS, *FOLDERS])
+    parser.add_argument("output", nargs="?", type=Path)
     parser.add_argument("--catalogue", type=Path, default=Path(__file__).parents[1] / "catalogue")
-    parser.add_argument("--check", action="store_true", help="fail if OUTPUT differs, instead of writing it")
+    parser.add_argument("--check", action="store_true", help="fail if a file differs, instead of writing it")
     parser.add_argument("--list", action="store_true", help="only name the files, as a list of CMake")
     options = parser.parse_args()
+    if options.product and not options.output:
+        parser.error("a product needs an OUTPUT")
     try:
-        families = catalogue.load(options.catalogue)
+        wanted = texts(options, catalogue.load(options.catalogue))
     except catalogue.CatalogueError as error:
         sys.exit(f"catalogue: {error}")
-    if options.product in FOLDERS:
-        texts = {options.output / name: text for name, text in FOLDERS[options.product](families).items()}
-    else:
-        texts = {options.output: PRODUCTS[options.product](families)}
     if options.list:
-        print(";".join(map(str, texts)), end="")
+        print(";".join(map(str, wanted)), end="")
         return
-    for output, text in texts.items():
-        if not outdated(output, text):
-            continue
-        if options.check:
-            sys.exit(f"{output} does not follow from the catalogue; run ./dev generate")
+    stale = {output: text for output, text in wanted.items() if outdated(output, text)}
+    if options.check and stale:
+        sys.exit(f"not as generated, run ./dev generate: {', '.join(map(str, stale))}")
+    for output, text in stale.items():
         output.parent.mkdir(parents=True, exist_ok=True)
         output.write_text(text, encoding="utf-8")
 

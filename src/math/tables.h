@@ -1,4 +1,4 @@
-// Tables of the single-precision functions, written by tools/math/tables.py.
+// Tables of the single-precision functions, written by generate/elementary_tables.py.
 #pragma once
 
 #include <cstdint>

@@ -1,8 +1,4 @@
-#!/usr/bin/env python3
-"""Writes the tables of src/math/tables.h to standard output.
-
-Needs Debian's python3-mpmath. Run: tools/math/tables.py > src/math/tables.h
-"""
+"""src/math/tables.h: the tables of the elementary functions."""
 import struct
 
 from mpmath import acot, asin, atan, cos, floor, log, mp, mpf, pi, power, sin, sqrt
@@ -81,8 +77,9 @@ def arc_tangents():
     return rows
 
 
-log_steps = [log_step(i) for i in range(LOG_STEPS)]
-print(f"""// Tables of the single-precision functions, written by tools/math/tables.py.
+def render():
+    log_steps = [log_step(i) for i in range(LOG_STEPS)]
+    return f"""// Tables of the single-precision functions, written by generate/elementary_tables.py.
 #pragma once
 
 #include <cstdint>
@@ -130,4 +127,5 @@ inline constexpr ArcTangentStep kArcTangentSteps[14] = {{
 
 // clang-format on
 
-}}  // namespace quorvel::math::detail""")
+}}  // namespace quorvel::math::detail
+"""

@@ -1,0 +1,19 @@
+"""The files of the tree that are written by programs, and what writes them. Needs Debian's python3-mpmath."""
+
+import sys
+from pathlib import Path
+
+import elementary_tables
+import header
+
+ROOT = Path(__file__).parents[1]
+sys.path.insert(0, str(ROOT / "data" / "bands"))
+import make_bands  # noqa: E402
+
+
+def texts(families):
+    return {
+        ROOT / "include/quorvel.h": header.render(families),
+        ROOT / "src/math/tables.h": elementary_tables.render(),
+        ROOT / "data/bands/bands.csv": make_bands.table_text(),
+    }
