@@ -172,7 +172,7 @@ def load(folder):
     """All families of the catalogue in the order of families.toml, their topics by name."""
     folder = Path(folder)
     quantities, quantity_places = quantity_file.load(folder / "quantities.toml")
-    families, seen, used = [], {}, set()
+    families, seen, used = [], set(), set()
     titles, places = read(folder / "families.toml")
     for (name, table), place in zip(titles.items(), places):
         checks.check_keys(table, {"title": checks.is_text}, ["title"], place)
@@ -180,8 +180,8 @@ def load(folder):
         for path in sorted((folder / name).glob("*.toml")):
             for routine, where in _topic(path, quantities):
                 for own in (routine.export, f"{name}::{routine.name}"):
-                    where.require(own not in seen, f"{own} is described twice")
-                    seen[own] = where
+                    where.require(own not in seen, f"{own} is described twice", own.split(":")[-1])
+                    seen.add(own)
                 used.update(arg.quantity for arg in routine.args)
                 used.update([routine.result.quantity] if routine.result else [])
                 routines.append(routine)

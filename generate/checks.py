@@ -75,7 +75,8 @@ def check_selector(values, place):
 def check_described(thing, place):
     """Of a quantity, and of an argument or result that overrides parts of one."""
     place.require(thing.unit or thing.type in ("Integer", "Text"), "a real needs a unit (1 for a pure number)")
-    place.require(not thing.values or thing.type == "Integer" and not thing.range, "a selector is an Integer without range")
+    selects = thing.type == "Integer" and not thing.range
+    place.require(not thing.values or selects, "a selector is an Integer without range")
     check_selector(thing.values, place)
     if thing.type == "Integer":
         ends = (end for end in thing.range if abs(end) != float("inf"))

@@ -12,6 +12,7 @@ from pathlib import Path
 
 import catalogue
 import entry_points
+import example_table
 import exports
 import interface
 import routine_table
@@ -22,6 +23,7 @@ PRODUCTS = {
     "module-definition": exports.module_definition,
     "routine-names": exports.macro_calls,
     "routine-table": routine_table.render,
+    "examples": example_table.render,
 }
 FOLDERS = {"entry-points": entry_points.files}
 
@@ -63,7 +65,7 @@ def main():
         sys.exit(f"not as generated, run ./dev generate: {', '.join(map(str, stale))}")
     for output, text in stale.items():
         output.parent.mkdir(parents=True, exist_ok=True)
-        output.write_text(text, encoding="utf-8")
+        output.write_text(text, encoding="utf-8", newline="\n")
 
 
 if __name__ == "__main__":

@@ -95,6 +95,24 @@ def _paragraph(text, first, rest):
     return textwrap.wrap(text, WIDTH - 3, initial_indent=first, subsequent_indent=rest)
 
 
+def _shown(value):
+    return f"({', '.join(map(_shown, value))})" if isinstance(value, list) else f"{value:.9g}"
+
+
+def _example(routine):
+    """The first example as a call, where it fits into a line."""
+    first = next((example for example in routine.examples), None)
+    if not first or any(isinstance(value, str) for value in first.given.values()):
+        return []
+    given = ", ".join(_shown(first.given[arg.name]) for arg in routine.args if arg.name in first.given)
+    gives = []
+    for name, value in first.gives.items():
+        tolerance = f" +- {_shown(first.within[name])}" if first.within[name] else ""
+        gives.append(("" if name == "result" else f"{name} = ") + _shown(value) + tolerance)
+    line = f"Example: {routine.export}({given}) -> {', '.join(gives)}"
+    return [line] if len(line) <= WIDTH - 3 else []
+
+
 def comment(routine):
     """The routine's block, always in one order: purpose, given, returned, formula, notes, example, source."""
     lines = _paragraph(f"{routine.export} ({routine.name}): {routine.summary}", "", "    ")
@@ -114,6 +132,7 @@ def comment(routine):
         lines.append("Notes:")
         for note in routine.notes:
             lines += _paragraph(note, "    - ", "      ")
+    lines += _example(routine)
     lines += _paragraph(f"Source: {routine.source}", "", "    ")
     return "\n".join(["/*", *(f" * {line}".rstrip() for line in lines), " */"])
 

@@ -24,4 +24,4 @@ _WORDS = {
     "JavaScript": "arguments debugger eval extends instanceof super undefined",
     "R": "c f inf na nan t",
 }
-RESERVED = {word: language for language, words in _WORDS.items() for word in words.split()}
+RESERVED = {word: language for language, words in reversed(_WORDS.items()) for word in words.split()}

@@ -41,6 +41,7 @@ extern "C" {
  * Notes:
  *     - Within 0.02 kJ/kg of the ASHRAE tables from -20 to 50 °C, but 0.3 above them at -50 °C.
  *     - At 0 °C it is 0.0007 kJ/kg: the constant of the fit is deliberate.
+ * Example: PSHDRY(20) -> 20.12 +- 0.05
  * Source: Polynomial fit to tables of dry air; its author is not known.
  */
 QUORVEL_API float PSHDRY(const float *temperature);
@@ -53,6 +54,7 @@ QUORVEL_API float PSHDRY(const float *temperature);
  *     float  kJ/kg  specific enthalpy, from liquid water at 0 °C
  * Notes:
  *     - Within 0.5 kJ/kg of saturated steam from 0 to 60 °C (IAPWS 1995), within 7 at 100 °C.
+ * Example: PSHVAP(20) -> 2537.4 +- 0.5
  * Source: Polynomial fit to tables of water vapour; its author is not known.
  */
 QUORVEL_API float PSHVAP(const float *temperature);
@@ -66,6 +68,7 @@ QUORVEL_API float PSHVAP(const float *temperature);
  * Notes:
  *     - The pieces meet, but for steps of 0.00004 kJ/kgK up at 40 °C and down at 50 °C, which are
  *       deliberate.
+ * Example: PSCPDR(20) -> 1.006 +- 0.002
  * Source: Straight lines between tabulated values for each 10 K; the author of the table is not
  *     known.
  */
@@ -79,6 +82,7 @@ QUORVEL_API float PSCPDR(const float *temperature);
  *     float  kJ/kgK  specific heat
  * Notes:
  *     - Constant from 20 °C up.
+ * Example: PSCPVA(25) -> 1.912 +- 0.015
  * Source: Rounded engineering values; their author is not known.
  */
 QUORVEL_API float PSCPVA(const float *temperature);
@@ -93,6 +97,7 @@ QUORVEL_API float PSCPVA(const float *temperature);
  *     - At exactly 60 °C the result is 0: the table's row for it is empty, which is deliberate.
  *       Just below and above, it is 2357.9.
  *     - Within 0.5 kJ/kg of the international values (IAPWS 1995) from 0 to 60 °C.
+ * Example: PSHFG(20) -> 2453.5 +- 0.5
  * Source: Straight lines between tabulated values for each 10 K; the author of the table is not
  *     known.
  */
@@ -118,6 +123,7 @@ QUORVEL_API float PSHFG(const float *temperature);
  *     - Not limited: a reading drier than any air gives a negative content, a vapour pressure above
  *       the atmospheric too.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Example: PSGS(25, 25, 101325, 1) -> 0.020173 +- 8.1e-05
  * Source: Vapour pressure of PSVAP; the enhancement factor f is a quadratic in absolute temperature
  *     whose coefficients are linear in pressure.
  */
@@ -138,6 +144,7 @@ QUORVEL_API float PSGS(const float *dry_bulb, const float *wet_bulb, const float
  *     - Not limited: supersaturated air gives more than 100.
  *     - Percentage saturation is not relative humidity, the ratio of vapour pressures, and is the
  *       lower of the two.
+ * Example: PSPCST(25, 0.020173, 101325) -> 100 +- 0.5
  * Source: Definition, with the saturation moisture content of PSGS.
  */
 QUORVEL_API float PSPCST(const float *dry_bulb, const float *moisture_content,
@@ -161,6 +168,7 @@ QUORVEL_API float PSPCST(const float *dry_bulb, const float *moisture_content,
  *     - Saturated air at 101325 Pa is within 0.07 kJ/kg of the ASHRAE tables from -20 to 30 °C,
  *       within 0.2 % up to 50 °C.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Example: PSHWET(25, 25, 101325, 1) -> 76.504 +- 0.22
  * Source: Enthalpies of PSHDRY and PSHVAP, moisture content of PSGS.
  */
 QUORVEL_API float PSHWET(const float *dry_bulb, const float *wet_bulb, const float *pressure,
@@ -177,6 +185,7 @@ QUORVEL_API float PSHWET(const float *dry_bulb, const float *wet_bulb, const flo
  * Notes:
  *     - A moisture content above saturation counts as saturation.
  *     - Per kilogram of dry air: the reciprocal is not the density of the moist air.
+ * Example: PSSPVL(25, 0.020173, 101325) -> 0.872 +- 0.001
  * Source: Virial equation of the mixture, written for 101325 Pa (1.0045 is the enhancement factor
  *     there); its author is not known.
  */
@@ -198,6 +207,7 @@ QUORVEL_API float PSSPVL(const float *dry_bulb, const float *moisture_content,
  *       less than that, or above it by 0.001 K at most.
  *     - Where the search would never end (a pressure so low that the water boils, an argument that
  *       is not a number), the value it has reached is returned: some ten thousand degrees.
+ * Example: PSTSAT(76.504, 101325) -> 25 +- 0.06
  * Source: Enthalpy of PSHWET, solved by a step-and-refine search.
  */
 QUORVEL_API float PSTSAT(const float *enthalpy, const float *pressure);
@@ -286,6 +296,7 @@ QUORVEL_API void TPPOOL2(const float *water_area, const float *wetted_area,
  *       water, 610.30 over ice); the step is deliberate.
  *     - Within 0.4 % of the international formulation from -20 to 150 °C, within 1 % down to -40
  *       °C.
+ * Example: PSSVP(20) -> 2339.3 +- 9.4
  * Source: National Engineering Laboratory, Steam Tables 1964, in the reduced form that building
  *     services guides print.
  */
@@ -301,6 +312,7 @@ QUORVEL_API float PSSVP(const float *temperature);
  * Formula: pv = rh / 100 ps(t)
  * Notes:
  *     - Relative humidity is limited to 0 to 100 %, not rejected.
+ * Example: PSVP(20, 50) -> 1169.7 +- 4
  * Source: Definition of relative humidity, with the saturation pressure of PSSVP.
  */
 QUORVEL_API float PSVP(const float *dry_bulb, const float *relative_humidity);
@@ -323,6 +335,7 @@ QUORVEL_API float PSVP(const float *dry_bulb, const float *relative_humidity);
  *       temperature.
  *     - The result is not limited: a reading drier than any air gives a negative pressure.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Example: PSVAP(25, 20, 101325, 1) -> 2002 +- 9
  * Source: Psychrometer equation with the customary coefficients A.
  */
 QUORVEL_API float PSVAP(const float *dry_bulb, const float *wet_bulb, const float *pressure,
@@ -339,6 +352,7 @@ QUORVEL_API float PSVAP(const float *dry_bulb, const float *wet_bulb, const floa
  * Notes:
  *     - Two equal temperatures give that temperature. Infinite where the second is above the first
  *       by 34.61 K.
+ * Example: PSTEFF(20, 10) -> 17.15983 +- 1e-05
  * Source: The derivation is not known, so the second temperature has no other meaning than the
  *     formula's.
  */
@@ -363,6 +377,7 @@ QUORVEL_API float PSTEFF(const float *first_temperature, const float *second_tem
  *     - Relative humidity is limited to 0 to 100 %. Where the search would never end (a pressure of
  *       zero or below, say), the value it has reached is returned.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Example: PSTWET(30, 50, 101325, 1) -> 22 +- 0.2
  * Source: Psychrometer equation of PSVAP, solved by a step-and-refine search.
  */
 QUORVEL_API float PSTWET(const float *dry_bulb, const float *relative_humidity,
@@ -388,6 +403,7 @@ QUORVEL_API float PSTWET(const float *dry_bulb, const float *relative_humidity,
  *     - Where the search would never end (below absolute zero, say), the value it has reached is
  *       returned.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Example: PSTWB(30, 50, 101325, 1) -> 22.28 +- 0.05
  * Source: Psychrometer equation of PSVAP with the moisture content of PSGS, solved by a step-and-
  *     refine search.
  */
@@ -413,6 +429,7 @@ QUORVEL_API float PSTWB(const float *dry_bulb, const float *percentage_saturatio
  *     - Where the search would never end (a moisture content that is not a number, or far below 0),
  *       the value it has reached is returned.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ * Example: PSWBLB(30, 0.013666, 101325, 1) -> 22.28 +- 0.05
  * Source: Psychrometer equation of PSVAP with the moisture content of PSGS, solved by a step-and-
  *     refine search.
  */
@@ -488,6 +505,7 @@ QUORVEL_API void TPADMT(const float *thickness, const float *conductivity, const
  *     - A width below 0.001 gives 0.1, where TPRCA2 and TPRCAX give 0: deliberate. Not a number
  *       stays so.
  *     - The emissivities of the faces are 0.85 and 0.86.
+ * Example: TPRCAV(0.025) -> 0.18 +- 0.01
  * Source: As TPRCA2.
  */
 QUORVEL_API float TPRCAV(const float *cavity_width);
@@ -509,6 +527,7 @@ QUORVEL_API float TPRCAV(const float *cavity_width);
  *       between 0, 0.785 and 1.57, and carried on as far as 1.59. From there the air rests and only
  *       conducts: the resistance jumps.
  *     - Two faces of emissivity 0 leave the exchange undefined (0/0).
+ * Example: TPRCA2(3.1415927, 0.05, 0.9, 0.9) -> 0.21 +- 0.006
  * Source: EN 673, Glass in building - Determination of thermal transmittance: C and n for vertical,
  *     inclined and horizontal cavities, and air at 10 °C with 15 K between the faces.
  */
@@ -559,6 +578,7 @@ QUORVEL_API float TPRCAX(const float *tilt, const float *cavity_width, const flo
  *       whatever its resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
  *     - A count below 1 gives 0.
  *     - Results are in N s/kg, resistivities in GN s/(kg m).
+ * Example: TPDAMP((0.1), (50), 1) -> vapour_resistance = 5e+09 +- 1000
  * Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
  */
 QUORVEL_API void TPDAMP(const float *thickness, const float *vapour_resistivity,
@@ -632,6 +652,7 @@ QUORVEL_API void TPGRAD(const float *thickness, const float *conductivity,
  *     - A cold face that is not below the warm one, or a temperature that is no number, gives 0.
  *     - Where the temperature is so large that a step of 0.5 K is lost in its rounding (8.4 million
  *       °C), the search ends there with 0.
+ * Example: ITPCON(20, 0, 1400, 1000) -> 1
  * Source: Straight lines of temperature and vapour pressure through a homogeneous layer, against
  *     the saturation pressure of PSSVP.
  */
@@ -670,6 +691,7 @@ QUORVEL_API int32_t ITPCON(const float *warm_temperature, const float *cold_temp
  *       whichever valid record is asked about.
  *     - The complements of an undefined packed field, items 34, 35, 44, 45, 52 and 53, are -1e20 or
  *       -2e20, not 1e20: deliberate.
+ * Example: BELDAT((101, 100, 0.04, 0, 0, 0, 0, 0, 0, 0), 1, 1, 2) -> 100
  * Source: Layout of the element records.
  */
 QUORVEL_API float BELDAT(const float *element_records, const int32_t *record_count,
@@ -694,6 +716,7 @@ QUORVEL_API float BELDAT(const float *element_records, const int32_t *record_cou
  *     - The coefficients 1.23 and 1.50 of a vertical surface have the laminar term larger than the
  *       turbulent one, with an upward flow it is the other way round; both are as published.
  *     - A length of 0 gives an infinite coefficient, one below 0 no number but for a downward flow.
+ * Example: TPHCON(4, 2.5, 2) -> 2.0691 +- 0.001
  * Source: Alamdari and Hammond, Improved data correlations for buoyancy-driven convection in rooms,
  *     Building Services Engineering Research and Technology 4, 1983.
  */
@@ -717,6 +740,7 @@ QUORVEL_API float TPHCON(const float *temperature_difference, const float *chara
  * Notes:
  *     - As TPCOLT with a third fraction of 0, which is not returned: what stands above 100 is
  *       ignored.
+ * Example: TPCOLW(1, 0, 0.25, 0.4) -> packed_number = 40.25 +- 1e-05
  * Source: As TPCOLT.
  */
 QUORVEL_API void TPCOLW(const int32_t *packing, float *packed_number, float *fraction_1,
@@ -749,6 +773,7 @@ QUORVEL_API void TPCOLW(const int32_t *packing, float *packed_number, float *fra
  *     - All triples from 0.00 to 0.99 come back, as hundredths times the float 0.01: for 29 of the
  *       hundred fractions, 0.40 among them, that is the float next to the nearest.
  *     - A fraction of 1.00 is carried into the next one, 1 into 2 and 2 into 3.
+ * Example: TPCOLT(1, 0, 0.25, 0.4, 0.07) -> packed_number = 740.25 +- 0.0001
  * Source: Format of the packed property numbers of element records (BELDAT).
  */
 QUORVEL_API void TPCOLT(const int32_t *packing, float *packed_number, float *fraction_1,
@@ -800,6 +825,7 @@ QUORVEL_API void TPCOLW2(const int32_t *packing, float *packed_number, float *fr
  *     - A face that neither absorbs nor reflects transmits 1.00, which is carried into the next
  *       position.
  *     - Absorptance and reflectance of a face that exceed 1 together do not come back.
+ * Example: TPCOSW(1, 0, 0.1, 0.2, 0.3) -> packed_number = 6070.1 +- 0.001
  * Source: As TPCOLT.
  */
 QUORVEL_API void TPCOSW(const int32_t *packing, float *packed_number, float *absorptance,
@@ -820,6 +846,7 @@ QUORVEL_API void TPCOSW(const int32_t *packing, float *packed_number, float *abs
  *     - Another surface type gives 0. Another exposure counts as the nearest one.
  *     - An inside vertical surface has 1 / 8.23 = 0.12 m²K/W.
  *     - The tilt is not tested.
+ * Example: TPRSUR(2, 1.5707963, 2) -> 0.12 +- 0.0055
  * Source: Radiation and convection side by side. The customary values of inside surfaces (0.10 up,
  *     0.12 horizontal, 0.14 down) and of outside ones in normal and severe exposure (walls 0.06 and
  *     0.03, roofs 0.04 and 0.02) are met to two decimals; the origin of the convective coefficients
@@ -843,6 +870,7 @@ QUORVEL_API float TPRSUR(const int32_t *surface, const float *tilt, const int32_
  *     - Another surface type gives 0. Another exposure counts as the nearest one.
  *     - At an emissivity of 0.9 it is TPRSUR to rounding.
  *     - Tilt and emissivity are not tested.
+ * Example: TPRSU2(2, 1.5707963, 2, 0.9) -> 0.12 +- 0.005
  * Source: As TPRSUR, with black-body coefficients of 5.1 W/m²K outside and 5.7 W/m²K inside.
  */
 QUORVEL_API float TPRSU2(const int32_t *surface, const float *tilt, const int32_t *exposure,
@@ -864,6 +892,7 @@ QUORVEL_API float TPRSU2(const int32_t *surface, const float *tilt, const int32_
  *     - A count below 1 leaves the two surfaces alone; no array is read.
  *     - How far below 0 a thickness is makes no difference here; it does in TPDAMP and TPGRAD.
  *     - A thickness that is no number gives no number.
+ * Example: TPUVAL((0.1, 0.1), (0.04, 1), 0.13, 0.04, 2) -> u_value = 0.361011 +- 1e-06
  * Source: Resistances in series; ISO 6946.
  */
 QUORVEL_API void TPUVAL(const float *thickness, const float *conductivity,
@@ -887,6 +916,7 @@ QUORVEL_API void TPUVAL(const float *thickness, const float *conductivity,
  *     - Above 5.49 W/m²K, what the two surfaces of the wall let through by themselves, the layers
  *       would have a negative resistance; the result is formed with it all the same.
  *     - An exposure below 1 counts as 1, above 3 as 3. The tilt is not limited.
+ * Example: TPUMOD(0.6, 0, 2) -> 0.615 +- 0.003
  * Source: Surface resistances of TPRSUR, exchanged.
  */
 QUORVEL_API float TPUMOD(const float *u_value, const float *tilt, const int32_t *exposure);
@@ -988,6 +1018,7 @@ QUORVEL_API void WNDRGL(const float *normal_transmittance, const float *normal_r
  * Notes:
  *     - The pane is taken exactly as by WNDRGL, coated and opaque glass included.
  *     - The bits are those of WNDRGL summed over the bands.
+ * Example: WNDFGL(0.83, 0) -> transmittance = 0.75 +- 0.01
  * Source: WNDRGL at the centres of 18 bands of 5 degrees, each weighted with the integral of 2 sin
  *     cos over the band.
  */
@@ -1098,6 +1129,7 @@ QUORVEL_API void WNDFRO(const float *blind_transmittance, const float *blind_ref
  *     - Where the sine of the incidence is below 0.01 in size the result is incidence /
  *       refractive_index, the ratio of the angles in place of that of the sines.
  *     - An index so far below 1 that the reflection is total gives no number.
+ * Example: WNRANG(0.5235988, 1.526) -> 0.333819 +- 2e-06
  * Source: Snell's law.
  */
 QUORVEL_API float WNRANG(const float *incidence, const float *refractive_index);
@@ -1137,6 +1169,7 @@ QUORVEL_API void WNREFL(const float *incidence, const float *refraction_angle,
  * Result:
  *     float  1  absorbed share
  * Formula: 1 - exp(-absorption_product / cos(refraction_angle))
+ * Example: WNABEN(0.6035, 0.0736) -> 0.0855 +- 0.0001
  * Source: Bouguer's law of absorption.
  */
 QUORVEL_API float WNABEN(const float *refraction_angle, const float *absorption_product,
@@ -1178,6 +1211,7 @@ QUORVEL_API void WNTAR(const float *single_pass_absorptance, const float *face_r
  *     - Above the transmittance of glass that absorbs nothing, 0.918 for an index of 1.52, the
  *       result is negative.
  *     - A transmittance of 0 and an index of 1 divide by zero and give no finite number.
+ * Example: WNKL(0.8516, 1.526) -> 0.0736 +- 5e-05
  * Source: The slab of WNTAR at normal incidence, solved for the absorption.
  */
 QUORVEL_API float WNKL(const float *normal_transmittance, const float *refractive_index);
@@ -1192,6 +1226,7 @@ QUORVEL_API float WNKL(const float *normal_transmittance, const float *refractiv
  * Notes:
  *     - The second argument is a reflectance, ((n - 1) / (n + 1))^2, where WNKL takes the
  *       refractive index.
+ * Example: WNTNOR(0.0736, 0.043362) -> 0.8516 +- 1e-05
  * Source: The slab of WNTAR at normal incidence.
  */
 QUORVEL_API float WNTNOR(const float *absorption_product, const float *normal_reflectance);
@@ -1222,6 +1257,7 @@ QUORVEL_API float WNTNOR(const float *absorption_product, const float *normal_re
  * Notes:
  *     - Only as many absorbed values are read as there are panes. Four panes are calculated as
  *       five: what the fifth absorbs is read (give 0 for it), and its temperature is written.
+ * Example: WNTEMP(20, 0, 1, 100, 0, 0, 0, 0) -> pane_temperature_1 = 10.67 +- 0.1
  * Source: Heat balance of the panes with fixed resistances: 0.12 m²K/W at the room side, 0.06 m²K/W
  *     outdoors; coefficients rounded to two decimals.
  */
@@ -1392,6 +1428,7 @@ QUORVEL_API void WNDRS0(const int32_t *radiation, const float *shortwave_shading
  *       the profile angle below 1e-6, or the angle 1.570796 or more in size) meets an opaque sheet
  *       with the absorptance of the slats.
  *     - The mirror image, with both angles negative, gives the same bits.
+ * Example: WNDRSL(1, 1, 45, -0.785398, 0.5) -> transmittance = 1, absorptance = 0, reflectance = 0
  * Source: Exchange factors by H. C. Hottel's crossed strings, and the inter-reflection between two
  *     neighbouring slats.
  */
@@ -1590,6 +1627,7 @@ QUORVEL_API void WNDFS3(const float *slat_spacing, const float *slat_width,
  *     - The table built in is representative and not measured; data/bands tells how it was made and
  *       how to build with data of your own. Q1 to Q8 mean what the table's maker says; the meanings
  *       here are those of the table built in.
+ * Example: CLBAND(10, 6, 1, 0) -> percentage = 100 +- 0.0001
  * Source: Linear interpolation in the band table.
  */
 QUORVEL_API void CLBAND(const int32_t *band, const int32_t *month, const int32_t *band_set,
@@ -1634,6 +1672,7 @@ QUORVEL_API void CLBAN1(const float *fraction, const int32_t *month, const float
  * Notes:
  *     - Rows base_row + lower_band and base_row + upper_band outside 1 to 184 count as the nearest
  *       row, a month outside 1 to 12 as the nearest month.
+ * Example: CLBAN2(2, 10, 10, 1, 0) -> value = 1
  * Source: Linear interpolation in the band table.
  */
 QUORVEL_API void CLBAN2(const int32_t *base_row, const int32_t *lower_band,
@@ -1650,6 +1689,7 @@ QUORVEL_API void CLBAN2(const int32_t *base_row, const int32_t *lower_band,
  *     - Rows of a set: 1 time A, 2 time B, 3 to 12 cumulative frequency F of bands 1 to 10, 13 to
  *       22 Q1, 23 to 32 Q2 and so on to Q8.
  *     - A row below 1 counts as 1, above 184 as 184.
+ * Example: CLBAN3(12) -> values = (1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1)
  * Source: The band table; see data/bands.
  */
 QUORVEL_API void CLBAN3(const int32_t *row, float *values);
@@ -1663,6 +1703,7 @@ QUORVEL_API void CLBAN3(const int32_t *row, float *values);
  * Notes:
  *     - A month outside 1 to 12 gives 0.
  *     - The year has 365 days.
+ * Example: CLDAY(6) -> day = 172 +- 1
  * Source: Table of customary design days, close to the 21st of each month.
  */
 QUORVEL_API void CLDAY(const int32_t *month, int32_t *day);
@@ -1679,6 +1720,7 @@ QUORVEL_API void CLDAY(const int32_t *month, int32_t *day);
  *     - The two counts are separate sets and not the same date: in February day 52 of the year (the
  *       21st) stands beside the 20th.
  *     - A month outside 1 to 12 gives 0; another way of counting counts as 2.
+ * Example: CLDAYEX(12, 1) -> day = 21 +- 1
  * Source: Table of customary design days, close to the 21st of each month.
  */
 QUORVEL_API void CLDAYEX(const int32_t *month, int32_t *day, const int32_t *day_kind);
@@ -1692,6 +1734,7 @@ QUORVEL_API void CLDAYEX(const int32_t *month, int32_t *day, const int32_t *day_
  * Notes:
  *     - A month outside 1 to 12 gives 0.
  *     - The year has 365 days.
+ * Example: ICLDAY(6) -> 172 +- 1
  * Source: Table of customary design days, close to the 21st of each month.
  */
 QUORVEL_API int32_t ICLDAY(const int32_t *month);
@@ -1707,6 +1750,7 @@ QUORVEL_API int32_t ICLDAY(const int32_t *month);
  *     - The two counts are separate sets and not the same date: in February day 52 of the year (the
  *       21st) stands beside the 20th.
  *     - A month outside 1 to 12 gives 0; another way of counting counts as 2.
+ * Example: ICLDAYEX(12, 2) -> 355 +- 1
  * Source: Table of customary design days, close to the 21st of each month.
  */
 QUORVEL_API int32_t ICLDAYEX(const int32_t *month, const int32_t *day_kind);
@@ -1720,6 +1764,7 @@ QUORVEL_API int32_t ICLDAYEX(const int32_t *month, const int32_t *day_kind);
  * Notes:
  *     - A month outside 1 to 12 gives 0.
  *     - The year has 365 days.
+ * Example: ICLDA2(6) -> 172
  * Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
  */
 QUORVEL_API int32_t ICLDA2(const int32_t *month);
@@ -1735,6 +1780,7 @@ QUORVEL_API int32_t ICLDA2(const int32_t *month);
  * Notes:
  *     - Both counts are the same date here.
  *     - A month outside 1 to 12 gives 0; another way of counting counts as 2.
+ * Example: ICLDA2EX(7, 1) -> 4
  * Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
  */
 QUORVEL_API int32_t ICLDA2EX(const int32_t *month, const int32_t *day_kind);
@@ -1846,6 +1892,7 @@ QUORVEL_API void CLBNF1(const float *fraction, const int32_t *month, int32_t *lo
  * Notes:
  *     - Rows base_row + lower_band and base_row + upper_band outside 1 to 171 count as the nearest
  *       row of the station, a month outside 1 to 12 as the nearest month.
+ * Example: CLBNF2(12, 3, 4, 1, 0.5) -> value = 0.532542 +- 2e-05
  * Source: Linear interpolation in the bands of the climate data file.
  */
 QUORVEL_API void CLBNF2(const int32_t *base_row, const int32_t *lower_band,
@@ -1861,6 +1908,7 @@ QUORVEL_API void CLBNF2(const int32_t *base_row, const int32_t *lower_band,
  *     values  float  1    value of each month [12]; left as it was when the file cannot be read
  * Notes:
  *     - A station has 171 rows; numbers outside count as the first or the last.
+ * Example: CLBNF3(1) -> values = (15, 14, 15, 15, 16, 14, 16, 15, 14, 16, 14, 14)
  * Source: Climate data file.
  */
 QUORVEL_API void CLBNF3(const int32_t *row, float *values);
@@ -1883,6 +1931,7 @@ QUORVEL_API void CLBNF3(const int32_t *row, float *values);
  *       no number.
  *     - Pi is 3.141593 here, a step above the float nearest to it, so the extremes are met to
  *       rounding.
+ * Example: CLTAO(14, 25, 15, 14, 4) -> 25 +- 0.0001
  * Source: Two half cosine waves.
  */
 QUORVEL_API float CLTAO(const float *hour, const float *highest_temperature,
@@ -1906,6 +1955,7 @@ QUORVEL_API float CLTAO(const float *hour, const float *highest_temperature,
  *     - The order of the hours is not checked: with the second before the first, the wave that
  *       should go through midnight runs beyond its extreme.
  *     - Pi as in CLTAO.
+ * Example: CLTAOX(15, 20, 5, 3, 15, -1) -> 25 +- 0.0001
  * Source: Two half cosine waves.
  */
 QUORVEL_API float CLTAOX(const float *hour, const float *mean, const float *amplitude,
@@ -1930,6 +1980,7 @@ QUORVEL_API float CLTAOX(const float *hour, const float *mean, const float *ampl
  *       negative. The direct irradiance falls by 2 W/m² where the polynomial takes over.
  *     - An altitude beyond 1.5707964 in size gives two zeros. A sky kind below 0 counts as 0, above
  *       1 as 1.
+ * Example: CLSNNR(0.523599, 0, 0) -> direct_normal = 740 +- 7.4
  * Source: Polynomials through the design irradiances of a clear and a cloudy sky that building
  *     services guides print.
  */
@@ -1947,6 +1998,7 @@ QUORVEL_API void CLSNNR(const float *solar_altitude, const float *solar_azimuth,
  * Notes:
  *     - 1 below 300 m, and for suns whose sine of altitude is below 0.08; the factor jumps from 1
  *       to 1.041 or more at 300 m.
+ * Example: CLHIGH(0, 0.5235988) -> 1
  * Source: Linear fit to height corrections of design irradiance.
  */
 QUORVEL_API float CLHIGH(const float *site_height, const float *solar_altitude);
@@ -1960,6 +2012,7 @@ QUORVEL_API float CLHIGH(const float *site_height, const float *solar_altitude);
  *     float  1  factor
  * Notes:
  *     - 0.967 to 1.033; greatest in the first days of January.
+ * Example: CLETAJ(3) -> 1.034 +- 0.002
  * Source: Correction of the European Solar Radiation Atlas, 1 + 0.03344 cos(day angle - 2.8
  *     degrees).
  */
@@ -1975,6 +2028,7 @@ QUORVEL_API float CLETAJ(const int32_t *day);
  *     float  1  clearness index
  * Notes:
  *     - An altitude of 0 divides by zero: infinite, or not a number for an irradiance of 0.
+ * Example: CLMODUL(94, 0.5235988, 341.75) -> 0.5 +- 0.003
  * Source: B. Y. H. Liu and R. C. Jordan, Solar Energy 4 (1960), with a solar constant of 1367 W/m²
  *     and the eccentricity of CLETAJ.
  */
@@ -2044,6 +2098,7 @@ QUORVEL_API void CLMUNRAD(const float *solar_altitude, const float *solar_azimut
  *       two rows of coefficients belongs to the lower. The result jumps between rows, as the
  *       published model does.
  *     - Altitude, diffuse and extraterrestrial irradiance of 0 divide by zero.
+ * Example: CLPERSKY(0.8, 0, 300, 150, 0.7707963, 1367) -> surface_diffuse = 150 +- 0.01
  * Source: R. Perez, P. Ineichen, R. Seals, J. Michalsky and R. Stewart, Modeling daylight
  *     availability and irradiance components from direct and global irradiance, Solar Energy 44
  *     (1990): composite of all sites, coefficients with all their places. Air mass: F. Kasten and
@@ -2094,6 +2149,7 @@ QUORVEL_API void CLCONS(const int32_t *site_class, const int32_t *month, float *
  *       and -0.62 otherwise; the side of the surface does not matter here.
  *     - Models 1 and 2 divide by the sine of the altitude: at 0 the factor is infinite or no
  *       number.
+ * Example: CLDIFRAD(100, 0.8, 300, 0, 1) -> 1 +- 1e-06
  * Source: T. Muneer, Solar radiation model for Europe, Building Services Engineering Research and
  *     Technology 11 (1990), with a solar constant of 1367 W/m² and the eccentricity of CLETAJ.
  */
@@ -2124,6 +2180,7 @@ QUORVEL_API float CLDIFRAD(const int32_t *day, const float *solar_altitude,
  *     - From a beam of 5 W/m² on, a sun below 0.1 rad has a form of its own, which follows the
  *       clearness but not the model. The result jumps there.
  *     - Divides by the sine of the altitude: at 0 the result is infinite or no number.
+ * Example: CLDIFSLO(100, 0.8, 3, 0, 0, 300, 150, 2) -> 150 +- 0.01
  * Source: As CLDIFRAD. Low sun: the clear sky of R. C. Temps and K. L. Coulson (Solar Energy 19,
  *     1977) with the modulation by T. M. Klucher (Solar Energy 23, 1979), the beam clearness in
  *     place of his factor.
@@ -2150,6 +2207,7 @@ QUORVEL_API float CLDIFSLO(const int32_t *day, const float *solar_altitude,
  * Notes:
  *     - The absorptance weighs the long-wave loss as it does the irradiance.
  *     - A coefficient of 0 divides by zero.
+ * Example: CLTEO(20, 25, 1, 500, 100) -> 36 +- 1e-05
  * Source: Heat balance of an outer surface.
  */
 QUORVEL_API float CLTEO(const float *base_temperature, const float *surface_coefficient,
@@ -2167,6 +2225,7 @@ QUORVEL_API float CLTEO(const float *base_temperature, const float *surface_coef
  * Notes:
  *     - Horizontal 93 - 79 cloud_cover, vertical 21 - 17 cloud_cover, between them by the cosine of
  *       the tilt. Less than nothing is 0; not a number stays so.
+ * Example: CLRERD(0, 0) -> 93 +- 0.0001
  * Source: Net long-wave losses of horizontal and vertical surfaces by cloud cover, as building
  *     services guides print them; meaning of the arguments inferred from these values.
  */
@@ -2189,6 +2248,7 @@ QUORVEL_API float CLRERD(const float *tilt, const float *cloud_cover);
  *       the wrong sign.
  *     - The equation of time stays within 0.7 min of the true one.
  *     - The hour is rounded to 0.2618 rad here and not in CLSNGE: deliberate.
+ * Example: CLTCOR(0, 307, 0, 0) -> 0.2737 +- 0.012
  * Source: Fourier series of the equation of time to the third harmonic, of the kind given by J. W.
  *     Spencer, Search 2 (1971); coefficients refitted.
  */
@@ -2253,6 +2313,7 @@ QUORVEL_API void CLYALLOP(const int32_t *time_kind, const int32_t *year, const i
  *       at Greenwich.
  *     - Dates as in CLYALLOP. A latitude of 1.5707964, or its negative, is by rounding just beyond
  *       the pole: midnight sun and polar night change places there.
+ * Example: CLRISESET(2010, 6, 21, 0.898845) -> sunrise = 3.798 +- 0.003, sunset = 20.202 +- 0.003
  * Source: Declination as CLYALLOP; sunrise equation.
  */
 QUORVEL_API void CLRISESET(const int32_t *year, const int32_t *month, const int32_t *day_of_month,
@@ -2339,6 +2400,7 @@ QUORVEL_API void CLSNSR(const float *solar_altitude, const float *solar_azimuth,
  *       whatever the hemisphere.
  *     - Nothing is limited: a negative altitude or irradiance gives negative parts. An angle that
  *       is not a number gives a direct irradiance of 0.
+ * Example: CLSORD(0.5235988, 3.14159, 0, 0, 800, 100, 0, 1, 1) -> surface_beam = 400 +- 0.1
  * Source: Cosine law; isotropic sky and ground by view factors (B. Y. H. Liu and R. C. Jordan,
  *     Solar Energy 4, 1960), with an empirical darkening to the north.
  */
@@ -2510,6 +2572,7 @@ QUORVEL_API void GEHOLE(const float *x_1, const float *y_1, const int32_t *verti
  *       fewer than one. Not a number counts as equal to anything.
  *     - Coordinates near one another within 1e-5 can leave no two points to draw the line through;
  *       then the points are not on one line, and finding that out takes n²/2 comparisons.
+ * Example: IGELIN((0, 1, 2), (0, 1, 2), 3) -> 1
  * Source: Intercept theorem.
  */
 QUORVEL_API int32_t IGELIN(const float *x, const float *y, const int32_t *points);
@@ -2587,6 +2650,7 @@ QUORVEL_API void GESIDE(const float *segment_start, const float *segment_end, co
  *     - That the point is in the plane is not tested: over the middle of a square it is inside up
  *       to half the length of a side.
  *     - Fewer than one edge, and not a number, give 0.
+ * Example: GEINSI((0.5, 0.5, 0), (0, 0, 0, 0, 1, 0, 1, 1, 0, 1, 0, 0, 0, 0, 0), 5) -> inside = 1
  * Source: Sum of the angles under which the point sees the edges.
  */
 QUORVEL_API void GEINSI(const float *point, const float *polygon, const int32_t *vertices,
@@ -2602,6 +2666,7 @@ QUORVEL_API void GEINSI(const float *point, const float *polygon, const int32_t 
  * Notes:
  *     - So they are when the cross product of their normals, each as long as twice the triangle's
  *       area, is shorter than 0.001: small triangles are parallel to any.
+ * Example: GEPLEL((0, 0, 0, 1, 0, 0, 0, 1, 0), (0, 0, 1, 1, 0, 1, 0, 1, 1)) -> -1
  * Source: Definition.
  */
 QUORVEL_API int32_t GEPLEL(const double *triangle_1, const double *triangle_2);
@@ -2634,6 +2699,7 @@ QUORVEL_API int32_t GEPSID(const double *triangle_1, const double *triangle_2, i
  * Notes:
  *     - So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in
  *       magnitude.
+ * Example: GERECT((0, 0, 0, 2, 0, 0, 2, 1, 0, 0, 1, 0)) -> -1
  * Source: Definition.
  */
 QUORVEL_API int32_t GERECT(const double *quadrilateral);
@@ -2653,6 +2719,7 @@ QUORVEL_API int32_t GERECT(const double *quadrilateral);
  *       than 1e-10, gets the given azimuth times 180/pi.
  *     - Azimuths of 360 or more are reduced by 360 once; from 359.99 on they become 0.
  *     - A triangle without area gives a tilt that is not a number.
+ * Example: GETILT((0, 0, 0, 0, 0, 1, 1, 0, 1), 0) -> azimuth = 180 +- 1e-06, tilt = 90 +- 1e-06
  * Source: Definition.
  */
 QUORVEL_API void GETILT(const double *triangle, double *azimuth, double *tilt);
@@ -2703,6 +2770,7 @@ QUORVEL_API void GETRNS(double *corners, const double *x_axis, const double *y_a
  *     - Parallel lines give 1e20 in both coordinates: those for which |ab| |cd| times the sine of
  *       the angle between them is below 1e-10.
  *     - Any of the points may be vectors; their z is not read.
+ * Example: GEMEET((0, 0), (1, 1), (0, 2), (2, 0)) -> meeting_point = (1, 1)
  * Source: Elementary analytic geometry.
  */
 QUORVEL_API void GEMEET(const float *line_1_start, const float *line_1_end,
@@ -2721,6 +2789,7 @@ QUORVEL_API void GEMEET(const float *line_1_start, const float *line_1_end,
  *     - Segments that do not meet, and parallel ones whether they meet or not, give 1e20 in both
  *       coordinates. Not a number counts as not meeting.
  *     - A segment reaches almost 0.0001 beyond its ends in x and in y.
+ * Example: GECROS((0, 0), (2, 2), (0, 2), (2, 0)) -> crossing_point = (1, 1)
  * Source: As GEMEET.
  */
 QUORVEL_API void GECROS(const float *segment_1_start, const float *segment_1_end,
@@ -2739,6 +2808,7 @@ QUORVEL_API void GECROS(const float *segment_1_start, const float *segment_1_end
  *     - That the point is on the line is not tested: the answer is whether it is in the box of
  *       which A and B are corners.
  *     - Not a number in y or z of the point does not exclude it.
+ * Example: GEINLN((0, 0, 0), (2, 2, 2), (1, 1, 1)) -> 1
  * Source: Definition.
  */
 QUORVEL_API float GEINLN(const float *first_end, const float *second_end, const float *point);
@@ -2754,6 +2824,7 @@ QUORVEL_API float GEINLN(const float *first_end, const float *second_end, const 
  * Notes:
  *     - A itself counts, B does not; so nothing does where the two coincide.
  *     - Not a number anywhere gives 1.
+ * Example: GEINLN2((0, 0, 0), (2, 2, 2), (1, 1, 1)) -> 1
  * Source: Definition.
  */
 QUORVEL_API float GEINLN2(const float *first_end, const float *second_end, const float *point);
@@ -2767,6 +2838,7 @@ QUORVEL_API float GEINLN2(const float *first_end, const float *second_end, const
  *     y_2  float  m  any  y of the other
  * Result:
  *     int32_t  -1 if both coordinates differ by less than 1e-5, else 0
+ * Example: GECOIN(1, 2, 1.000001, 2) -> -1
  * Source: Definition.
  */
 QUORVEL_API int32_t GECOIN(const float *x_1, const float *y_1, const float *x_2, const float *y_2);
@@ -2782,6 +2854,7 @@ QUORVEL_API int32_t GECOIN(const float *x_1, const float *y_1, const float *x_2,
  * Notes:
  *     - Where the two points of the line are the same the line runs north.
  *     - Not a number gives 0.
+ * Example: IGEPNT((0, 0), (0, 1), (1, 0.5)) -> 1
  * Source: Distance of a point from a line by its bearing.
  */
 QUORVEL_API int32_t IGEPNT(const float *line_start, const float *line_end, const float *point);
@@ -2797,6 +2870,7 @@ QUORVEL_API int32_t IGEPNT(const float *line_start, const float *line_end, const
  *     - It is the remainder of 630 - angle by 360 with the sign of the dividend: angles above 630
  *       give negative results.
  *     - Magnitudes from 1000 on are no angles and are returned as they are.
+ * Example: BORI(90) -> 180
  * Source: Definition.
  */
 QUORVEL_API float BORI(const float *angle);
@@ -2808,6 +2882,7 @@ QUORVEL_API float BORI(const float *angle);
  *     solar_azimuth   float  rad  0 .. 6.2832        azimuth
  * Returned:
  *     direction  float  1    direction [3]
+ * Example: GESUNV(0.5235988, 1.5707963) -> direction = (0.8660254, 0, 0.5) +- 1e-06
  * Source: Spherical to rectangular coordinates.
  */
 QUORVEL_API void GESUNV(const float *solar_altitude, const float *solar_azimuth, float *direction);
@@ -2827,6 +2902,7 @@ QUORVEL_API void GESUNV(const float *solar_altitude, const float *solar_azimuth,
  *       outwards; the axes are right-handed.
  *     - Elements of the matrix below 1e-5 in magnitude are set to 0. The inverse, by elimination
  *       with full pivoting, is the transpose to rounding.
+ * Example: GERSET(0, 1.5707963) -> rotation_matrix = (-1, 0, 0, 0, 0, 1, 0, 1, 0) +- 1e-06
  * Source: Rotation matrices; Gauss-Jordan elimination.
  */
 QUORVEL_API void GERSET(const float *surface_azimuth, const float *tilt, float *rotation_matrix,
@@ -2839,6 +2915,7 @@ QUORVEL_API void GERSET(const float *surface_azimuth, const float *tilt, float *
  *     rotation_matrix  float  1  -1 .. 1  rotation matrix [3, 3]
  * Returned:
  *     global_vector  float  m    vector in global coordinates [3]
+ * Example: GERAXI((1, 2, 3), (0, 1, 0, -1, 0, 0, 0, 0, 1)) -> global_vector = (-2, 1, 3)
  * Source: Definition.
  */
 QUORVEL_API void GERAXI(const float *local_vector, const float *rotation_matrix,
@@ -2852,6 +2929,7 @@ QUORVEL_API void GERAXI(const float *local_vector, const float *rotation_matrix,
  *     rotation_matrix  float  1  -1 .. 1  rotation matrix [3, 3]
  * Returned:
  *     local_vector  float  m    vector in local coordinates [3]
+ * Example: GERAX2((-2, 1, 3), (0, 1, 0, -1, 0, 0, 0, 0, 1)) -> local_vector = (1, 2, 3)
  * Source: Definition.
  */
 QUORVEL_API void GERAX2(const float *global_vector, const float *rotation_matrix,
@@ -2868,6 +2946,7 @@ QUORVEL_API void GERAX2(const float *global_vector, const float *rotation_matrix
  * Notes:
  *     - Fewer than one vertex give 0.
  *     - A polygon far from the origin beside its size loses digits.
+ * Example: GEAPOL((0, 0, 1, 1), (0, 1, 1, 0), 4) -> 1
  * Source: Shoelace formula.
  */
 QUORVEL_API float GEAPOL(const float *x, const float *y, const int32_t *vertices);
@@ -2882,6 +2961,7 @@ QUORVEL_API float GEAPOL(const float *x, const float *y, const int32_t *vertices
  *     float  m²  area, negative for anticlockwise vertices
  * Notes:
  *     - As GEAPOL.
+ * Example: GEAPO2((0, 0, 1, 1), (0, 1, 1, 0), 4) -> 1
  * Source: Shoelace formula.
  */
 QUORVEL_API float GEAPO2(const float *x, const float *y, const int32_t *vertices);
@@ -2899,6 +2979,7 @@ QUORVEL_API float GEAPO2(const float *x, const float *y, const int32_t *vertices
  *     - It is the sum of the triangles over the edges with the mean of the vertices as apex, all
  *       counted as positive: too large for a polygon that is not seen whole from there.
  *     - Fewer than one vertex give 0.
+ * Example: GEAPO3((0, 0, 1, 1), (0, 3, 3, 0), (0, 4, 4, 0), 4) -> 5 +- 1e-05
  * Source: Elementary geometry.
  */
 QUORVEL_API float GEAPO3(const float *x, const float *y, const float *z, const int32_t *vertices);
@@ -2942,6 +3023,7 @@ QUORVEL_API void GEASO(const int32_t *vertices, const float *polygon, float *are
  * Notes:
  *     - A direction parallel to the plane (its dot product with the normal of magnitude 1e-15 or
  *       less, or not a number) gives 1e20 in all coordinates.
+ * Example: GEPROJ((0, 0, 0), (0, 0, 1), (0, 0, 5), (1, 0, -1)) -> projected_point = (5, 0, 0)
  * Source: Elementary analytic geometry.
  */
 QUORVEL_API void GEPROJ(const float *plane_point, const float *plane_normal, const float *point,
@@ -2963,6 +3045,7 @@ QUORVEL_API void GEPROJ(const float *plane_point, const float *plane_normal, con
  *     - Forwards means that the way from the point to its projection, scaled to length 1, differs
  *       from the direction, scaled so, by 1e-6 at most in each component. Coordinates that are
  *       large beside the way to the plane can spoil that by rounding.
+ * Example: GEPROJ2((0, 0, 0), (0, 0, 1), (0, 0, 5), (1, 0, -1)) -> projected_point = (5, 0, 0)
  * Source: As GEPROJ.
  */
 QUORVEL_API void GEPROJ2(const float *plane_point, const float *plane_normal, const float *point,
@@ -2982,6 +3065,7 @@ QUORVEL_API void GEPROJ2(const float *plane_point, const float *plane_normal, co
  *     - A direction parallel to the plane (as in GEPROJ) gives what the division by zero makes of
  *       it: infinities, not a number or points far off.
  *     - Ahead is as in GEPROJ2.
+ * Example: GEPROJ3((0, 0, 0), (0, 0, 1), (0, 0, 5), (-1, 0, 1)) -> projected_point = (0, 0, 5)
  * Source: As GEPROJ.
  */
 QUORVEL_API void GEPROJ3(const float *plane_point, const float *plane_normal, const float *point,
@@ -2994,6 +3078,7 @@ QUORVEL_API void GEPROJ3(const float *plane_point, const float *plane_normal, co
  *     vector_b  float  m  any  vector [3]
  * Result:
  *     float  m²  a . b
+ * Example: GEDOTP((1, 2, 3), (4, 5, 6)) -> 32
  * Source: Definition.
  */
 QUORVEL_API float GEDOTP(const float *vector_a, const float *vector_b);
@@ -3005,6 +3090,7 @@ QUORVEL_API float GEDOTP(const float *vector_a, const float *vector_b);
  *     vector_b  double  m  any  vector [3]
  * Result:
  *     double  m²  a . b
+ * Example: GEDTDP((1, 2, 3), (4, 5, 6)) -> 32
  * Source: Definition.
  */
 QUORVEL_API double GEDTDP(const double *vector_a, const double *vector_b);
@@ -3016,6 +3102,7 @@ QUORVEL_API double GEDTDP(const double *vector_a, const double *vector_b);
  *     vector_b  float  m  any  vector [3]
  * Returned:
  *     cross_product  float  m²    a x b [3]
+ * Example: GEXPRO((1, 2, 3), (4, 5, 6)) -> cross_product = (-3, 6, -3)
  * Source: Definition.
  */
 QUORVEL_API void GEXPRO(const float *vector_a, const float *vector_b, float *cross_product);
@@ -3027,6 +3114,7 @@ QUORVEL_API void GEXPRO(const float *vector_a, const float *vector_b, float *cro
  *     vector_b  double  m  any  vector [3]
  * Returned:
  *     cross_product  double  m²    a x b [3]
+ * Example: GEXPDP((1, 2, 3), (4, 5, 6)) -> cross_product = (-3, 6, -3)
  * Source: Definition.
  */
 QUORVEL_API void GEXPDP(const double *vector_a, const double *vector_b, double *cross_product);
@@ -3040,6 +3128,7 @@ QUORVEL_API void GEXPDP(const double *vector_a, const double *vector_b, double *
  * Notes:
  *     - Squares beyond the range of a float make the length infinite or 0: from about 1e19, below
  *       about 1e-23.
+ * Example: GEVMOD((3, 4, 12)) -> 13
  * Source: Definition.
  */
 QUORVEL_API float GEVMOD(const float *vector);
@@ -3050,6 +3139,7 @@ QUORVEL_API float GEVMOD(const float *vector);
  *     vector  double  m  any  vector [3]
  * Result:
  *     double  m  length
+ * Example: GEVMDP((3, 4, 12)) -> 13
  * Source: Definition.
  */
 QUORVEL_API double GEVMDP(const double *vector);

@@ -5,19 +5,16 @@
 #include "check/arithmetic.h"
 #include "check/bits.h"
 #include "check/library_identity.h"
-#include "check/value_cases.h"
 #include "common/options.h"
 #include "common/program.h"
+#include "conformance/climate_file.h"
+#include "conformance/examples.h"
 #include "conformance/routine_table.h"
 #include "quorvel/library.h"
 
 namespace {
 
 using namespace quorvel;
-
-constexpr const char* values_table =
-#include "check_values.inc"
-    ;
 
 class Report {
   public:
@@ -72,11 +69,12 @@ void report_arithmetic(Report& report) {
 }
 
 void report_values(Report& report) {
-    const auto cases = check::parse_value_cases(values_table);
+    const conformance::ExampleFolder folder;
     std::vector<std::string> faults;
-    for (const auto& value_case : cases)
-        if (auto fault = check::fault_of(value_case); !fault.empty()) faults.push_back(fault);
-    report.verdict("values", std::to_string(cases.size()) + " published values are met",
+    for (const auto& example : conformance::examples())
+        if (auto fault = conformance::fault_of(example); !fault.empty()) faults.push_back(fault);
+    report.verdict("values",
+                   std::to_string(conformance::examples().size()) + " published examples are met",
                    first_of(faults, "\n"));
 }
 

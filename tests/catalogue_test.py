@@ -1,0 +1,58 @@
+#!/usr/bin/env python3
+"""The reader of the catalogue rejects what it does not know, and names the file and the line."""
+
+import shutil
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+ROOT = Path(__file__).parents[1]
+sys.path.insert(0, str(ROOT / "generate"))
+import catalogue  # noqa: E402
+
+QUANTITIES, TOPIC = "quantities.toml", "psychro/saturation.toml"
+
+GLOSS = "[gloss]\nunit = '1'\nmeaning = 'gloss'\n"
+CHOICE, PRESSURE = '{ is = "psychrometer" }', '{ is = "pressure" }'
+
+# File, a text that stands there once, what stands in its place, and the complaint about that line.
+FAULTS = [
+    (QUANTITIES, 'unit = "Pa s"', 'units = "Pa s"', "unknown key units"),
+    (QUANTITIES, 'unit = "Pa s"', "unit = 3", "unit must not be 3"),
+    (QUANTITIES, "[viscosity]", "[type]", "type is a reserved word of Python"),
+    (QUANTITIES, "[viscosity]", GLOSS + "[viscosity]", "no routine has the quantity gloss"),
+    (QUANTITIES, "sling = [1,", "sling = [2,", "two values of the selector have one number"),
+    (QUANTITIES, "range = [50000, 110000]", "range = [110000, 50000]", "range must not be [110000, 50000]"),
+    (TOPIC, 'export = "PSVAP"', 'export = "PSVP"', "PSVP is described twice"),
+    (TOPIC, 'export = "PSVAP"', 'export = "psvap"', "not an exported name"),
+    (TOPIC, CHOICE, '{ is = "hygrometer" }', "there is no quantity hygrometer"),
+    (TOPIC, CHOICE, '{ is = "psychrometer", name = "unit" }', "unit is a reserved word of Pascal"),
+    (TOPIC, CHOICE, '{ is = "psychrometer", name = "pressure" }', "pressure stands twice"),
+    (TOPIC, CHOICE, '{ is = "psychrometer", shape = ["count"] }', "extent count is no Integer that is given"),
+    (TOPIC, CHOICE, '{ is = "psychrometer", draw = [0.5, 2] }', "an Integer is drawn from whole ends"),
+    (TOPIC, PRESSURE, '{ is = "pressure", range = [1, inf] }', "an input without upper or lower limit needs a draw"),
+    (TOPIC, 'psychrometer = "sling" }', 'psychrometer = "hair" }', "hair is no value of the selector"),
+    (TOPIC, "pressure = 101325,", "humidity = 101325,", "humidity is not given to PSVAP"),
+    (TOPIC, "pressure = 101325,", "", "pressure is not given"),
+    (TOPIC, "gives = { result = 2002 }", "gives = { wet_bulb = 2002 }", "wet_bulb is not returned by PSVAP"),
+    (TOPIC, "within = 9,", "within = { wet_bulb = 9 },", "within needs a tolerance for each result"),
+]
+
+
+class Reader(unittest.TestCase):
+    def test_faults(self):
+        for file, text, fault, complaint in FAULTS:
+            with self.subTest(fault), tempfile.TemporaryDirectory() as folder:
+                copy = Path(shutil.copytree(ROOT / "catalogue", Path(folder, "catalogue")))
+                content = (copy / file).read_text(encoding="utf-8")
+                self.assertEqual(content.count(text), 1)
+                line = content[:content.index(text)].count("\n") + 1
+                (copy / file).write_text(content.replace(text, fault), encoding="utf-8")
+                with self.assertRaises(catalogue.CatalogueError) as caught:
+                    catalogue.load(copy)
+                self.assertEqual(str(caught.exception), f"{copy / file}:{line}: {complaint}")
+
+
+if __name__ == "__main__":
+    unittest.main()
