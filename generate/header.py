@@ -12,12 +12,13 @@ PREAMBLE = """\
  * Produced from the catalogue of routines (catalogue/); do not edit.
  *
  * Every argument is passed by reference, inputs are never written, and arrays are one-based in the
- * texts and stored column by column. A text is a row of characters that ends with a NUL. Angles are
- * in radians; azimuths run from north, clockwise seen from above (east pi/2, south pi); tilt and
- * solar altitude are measured from the horizontal. Routines report no errors: what an argument
- * outside its range gets is said in the notes. Logical results are -1 (true) and 0 (false); 1.0e20
- * stands for a quantity that does not exist. Every routine is re-entrant. Only those of the climate
- * data file (CLBNF0 and following) have a state; they share it in a process, behind a lock.
+ * texts and stored column by column. A text is a row of characters that ends with a NUL (CLBNF0 says
+ * how from languages that write none). Angles are in radians; azimuths run from north, clockwise
+ * seen from above (east pi/2, south pi); tilt and solar altitude are measured from the horizontal.
+ * Routines report no errors: what an argument outside its range gets is said in the notes. Logical
+ * results are -1 (true) and 0 (false); 1.0e20 stands for a quantity that does not exist. Every
+ * routine is re-entrant. Only those of the climate data file (CLBNF0 and following) have a state;
+ * they share it in a process, behind a lock.
  */
 #ifndef QUORVEL_H
 #define QUORVEL_H

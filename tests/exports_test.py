@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The library exports exactly the routines of the catalogue and all those of the last release, says
-its version, and needs no library beyond the system's own.
+its version, needs no library beyond the system's own, and nothing of the folder or the libraries
+that it meets in a process.
 
     exports_test.py VERSION LIBRARY
 """
@@ -9,6 +10,7 @@ import re
 import struct
 import subprocess
 import sys
+import tempfile
 import unittest
 from pathlib import Path
 
@@ -24,6 +26,14 @@ SYSTEM = {"KERNEL32.dll", "msvcrt.dll"} if WINDOWS else {"libc.so.6", "libm.so.6
 
 def output_of(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+
+def is_elf(path):
+    return path.is_file() and path.read_bytes()[:4] == b"\x7fELF"
+
+
+def described():
+    return {routine.export for family in catalogue.load(ROOT / "catalogue") for routine in family.routines}
 
 
 def windows_exports():
@@ -42,9 +52,8 @@ def needed():
 
 class Exports(unittest.TestCase):
     def test_exactly_the_catalogue(self):
-        described = {routine.export for family in catalogue.load(ROOT / "catalogue") for routine in family.routines}
         exported = windows_exports() if WINDOWS else elf_exports()
-        self.assertEqual(exported, described)
+        self.assertEqual(exported, described())
 
     def test_hosts_find_what_the_last_release_exports(self):
         """A routine may come, but none go or change how it is called, unless SOVERSION rises: ./dev interface."""
@@ -75,6 +84,39 @@ class Exports(unittest.TestCase):
         for name, value in {"ProductName": "Quorvel", "ProductVersion": VERSION, "FileVersion": VERSION,
                             "FileDescription": "Building-physics and building-services calculations"}.items():
             self.assertRegex(texts, f"{name}\0+{re.escape(value)}\0")
+
+    @unittest.skipIf(WINDOWS, "binds no names of its own")
+    def test_no_routine_is_called_by_its_exported_name(self):
+        relocated = set(re.findall(r"(\w+)\S* \+ ", output_of("readelf", "-rW", LIBRARY)))
+        self.assertTrue(relocated)
+        self.assertFalse(relocated & described())
+
+    @unittest.skipIf(WINDOWS, "has no run paths")
+    def test_run_paths_start_at_the_file(self):
+        # An empty element is the folder in which a program is started.
+        with tempfile.TemporaryDirectory() as prefix:
+            output_of("cmake", "--install", LIBRARY.parent, "--prefix", prefix)
+            for path in filter(is_elf, (*LIBRARY.parent.iterdir(), *Path(prefix).rglob("*"))):
+                for run_path in re.findall(r"R(?:UN)?PATH +(.*)", output_of("objdump", "-p", path)):
+                    for element in run_path.split(":"):
+                        self.assertRegex(element, r"^\$ORIGIN(/|$)", f"{path}: {run_path}")
+
+    @unittest.skipUnless(WINDOWS, "has no such notifications")
+    def test_thread_notifications_can_be_switched_off(self):
+        headers = output_of("objdump", "-p", LIBRARY)
+        # Windows refuses it to libraries with thread-local storage.
+        self.assertTrue("DisableThreadLibraryCalls" in headers)
+        self.assertEqual(re.search(r"Entry 9 (\w+) (\w+) Thread Storage", headers).groups(), ("0" * 16, "0" * 8))
+
+    @unittest.skipUnless(WINDOWS, "has start files")
+    def test_nothing_is_left_to_start_files(self):
+        lines = map(str.split, output_of("nm", LIBRARY).splitlines())
+        symbols = {line[2]: int(line[0], 16) for line in lines if len(line) == 3}
+        entry = re.search(r"start address (\w+)", output_of("objdump", "-f", LIBRARY)).group(1)
+        self.assertEqual(symbols["DllMain"], int(entry, 16))
+        # Next to each other: no constructors between the two ends of their list, no relocations in theirs.
+        self.assertEqual(symbols["__DTOR_LIST__"] - symbols["__CTOR_LIST__"], 16)
+        self.assertEqual(symbols["__RUNTIME_PSEUDO_RELOC_LIST__"], symbols["__RUNTIME_PSEUDO_RELOC_LIST_END__"])
 
     def test_no_transcendental_function_of_the_platform(self):
         if WINDOWS:

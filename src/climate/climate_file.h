@@ -117,11 +117,16 @@ ClimateFileReader<File>::~ClimateFileReader() {
     state_.buffered = record_number(state_.station, static_cast<int>(last_), state_.H);
 }
 
+// Remembered is the full name, under which the file is found after a change of folder. It may be
+// too long, or lead through folders that must not be searched, where the name given opens the file.
 template <class File>
 bool ClimateFileReader<File>::open(const char* name, Integer station) noexcept {
-    FileName trimmed;
-    if (!trimmed.assign(name) || !file_.open(trimmed.c_str())) return false;
-    state_.name = trimmed;
+    FileName given;
+    if (!given.assign(name)) return false;
+    const auto full = File::in_full(given);
+    const bool by_full = full && file_.open(full->c_str());
+    if (!by_full && !file_.open(given.c_str())) return false;
+    state_.name = by_full ? *full : given;
     select(file_unit, station);
     return true;
 }

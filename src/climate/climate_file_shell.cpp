@@ -11,6 +11,7 @@ using namespace quorvel;
 namespace {
 
 constinit Lock lock;
+[[maybe_unused]] const KeptOverForks<lock> kept_over_forks;
 constinit climate::ClimateFileState state;
 
 // Every call works under the lock; a call that finds something unreadable leaves its outputs alone.

@@ -15,13 +15,20 @@
 namespace quorvel::climate {
 namespace {
 
-// open_regular gives -1 for what is no regular file; read_at gives the number of bytes read, at
-// most `size`, and none at the end of the file or after an error.
+// write_in_full has room for a folder and a name, and is false where the name is a full one
+// already. open_regular gives -1 for what is no regular file; read_at gives the number of bytes
+// read, at most `size`, and none at the end of the file or after an error.
 
 #ifdef _WIN32
 HANDLE handle_of(std::intptr_t handle) noexcept { return reinterpret_cast<HANDLE>(handle); }
 
 void close_handle(std::intptr_t handle) noexcept { CloseHandle(handle_of(handle)); }
+
+bool write_in_full(const char* name, char* text) noexcept {
+    constexpr DWORD room = 2 * FileName::capacity;
+    const DWORD length = GetFullPathNameA(name, room, text, nullptr);
+    return length > 0 && length < room && std::strcmp(text, name) != 0;
+}
 
 std::intptr_t open_regular(const char* name) noexcept {
     // Others may replace or remove the file meanwhile, as they can elsewhere.
@@ -47,6 +54,14 @@ static_assert(sizeof(off_t) == 8, "offsets go beyond 2 GiB");
 
 void close_handle(std::intptr_t handle) noexcept { close(static_cast<int>(handle)); }
 
+bool write_in_full(const char* name, char* text) noexcept {
+    if (name[0] == '/' || !getcwd(text, FileName::capacity)) return false;
+    const std::size_t length = std::strlen(text);
+    text[length] = '/';
+    std::strcpy(text + length + 1, name);
+    return true;
+}
+
 std::intptr_t open_regular(const char* name) noexcept {
     // Without O_NONBLOCK the opening of a named pipe waits for a writer.
     const int file = open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
@@ -66,6 +81,13 @@ std::size_t read_at(std::intptr_t handle, std::int64_t offset, char* to,
 #endif
 
 }  // namespace
+
+std::optional<FileName> RecordFile::in_full(const FileName& name) noexcept {
+    char text[2 * FileName::capacity];
+    FileName full;
+    if (!write_in_full(name.c_str(), text) || !full.assign(text)) return {};
+    return full;
+}
 
 RecordFile::~RecordFile() {
     if (is_open()) close_handle(handle_);

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 
 #include "climate/bands.h"
 
@@ -14,22 +15,25 @@ using Record = std::array<MonthlyRow, 9>;
 static_assert(sizeof(Record) == 432);
 
 // A name without its trailing blanks. Longer ones than the capacity name no file that could be
-// opened.
+// opened. No more of a text is read: it may have no end.
 class FileName {
   public:
     // False, and the name is as before, when it is too long.
     bool assign(const char* text) noexcept {
-        std::size_t length = std::strlen(text);
+        std::size_t length = 0;
+        while (length < text_.size() && text[length] != '\0') ++length;
         while (length > 0 && text[length - 1] == ' ') --length;
-        if (length >= text_.size()) return false;
+        if (length == text_.size()) return false;
         std::memcpy(text_.data(), text, length);
         text_[length] = '\0';
         return true;
     }
     const char* c_str() const noexcept { return text_.data(); }
 
+    static constexpr std::size_t capacity = 4096;  // with the NUL
+
   private:
-    std::array<char, 4096> text_{};
+    std::array<char, capacity> text_{};
 };
 
 class RecordFile {
@@ -39,8 +43,12 @@ class RecordFile {
     RecordFile(const RecordFile&) = delete;
     RecordFile& operator=(const RecordFile&) = delete;
 
-    // Once in the object's life. Only regular files are opened: never one that could wait for data
-    // or that has no end.
+    // The name that means the same file from any folder; none if the given one does, or if that is
+    // too long or cannot be told.
+    static std::optional<FileName> in_full(const FileName& name) noexcept;
+
+    // Once with success in the object's life. Only regular files are opened: never one that could
+    // wait for data or that has no end.
     bool open(const char* name) noexcept;
     bool is_open() const noexcept { return handle_ != closed; }
 

@@ -55,16 +55,17 @@ CondensationProfile condensation_profile(const LayerResistances& layers, Real U,
                      profile.saturation_pressure[i]);
     };
 
+    // Without layers the two surfaces are one, which has the values of the inside.
+    set_temperature(layers.size, outside.temperature + outside.surface_resistance * flux);
     set_temperature(0, inside.temperature - inside.surface_resistance * flux);
     Real resistance = inside.surface_resistance;
     for (int i = 1; i < layers.size; ++i) {
         resistance += layers.thermal[i - 1];
         set_temperature(i, inside.temperature - flux * resistance);
     }
-    set_temperature(layers.size, outside.temperature + outside.surface_resistance * flux);
 
-    set_vapour_pressure(0, inside);
     set_vapour_pressure(layers.size, outside);
+    set_vapour_pressure(0, inside);
     bend_to_saturation(layers, profile);
     return profile;
 }

@@ -46,8 +46,7 @@ struct LayerResistances {
     PerLayer<Real> vapour;   // N s/kg
 };
 
-// U is the steady transmittance [W/m²K]. Only the interfaces of the layers, of which there is at
-// least one, are filled in.
+// U is the steady transmittance [W/m²K]. Only the interfaces of the layers are filled in.
 CondensationProfile condensation_profile(const LayerResistances& layers, Real U,
                                          const Climate& inside, const Climate& outside) noexcept;
 

@@ -15,7 +15,7 @@ void TPGRAD(const Real* thickness, const Real* conductivity, const Real* resisti
             const Real* R_inside, const Real* R_outside, const Integer* n, const Real* t_inside,
             const Real* t_outside, const Real* rh_inside, const Real* rh_outside, Real* temperature,
             Real* vapour_pressure, Real* saturation_pressure) {
-    if (*n < 1 || *n > fabric::most_layers) return;
+    if (*n < 0 || *n > fabric::most_layers) return;
     const fabric::Layers layers(*n, [=](int i) {
         return fabric::Layer{thickness[i], conductivity[i], 0.0f, resistivity[i]};
     });

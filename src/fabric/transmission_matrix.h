@@ -26,16 +26,24 @@ constexpr Complex operator/(Complex z, Real divisor) noexcept {
     return {z.re / divisor, z.im / divisor};
 }
 
-// Numerators and squared modulus are double: elements beyond 1e19 are common in heavy walls.
+// Products are double in the quotient and the moduli: elements beyond 1e19 are common in heavy
+// walls, and so are their reciprocals, the decrement factors. No single has a square beyond double.
+constexpr DoubleReal squared_modulus(Complex z) noexcept {
+    const auto re = static_cast<DoubleReal>(z.re), im = static_cast<DoubleReal>(z.im);
+    return re * re + im * im;
+}
+
 constexpr Complex operator/(Complex a, Complex b) noexcept {
     const auto a_re = static_cast<DoubleReal>(a.re), a_im = static_cast<DoubleReal>(a.im);
     const auto b_re = static_cast<DoubleReal>(b.re), b_im = static_cast<DoubleReal>(b.im);
-    const DoubleReal square = b_re * b_re + b_im * b_im;
+    const DoubleReal square = squared_modulus(b);
     return {static_cast<Real>((a_re * b_re + a_im * b_im) / square),
             static_cast<Real>((a_im * b_re - a_re * b_im) / square)};
 }
 
-inline Real modulus(Complex z) noexcept { return math::sqrt(z.re * z.re + z.im * z.im); }
+inline Real modulus(Complex z) noexcept {
+    return static_cast<Real>(math::sqrt(squared_modulus(z)));
+}
 inline Real phase(Complex z) noexcept { return math::atan2(z.im, z.re); }
 
 struct TransmissionMatrix {

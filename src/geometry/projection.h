@@ -46,10 +46,11 @@ inline SpacePoint forward_projection(const Plane& plane, const Ray& ray) noexcep
     return ahead(ray, point) ? point : far_point;
 }
 
-// What a parallel ray gives is left as the division by zero makes it: meant so.
+// Without the limit for parallel rays: only what a division by zero makes is left as it is, and
+// meant so.
 inline SpacePoint forward_projection_or_start(const Plane& plane, const Ray& ray) noexcept {
     const SpacePoint point = intersection(plane, ray);
-    return parallel(plane, ray) || ahead(ray, point) ? point : ray.start;
+    return dot(ray.direction, plane.normal) == 0.0f || ahead(ray, point) ? point : ray.start;
 }
 
 }  // namespace quorvel::geometry

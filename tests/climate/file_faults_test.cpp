@@ -129,6 +129,12 @@ TEST_F(FaultyFile, TrailingBlanksOfANameDoNotCount) {
     EXPECT_TRUE(is_filled(whole, 1));
     for (const std::size_t blanks : {1, 3, 5000, 1 << 20})
         EXPECT_EQ(read(library, name + std::string(blanks, ' ')), whole) << blanks;
+    // One without a NUL, as of a fixed length, is read up to the longest name and no further.
+    std::vector<char> fixed(5000, 'x');
+    std::fill_n(std::ranges::copy(name, fixed.begin()).out, 4096 - name.size(), ' ');
+    Records records = request();
+    library.CLBNF0(fixed.data(), 1, 0, records);
+    EXPECT_EQ(records, whole);
     const auto with_blanks = folder.path() / " two  words";
     image.save(with_blanks);
     EXPECT_EQ(read(library, with_blanks.string() + " "), whole);

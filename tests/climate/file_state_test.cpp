@@ -75,6 +75,26 @@ TEST_F(ClimateFileState, HeaderIsReadOncePerLoad) {
     EXPECT_NE(january(fresh, 12), other.image.value(2, 12, 1));
 }
 
+TEST_F(ClimateFileState, ARelativeNameIsFoundFromOtherFolders) {
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    open(library, "first", 1);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(january(library, 12), first.image.value(1, 12, 1));
+#ifndef _WIN32
+    // Where the full name would be too long the file opens all the same.
+    std::filesystem::current_path(folder.path());
+    for (int depth = 0; depth < 20; ++depth) {
+        std::filesystem::create_directory(std::string(250, 'd'));
+        std::filesystem::current_path(std::string(250, 'd'));
+    }
+    other.image.save("deep");
+    open(library, "deep", 1);
+    EXPECT_EQ(january(library, 12), other.image.value(1, 12, 1));
+    std::filesystem::current_path(before);
+#endif
+}
+
 TEST_F(ClimateFileState, SixteenThreadsGetWhatOneGets) {
     constexpr int threads = 16, calls = 200;
     const auto records = [&](int thread) {

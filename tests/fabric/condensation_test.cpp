@@ -121,6 +121,21 @@ TEST(CondensationProfile, OfOneLayer) {
     EXPECT_EQ(one.P[2], untouched);
 }
 
+// The glass of a window, say: one surface, at which the inside air meets the outside.
+TEST(CondensationProfile, OfNoLayersIsThatOfTheOneSurface) {
+    Profile p = profile({}, 20.0f, 0.0f, 50.0f, 80.0f);
+    EXPECT_NEAR(p.T[0], 20.0f * 0.04f / 0.17f, 1e-5f);
+    EXPECT_EQ(p.Ps[0], lib::PSSVP(p.T[0]));
+    EXPECT_EQ(p.P[0], p.Ps[0]);
+    p = profile({}, 20.0f, 0.0f, 10.0f, 80.0f);
+    EXPECT_EQ(p.P[0], lib::PSVP(20.0f, 10.0f));
+    EXPECT_EQ(p.T[1], untouched);
+    EXPECT_EQ(p.P[1], untouched);
+    lib::TPGRAD(&p.T[2], &p.T[2], &p.T[2], 0.1f, 0.1f, -1, 20.0f, 0.0f, 50.0f, 80.0f, &p.T[2],
+                &p.P[2], &p.Ps[2]);
+    EXPECT_EQ(p.T[2], untouched);
+}
+
 TEST(CondensationWithinALayer, LooksEveryHalfKelvin) {
     const struct {
         float t1, t2, p1, p2;

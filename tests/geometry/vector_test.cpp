@@ -198,8 +198,26 @@ TEST(Projection, OfPointsInThePlaneAndOfParallelDirections) {
     const Vec3 high{0, 0, 1};
     const Projections nearly(origin, up, high, {0, 0, -0.99e-15f});
     EXPECT_EQ(nearly.any, nowhere);
-    EXPECT_NEAR(nearly.or_start[2], 0.0f, 1e-6f);
     EXPECT_NEAR(Projections(origin, up, high, {0, 0, -1.01e-15f}).any[2], 0.0f, 1e-6f);
+}
+
+TEST(Projection, OrStartIsTheSameForANormalOfAnyLength) {
+    // The direction of a window's plane but for rounding, as a sun at the zenith casts it, too.
+    const Vec3 zenith{0, -4.3711388e-15f, 1}, point{0, 1, 0}, south{0, 0.25f, 0};
+    EXPECT_EQ(Projections({0, 2, 0}, south, point, zenith).or_start, point);
+    Random random(4);
+    for (int i = 0; i < 20000; ++i) {
+        const auto p0 = random_vector<float>(random, 1.0), p = random_vector<float>(random, 10.0);
+        const auto d = random_vector<float>(random, 1.0);
+        auto n = random_vector<float>(random, 1.0);
+        const Vec3 expected = Projections(p0, n, p, d).or_start;
+        for (float& component : n) component = std::ldexp(component, -60);
+        EXPECT_EQ(Projections(p0, n, p, d).or_start, expected);
+    }
+    // Only what a division by zero makes stays as it is.
+    const Vec3 level = Projections({0, 0, 0}, {0, 0, 1}, {1, 2, 3}, {1, 0, 0}).or_start;
+    EXPECT_EQ(level[0], -std::numeric_limits<float>::infinity());
+    EXPECT_TRUE(std::isnan(level[2]));
 }
 
 TEST(Projection, IsAheadOnlyWhenTheDirectionCanBeTold) {

@@ -55,7 +55,10 @@ inline C over(C a, C b) {
 inline C exponential(C z) {
     return {math::exp(z.re) * math::cos(z.im), math::exp(z.re) * math::sin(z.im)};
 }
-inline float absolute(C z) { return math::sqrt(z.re * z.re + z.im * z.im); }
+inline float absolute(C z) {
+    const double re = z.re, im = z.im;
+    return static_cast<float>(math::sqrt(re * re + im * im));
+}
 
 struct CyclicResponse {
     float Y, omega, f, phi, F, psi, U;
