@@ -12,8 +12,8 @@ TYPES = {"Real": "Real", "DoubleReal": "DoubleReal", "Integer": "Integer", "Text
 VALUES = {
     (2,): "geometry::PlanVector<{}>",
     (3,): "geometry::SpaceVector<{}>",
-    (3, 3): "geometry::Matrix3<{}>",
-    (3, 4): "geometry::Quadrilateral<{}>",
+    (3, 3): "geometry::Columns<{}, 3>",
+    (3, 4): "geometry::Columns<{}, 4>",
 }
 
 
