@@ -8,12 +8,6 @@
 
 namespace quorvel::geometry {
 
-// Stands for a point that does not exist.
-template <class R>
-constexpr PlanVector<R> far_point_in_plan() noexcept {
-    return {R(undefined), R(undefined)};
-}
-
 // Where the lines AB and CD meet; far away when they are parallel.
 template <class R>
 PlanVector<R> meeting_point(PlanVector<R> a, PlanVector<R> b, PlanVector<R> c,

@@ -5,12 +5,6 @@
 
 namespace quorvel::geometry {
 
-// Stands for a point that does not exist.
-template <class R>
-constexpr SpaceVector<R> far_point() noexcept {
-    return {R(undefined), R(undefined), R(undefined)};
-}
-
 template <class R>
 MaskOf<R> parallel_to_plane(SpaceVector<R> normal, SpaceVector<R> d) noexcept {
     return !(absolute(dot(d, normal)) > 1.0e-15f);

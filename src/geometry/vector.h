@@ -32,6 +32,16 @@ using SpaceVector = Vector<R, 3>;
 template <class R, std::size_t n>
 using Columns = std::array<SpaceVector<R>, n>;
 
+// Stand for a point that does not exist.
+template <class R>
+constexpr PlanVector<R> far_point_in_plan() noexcept {
+    return {R(undefined), R(undefined)};
+}
+template <class R>
+constexpr SpaceVector<R> far_point() noexcept {
+    return {R(undefined), R(undefined), R(undefined)};
+}
+
 template <class R>
 constexpr PlanVector<R> operator+(PlanVector<R> a, PlanVector<R> b) noexcept {
     return {a.x + b.x, a.y + b.y};

@@ -106,7 +106,7 @@ TEST(Collinearity, OfTellingPoints) {
         {{{0, 0}, {2, 0}, {1, 1}}, 3, "the slanted pair is 1 and 3, and point 2 is off it"},
         {{{0, 0}, {0.9e-5f, 0}, {1, 1}, {2, 2}}, 1, "points 1 and 2 are no slanted pair"},
         {{{0, 0}, {1, 1}, {2, 2 + 0.8e-5f}}, 1, "off by less than the tolerance"},
-        {{{0, 0}, {1, 1}, {2, 2 + 1.2e-5f}}, 2, "off by more"},
+        {{{0, 0}, {1, 1}, {2, 2 + 1.05e-5f}}, 2, "off by more"},
         {{{0, 0}, {1000, 1000}, {500, 500.004f}}, 1, "a long pair tolerates more"},
         {{{0, 0}, {0, 5}, {3, 0}}, 2, "the corner is off the line of the other two"},
         {{{0, 0}, {1.5e-5f, 0}, {0.7e-5f, 5}}, 3, "no two of them differ in both coordinates"},
