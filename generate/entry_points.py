@@ -10,12 +10,10 @@ TYPES = {"Real": "Real", "DoubleReal": "DoubleReal", "Integer": "Integer"}
 
 # What core functions take for a fixed number of values
 VALUES = {
-    ("Real", (2,)): "geometry::PlanVector<Real>",
-    ("Real", (3,)): "geometry::SpaceVector<Real>",
-    ("Real", (3, 3)): "geometry::RotationMatrix<Real>",
-    ("DoubleReal", (3,)): "geometry::SpaceVector<DoubleReal>",
-    ("DoubleReal", (3, 3)): "geometry::Triangle<DoubleReal>",
-    ("DoubleReal", (3, 4)): "geometry::Quadrilateral<DoubleReal>",
+    (2,): "geometry::PlanVector<{}>",
+    (3,): "geometry::SpaceVector<{}>",
+    (3, 3): "geometry::Columns<{}, 3>",
+    (3, 4): "geometry::Columns<{}, 4>",
 }
 
 CONVERTED = {"psychro"}
@@ -26,7 +24,9 @@ def _parameter(arg):
 
 
 def _value(arg):
-    return f"load<{VALUES[arg.type, arg.shape]}>({arg.name})" if arg.shape else f"*{arg.name}"
+    if not arg.shape:
+        return f"*{arg.name}"
+    return f"load<{VALUES[arg.shape].format(TYPES[arg.type])}>({arg.name})"
 
 
 def _number_type(routine):

@@ -66,6 +66,9 @@ constexpr Real to_real(Integer n) noexcept { return static_cast<Real>(n); }
 // Towards zero; x must lie within the range of an Integer.
 constexpr Integer to_integer(Real x) noexcept { return static_cast<Integer>(x); }
 
+// x less a whole multiple of y, exactly; with the sign of x.
+inline Real modulo(Real x, Real y) noexcept { return std::fmod(x, y); }
+
 inline Real absolute(Real x) noexcept { return std::fabs(x); }
 inline DoubleReal absolute(DoubleReal x) noexcept { return std::fabs(x); }
 

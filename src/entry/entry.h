@@ -1,27 +1,33 @@
 // What entry points share: how arguments are read from the caller's variables, and results stored.
 #pragma once
 
-#include <cstring>
-#include <type_traits>
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <utility>
 
 #include "base/number.h"
 #include "quorvel.h"
 
 namespace quorvel::entry {
 
-// A value that the caller stores as a few numbers one after the other, such as a vector.
+// A value that the caller stores as a few numbers one after the other, such as a vector. It is not
+// copied as a block, which compilers put together, or take apart, by a slow way through memory.
+template <class T, class Scalar>
+inline constexpr std::size_t numbers_in = sizeof(T) / sizeof(Scalar);
+
 template <class T, class Scalar>
 T load(const Scalar* at) noexcept {
-    static_assert(std::is_trivially_copyable_v<T> && sizeof(T) % sizeof(Scalar) == 0);
-    T value;
-    std::memcpy(&value, at, sizeof value);
-    return value;
+    return [&]<std::size_t... i>(std::index_sequence<i...>) {
+        return std::bit_cast<T>(std::array{at[i]...});
+    }
+    (std::make_index_sequence<numbers_in<T, Scalar>>{});
 }
 
 template <class T, class Scalar>
 void store(const T& value, Scalar* at) noexcept {
-    static_assert(std::is_trivially_copyable_v<T> && sizeof(T) % sizeof(Scalar) == 0);
-    std::memcpy(at, &value, sizeof value);
+    const auto numbers = std::bit_cast<std::array<Scalar, numbers_in<T, Scalar>>>(value);
+    for (std::size_t i = 0; i < numbers.size(); ++i) at[i] = numbers[i];
 }
 inline void store(Real value, Real* at) noexcept { *at = value; }
 inline void store(DoubleReal value, DoubleReal* at) noexcept { *at = value; }

@@ -1,10 +1,8 @@
 // Whether points in plan lie on one straight line.
 //
-// Slopes are compared as ratios of coordinates and not by a cross product, so that the outcome
-// depends on scale: meant so.
+// Deliberate: slopes are compared as ratios of coordinates and not by a cross product, so that the
+// outcome depends on scale.
 #pragma once
-
-#include <cmath>
 
 #include "geometry/points.h"
 
@@ -19,14 +17,14 @@ inline constexpr Integer none_apart = 0;
 template <class Coordinate>
 Integer first_apart(PlanPoints points, Coordinate of) noexcept {
     for (Integer i = 1; i < points.size(); ++i)
-        if (!(std::fabs(of(points[i]) - of(points[0])) <= collinearity_tolerance)) return i;
+        if (!(absolute(of(points[i]) - of(points[0])) <= collinearity_tolerance)) return i;
     return none_apart;
 }
 
 // Whether the line through two points is neither level nor upright.
 inline bool slanted(PlanPoint a, PlanPoint b) noexcept {
-    return std::fabs(a.x - b.x) >= collinearity_tolerance &&
-           std::fabs(a.y - b.y) >= collinearity_tolerance;
+    return absolute(a.x - b.x) >= collinearity_tolerance &&
+           absolute(a.y - b.y) >= collinearity_tolerance;
 }
 
 // Whether all points lie on the slanted line through the i-th and the j-th.
@@ -35,7 +33,7 @@ inline bool all_on_line(PlanPoints points, Integer i, Integer j) noexcept {
     for (Integer m = 0; m < points.size(); ++m) {
         if (m == i || m == j) continue;
         const PlanPoint offset = points[m] - end;
-        if (std::fabs(offset.x / run.x - offset.y / run.y) > collinearity_tolerance) return false;
+        if (absolute(offset.x / run.x - offset.y / run.y) > collinearity_tolerance) return false;
     }
     return true;
 }

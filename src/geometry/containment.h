@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "geometry/lines.h"
+#include "geometry/points.h"
 
 namespace quorvel::geometry {
 
@@ -15,6 +16,17 @@ inline bool encloses(PlanPoints polygon, PlanPoint p) noexcept {
         if (side_of_line(start, polygon[polygon.after(i)], p) < 0) return false;
     }
     return polygon.size() > 0;
+}
+
+// Number of points that a polygon encloses; their flags are set to 1, others stay as they are.
+inline Integer count_enclosed(PlanPoints polygon, PlanPoints points, Integer* flags) noexcept {
+    Integer enclosed = 0;
+    for (Integer j = 0; j < points.size(); ++j) {
+        if (!encloses(polygon, points[j])) continue;
+        flags[j] = 1;
+        ++enclosed;
+    }
+    return enclosed;
 }
 
 // Where a segment meets the boundary of a polygon. The vertex is, counted from 1, the end of the
@@ -32,11 +44,11 @@ constexpr Integer boundary_code(Integer index) noexcept {
 
 inline bool within_reach(PlanPoint p) noexcept {
     constexpr Real farthest = 100000.0f;
-    return std::fabs(p.x) <= farthest && std::fabs(p.y) <= farthest;
+    return absolute(p.x) <= farthest && absolute(p.y) <= farthest;
 }
 
 inline BoundaryCrossing boundary_crossing(PlanPoint a, PlanPoint b, PlanPoints polygon) noexcept {
-    PlanPoint crossing = far_point_in_plan;
+    PlanPoint crossing = far_point_in_plan<Real>();
     std::optional<Integer> end_of_edge_through_a;
     for (Integer i = 0; i < polygon.size(); ++i) {
         const Integer end = polygon.after(i);
@@ -54,7 +66,7 @@ inline BoundaryCrossing boundary_crossing(PlanPoint a, PlanPoint b, PlanPoints p
 
 // Angle between a and b, of which q is the cross product.
 inline Real angle_between(SpacePoint a, SpacePoint b, SpacePoint q) noexcept {
-    const auto pulled_inside = [](Real x) { return std::fabs(x) > 1.0f ? x * 0.999f : x; };
+    const auto pulled_inside = [](Real x) { return absolute(x) > 1.0f ? x * 0.999f : x; };
     const Real lengths = length(a) * length(b);
     const Real angle = math::asin(pulled_inside(length(q) / lengths));
     return dot(a, b) / lengths > 0.0f ? angle : pi - angle;
@@ -69,13 +81,13 @@ inline bool inside(SpacePoint p, SpacePoints polygon) noexcept {
     Real turn = 0.0f;
     for (Integer i = 0; i + 1 < polygon.size(); ++i) {
         const SpacePoint a = polygon[i] - p, b = polygon[i + 1] - p, q = cross(a, b);
-        if (length(q) <= degenerate) return in_span(polygon[i], polygon[i + 1], p);
+        if (length(q) <= degenerate) return spans(polygon[i], polygon[i + 1], p);
         if (length(a) <= degenerate || length(b) <= degenerate) return false;
         if (i == 0) normal = q / length(q);
         const Real angle = angle_between(a, b, q);
         turn += i == 0 || dot(normal, q) > -1.0e-5f ? angle : -angle;
     }
-    return std::fabs(turn) >= pi;
+    return absolute(turn) >= pi;
 }
 
 }  // namespace quorvel::geometry

@@ -2,19 +2,18 @@
 #pragma once
 
 #include <array>
-#include <cmath>
 #include <utility>
 
-#include "base/contract.h"
+#include "base/number.h"
 
 namespace quorvel::geometry {
 
-template <class T, int n>
+template <class R, int n>
 struct SquareMatrix {
-    std::array<T, std::size_t{n} * n> elements;  // the row varies fastest
+    std::array<R, std::size_t{n} * n> elements;  // the row varies fastest
 
-    constexpr T& operator()(int row, int column) noexcept { return elements[index(row, column)]; }
-    constexpr T operator()(int row, int column) const noexcept {
+    constexpr R& operator()(int row, int column) noexcept { return elements[index(row, column)]; }
+    constexpr R operator()(int row, int column) const noexcept {
         return elements[index(row, column)];
     }
 
@@ -29,30 +28,30 @@ struct Pivot {
 };
 
 // The largest element by magnitude among those from (k, k) on; the first of equals.
-template <class T, int n>
-Pivot largest_from(const SquareMatrix<T, n>& a, int k) noexcept {
+template <class R, int n>
+Pivot largest_from(const SquareMatrix<R, n>& a, int k) noexcept {
     Pivot largest{k, k};
     for (int column = k; column < n; ++column)
         for (int row = k; row < n; ++row)
-            if (std::fabs(a(row, column)) > std::fabs(a(largest.row, largest.column)))
+            if (absolute(a(row, column)) > absolute(a(largest.row, largest.column)))
                 largest = {row, column};
     return largest;
 }
 
-template <class T, int n>
-constexpr void exchange_rows(SquareMatrix<T, n>& a, int i, int k) noexcept {
+template <class R, int n>
+constexpr void exchange_rows(SquareMatrix<R, n>& a, int i, int k) noexcept {
     for (int column = 0; column < n; ++column) std::swap(a(i, column), a(k, column));
 }
 
-template <class T, int n>
-constexpr void exchange_columns(SquareMatrix<T, n>& a, int j, int k) noexcept {
+template <class R, int n>
+constexpr void exchange_columns(SquareMatrix<R, n>& a, int j, int k) noexcept {
     for (int row = 0; row < n; ++row) std::swap(a(row, j), a(row, k));
 }
 
 // One step of the Gauss-Jordan elimination: unknown k and right-hand side k change places.
-template <class T, int n>
-constexpr void exchange_unknown(SquareMatrix<T, n>& a, int k) noexcept {
-    const T pivot = a(k, k);
+template <class R, int n>
+constexpr void exchange_unknown(SquareMatrix<R, n>& a, int k) noexcept {
+    const R pivot = a(k, k);
     for (int i = 0; i < n; ++i) {
         if (i == k) continue;
         a(i, k) /= -pivot;
@@ -61,13 +60,13 @@ constexpr void exchange_unknown(SquareMatrix<T, n>& a, int k) noexcept {
     }
     for (int j = 0; j < n; ++j)
         if (j != k) a(k, j) /= pivot;
-    a(k, k) = T{1} / pivot;
+    a(k, k) = R{1} / pivot;
 }
 
 // The inverse, in place, by Gauss-Jordan elimination with full pivoting; infinite or not a number
 // for a singular matrix.
-template <class T, int n>
-SquareMatrix<T, n> inverse(SquareMatrix<T, n> a) noexcept {
+template <class R, int n>
+SquareMatrix<R, n> inverse(SquareMatrix<R, n> a) noexcept {
     std::array<Pivot, n> pivots{};
     for (int k = 0; k < n; ++k) {
         const Pivot pivot = pivots[static_cast<std::size_t>(k)] = largest_from(a, k);

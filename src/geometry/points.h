@@ -1,4 +1,4 @@
-// Points and directions as callers store them: one after the other, or an array per coordinate.
+// Lists of points as callers store them: one after the other, or an array per coordinate.
 #pragma once
 
 #include <algorithm>
@@ -10,31 +10,6 @@ namespace quorvel::geometry {
 
 using PlanPoint = PlanVector<Real>;
 using SpacePoint = SpaceVector<Real>;
-
-// Stands for a point that does not exist.
-inline constexpr PlanPoint far_point_in_plan{undefined, undefined};
-inline constexpr SpacePoint far_point{undefined, undefined, undefined};
-
-template <class T>
-constexpr PlanVector<T> plan_vector(const T* at) noexcept {
-    return {at[0], at[1]};
-}
-template <class T>
-constexpr SpaceVector<T> space_vector(const T* at) noexcept {
-    return {at[0], at[1], at[2]};
-}
-
-template <class T>
-constexpr void store(PlanVector<T> v, T* at) noexcept {
-    at[0] = v.x;
-    at[1] = v.y;
-}
-template <class T>
-constexpr void store(SpaceVector<T> v, T* at) noexcept {
-    at[0] = v.x;
-    at[1] = v.y;
-    at[2] = v.z;
-}
 
 // The caller's points in plan, counted from 0; a count below one is none.
 class PlanPoints {

@@ -1,6 +1,7 @@
 // Areas of polygons in plan and in space, and how a plane polygon in space lies.
 #pragma once
 
+#include "base/number.h"
 #include "geometry/orientation.h"
 #include "geometry/points.h"
 
@@ -20,7 +21,7 @@ constexpr Real signed_plan_area(PlanPoints polygon) noexcept {
 }
 
 inline Real plan_area(PlanPoints polygon) noexcept {
-    return std::fabs(shoelace_sum(polygon)) * 0.5f;
+    return absolute(shoelace_sum(polygon)) * 0.5f;
 }
 
 constexpr SpacePoint mean(SpacePoints points) noexcept {
@@ -29,8 +30,8 @@ constexpr SpacePoint mean(SpacePoints points) noexcept {
     return sum / static_cast<Real>(points.size());
 }
 
-// By triangles from the mean of the vertices, all counted as positive: too large for a polygon that
-// is not seen whole from there, and meant so.
+// By triangles from the mean of the vertices. Deliberate: all count as positive, which is too much
+// for a polygon that is not seen whole from there.
 inline Real area_in_space(SpacePoints polygon) noexcept {
     const SpacePoint centre = mean(polygon);
     Real sum = 0.0f;
@@ -73,18 +74,29 @@ constexpr Real signed_area(SpacePoints polygon, const PolygonPlane& plane) noexc
 
 constexpr Real degrees(Real radians) noexcept { return 180.0f * radians / pi; }
 
-// Angle between the normal and the vertical [degrees].
-inline Real tilt(const PolygonPlane& plane) noexcept { return degrees(math::acos(plane.normal.z)); }
-
 // Azimuth opposite to the normal; of a nearly level polygon, which has none to speak of, that of
-// its first side, turned by 180 degrees [degrees].
+// its first side, turned by 180 degrees.
 inline Real back_azimuth(const PolygonPlane& plane) noexcept {
     constexpr SpacePoint up{0.0f, 0.0f, 1.0f};
-    const bool nearly_level = !(std::fabs(plane.normal.z) <= 0.999f);
+    const bool nearly_level = !(absolute(plane.normal.z) <= 0.999f);
     const SpacePoint level = cross(nearly_level ? plane.across : plane.normal, up);
     const Real from_east = degrees(math::atan2(level.y, level.x));
     const Real angle = nearly_level ? from_east : from_east + 90.0f;
     return back_azimuth(angle < 0.0f ? angle + 360.0f : angle);
+}
+
+struct PolygonOrientation {
+    Real area;
+    Maybe<Real> tilt, orientation;  // degrees: of the normal from the vertical, opposite to it
+};
+
+// Without vertices there is an area only.
+inline PolygonOrientation polygon_orientation(SpacePoints polygon) noexcept {
+    if (polygon.size() < 1) return {};
+    const PolygonPlane plane = plane_of(polygon);
+    return {signed_area(polygon, plane),
+            {degrees(math::acos(plane.normal.z)), true},
+            {back_azimuth(plane), true}};
 }
 
 }  // namespace quorvel::geometry

@@ -1,56 +1,56 @@
-// Projection of a point along a direction onto a plane.
+// Projection of a point p along a direction d onto the plane through a point p0.
 #pragma once
 
-#include <cmath>
-
-#include "geometry/points.h"
+#include "geometry/vector.h"
 
 namespace quorvel::geometry {
 
-struct Plane {
-    SpacePoint point, normal;
-};
-
-struct Ray {
-    SpacePoint start, direction;
-};
-
-inline bool parallel(const Plane& plane, const Ray& ray) noexcept {
-    return !(std::fabs(dot(ray.direction, plane.normal)) > 1.0e-15f);
+template <class R>
+MaskOf<R> parallel_to_plane(SpaceVector<R> normal, SpaceVector<R> d) noexcept {
+    return !(absolute(dot(d, normal)) > 1.0e-15f);
 }
 
-// Where the line of the ray, ahead or behind, meets the plane; infinite or not a number when it is
-// parallel to it.
-constexpr SpacePoint intersection(const Plane& plane, const Ray& ray) noexcept {
-    const Real t = dot(plane.point - ray.start, plane.normal) / dot(ray.direction, plane.normal);
-    return ray.start + t * ray.direction;
+// Where the line through p along d, ahead or behind, meets the plane; infinite or not a number when
+// it is parallel to it.
+template <class R>
+SpaceVector<R> intersection(SpaceVector<R> p0, SpaceVector<R> normal, SpaceVector<R> p,
+                            SpaceVector<R> d) noexcept {
+    const R t = dot(p0 - p, normal) / dot(d, normal);
+    return p + t * d;
 }
 
-// Whether the direction to a point on the line of the ray is that of the ray. The start itself, to
-// which there is no direction, does not count.
-inline bool ahead(const Ray& ray, SpacePoint point) noexcept {
-    const SpacePoint deviation =
-        direction_if_any(point - ray.start) - direction_if_any(ray.direction);
+// Whether the direction from p to a point on its line along d is d. p itself, to which there is no
+// direction, does not count.
+template <class R>
+inline MaskOf<R> ahead(SpaceVector<R> p, SpaceVector<R> d, SpaceVector<R> point) noexcept {
+    const SpaceVector<R> deviation = direction_if_any(point - p) - direction_if_any(d);
     constexpr Real tolerance = 1.0e-6f;
-    return std::fabs(deviation.x) <= tolerance && std::fabs(deviation.y) <= tolerance &&
-           std::fabs(deviation.z) <= tolerance;
+    return both(absolute(deviation.x) <= tolerance, [&] {
+        return both(absolute(deviation.y) <= tolerance,
+                    [&] { return absolute(deviation.z) <= tolerance; });
+    });
 }
 
-inline SpacePoint projection(const Plane& plane, const Ray& ray) noexcept {
-    return parallel(plane, ray) ? far_point : intersection(plane, ray);
+template <class R>
+SpaceVector<R> projection(SpaceVector<R> p0, SpaceVector<R> normal, SpaceVector<R> p,
+                          SpaceVector<R> d) noexcept {
+    return select(parallel_to_plane(normal, d), far_point<R>(), intersection(p0, normal, p, d));
 }
 
-inline SpacePoint forward_projection(const Plane& plane, const Ray& ray) noexcept {
-    if (parallel(plane, ray)) return far_point;
-    const SpacePoint point = intersection(plane, ray);
-    return ahead(ray, point) ? point : far_point;
+template <class R>
+SpaceVector<R> forward_projection(SpaceVector<R> p0, SpaceVector<R> normal, SpaceVector<R> p,
+                                  SpaceVector<R> d) noexcept {
+    const SpaceVector<R> point = intersection(p0, normal, p, d);
+    return select(!parallel_to_plane(normal, d) & ahead(p, d, point), point, far_point<R>());
 }
 
-// Without the limit for parallel rays: only what a division by zero makes is left as it is, and
-// meant so.
-inline SpacePoint forward_projection_or_start(const Plane& plane, const Ray& ray) noexcept {
-    const SpacePoint point = intersection(plane, ray);
-    return dot(ray.direction, plane.normal) == 0.0f || ahead(ray, point) ? point : ray.start;
+// Without the limit for parallel directions: only what a division by zero makes is left as it is,
+// which is deliberate.
+template <class R>
+SpaceVector<R> forward_projection_or_start(SpaceVector<R> p0, SpaceVector<R> normal,
+                                           SpaceVector<R> p, SpaceVector<R> d) noexcept {
+    const SpaceVector<R> point = intersection(p0, normal, p, d);
+    return select((dot(d, normal) == 0.0f) | ahead(p, d, point), point, p);
 }
 
 }  // namespace quorvel::geometry

@@ -1,7 +1,9 @@
-#include "entry/entry.h"
 #include "geometry/polygon_area.h"
 
+#include "entry/entry.h"
+
 using namespace quorvel;
+using namespace quorvel::entry;
 
 Real GEAPOL(const Real* x, const Real* y, const Integer* n) {
     return geometry::plan_area({x, y, *n});
@@ -15,13 +17,9 @@ Real GEAPO3(const Real* x, const Real* y, const Real* z, const Integer* n) {
     return geometry::area_in_space({x, y, z, *n});
 }
 
-// Without vertices only the area is written.
 void GEASO(const Integer* n, const Real* v, Real* area, Real* tilt, Real* orientation) {
-    *area = 0.0f;
-    const geometry::SpacePoints polygon(v, *n);
-    if (polygon.size() < 1) return;
-    const auto plane = geometry::plane_of(polygon);
-    *area = geometry::signed_area(polygon, plane);
-    *tilt = geometry::tilt(plane);
-    *orientation = geometry::back_azimuth(plane);
+    const auto lie = geometry::polygon_orientation({v, *n});
+    store(lie.area, area);
+    store(lie.tilt, tilt);
+    store(lie.orientation, orientation);
 }

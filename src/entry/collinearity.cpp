@@ -1,0 +1,9 @@
+#include "geometry/collinearity.h"
+
+#include "entry/entry.h"
+
+using namespace quorvel;
+
+Integer IGELIN(const Real* x, const Real* y, const Integer* n) {
+    return geometry::collinearity({x, y, *n});
+}
