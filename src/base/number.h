@@ -2,14 +2,15 @@
 // number here, and whatever else has these functions.
 //
 //     MaskOf<R>, IntegerOf<R>     what comparisons give; selectors, days and counts
+//     DoubleOf<R>                 what formulas compute in that need more than single precision
 //     select(mask, a, b)          one of two values at hand
 //     either(mask, f, g)          one of two calculations; only what is needed is evaluated
 //     piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where none does
 //     both(mask, f)               mask & f(), where f is evaluated only if needed
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
 //
-// Masks are combined by & | and !, since && and || cannot be had for more than one number. A formula
-// that takes no R from its arguments is called as f<R>(...).
+// Masks are combined by & | and !, since && and || cannot be had for more than one number. A
+// formula that takes no R from its arguments is called as f<R>(...).
 #pragma once
 
 #include <cmath>
@@ -22,16 +23,19 @@ namespace quorvel {
 template <class R>
 struct NumberTypes;
 template <class R>
-    requires std::is_floating_point_v<R>
+requires std::is_floating_point_v<R>
 struct NumberTypes<R> {
     using Mask = bool;
     using Integer = quorvel::Integer;
+    using Double = DoubleReal;
 };
 
 template <class R>
 using MaskOf = typename NumberTypes<R>::Mask;
 template <class R>
 using IntegerOf = typename NumberTypes<R>::Integer;
+template <class R>
+using DoubleOf = typename NumberTypes<R>::Double;
 
 template <class T>
 constexpr T select(bool mask, const T& a, const T& b) noexcept {
@@ -63,11 +67,18 @@ constexpr T lookup(const T* table, Integer index) noexcept {
 }
 
 constexpr Real to_real(Integer n) noexcept { return static_cast<Real>(n); }
+constexpr Real to_real(DoubleReal x) noexcept { return static_cast<Real>(x); }
+constexpr DoubleReal to_double(Integer n) noexcept { return static_cast<DoubleReal>(n); }
+constexpr DoubleReal to_double(Real x) noexcept { return static_cast<DoubleReal>(x); }
 // Towards zero; x must lie within the range of an Integer.
 constexpr Integer to_integer(Real x) noexcept { return static_cast<Integer>(x); }
 
 inline Real absolute(Real x) noexcept { return std::fabs(x); }
 inline DoubleReal absolute(DoubleReal x) noexcept { return std::fabs(x); }
+
+// The whole part.
+inline Real truncated(Real x) noexcept { return std::trunc(x); }
+inline DoubleReal truncated(DoubleReal x) noexcept { return std::trunc(x); }
 
 // A result that a routine may leave unwritten.
 template <class R>

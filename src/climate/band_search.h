@@ -45,6 +45,13 @@ BandPosition locate_band(Real fraction, Ends ends, Frequency F) noexcept {
     return {lower, upper, limited(ends == Ends::Held ? std::fabs(weight) : weight, -1.0f, 1.0f)};
 }
 
+// In the frequencies of a caller, twelve months of band 1 first; a month outside picks the nearest.
+inline BandPosition locate_band(Real fraction, Integer month, const Real* frequencies) noexcept {
+    const Integer column = table_row(month, 12);
+    return locate_band(fraction, Ends::Extrapolated,
+                       [=](Integer band) { return frequencies[12 * (band - 1) + column]; });
+}
+
 constexpr Real interpolate(Real lower, Real upper, Real weight) noexcept {
     return lower + (upper - lower) * weight;
 }

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "climate/bands.h"
+#include "climate/months.h"
 
 namespace quorvel::climate {
 
