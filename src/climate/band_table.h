@@ -16,7 +16,6 @@ namespace quorvel::climate {
 
 inline constexpr int rows_per_set = 92;
 inline constexpr int band_row_count = 2 * rows_per_set;
-inline constexpr int band_quantities = 8;
 
 extern const std::array<MonthlyRow, band_row_count> band_rows;
 
@@ -51,29 +50,26 @@ struct BandClimate {
 // Of a band or, for band 0, interpolated at the percentage. Set 2 or, for any other number, set 1;
 // bands and months outside pick the nearest.
 template <class R>
-BandClimate<R> band_climate(Integer band, Integer month, Integer set, R percentage) noexcept {
-    const int before = set == 2 ? rows_per_set : 0;
-    const auto frequency = [=](Integer k) { return band_value(before + 2 + k, month); };
+inline BandClimate<R> band_climate(Integer band, Integer month, Integer set,
+                                   R percentage) noexcept {
+    const std::size_t before = set == 2 ? rows_per_set : 0;
+    const auto column = static_cast<std::size_t>(table_row(month, 12));
+    const auto value = [=](std::size_t row) { return band_rows[before + row - 1][column]; };
+    const auto frequency = [=](Integer k) { return value(2 + static_cast<std::size_t>(k)); };
     const Integer nearest = table_row(band, band_count) + 1;
-    const BandPosition at = band == 0
-                                ? locate_band(percentage / 100.0f, Ends::Extrapolated, frequency)
-                                : BandPosition{nearest, nearest, 0.0f};
-    const auto Q = [&](int quantity) {
-        const int base = before + 2 + band_count * quantity;
-        if (band != 0) return band_value(base + nearest, month);
-        return interpolate_band_rows<R>(base, at.lower, at.upper, month, at.weight);
+    const BandPosition at = band == 0 ? extrapolated_band(percentage / 100.0f, frequency)
+                                      : BandPosition{nearest, nearest, 0.0f};
+    const auto lower = static_cast<std::size_t>(at.lower);
+    const auto upper = static_cast<std::size_t>(at.upper);
+    const auto Q = [=](std::size_t quantity) {
+        const std::size_t base = 2 + band_count * quantity;
+        if (band != 0) return value(base + lower);
+        return interpolate(value(base + lower), value(base + upper), at.weight);
     };
-    return {band == 0 ? percentage : 100.0f * frequency(nearest),
-            Q(1),
-            Q(2),
-            Q(3),
-            Q(4),
-            Q(5),
-            Q(6),
-            band_value(before + 1, month),
-            band_value(before + 2, month),
-            Q(7),
-            Q(8)};
+    const R given = band == 0 ? percentage : 100.0f * frequency(nearest);
+    // clang-format off
+    return {given, Q(1), Q(2), Q(3), Q(4), Q(5), Q(6), value(1), value(2), Q(7), Q(8)};
+    // clang-format on
 }
 
 }  // namespace quorvel::climate

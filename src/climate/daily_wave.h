@@ -20,7 +20,8 @@ R half_waves(R hour, R first, R second, R rising) noexcept {
 // Between the extremes of a day and the hours at which they are reached; the mean if these
 // coincide.
 template <class R>
-R daily_temperature(R hour, R highest, R lowest, R hour_of_highest, R hour_of_lowest) noexcept {
+inline R daily_temperature(R hour, R highest, R lowest, R hour_of_highest,
+                           R hour_of_lowest) noexcept {
     const R mean = (highest + lowest) / 2.0f;
     const R amplitude = mean - lowest;
     const R tx = hour_of_highest, tn = hour_of_lowest;

@@ -10,7 +10,7 @@ namespace quorvel::climate {
 // Increase of irradiance with the height of the site, m. Lower sites and low suns get none, so the
 // factor jumps by 4 % or more at 300 m.
 template <class R>
-R height_factor(R height, R altitude) noexcept {
+inline R height_factor(R height, R altitude) noexcept {
     const R sin_alt = math::sin(altitude);
     return either((sin_alt >= 0.08f) & (height >= 300.0f),
                   [&] { return height * (5e-05f / sin_alt + 2e-05f) + 1.02f; },
@@ -24,7 +24,7 @@ inline constexpr Real diffuse_series[] = {1.52269f,  280.358f, -375.111f, 253.71
                                           0.331322f, 283.1f,   4.42111f,  0.0f,     0.0f};
 
 template <class R>
-R high_sun_direct(R altitude) noexcept {
+inline R high_sun_direct(R altitude) noexcept {
     const R w = 1.0f / altitude;
     const R w2 = w * w;
     const R w3 = w2 * w;
@@ -33,7 +33,7 @@ R high_sun_direct(R altitude) noexcept {
 }
 
 template <class R>
-R high_sun_diffuse(R altitude, IntegerOf<R> sky) noexcept {
+inline R high_sun_diffuse(R altitude, IntegerOf<R> sky) noexcept {
     R diffuse = R(0.0f);
     R power = R(1.0f);
     for (int i = 0; i < diffuse_terms; ++i) {
@@ -49,7 +49,7 @@ struct DesignIrradiance {
 };
 
 template <class R>
-DesignIrradiance<R> design_irradiance(R altitude, R height, IntegerOf<R> sky_kind) noexcept {
+inline DesignIrradiance<R> design_irradiance(R altitude, R height, IntegerOf<R> sky_kind) noexcept {
     const IntegerOf<R> sky = select(sky_kind < 1, IntegerOf<R>(0), IntegerOf<R>(1));
     const MaskOf<R> beyond = absolute(altitude) > right_angle;
     const MaskOf<R> low = altitude <= 0.087f;

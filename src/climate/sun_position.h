@@ -15,7 +15,7 @@ struct SunHours {
 // Sunrise and sunset by p = tan(latitude) tan(declination), which is the cosine of the hour angle
 // from midnight to sunrise. Hour 25 stands for an event that does not occur.
 template <class F>
-SunHours<F> sun_hours(F p, F pi) noexcept {
+inline SunHours<F> sun_hours(F p, F pi) noexcept {
     const MaskOf<F> polar_night = p <= F(-1.0f), polar_day = p >= F(1.0f);
     const F sunrise = piecewise(
         polar_night, [&] { return F(25.0f); },  //
@@ -27,7 +27,7 @@ SunHours<F> sun_hours(F p, F pi) noexcept {
 // Sine of the obliquity times sine of the ecliptic longitude, the latter with the annual variation
 // of the earth's speed to the first order.
 template <class R>
-R sine_of_declination(IntegerOf<R> day) noexcept {
+inline R sine_of_declination(IntegerOf<R> day) noexcept {
     const R d = annual_angle<R>(day);
     return 0.398f * math::sin(d - 1.4096f + 0.03347f * math::sin(d));
 }
@@ -50,31 +50,31 @@ struct SolarGeometry {
 
 // Solar noon is 12 h. Outside the ranges of the arguments the angles are 0.
 template <class R>
-SolarGeometry<R> solar_geometry(R latitude, IntegerOf<R> day, R hour) noexcept {
+inline SolarGeometry<R> solar_geometry(R latitude, IntegerOf<R> day, R hour) noexcept {
     const MaskOf<R> outside = (latitude > right_angle) | (latitude < -right_angle) | (day < 1) |
                               (day > 365) | (hour < 0.0f) | (hour > 24.0f);
     const R sin_dec = sine_of_declination<R>(day);
     const R declination = math::asin(sin_dec);
     const R cos_dec = math::cos(declination);
     const R tan_dec = math::tan(declination);
-    const auto [sin_lat, cos_lat] = math::sincos(latitude);
     const R tan_lat = math::tan(latitude);
-    const auto [sin_H, cos_H] = math::sincos(absolute(12.0f - hour) * 0.261799395f);
+    const auto lat = math::sincos(latitude);
+    const auto H = math::sincos(absolute(12.0f - hour) * 0.261799395f);
     const SunHours<R> hours = sun_hours(R(tan_lat * tan_dec), R(pi));
 
-    const R sin_alt = sin_dec * sin_lat + cos_dec * cos_lat * cos_H;
+    const R sin_alt = sin_dec * lat.sin + cos_dec * lat.cos * H.cos;
     const R altitude = math::asin(limited(sin_alt, -1.0f, 1.0f));
     const MaskOf<R> dark = outside | (altitude < 0.0f);
-    // Cosine of the hour angle at which the sun stands due east or west; as good as infinite at
-    // the equator.
-    const R cos_due =
-        select(tan_lat == 0.0f, select(tan_dec < 0.0f, R(-1e32f), R(1e32f)), tan_dec / tan_lat);
-    const R southness = select(sin_lat >= 0.0f, cos_H - cos_due, cos_due - cos_H);
-    const R across = cos_dec * sin_H;
     const R azimuth = either(
         dark, [&] { return R(0.0f); },
         [&] {
-            const R acute = math::asin(limited(across / math::cos(altitude), -1.0f, 1.0f));
+            const R sine = cos_dec * H.sin / math::cos(altitude);
+            const R acute = math::asin(limited(sine, -1.0f, 1.0f));
+            // Cosine of the hour angle at which the sun stands due east or west; as good as
+            // infinite at the equator.
+            const R cos_due = select(tan_lat == 0.0f, select(tan_dec < 0.0f, R(-1e32f), R(1e32f)),
+                                     tan_dec / tan_lat);
+            const R southness = select(lat.sin >= 0.0f, H.cos - cos_due, cos_due - H.cos);
             return azimuth_of_quadrant<R>(acute, southness, hour <= 12.0f);
         });
     return {select(outside, R(0.0f), declination),
