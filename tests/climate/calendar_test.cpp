@@ -62,7 +62,7 @@ TEST(SiteConstants, HaveOneDiffuseFactorAndVaryInTheFirstClassOnly) {
     EXPECT_EQ(none.reflectance + none.beam + none.diffuse + none.alternative, 0.0f);
     // Beam and diffuse factors of a year.
     const double sums[6][2] = {{9.87, 12.36}, {6.96, 11.04}, {6, 13.2},
-                               {13.2, 10.8}, {12, 12},      {12, 12}};
+                               {13.2, 10.8},  {12, 12},      {12, 12}};
     for (int site_class = 1; site_class <= 6; ++site_class) {
         bool varies = false;
         double beam = 0.0, diffuse = 0.0;
@@ -150,6 +150,7 @@ TEST(BandClimate, SearchAndRowInterpolationTogetherGiveTheSame) {
                 float weight, value;
                 lib::CLBAN1(percentage / 100.0f, month, frequencies, lower, upper, weight);
                 const Band climate = at_percentage(percentage, month, set);
+                EXPECT_EQ(climate.percentage, percentage);
                 for (int q = 1; q <= 8; ++q) {
                     lib::CLBAN2(before + 2 + 10 * q, lower, upper, month, weight, value);
                     EXPECT_EQ(value, climate.q[q - 1]) << set << month << percentage;
