@@ -227,16 +227,6 @@ TEST(AlmanacSunHours, BringTheSunToTheHorizon) {
             for (const float hour : {rise, set})
                 EXPECT_NEAR(degrees(Almanac(1, date, hour, latitude).altitude), 0.0, 0.11);
         }
-    struct {
-        int month;
-        float latitude, rise, set;
-    } const polar[] = {{6, 1.4f, 0.0f, 25.0f}, {12, 1.4f, 25.0f, 0.0f}, {6, -1.4f, 25.0f, 0.0f}};
-    for (const auto& p : polar) {
-        float rise, set;
-        lib::CLRISESET(2010, p.month, 21, p.latitude, rise, set);
-        EXPECT_EQ(rise, p.rise);
-        EXPECT_EQ(set, p.set);
-    }
 }
 
 }  // namespace
