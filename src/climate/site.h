@@ -32,8 +32,8 @@ template <class R>
 SiteConstants<R> site_constants(IntegerOf<R> site_class, IntegerOf<R> month) noexcept {
     using I = IntegerOf<R>;
     const auto exists = (site_class >= 1) & (site_class <= 6) & is_month(month);
-    const I by_class = select(exists, site_class - 1, I(6));
-    const I by_month = select(by_class == 0, month - 1, by_class + 11);
+    const I by_class = select(exists, site_class, I(7)) - 1;
+    const I by_month = select(by_class == 0, select(exists, month, I(1)) - 1, by_class + 11);
     return {lookup(ground_reflectances, by_class), lookup(beam_factors, by_month),
             lookup(diffuse_factors, by_month), lookup(alternative_diffuse_factors, by_class)};
 }

@@ -48,7 +48,8 @@ struct SolarGeometry {
     Maybe<R> sunrise, sunset;
 };
 
-// Solar noon is 12 h. Outside the ranges of the arguments the angles are 0.
+// Solar noon is 12 h. Outside the ranges of the arguments the angles are 0, and there is neither
+// sunrise nor sunset.
 template <class R>
 inline SolarGeometry<R> solar_geometry(R latitude, IntegerOf<R> day, R hour) noexcept {
     const MaskOf<R> outside = (latitude > right_angle) | (latitude < -right_angle) | (day < 1) |

@@ -70,6 +70,25 @@ TEST_F(ClimateFileState, HeaderIsReadOncePerLoad) {
     EXPECT_NE(january(fresh, 12), other.image.value(2, 12, 1));
 }
 
+TEST_F(ClimateFileState, BufferOutlivesTheFile) {
+    open(library, first.name, 1);
+    EXPECT_EQ(january(library, 12), first.image.value(1, 12, 1));
+    std::filesystem::remove(first.name);
+    EXPECT_EQ(january(library, 13), first.image.value(1, 13, 1)) << "of the same record";
+    EXPECT_EQ(january(library, 18), untouched);
+}
+
+TEST_F(ClimateFileState, RowsOutsideAreTheNearestAndThereIsNothingElsewhere) {
+    open(library, first.name, 1);
+    EXPECT_EQ(january(library, -7), first.image.value(1, 0, 1));
+    EXPECT_EQ(january(library, 500), first.image.value(1, 170, 1));
+    EXPECT_EQ(quantity_3(library, 30, 1, 5), untouched) << "a unit without a file";
+    // Rows of station 0 would lie in record 0, which is no record, nor one in an empty buffer.
+    const LibraryCopy fresh;
+    open(fresh, first.name, 0);
+    EXPECT_EQ(january(fresh, 135), untouched);
+}
+
 TEST_F(ClimateFileState, SixteenThreadsGetWhatOneGets) {
     constexpr int threads = 16, calls = 200;
     const auto records = [&](int thread) {

@@ -146,6 +146,8 @@ TEST_F(StationFile, RecordsAreTheClimatesOfTheirMonths) {
     for (std::size_t i = 0; i < 132; ++i)
         EXPECT_EQ(bits(of_may[i]), bits(i / 11 == 4 ? records[i] : given[i])) << i;
 
+    EXPECT_EQ(Climate(library, 1, 2, 3, 7).q, Climate(library, 1, 2, 3, 1).q)
+        << "no set but 2 is 2";
     float value;
     library.CLBNF2(12, 3, 5, 7, 0.25f, value);
     const float from = image.value(1, 14, 7), to = image.value(1, 16, 7);
