@@ -2,6 +2,7 @@
 // number here, and whatever else has these functions.
 //
 //     MaskOf<R>, IntegerOf<R>     what comparisons give; selectors, days and counts
+//     DoubleOf<R>                 what formulas compute in that need more than single precision
 //     select(mask, a, b)          one of two values at hand
 //     either(mask, f, g)          one of two calculations; only what is needed is evaluated
 //     piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where none does
@@ -26,12 +27,15 @@ requires std::is_floating_point_v<R>
 struct NumberTypes<R> {
     using Mask = bool;
     using Integer = quorvel::Integer;
+    using Double = DoubleReal;
 };
 
 template <class R>
 using MaskOf = typename NumberTypes<R>::Mask;
 template <class R>
 using IntegerOf = typename NumberTypes<R>::Integer;
+template <class R>
+using DoubleOf = typename NumberTypes<R>::Double;
 
 template <class T>
 constexpr T select(bool mask, const T& a, const T& b) noexcept {
@@ -63,6 +67,9 @@ constexpr T lookup(const T* table, Integer index) noexcept {
 }
 
 constexpr Real to_real(Integer n) noexcept { return static_cast<Real>(n); }
+constexpr Real to_real(DoubleReal x) noexcept { return static_cast<Real>(x); }
+constexpr DoubleReal to_double(Integer n) noexcept { return static_cast<DoubleReal>(n); }
+constexpr DoubleReal to_double(Real x) noexcept { return static_cast<DoubleReal>(x); }
 // Towards zero; x must lie within the range of an Integer.
 constexpr Integer to_integer(Real x) noexcept { return static_cast<Integer>(x); }
 
@@ -71,6 +78,10 @@ inline Real modulo(Real x, Real y) noexcept { return std::fmod(x, y); }
 
 inline Real absolute(Real x) noexcept { return std::fabs(x); }
 inline DoubleReal absolute(DoubleReal x) noexcept { return std::fabs(x); }
+
+// The whole part.
+inline Real truncated(Real x) noexcept { return std::trunc(x); }
+inline DoubleReal truncated(DoubleReal x) noexcept { return std::trunc(x); }
 
 // A result that a routine may leave unwritten.
 template <class R>

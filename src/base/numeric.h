@@ -14,7 +14,7 @@ constexpr I table_row(I selector, Integer rows) noexcept {
 // Limits x to [low, high]; not a number stays not a number.
 template <class R>
 constexpr R limited(R x, Real low, Real high) noexcept {
-    return select(x < low, R(low), select(x > high, R(high), x));
+    return select(x < R(low), R(low), select(x > R(high), R(high), x));
 }
 
 // The lesser of two; a where one is not a number.

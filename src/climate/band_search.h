@@ -1,8 +1,6 @@
 // The band search: where a cumulative frequency lies among the ten bands of a month.
 #pragma once
 
-#include <cmath>
-
 #include "base/numeric.h"
 
 namespace quorvel::climate {
@@ -29,20 +27,27 @@ BandPosition bracketing_bands(Real fraction, Frequency F) noexcept {
     return {lower, upper, (fraction - F(lower)) / (F(upper) - F(lower))};
 }
 
-// What the fractions at and beyond the ends of the bands get.
-enum class Ends {
-    Extrapolated,  // backwards from band 1, by one step at most; beyond band 10 its values
-    Held           // band 1 or band 10 itself
-};
-
+// Extrapolated backwards from band 1, by one step at most; beyond band 10 its values.
 template <class Frequency>
-BandPosition locate_band(Real fraction, Ends ends, Frequency F) noexcept {
-    if (ends == Ends::Held) {
-        if (fraction <= F(1)) return {1, 1, 0.0f};
-        if (fraction >= F(band_count)) return {band_count, band_count, 0.0f};
-    }
+BandPosition extrapolated_band(Real fraction, Frequency F) noexcept {
     const auto [lower, upper, weight] = bracketing_bands(fraction, F);
-    return {lower, upper, limited(ends == Ends::Held ? std::fabs(weight) : weight, -1.0f, 1.0f)};
+    return {lower, upper, limited(weight, -1.0f, 1.0f)};
+}
+
+// At and beyond the ends band 1 or band 10 itself.
+template <class Frequency>
+BandPosition held_band(Real fraction, Frequency F) noexcept {
+    if (fraction <= F(1)) return {1, 1, 0.0f};
+    if (fraction >= F(band_count)) return {band_count, band_count, 0.0f};
+    const auto [lower, upper, weight] = bracketing_bands(fraction, F);
+    return {lower, upper, lesser(absolute(weight), 1.0f)};
+}
+
+// In the frequencies of a caller, twelve months of band 1 first; a month outside picks the nearest.
+inline BandPosition locate_band(Real fraction, Integer month, const Real* frequencies) noexcept {
+    const Integer column = table_row(month, 12);
+    return extrapolated_band(fraction,
+                             [=](Integer band) { return frequencies[12 * (band - 1) + column]; });
 }
 
 constexpr Real interpolate(Real lower, Real upper, Real weight) noexcept {

@@ -1,50 +1,51 @@
 // The design day of each month: one day that stands for the month in design calculations.
 #pragma once
 
-#include "base/contract.h"
+#include "climate/months.h"
 
 namespace quorvel::climate {
 
-struct DesignDay {
-    Integer of_year;  // 1..365, no leap day
-    Integer of_month;
+// January to December as days of the year, 1 to 365 without leap day, then as days of the month.
+// The two are separate sets and not one date: they differ by up to two days either way.
+inline constexpr Integer design_days[24] = {
+    21, 52, 80, 112, 142, 172, 204, 234, 265, 295, 326, 355,
+    21, 20, 22, 20,  21,  21,  23,  24,  22,  23,  21,  22,
 };
 
-// January to December. The two columns are separate sets and not one date: they differ by up to two
-// days either way.
-inline constexpr DesignDay design_days[12] = {
-    {21, 21},  {52, 20},  {80, 22},  {112, 20}, {142, 21}, {172, 21},
-    {204, 23}, {234, 24}, {265, 22}, {295, 23}, {326, 21}, {355, 22},
+// The 29th before midsummer, the 4th after it; here both are the same date.
+inline constexpr Integer second_design_days[24] = {
+    29, 57, 88, 118, 149, 172, 185, 216, 247, 277, 308, 338,
+    29, 26, 29, 28,  29,  21,  4,   4,   4,   4,   4,   4,
 };
 
-// The 29th before midsummer, the 4th after it; here both columns are the same date.
-inline constexpr DesignDay second_design_days[12] = {
-    {29, 29}, {57, 26}, {88, 29}, {118, 28}, {149, 29}, {172, 21},
-    {185, 4}, {216, 4}, {247, 4}, {277, 4},  {308, 4},  {338, 4},
-};
-
-constexpr bool is_month(Integer month) noexcept { return month >= 1 && month <= 12; }
-
-// The month's day of the year, or its day of the month with option 1; 0 for no month.
-constexpr Integer selected_day(const DesignDay (&days)[12], Integer month,
-                               Integer option) noexcept {
-    if (!is_month(month)) return 0;
-    const DesignDay& day = days[month - 1];
-    return option == 1 ? day.of_month : day.of_year;
+// Of the month with option 1, else of the year; 0 for no month.
+template <class R>
+IntegerOf<R> selected_day(const Integer* days, IntegerOf<R> month, IntegerOf<R> option) noexcept {
+    using I = IntegerOf<R>;
+    return either(
+        is_month(month),
+        [&] { return lookup(days, table_row(month, 12) + select(option == 1, I(12), I(0))); },
+        [&] { return I(0); });
 }
 
-constexpr Integer design_day_by_option(Integer month, Integer option) noexcept {
-    return selected_day(design_days, month, option);
+template <class R>
+IntegerOf<R> design_day_by_option(IntegerOf<R> month, IntegerOf<R> option) noexcept {
+    return selected_day<R>(design_days, month, option);
 }
 
-constexpr Integer second_design_day_by_option(Integer month, Integer option) noexcept {
-    return selected_day(second_design_days, month, option);
+template <class R>
+IntegerOf<R> second_design_day_by_option(IntegerOf<R> month, IntegerOf<R> option) noexcept {
+    return selected_day<R>(second_design_days, month, option);
 }
 
-constexpr Integer design_day(Integer month) noexcept { return design_day_by_option(month, 0); }
+template <class R>
+IntegerOf<R> design_day(IntegerOf<R> month) noexcept {
+    return design_day_by_option<R>(month, IntegerOf<R>(0));
+}
 
-constexpr Integer second_design_day(Integer month) noexcept {
-    return second_design_day_by_option(month, 0);
+template <class R>
+IntegerOf<R> second_design_day(IntegerOf<R> month) noexcept {
+    return second_design_day_by_option<R>(month, IntegerOf<R>(0));
 }
 
 }  // namespace quorvel::climate

@@ -52,7 +52,7 @@ struct ClimateFileState {
 inline BandPosition locate_station_band(const ClimateFileState& state, Real fraction,
                                         Integer month) noexcept {
     const auto column = static_cast<std::size_t>(table_row(month, 12));
-    return locate_band(fraction, Ends::Held, [&](Integer band) {
+    return held_band(fraction, [&](Integer band) {
         return state.frequencies[static_cast<std::size_t>(band - 1)][column];
     });
 }

@@ -2,36 +2,40 @@
 // Hours are 0 to 24.
 #pragma once
 
-#include "base/contract.h"
+#include "base/number.h"
 #include "math/math.h"
 
 namespace quorvel::climate {
 
-// 1 at the first hour, -1 at the second; rising is the time [h] from the second through midnight to
+// 1 at the first hour, -1 at the second; rising is the time, h, from the second through midnight to
 // the first.
-inline Real half_waves(Real hour, Real first, Real second, Real rising) noexcept {
-    if (hour < first) return -math::cos(pi * (hour + 24.0f - second) / rising);
-    if (hour < second) return math::cos(pi * (hour - first) / (second - first));
-    return -math::cos(pi * (hour - second) / rising);
+template <class R>
+R half_waves(R hour, R first, R second, R rising) noexcept {
+    return piecewise(
+        hour < first, [&] { return -math::cos(pi * (hour + 24.0f - second) / rising); },
+        hour < second, [&] { return math::cos(pi * (hour - first) / (second - first)); },
+        [&] { return -math::cos(pi * (hour - second) / rising); });
 }
 
 // Between the extremes of a day and the hours at which they are reached; the mean if these
 // coincide.
-inline Real daily_temperature(Real hour, Real highest, Real lowest, Real hour_of_highest,
-                              Real hour_of_lowest) noexcept {
-    const Real mean = (highest + lowest) / 2.0f;
-    const Real amplitude = mean - lowest;
-    const Real tx = hour_of_highest, tn = hour_of_lowest;
-    if (tx == tn) return mean;
-    return tx < tn ? mean + amplitude * half_waves(hour, tx, tn, tx + 24.0f - tn)
-                   : mean - amplitude * half_waves(hour, tn, tx, 24.0f - tx + tn);
+template <class R>
+inline R daily_temperature(R hour, R highest, R lowest, R hour_of_highest,
+                           R hour_of_lowest) noexcept {
+    const R mean = (highest + lowest) / 2.0f;
+    const R amplitude = mean - lowest;
+    const R tx = hour_of_highest, tn = hour_of_lowest;
+    return piecewise(
+        tx == tn, [&] { return mean; },  //
+        tx < tn, [&] { return mean + amplitude * half_waves<R>(hour, tx, tn, tx + 24.0f - tn); },
+        [&] { return mean - amplitude * half_waves<R>(hour, tn, tx, 24.0f - tx + tn); });
 }
 
 // Highest at the first hour if factor times amplitude is positive; the first hour comes before the
 // second.
-inline Real daily_value(Real hour, Real mean, Real amplitude, Real first, Real second,
-                        Real factor) noexcept {
-    return mean + factor * amplitude * half_waves(hour, first, second, first + 24.0f - second);
+template <class R>
+R daily_value(R hour, R mean, R amplitude, R first, R second, R factor) noexcept {
+    return mean + factor * amplitude * half_waves<R>(hour, first, second, first + 24.0f - second);
 }
 
 }  // namespace quorvel::climate

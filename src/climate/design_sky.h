@@ -1,66 +1,65 @@
-// Design irradiance of the sky by solar altitude, and the irradiance outside the atmosphere.
-// Irradiances are in W/m², angles in radians.
+// Design irradiance of the sky by solar altitude. Irradiances in W/m², angles in radians.
 #pragma once
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-
-#include "climate/surface.h"
+#include "base/numeric.h"
+#include "climate/angles.h"
+#include "math/math.h"
 
 namespace quorvel::climate {
 
-// Increase of irradiance with the height [m] of the site. Lower sites and low suns get none, so the
+// Increase of irradiance with the height of the site, m. Lower sites and low suns get none, so the
 // factor jumps by 4 % or more at 300 m.
-inline Real height_factor(Real height, Real altitude) noexcept {
-    const Real sin_alt = math::sin(altitude);
-    if (sin_alt >= 0.08f && height >= 300.0f) return height * (5e-05f / sin_alt + 2e-05f) + 1.02f;
-    return 1.0f;
+template <class R>
+inline R height_factor(R height, R altitude) noexcept {
+    const R sin_alt = math::sin(altitude);
+    return either((sin_alt >= 0.08f) & (height >= 300.0f),
+                  [&] { return height * (5e-05f / sin_alt + 2e-05f) + 1.02f; },
+                  [&] { return R(1.0f); });
 }
 
-struct DesignSky {
-    Real low_sun_slope;                  // per rad
-    std::array<Real, 5> diffuse_series;  // per power of the altitude, from 0
-};
+// The clear sky, then the cloudy one.
+inline constexpr Real low_sun_slopes[] = {266.971f, 287.295f};  // W/m² per rad
+inline constexpr int diffuse_terms = 5;                         // per power of the altitude, from 0
+inline constexpr Real diffuse_series[] = {1.52269f,  280.358f, -375.111f, 253.716f, -63.3311f,
+                                          0.331322f, 283.1f,   4.42111f,  0.0f,     0.0f};
 
-// Clear and cloudy.
-inline constexpr DesignSky design_skies[2] = {
-    {266.971f, {1.52269f, 280.358f, -375.111f, 253.716f, -63.3311f}},
-    {287.295f, {0.331322f, 283.1f, 4.42111f}},
-};
+template <class R>
+inline R high_sun_direct(R altitude) noexcept {
+    const R w = 1.0f / altitude;
+    const R w2 = w * w;
+    const R w3 = w2 * w;
+    const R w4 = w3 * w;
+    return 1035.49f - 156.13f * w - 1.91863f * w2 + 2.51353f * w3 - 0.148842f * w4;
+}
 
-inline Irradiance design_irradiance(Real altitude, Real height, Integer sky_kind) noexcept {
-    if (std::fabs(altitude) > right_angle) return {0.0f, 0.0f};
-    const Real factor = height_factor(height, altitude);
-    const DesignSky& sky = design_skies[std::clamp(sky_kind, Integer{0}, Integer{1})];
-    if (altitude <= 0.087f)
-        return {2397.26f * altitude * factor, sky.low_sun_slope * altitude * factor};
-
-    const Real w = 1.0f / altitude;
-    const Real w2 = w * w;
-    const Real w3 = w2 * w;
-    const Real w4 = w3 * w;
-    const Real direct = 1035.49f - 156.13f * w - 1.91863f * w2 + 2.51353f * w3 - 0.148842f * w4;
-    Real diffuse = 0.0f;
-    Real power = 1.0f;
-    for (const Real c : sky.diffuse_series) {
-        diffuse += c * power;
+template <class R>
+inline R high_sun_diffuse(R altitude, IntegerOf<R> sky) noexcept {
+    R diffuse = R(0.0f);
+    R power = R(1.0f);
+    for (int i = 0; i < diffuse_terms; ++i) {
+        diffuse += lookup(diffuse_series, sky * diffuse_terms + i) * power;
         power *= altitude;
     }
-    return {direct * factor, diffuse * factor};
+    return diffuse;
 }
 
-// Irradiance outside the atmosphere by that at the mean distance of the sun; the earth is nearest
-// 2.8 degrees of its orbit after the year's start.
-inline Real eccentricity_factor(Integer day) noexcept {
-    const Real degrees = static_cast<Real>(day) * 360.0f / 365.25f - 2.8f;
-    return 1.0f + 0.03344f * math::cos(degrees * pi / 180.0f);
-}
+template <class R>
+struct DesignIrradiance {
+    R direct_normal, diffuse_horizontal;
+};
 
-// Global horizontal irradiance by that outside the atmosphere, whose mean normal value is 1367
-// W/m².
-inline Real clearness_index(Integer day, Real altitude, Real global_horizontal) noexcept {
-    return global_horizontal / (eccentricity_factor(day) * 1367.0f * math::sin(altitude));
+template <class R>
+inline DesignIrradiance<R> design_irradiance(R altitude, R height, IntegerOf<R> sky_kind) noexcept {
+    const IntegerOf<R> sky = select(sky_kind < 1, IntegerOf<R>(0), IntegerOf<R>(1));
+    const MaskOf<R> beyond = absolute(altitude) > right_angle;
+    const MaskOf<R> low = altitude <= 0.087f;
+    const R factor = height_factor(height, altitude);
+    const R direct = either(
+        low, [&] { return 2397.26f * altitude; }, [&] { return high_sun_direct(altitude); });
+    const R diffuse = either(
+        low, [&] { return lookup(low_sun_slopes, sky) * altitude; },
+        [&] { return high_sun_diffuse<R>(altitude, sky); });
+    return {select(beyond, R(0.0f), direct * factor), select(beyond, R(0.0f), diffuse * factor)};
 }
 
 }  // namespace quorvel::climate

@@ -1,18 +1,12 @@
 // Irradiance on a tilted surface from that on the horizontal after T. Muneer, Building Services
 // Engineering Research and Technology 11 (1990). The radiance of the sky follows 1 + b
 // sin(altitude) with b by the kind of sky; a sunlit surface gets a circumsolar part by the
-// clearness of the beam. Angles are in radians, irradiances in W/m².
+// clearness of the beam. Angles in radians, irradiances in W/m².
 #pragma once
 
-#include <algorithm>
-
-#include "climate/design_sky.h"
+#include "climate/incidence.h"
 
 namespace quorvel::climate {
-
-struct HorizontalIrradiance {
-    Real beam, diffuse;
-};
 
 // Radiance index b of a surface in shade, of a sunlit one under overcast and under any other sky.
 inline constexpr double shaded_index = 5.73;
@@ -20,78 +14,74 @@ inline constexpr double overcast_index = 1.68;
 inline constexpr double sunny_index = -0.62;
 
 // How far a sky of radiance index b is from an isotropic one.
-template <class Float>
-constexpr Float anisotropy(Float b, Float pi) noexcept {
-    return Float{2} * b / ((Float{2} * b + Float{3}) * pi);
+template <class F>
+F anisotropy(F b, F pi) noexcept {
+    return F(2.0f) * b / ((F(2.0f) * b + F(3.0f)) * pi);
 }
 
 // Irradiance on a surface of tilt beta without circumsolar part, by that on the horizontal.
-template <class Float>
-Float background_factor(Float anisotropy, Float beta, Float pi) noexcept {
-    const Float cos_half = math::cos(beta / Float{2}), sin_half = math::sin(beta / Float{2});
+template <class F>
+F background_factor(F anisotropy, F beta, F pi) noexcept {
+    const auto [sin_half, cos_half] = math::sincos(beta / F(2.0f));
+    const auto [sin_beta, cos_beta] = math::sincos(beta);
     return cos_half * cos_half +
-           anisotropy * (math::sin(beta) - beta * math::cos(beta) - pi * (sin_half * sin_half));
+           anisotropy * (sin_beta - beta * cos_beta - pi * (sin_half * sin_half));
 }
-
-struct MuneerSlope {
-    Real beam, diffuse, ground_reflected;
-    Real incidence;
-};
 
 // Of these formulas, which are double between their single arguments and results.
 inline constexpr double muneer_pi = 3.141592654;
 
-inline double background_factor(double b, double beta) noexcept {
-    return background_factor(anisotropy(b, muneer_pi), beta, muneer_pi);
+// Diffuse irradiance of a sunlit surface. The altitude is compared in double: 0.1 in single
+// precision is above. The two thresholds of the beam differ deliberately: at exactly 5 it has the
+// index of the sunny sky, but no circumsolar part.
+template <class D>
+D sunlit_diffuse(const Incidence<D>& sun, D altitude, D tilt, D beam, D diffuse,
+                 D extraterrestrial_horizontal) noexcept {
+    return either(
+        altitude > 0.1,
+        [&] {
+            const D b = select(beam < 5.0, D(overcast_index), D(sunny_index));
+            const D TF = background_factor(anisotropy(b, D(muneer_pi)), tilt, D(muneer_pi));
+            const D Kb = beam / extraterrestrial_horizontal;
+            const D mixed = TF * (1.0 - Kb) + Kb * sun.cosine / sun.sin_altitude;
+            return diffuse * select(beam <= 5.0, TF, mixed);
+        },
+        [&] {
+            const D sin_half = math::sin(tilt / 2.0);
+            return diffuse * sun.cosine * (1.0 + sin_half * sin_half * sin_half);
+        });
 }
 
-struct Sunlit {
-    double sin_altitude, cos_incidence;
-    double beam_clearness;
+template <class R>
+struct MuneerSlope {
+    R beam, diffuse, ground_reflected;
+    R incidence;
 };
 
-// Diffuse irradiance of a sunlit surface.
-inline double sunlit_diffuse(const Sunlit& sun, bool low, double beta, double beam,
-                             double diffuse) noexcept {
-    if (low) {
-        const double sin_half = math::sin(beta / 2.0);
-        return diffuse * sun.cos_incidence * (1.0 + sin_half * sin_half * sin_half);
-    }
-    // The two thresholds differ on purpose: a beam of exactly 5 has the index of the sunny sky, but
-    // no circumsolar part.
-    const double TF = background_factor(beam < 5.0 ? overcast_index : sunny_index, beta);
-    if (beam <= 5.0) return diffuse * TF;
-    const double Kb = sun.beam_clearness;
-    return diffuse * (TF * (1.0 - Kb) + Kb * sun.cos_incidence / sun.sin_altitude);
-}
+template <class R>
+MuneerSlope<R> muneer_slope(R altitude, R azimuth, R surface_azimuth, R tilt, R beam, R diffuse,
+                            R extraterrestrial_horizontal, R ground_reflectance) noexcept {
+    using D = DoubleOf<R>;
+    const D alpha = to_double(altitude), beta = to_double(tilt);
+    const D beam_d = to_double(beam), diffuse_d = to_double(diffuse);
+    const Incidence<D> sun(alpha, to_double(azimuth), to_double(surface_azimuth), beta);
+    const MaskOf<D> behind = sun.cosine <= 0.0;
 
-inline MuneerSlope muneer_slope(SolarAngles sun, Orientation surface, HorizontalIrradiance sky,
-                                Real extraterrestrial_horizontal,
-                                Real ground_reflectance) noexcept {
-    const auto altitude = static_cast<double>(sun.altitude);
-    const auto beta = static_cast<double>(surface.tilt);
-    const auto beam = static_cast<double>(sky.beam), diffuse = static_cast<double>(sky.diffuse);
-    const double relative_azimuth =
-        static_cast<double>(sun.azimuth) - static_cast<double>(surface.azimuth);
-    const double sin_altitude = math::sin(altitude);
-    const double cos_incidence =
-        math::cos(altitude) * math::sin(beta) * math::cos(relative_azimuth) +
-        sin_altitude * math::cos(beta);
-
-    const double sin_half = math::sin(beta / 2.0);
-    const double ground =
-        (beam + diffuse) * static_cast<double>(ground_reflectance) * (sin_half * sin_half);
-    if (cos_incidence <= 0.0)
-        return {0.0f, static_cast<Real>(diffuse * background_factor(shaded_index, beta)),
-                static_cast<Real>(ground), static_cast<Real>(muneer_pi / 2.0)};
-
-    const Sunlit sunlit = {sin_altitude, cos_incidence,
-                           beam / static_cast<double>(extraterrestrial_horizontal)};
-    // The altitude is compared in double: 0.1 in single precision is above.
-    const bool low = !(altitude > 0.1);
-    return {static_cast<Real>(cos_incidence * beam / sin_altitude),
-            static_cast<Real>(sunlit_diffuse(sunlit, low, beta, beam, diffuse)),
-            static_cast<Real>(ground), static_cast<Real>(math::acos(std::min(cos_incidence, 1.0)))};
+    const D sky_diffuse = either(
+        behind,
+        [&] {
+            const D term = anisotropy(D(shaded_index), D(muneer_pi));
+            return diffuse_d * background_factor(term, beta, D(muneer_pi));
+        },
+        [&] {
+            return sunlit_diffuse<D>(sun, alpha, beta, beam_d, diffuse_d,
+                                     to_double(extraterrestrial_horizontal));
+        });
+    const D direct = select(behind, D(0.0), sun.cosine * beam_d / sun.sin_altitude);
+    const D sin_half = math::sin(beta / 2.0);
+    const D ground = (beam_d + diffuse_d) * to_double(ground_reflectance) * (sin_half * sin_half);
+    return {to_real(direct), to_real(sky_diffuse), to_real(ground),
+            to_real(sun.angle(D(muneer_pi / 2.0)))};
 }
 
 }  // namespace quorvel::climate

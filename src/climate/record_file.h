@@ -7,7 +7,7 @@
 #include <cstring>
 #include <optional>
 
-#include "climate/bands.h"
+#include "climate/months.h"
 
 namespace quorvel::climate {
 

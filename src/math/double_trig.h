@@ -105,6 +105,15 @@ inline double cos(double x) noexcept {
     return c.high + c.low;
 }
 
+struct DoubleSinCos {
+    double sin, cos;
+};
+
+inline DoubleSinCos sincos(double x) noexcept {
+    const auto [s, c] = detail::sin_cos(x);
+    return {x == 0.0 ? x : s.high + s.low, c.high + c.low};
+}
+
 inline double tan(double x) noexcept {
     if (detail::magnitude(x) < 0x1p-27) return x;
     const auto [s, c] = detail::sin_cos(x);

@@ -117,4 +117,41 @@ TEST_F(StationFile, BandsAreHeldAtBothEndsAndSkippedWithoutDays) {
     }
 }
 
+TEST_F(StationFile, RecordsAreTheClimatesOfTheirMonths) {
+    write(1, 1);
+    for (int row = 12; row < 32; ++row) image.set(1, row, 1, -0.5f);  // Q1 and Q2
+    for (int row = 72; row < 82; ++row) image.set(1, row, 1, -0.5f);  // Q7
+    for (int row = 72; row < 82; ++row) image.set(1, row, 2, 1.5f);
+    image.save(name);
+    const LibraryCopy library;
+    constexpr float sets[] = {1.0f,  1.0f, 1.49f, 1.5f, 1.6f,  2.0f,
+                              2.49f, 2.5f, 3.0f,  0.0f, -2.0f, NAN};
+    std::array<float, 132> records{}, of_may;
+    for (std::size_t m = 0; m < 12; ++m)
+        records[11 * m + 9] = sets[m], records[11 * m + 10] = static_cast<float>(5 + 8 * m);
+    of_may = records;
+    library.CLBNF0(name, 1, 0, records);
+    for (std::size_t m = 0; m < 12; ++m) {
+        const int set = m >= 3 && m <= 6 ? 2 : 1;
+        const Climate month(library, 1, 0, static_cast<int>(m) + 1, set, records[11 * m + 10]);
+        const auto& q = month.q;
+        const float expected[] = {q[3],         q[5], month.time_b, q[2], q[4],
+                                  month.time_a, q[0], q[1],         q[6]};
+        for (std::size_t k = 0; k < 9; ++k) EXPECT_EQ(records[11 * m + k], expected[k]) << m << k;
+    }
+    for (const std::size_t zero : {6, 7, 8}) EXPECT_EQ(records[zero], 0.0f);
+    EXPECT_EQ(records[11 + 8], 1.0f);
+    const auto given = of_may;
+    library.CLBNF0(name, 1, 5, of_may);
+    for (std::size_t i = 0; i < 132; ++i)
+        EXPECT_EQ(bits(of_may[i]), bits(i / 11 == 4 ? records[i] : given[i])) << i;
+
+    EXPECT_EQ(Climate(library, 1, 2, 3, 7).q, Climate(library, 1, 2, 3, 1).q)
+        << "no set but 2 is 2";
+    float value;
+    library.CLBNF2(12, 3, 5, 7, 0.25f, value);
+    const float from = image.value(1, 14, 7), to = image.value(1, 16, 7);
+    EXPECT_EQ(value, from + (to - from) * 0.25f);
+}
+
 }  // namespace

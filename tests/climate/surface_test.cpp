@@ -74,6 +74,8 @@ TEST(SurfaceIrradiance, OnSurfacesThatFaceTheSunIsNormal) {
         const Surface surface(altitude, 2.0f, 2.0f, 0.5f * pi - altitude);
         EXPECT_LT(surface.incidence, 1e-3f) << altitude;
         EXPECT_NEAR(surface.direct, 720.0f, 1e-3f) << altitude;
+        EXPECT_LT(Angles(altitude, 2.0f, 2.0f, 0.5f * pi - altitude).incidence, 1e-3f) << altitude;
+        EXPECT_GT(Angles(altitude, 2.0f, 2.0f + pi, 0.5f * pi + altitude).incidence, 3.14f);
     }
 }
 
@@ -124,17 +126,24 @@ TEST(DesignSky, BrightensWithHeight) {
     EXPECT_NEAR(lib::CLHIGH(300.0f, pi / 6.0f), 1.056f, 1e-6f);
 }
 
-TEST(DesignSky, DiffuseIrradianceIsContinuousAndUnderCloudNearlyProportional) {
-    for (float degrees = 5.0f; degrees <= 80.0f; degrees += 5.0f)
-        EXPECT_NEAR(Sky(degrees * pi / 180.0f, 0.0f, 1).diffuse, 5.0f * degrees, 0.06f * degrees);
-    // At 1 rad a series is the sum of its coefficients.
-    EXPECT_NEAR(Sky(1.0f, 0.0f, 0).diffuse, 97.15459f, 1e-4f);
-    EXPECT_NEAR(Sky(1.0f, 0.0f, 1).diffuse, 287.85244f, 1e-4f);
+// Worked by hand where the powers are simple: slopes over 16, w = 10, sums of coefficients.
+TEST(DesignSky, IsProportionalForLowSunsAndAPolynomialAbove) {
+    EXPECT_NEAR(Sky(0.0625f, 0.0f, 0).direct, 149.82875f, 2e-5f);
+    EXPECT_NEAR(Sky(0.0625f, 0.0f, 0).diffuse, 16.6856875f, 2e-6f);
+    EXPECT_NEAR(Sky(-0.0625f, 0.0f, 1).diffuse, -17.9559375f, 2e-6f);
+    EXPECT_NEAR(Sky(0.1f, 0.0f, 1).direct, 307.437f, 4e-4f);
+    EXPECT_NEAR(Sky(1.0f, 0.0f, 0).diffuse, 97.15459f, 4e-5f);
+    EXPECT_NEAR(Sky(1.0f, 0.0f, 1).diffuse, 287.852422f, 4e-5f);
+    EXPECT_NEAR(Sky(1.5f, 0.0f, 0).diffuse, 113.73775f, 4e-5f);
+    EXPECT_NEAR(Sky(0.5f, 0.0f, 1).diffuse, 142.9866f, 4e-5f);
     for (const int kind : {0, 1})
         EXPECT_NEAR(Sky(0.0871f, 0.0f, kind).diffuse, Sky(0.087f, 0.0f, kind).diffuse, 0.05f);
+    EXPECT_NEAR(Sky(0.087f, 0.0f, 0).direct, 208.5616f, 1e-3f);
+    EXPECT_LT(Sky(std::nextafter(0.087f, 1.0f), 0.0f, 0).direct, 207.0f);
     EXPECT_GT(Sky(1.5707964f, 0.0f, 0).direct, 930.0f);
     EXPECT_EQ(Sky(1.5707966f, 0.0f, 0).direct, 0.0f) << "beyond the zenith";
     EXPECT_EQ(Sky(0.8f, 0.0f, 7).diffuse, Sky(0.8f, 0.0f, 1).diffuse);
+    EXPECT_EQ(Sky(0.8f, 0.0f, -7).diffuse, Sky(0.8f, 0.0f, 0).diffuse);
 }
 
 TEST(Extraterrestrial, FollowsTheInverseSquareOfTheDistance) {

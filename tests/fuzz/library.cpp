@@ -6,7 +6,7 @@
 #include "fuzz/library.h"
 
 // The library's own source, for its state. The linker takes this in place of the library's.
-#include "climate/climate_file_shell.cpp"
+#include "entry/climate_file.cpp"
 
 namespace quorvel::fuzz {
 

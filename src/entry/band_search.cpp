@@ -1,0 +1,14 @@
+#include "climate/band_search.h"
+
+#include "entry/entry.h"
+
+using namespace quorvel;
+
+// The table of frequencies is read in place: the search looks at a few of its values.
+void CLBAN1(const Real* fraction, const Integer* month, const Real* frequencies, Integer* lower,
+            Integer* upper, Real* weight) {
+    const auto position = climate::locate_band(*fraction, *month, frequencies);
+    *lower = position.lower;
+    *upper = position.upper;
+    *weight = position.weight;
+}
