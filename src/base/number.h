@@ -8,8 +8,10 @@
 //     both(mask, f)               mask & f(), where f is evaluated only if needed
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
 //
-// Masks are combined by & | and !, since && and || cannot be had for more than one number. A formula
-// that takes no R from its arguments is called as f<R>(...).
+// The values chosen may also be structures that hold nothing but R.
+//
+// Masks are combined by & | and !, since && and || cannot be had for more than one number. A
+// formula that takes no R from its arguments is called as f<R>(...).
 #pragma once
 
 #include <cmath>
@@ -22,7 +24,7 @@ namespace quorvel {
 template <class R>
 struct NumberTypes;
 template <class R>
-    requires std::is_floating_point_v<R>
+requires std::is_floating_point_v<R>
 struct NumberTypes<R> {
     using Mask = bool;
     using Integer = quorvel::Integer;
@@ -65,6 +67,10 @@ constexpr T lookup(const T* table, Integer index) noexcept {
 constexpr Real to_real(Integer n) noexcept { return static_cast<Real>(n); }
 // Towards zero; x must lie within the range of an Integer.
 constexpr Integer to_integer(Real x) noexcept { return static_cast<Integer>(x); }
+
+inline Real truncated(Real x) noexcept { return std::trunc(x); }  // towards zero, to a real
+// x less a whole multiple of y, exactly; with the sign of x.
+inline Real modulo(Real x, Real y) noexcept { return std::fmod(x, y); }
 
 inline Real absolute(Real x) noexcept { return std::fabs(x); }
 inline DoubleReal absolute(DoubleReal x) noexcept { return std::fabs(x); }

@@ -23,4 +23,10 @@ constexpr R lesser(R a, R b) noexcept {
     return select(b < a, b, a);
 }
 
+// The greater of two; a where one is not a number.
+template <class R>
+constexpr R greater(R a, R b) noexcept {
+    return select(a < b, b, a);
+}
+
 }  // namespace quorvel

@@ -7,57 +7,122 @@
 // float nearest to 0.40.
 #pragma once
 
-#include <cmath>
-
-#include "base/contract.h"
+#include "base/number.h"
 
 namespace quorvel::fabric {
 
+template <class R>
 struct Fractions {
-    Real first, second, third;
+    R first, second, third;
 };
 
-// 0.57 times 100 is 56.99999; a tenth of a hundredth keeps it from losing one.
-inline Real hundredths(Real fraction) noexcept { return std::trunc(100.0f * fraction + 0.1f); }
+template <class R>
+constexpr Fractions<R> undefined_fractions = {R(undefined), R(undefined), R(undefined)};
 
-inline Real joined(const Fractions& p) noexcept {
+// 0.57 times 100 is 56.99999; a tenth of a hundredth keeps it from losing one.
+template <class R>
+R hundredths(R fraction) noexcept {
+    return truncated(100.0f * fraction + 0.1f);
+}
+
+template <class R>
+R joined(const Fractions<R>& p) noexcept {
     return p.first + hundredths(p.second) + 100.0f * hundredths(p.third);
 }
 
-inline Real packed(const Fractions& p) noexcept {
-    return is_undefined(p.first + p.second + p.third) ? undefined : joined(p);
+template <class R>
+R packed_fractions(const Fractions<R>& p) noexcept {
+    return select(is_undefined(p.first + p.second + p.third), R(undefined), joined(p));
 }
 
 // A second fraction of 1.00 has been carried into the third. The remainder is exact everywhere.
-inline Fractions unpacked(Real v) noexcept {
-    if (is_undefined(v)) return {undefined, undefined, undefined};
-    return {hundredths(v - std::trunc(v)) * 0.01f, std::trunc(std::fmod(v, 100.0f)) * 0.01f,
-            std::trunc(0.01f * v) * 0.01f};
+template <class R>
+Fractions<R> unpacked_fractions(R v) noexcept {
+    return either(
+        is_undefined(v), [&] { return undefined_fractions<R>; },
+        [&] {
+            return Fractions<R>{hundredths(v - truncated(v)) * 0.01f,
+                                truncated(modulo(v, 100.0f)) * 0.01f, truncated(0.01f * v) * 0.01f};
+        });
 }
-
-// Absorptance of a pane and the reflectances of its two faces.
-struct PaneFaces {
-    Real absorptance, first_reflectance, second_reflectance;
-};
 
 // What one face of a pane transmits if it reflects the fraction given, and the other way round.
-inline Real face_complement(Real absorptance, Real fraction) noexcept {
-    return std::trunc(100.1f - 100.0f * (fraction + absorptance)) * 0.01f;
+template <class R>
+R face_complement(R absorptance, R fraction) noexcept {
+    return truncated(100.1f - 100.0f * (fraction + absorptance)) * 0.01f;
 }
 
-// Packed with transmittances in place of the reflectances, so that the number reads like that of a
-// layer described by its transmittance.
-inline Real packed_pane(const PaneFaces& pane) noexcept {
-    const auto [a, r1, r2] = pane;
-    if (is_undefined(a + r1 + r2)) return undefined;
-    const Real t1 = face_complement(a, r1), t2 = face_complement(a, r2);
-    return is_undefined(t1 + t2 + a) ? undefined : joined({a, t1, t2});
+// A pane by its absorptance and the reflectances of its two faces, packed with transmittances in
+// their place, so that the number reads like that of a layer described by its transmittance.
+template <class R>
+R packed_pane(const Fractions<R>& pane) noexcept {
+    const R a = pane.first;
+    const R t1 = face_complement(a, pane.second), t2 = face_complement(a, pane.third);
+    return select(is_undefined(a + pane.second + pane.third) | is_undefined(t1 + t2 + a),
+                  R(undefined), joined(Fractions<R>{a, t1, t2}));
 }
 
-inline PaneFaces unpacked_pane(Real v) noexcept {
-    if (is_undefined(v)) return {undefined, undefined, undefined};
-    const auto [a, t1, t2] = unpacked(v);
-    return {a, face_complement(a, t1), face_complement(a, t2)};
+template <class R>
+Fractions<R> unpacked_pane(R v) noexcept {
+    return either(
+        is_undefined(v), [&] { return undefined_fractions<R>; },
+        [&] {
+            const Fractions<R> p = unpacked_fractions(v);
+            return Fractions<R>{p.first, face_complement(p.first, p.second),
+                                face_complement(p.first, p.third)};
+        });
+}
+
+// A packed number and what it holds: one of them is given, the other written.
+template <class R>
+struct Packing {
+    Maybe<R> packed, first, second, third;
+};
+
+// Mode 1 packs, any other unpacks.
+template <class R, class Pack, class Unpack>
+Packing<R> packing(IntegerOf<R> mode, R packed, const Fractions<R>& p, Pack pack,
+                   Unpack unpack) noexcept {
+    const MaskOf<R> packs = mode == 1;
+    const R number = either(
+        packs, [&] { return pack(p); }, [&] { return packed; });
+    const Fractions<R> held = either(
+        packs, [&] { return p; }, [&] { return unpack(packed); });
+    return {{number, packs}, {held.first, !packs}, {held.second, !packs}, {held.third, !packs}};
+}
+
+template <class R>
+Packing<R> pack_three_fractions(IntegerOf<R> mode, R packed, R p1, R p2, R p3) noexcept {
+    return packing<R>(mode, packed, {p1, p2, p3}, packed_fractions<R>, unpacked_fractions<R>);
+}
+
+template <class R>
+struct PackingThirdFirst {
+    Maybe<R> packed, third, first, second;
+};
+
+template <class R>
+PackingThirdFirst<R> pack_three_fractions_third_first(IntegerOf<R> mode, R packed, R p3, R p1,
+                                                      R p2) noexcept {
+    const Packing<R> all = pack_three_fractions<R>(mode, packed, p1, p2, p3);
+    return {all.packed, all.third, all.first, all.second};
+}
+
+template <class R>
+struct PackingOfTwo {
+    Maybe<R> packed, first, second;
+};
+
+template <class R>
+PackingOfTwo<R> pack_two_fractions(IntegerOf<R> mode, R packed, R p1, R p2) noexcept {
+    const Packing<R> all = pack_three_fractions<R>(mode, packed, p1, p2, R(0.0f));
+    return {all.packed, all.first, all.second};
+}
+
+// Absorptance, reflectance of the first face and of the second.
+template <class R>
+Packing<R> pack_pane(IntegerOf<R> mode, R packed, R a, R r1, R r2) noexcept {
+    return packing<R>(mode, packed, {a, r1, r2}, packed_pane<R>, unpacked_pane<R>);
 }
 
 }  // namespace quorvel::fabric
