@@ -28,7 +28,7 @@ CavityConvection<R> interpolated(const CavityConvection<Real>& low,
 // Air rests from 1.59 on, not from pi/2: deliberate, so that however a vertical cavity is rounded
 // it convects, by a correlation carried on a little beyond the vertical.
 template <class R>
-CavityConvection<R> cavity_convection(R tilt) noexcept {
+inline CavityConvection<R> cavity_convection(R tilt) noexcept {
     const R s = tilt / 0.785f;
     return piecewise(
         tilt <= 0.785f, [&] { return interpolated(horizontal_cavity, inclined_cavity, s); },
@@ -43,8 +43,8 @@ inline constexpr Real black_body_coefficient = 5.14f;
 
 // k: conductivity of the gas. What is no number is not lifted to Nu = 1.
 template <class R>
-R cavity_resistance(const CavityConvection<R>& convection, R rayleigh, R radiation, R k,
-                    R width) noexcept {
+inline R cavity_resistance(const CavityConvection<R>& convection, R rayleigh, R radiation, R k,
+                           R width) noexcept {
     const R nusselt = greater(convection.C * math::pow(rayleigh, convection.n), R(1.0f));
     return 1.0f / (radiation + nusselt * k / width);
 }
@@ -54,7 +54,7 @@ inline constexpr Real least_cavity_width = 0.001f;
 // Between faces of emissivities e1 and e2; 0 where there is no cavity. The rounded 3.1416 admits a
 // horizontal cavity entered as any float near pi.
 template <class R>
-R tilted_cavity_resistance(R tilt, R width, R e1, R e2, R rayleigh, R k) noexcept {
+inline R tilted_cavity_resistance(R tilt, R width, R e1, R e2, R rayleigh, R k) noexcept {
     const MaskOf<R> none = (tilt < 0.0f) | (tilt > 3.1416f) | (width < least_cavity_width);
     return either(
         none, [&] { return R(0.0f); },

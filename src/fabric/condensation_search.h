@@ -39,7 +39,7 @@ struct SearchStretch {
 // The steps that lead no further down than to `end` and not beyond the cold face. From 2^23 on a
 // temperature has no halves, and a step or two is all there is.
 template <class R>
-SearchStretch<R> stretch_down_to(R end, R first, R t2) noexcept {
+inline SearchStretch<R> stretch_down_to(R end, R first, R t2) noexcept {
     if (absolute(first) >= 0x1p23f) return {first, 1};
     const R length = first - greater(end, t2);
     return {first, to_integer(length / search_step) + 1};
@@ -47,7 +47,7 @@ SearchStretch<R> stretch_down_to(R end, R first, R t2) noexcept {
 
 // Below absolute zero rounding changes where the magnitude passes a power of two.
 template <class R>
-SearchStretch<R> cold_stretch(R first, R t2) noexcept {
+inline SearchStretch<R> cold_stretch(R first, R t2) noexcept {
     R end = -512.0f;
     while (end >= first && end > -0x1p24f) end *= 2.0f;
     return stretch_down_to(end + search_step, first, t2);
@@ -59,7 +59,7 @@ R highest_pressure(const VapourLine<R>& line, const SearchStretch<R>& s) noexcep
 }
 
 template <class R>
-bool saturated_in_heat(const VapourLine<R>& line, const SearchStretch<R>& s) noexcept {
+inline bool saturated_in_heat(const VapourLine<R>& line, const SearchStretch<R>& s) noexcept {
     return highest_pressure(line, s) == std::numeric_limits<R>::infinity();
 }
 

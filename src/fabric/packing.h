@@ -21,23 +21,23 @@ constexpr Fractions<R> undefined_fractions = {R(undefined), R(undefined), R(unde
 
 // 0.57 times 100 is 56.99999; a tenth of a hundredth keeps it from losing one.
 template <class R>
-R hundredths(R fraction) noexcept {
+inline R hundredths(R fraction) noexcept {
     return truncated(100.0f * fraction + 0.1f);
 }
 
 template <class R>
-R joined(const Fractions<R>& p) noexcept {
+inline R joined(const Fractions<R>& p) noexcept {
     return p.first + hundredths(p.second) + 100.0f * hundredths(p.third);
 }
 
 template <class R>
-R packed_fractions(const Fractions<R>& p) noexcept {
+inline R packed_fractions(const Fractions<R>& p) noexcept {
     return select(is_undefined(p.first + p.second + p.third), R(undefined), joined(p));
 }
 
 // A second fraction of 1.00 has been carried into the third. The remainder is exact everywhere.
 template <class R>
-Fractions<R> unpacked_fractions(R v) noexcept {
+inline Fractions<R> unpacked_fractions(R v) noexcept {
     return either(
         is_undefined(v), [&] { return undefined_fractions<R>; },
         [&] {
@@ -55,7 +55,7 @@ R face_complement(R absorptance, R fraction) noexcept {
 // A pane by its absorptance and the reflectances of its two faces, packed with transmittances in
 // their place, so that the number reads like that of a layer described by its transmittance.
 template <class R>
-R packed_pane(const Fractions<R>& pane) noexcept {
+inline R packed_pane(const Fractions<R>& pane) noexcept {
     const R a = pane.first;
     const R t1 = face_complement(a, pane.second), t2 = face_complement(a, pane.third);
     return select(is_undefined(a + pane.second + pane.third) | is_undefined(t1 + t2 + a),
@@ -63,7 +63,7 @@ R packed_pane(const Fractions<R>& pane) noexcept {
 }
 
 template <class R>
-Fractions<R> unpacked_pane(R v) noexcept {
+inline Fractions<R> unpacked_pane(R v) noexcept {
     return either(
         is_undefined(v), [&] { return undefined_fractions<R>; },
         [&] {
@@ -73,56 +73,84 @@ Fractions<R> unpacked_pane(R v) noexcept {
         });
 }
 
-// A packed number and what it holds: one of them is given, the other written.
 template <class R>
-struct Packing {
+struct PackedFractions {
+    R packed;
+    Fractions<R> fractions;
+};
+
+inline constexpr Integer pack = 1;  // the mode; any other unpacks
+
+// One from the other: the number from the fractions that it holds, or they from it.
+template <class R, class Pack, class Unpack>
+PackedFractions<R> completed(MaskOf<R> packs, R packed, const Fractions<R>& p, Pack pack,
+                             Unpack unpack) noexcept {
+    return either(
+        packs,
+        [&] {
+            return PackedFractions<R>{pack(p), p};
+        },
+        [&] {
+            return PackedFractions<R>{packed, unpack(packed)};
+        });
+}
+
+template <class R>
+PackedFractions<R> completed_fractions(MaskOf<R> packs, R packed, const Fractions<R>& p) noexcept {
+    return completed(
+        packs, packed, p, [](const Fractions<R>& held) { return packed_fractions(held); },
+        [](R number) { return unpacked_fractions(number); });
+}
+
+template <class R>
+struct PackThreeFractions {
     Maybe<R> packed, first, second, third;
 };
 
-// Mode 1 packs, any other unpacks.
-template <class R, class Pack, class Unpack>
-Packing<R> packing(IntegerOf<R> mode, R packed, const Fractions<R>& p, Pack pack,
-                   Unpack unpack) noexcept {
-    const MaskOf<R> packs = mode == 1;
-    const R number = either(
-        packs, [&] { return pack(p); }, [&] { return packed; });
-    const Fractions<R> held = either(
-        packs, [&] { return p; }, [&] { return unpack(packed); });
-    return {{number, packs}, {held.first, !packs}, {held.second, !packs}, {held.third, !packs}};
+template <class R>
+PackThreeFractions<R> pack_three_fractions(IntegerOf<R> mode, R packed, R p1, R p2, R p3) noexcept {
+    const MaskOf<R> packs = mode == pack;
+    const auto [number, p] = completed_fractions<R>(packs, packed, {p1, p2, p3});
+    return {{number, packs}, {p.first, !packs}, {p.second, !packs}, {p.third, !packs}};
 }
 
 template <class R>
-Packing<R> pack_three_fractions(IntegerOf<R> mode, R packed, R p1, R p2, R p3) noexcept {
-    return packing<R>(mode, packed, {p1, p2, p3}, packed_fractions<R>, unpacked_fractions<R>);
-}
-
-template <class R>
-struct PackingThirdFirst {
+struct PackThreeFractionsThirdFirst {
     Maybe<R> packed, third, first, second;
 };
 
 template <class R>
-PackingThirdFirst<R> pack_three_fractions_third_first(IntegerOf<R> mode, R packed, R p3, R p1,
-                                                      R p2) noexcept {
-    const Packing<R> all = pack_three_fractions<R>(mode, packed, p1, p2, p3);
-    return {all.packed, all.third, all.first, all.second};
+PackThreeFractionsThirdFirst<R> pack_three_fractions_third_first(IntegerOf<R> mode, R packed, R p3,
+                                                                 R p1, R p2) noexcept {
+    const MaskOf<R> packs = mode == pack;
+    const auto [number, p] = completed_fractions<R>(packs, packed, {p1, p2, p3});
+    return {{number, packs}, {p.third, !packs}, {p.first, !packs}, {p.second, !packs}};
 }
 
 template <class R>
-struct PackingOfTwo {
+struct PackTwoFractions {
     Maybe<R> packed, first, second;
 };
 
 template <class R>
-PackingOfTwo<R> pack_two_fractions(IntegerOf<R> mode, R packed, R p1, R p2) noexcept {
-    const Packing<R> all = pack_three_fractions<R>(mode, packed, p1, p2, R(0.0f));
-    return {all.packed, all.first, all.second};
+PackTwoFractions<R> pack_two_fractions(IntegerOf<R> mode, R packed, R p1, R p2) noexcept {
+    const MaskOf<R> packs = mode == pack;
+    const auto [number, p] = completed_fractions<R>(packs, packed, {p1, p2, R(0.0f)});
+    return {{number, packs}, {p.first, !packs}, {p.second, !packs}};
 }
 
-// Absorptance, reflectance of the first face and of the second.
 template <class R>
-Packing<R> pack_pane(IntegerOf<R> mode, R packed, R a, R r1, R r2) noexcept {
-    return packing<R>(mode, packed, {a, r1, r2}, packed_pane<R>, unpacked_pane<R>);
+struct PackPane {
+    Maybe<R> packed, absorptance, first_reflectance, second_reflectance;
+};
+
+template <class R>
+PackPane<R> pack_pane(IntegerOf<R> mode, R packed, R a, R r1, R r2) noexcept {
+    const MaskOf<R> packs = mode == pack;
+    const auto [number, p] = completed<R>(
+        packs, packed, {a, r1, r2}, [](const Fractions<R>& pane) { return packed_pane(pane); },
+        [](R given) { return unpacked_pane(given); });
+    return {{number, packs}, {p.first, !packs}, {p.second, !packs}, {p.third, !packs}};
 }
 
 }  // namespace quorvel::fabric

@@ -37,7 +37,7 @@ constexpr R inside_surface_resistance(R tilt) noexcept {
 
 // A type that is neither inside nor outside has no resistance.
 template <class R>
-R surface_resistance(IntegerOf<R> type, R tilt, IntegerOf<R> exposure) noexcept {
+constexpr R surface_resistance(IntegerOf<R> type, R tilt, IntegerOf<R> exposure) noexcept {
     return piecewise(
         type == outside_surface, [&] { return outside_surface_resistance(tilt, exposure); },
         type == inside_surface, [&] { return inside_surface_resistance(tilt); },
@@ -45,8 +45,8 @@ R surface_resistance(IntegerOf<R> type, R tilt, IntegerOf<R> exposure) noexcept 
 }
 
 template <class R>
-R surface_resistance_at_emissivity(IntegerOf<R> type, R tilt, IntegerOf<R> exposure,
-                                   R emissivity) noexcept {
+constexpr R surface_resistance_at_emissivity(IntegerOf<R> type, R tilt, IntegerOf<R> exposure,
+                                             R emissivity) noexcept {
     return piecewise(
         type == outside_surface,
         [&] { return outside_resistance(5.1f * emissivity, tilt, exposure); },

@@ -20,9 +20,9 @@ struct GlazingCavities {
 // what they add up to. An open pane among three leaves one cavity. Without a cavity for any number
 // of panes but two and three.
 template <class R>
-GlazingCavities<R> glazing_cavities(IntegerOf<R> panes, IntegerOf<R> kind1, R e1,
-                                    IntegerOf<R> kind2, R e2, IntegerOf<R> kind3, R e3, R width1,
-                                    R width2, R tilt) noexcept {
+inline GlazingCavities<R> glazing_cavities(IntegerOf<R> panes, IntegerOf<R> kind1, R e1,
+                                           IntegerOf<R> kind2, R e2, IntegerOf<R> kind3, R e3,
+                                           R width1, R width2, R tilt) noexcept {
     const R of_two = to_real(kind1) + to_real(kind2), of_three = of_two + to_real(kind3);
     const MaskOf<R> two_closed = (panes == 2) & (of_two == 2.0f);
     const MaskOf<R> all_closed = (panes == 3) & (of_three == 3.0f);

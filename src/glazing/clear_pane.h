@@ -20,7 +20,7 @@ struct Diffuse {
 
 // Hemispherical means of a pane whose two polarisations a function gives at each band.
 template <class R, class Evaluate>
-Diffuse<R> integrated(Evaluate evaluate) noexcept {
+inline Diffuse<R> integrated(Evaluate evaluate) noexcept {
     std::array<R, incidence_band_count> transmitted, absorbed;
     for (int k = 0; k < incidence_band_count; ++k) {
         const Polarised<Optics<R>> optics = evaluate(k);

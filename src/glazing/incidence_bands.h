@@ -51,7 +51,7 @@ inline constexpr std::array<IncidenceBand, incidence_band_count> incidence_bands
 
 // Hemispherical mean of a quantity that is given band by band as the sum of both polarisations.
 template <class R>
-R hemispherical_mean(const std::array<R, incidence_band_count>& sums) noexcept {
+constexpr R hemispherical_mean(const std::array<R, incidence_band_count>& sums) noexcept {
     R total = R(0.0f);
     for (int k = 0; k < incidence_band_count; ++k) total += incidence_bands[k].weight * sums[k];
     return 0.5f * total;
