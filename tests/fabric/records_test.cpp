@@ -38,8 +38,7 @@ Three unpacked(float v) { return unpacked(lib::TPCOLT, v); }
 float decimal(int hundredths) { return static_cast<float>(hundredths / 100.0); }
 float returned(int hundredths) { return static_cast<float>(hundredths) * 0.01f; }
 
-// All triples from 0.00 to 0.99 are held, and come back as hundredths times the float 0.01, which
-// is the float nearest to the decimal or the next one.
+// As hundredths times the float 0.01.
 TEST(Packing, EveryTripleOfTwoDecimalsComesBack) {
     for (int i = 0; i < 100; ++i)
         for (int j = 0; j < 100; ++j)
@@ -50,9 +49,6 @@ TEST(Packing, EveryTripleOfTwoDecimalsComesBack) {
                 ASSERT_EQ(back, (Three{returned(i), returned(j), returned(k)})) << v;
                 ASSERT_EQ(unpacked(packed(back)), back) << v;
             }
-    for (int i = 0; i < 100; ++i)
-        EXPECT_LE(std::fabs(returned(i) - decimal(i)),
-                  std::nextafter(decimal(i), 1.0f) - decimal(i));
 }
 
 TEST(Packing, EveryPaneThatTransmitsLessThanAllComesBack) {
@@ -63,9 +59,9 @@ TEST(Packing, EveryPaneThatTransmitsLessThanAllComesBack) {
                 ASSERT_EQ(unpacked(lib::TPCOSW, v),
                           (Three{returned(a), returned(r1), returned(r2)}))
                     << a << ' ' << r1 << ' ' << r2;
-                const auto [p1, t1, t2] = unpacked(v);
-                ASSERT_NEAR(p1 + decimal(r1) + t1, 1.0f, 1e-6f);
-                ASSERT_NEAR(p1 + decimal(r2) + t2, 1.0f, 1e-6f);
+                const auto [absorbed, t1, t2] = unpacked(v);
+                ASSERT_NEAR(absorbed + decimal(r1) + t1, 1.0f, 1e-6f);
+                ASSERT_NEAR(absorbed + decimal(r2) + t2, 1.0f, 1e-6f);
             }
 }
 
@@ -100,7 +96,6 @@ TEST(Packing, WhatDoesNotFit) {
     const float limit = 1e10f, beyond = std::nextafter(limit, 2e10f);
     EXPECT_EQ(packed({beyond, 0.0f, 0.0f}), kUndefined);
     EXPECT_EQ(packed({limit, 0.0f, 0.0f}), limit);
-    EXPECT_EQ(packed({0.0f, 0.0f, kUndefined}), kUndefined);
     EXPECT_EQ(packed(lib::TPCOSW, {0.0f, -2e10f, 0.0f}), kUndefined) << "by what it transmits";
     EXPECT_EQ(packed(lib::TPCOSW, {kUndefined, 0.0f, 0.0f}), kUndefined);
     EXPECT_EQ(unpacked(beyond), none);
