@@ -1,5 +1,7 @@
 #include "fabric/condensation.h"
 
+#include <algorithm>
+
 #include "entry/entry.h"
 
 using namespace quorvel;
