@@ -58,8 +58,9 @@ template <class R>
 inline R packed_pane(const Fractions<R>& pane) noexcept {
     const R a = pane.first;
     const R t1 = face_complement(a, pane.second), t2 = face_complement(a, pane.third);
-    return select(is_undefined(a + pane.second + pane.third) | is_undefined(t1 + t2 + a),
-                  R(undefined), joined(Fractions<R>{a, t1, t2}));
+    const MaskOf<R> given = !is_undefined(a + pane.second + pane.third);
+    const MaskOf<R> formed = !is_undefined(t1 + t2 + a);
+    return select(given & formed, joined(Fractions<R>{a, t1, t2}), R(undefined));
 }
 
 template <class R>
