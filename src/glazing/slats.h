@@ -117,8 +117,8 @@ Optics<R> beam_through_blind(const Slats<R>& slats, const Gap<R>& gap, R open, R
 template <class R>
 Optics<R> open_slat_direct(R spacing, R width, R slat_angle, R profile, R open, R struck,
                            R opposite) noexcept {
-    const R cosine = math::cos(profile);
-    return either((absolute(cosine) < 1e-6f) | (absolute(profile) >= 1.570796f),
+    const R cosine = math::cos(profile), from_normal = absolute(profile);
+    return either((absolute(cosine) < 1e-6f) | (from_normal >= 1.570796f),
                   [&] {
                       // Along the blind, which then is an opaque sheet. Deliberate: its absorptance
                       // is not reduced by the open share.
