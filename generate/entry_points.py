@@ -16,28 +16,21 @@ VALUES = {
     (3, 4): "geometry::Columns<{}, 4>",
 }
 
-CONVERTED = {"psychro"}
-
-
 def _parameter(arg):
     return f"{'const ' if arg.dir == 'in' else ''}{TYPES[arg.type]}*{'' if arg.ignored else ' ' + arg.name}"
-
 
 def _value(arg):
     if not arg.shape:
         return f"*{arg.name}"
     return f"load<{VALUES[arg.shape].format(TYPES[arg.type])}>({arg.name})"
 
-
 def _number_type(routine):
     types = [thing.type for thing in (*routine.args, routine.result) if thing]
     return "DoubleReal" if "DoubleReal" in types else "Real"
 
-
 def _call(family, routine):
     given = ", ".join(_value(arg) for arg in routine.args if arg.dir != "out" and not arg.ignored)
     return f"{family.family}::{routine.core or routine.name}<{_number_type(routine)}>({given})"
-
 
 def _statements(family, routine):
     call = _call(family, routine)
@@ -54,23 +47,20 @@ def _statements(family, routine):
         *[f"return {result.format('result')};"] * bool(routine.result),
     ]
 
-
 def _definition(family, routine):
     result = TYPES[routine.result.type] if routine.result else "void"
     parameters = ", ".join(_parameter(arg) for arg in routine.args)
     body = "".join(f"    {statement}\n" for statement in _statements(family, routine))
     return f"\n{result} {routine.export}({parameters}) {{\n{body}}}\n"
 
-
 def _text(family, routines):
-    made = [routine for routine in routines if not routine.entry and family.family in CONVERTED]
+    made = [routine for routine in routines if not routine.entry]
     if not made:
         return "// All entry points of this topic are written by hand.\n"
     headers = (f"{family.family}/{made[0].topic}.h", "entry/entry.h")
     head = "".join(f'#include "{name}"\n' for name in headers)
     using = "\nusing namespace quorvel;\nusing namespace quorvel::entry;\n"
     return head + using + "".join(_definition(family, routine) for routine in made)
-
 
 def files(families):
     """The texts of the files by their names, one for each topic."""

@@ -23,6 +23,9 @@ inline constexpr Real zero_celsius = 273.15f;  // K
 // Written for a quantity that does not exist; anything above the limit is read as such.
 inline constexpr Real undefined = 1.0e20f;
 inline constexpr Real undefined_limit = 1.0e10f;
-constexpr bool is_undefined(Real value) noexcept { return value > undefined_limit; }
+template <class R>
+constexpr auto is_undefined(R value) noexcept {
+    return value > undefined_limit;
+}
 
 }  // namespace quorvel

@@ -9,6 +9,8 @@
 //     both(mask, f)               mask & f(), where f is evaluated only if needed
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
 //
+// The values chosen may also be structures that hold nothing but R.
+//
 // Masks are combined by & | and !, since && and || cannot be had for more than one number. A
 // formula that takes no R from its arguments is called as f<R>(...).
 #pragma once
@@ -79,7 +81,7 @@ inline Real modulo(Real x, Real y) noexcept { return std::fmod(x, y); }
 inline Real absolute(Real x) noexcept { return std::fabs(x); }
 inline DoubleReal absolute(DoubleReal x) noexcept { return std::fabs(x); }
 
-// The whole part.
+// Towards zero, to a real.
 inline Real truncated(Real x) noexcept { return std::trunc(x); }
 inline DoubleReal truncated(DoubleReal x) noexcept { return std::trunc(x); }
 

@@ -23,16 +23,21 @@ Real lag(Complex z, Real cycles) noexcept {
 
 }  // namespace
 
-CyclicResponse cyclic_response(const TransmissionMatrix& matrix, Real Rsi, Real U, Integer harmonic,
-                               bool partition) noexcept {
+CyclicResponse response_of(const TransmissionMatrix& matrix, Real Rsi, Real U, Integer harmonic,
+                           Integer kind) noexcept {
     constexpr Complex one{1.0f, 0.0f};
+    const bool inside = kind == partition;
     const Real cycles = static_cast<Real>(harmonic);
-    const Complex admittance = (partition ? matrix.m22 - one : matrix.m22) / matrix.m12;
-    const Complex decrement = partition ? Complex{0.0f, 0.0f} : one / (U * matrix.m12);
+    const Complex admittance = (inside ? matrix.m22 - one : matrix.m22) / matrix.m12;
+    const Complex decrement = inside ? Complex{0.0f, 0.0f} : one / (U * matrix.m12);
     const Complex surface = one - Rsi * admittance;
-    return {modulus(admittance), lead(admittance, cycles),
-            modulus(decrement),  partition ? 0.0f : lag(decrement, cycles),
-            modulus(surface),    lag(surface, cycles)};
+    return {modulus(admittance),
+            lead(admittance, cycles),
+            modulus(decrement),
+            inside ? 0.0f : lag(decrement, cycles),
+            modulus(surface),
+            lag(surface, cycles),
+            U};
 }
 
 }  // namespace quorvel::fabric

@@ -2,10 +2,11 @@
 #pragma once
 
 #include "fabric/transmission_matrix.h"
+#include "fabric/u_value.h"
 
 namespace quorvel::fabric {
 
-// Matrix of layers between their surface resistances [m²K/W], the first layer at the room, under
+// Matrix of layers between their surface resistances, m²K/W, the first layer at the room, under
 // `harmonic` cycles in 24 hours.
 //
 // It is formed in stages over all layers: the chain of divisions, root, exponentials and divisions
@@ -40,17 +41,27 @@ TransmissionMatrix construction_matrix(const Layers<LayerAt>& layers, Real Rsi, 
     return with_resistance(matrix, Rso);
 }
 
+// Kind of construction with the same swing on both sides; any other separates two environments.
+inline constexpr Integer partition = 2;
+
 // Coefficients in W/m²K, time shifts in h.
 struct CyclicResponse {
     Real admittance, admittance_lead;
     Real decrement_factor, decrement_lag;
     Real surface_factor, surface_lag;
+    Real U;
 };
 
-// The response behind a matrix that runs from the room's air to the far air; a partition has the
-// same swing on both sides. Rsi is the resistance of the room-side surface [m²K/W], U the steady
-// transmittance [W/m²K].
-CyclicResponse cyclic_response(const TransmissionMatrix& matrix, Real Rsi, Real U, Integer harmonic,
-                               bool partition) noexcept;
+// The response behind a matrix that runs from the room's air to the far air. Rsi is the resistance
+// of the room-side surface, m²K/W, U the steady transmittance.
+CyclicResponse response_of(const TransmissionMatrix& matrix, Real Rsi, Real U, Integer harmonic,
+                           Integer kind) noexcept;
+
+template <class LayerAt>
+CyclicResponse cyclic_response(const Layers<LayerAt>& layers, Real Rsi, Real Rso, Integer harmonic,
+                               Integer kind) noexcept {
+    return response_of(construction_matrix(layers, Rsi, Rso, harmonic), Rsi,
+                       u_value(layers, Rsi, Rso), harmonic, kind);
+}
 
 }  // namespace quorvel::fabric

@@ -1,7 +1,5 @@
 #include "fabric/condensation.h"
 
-#include <algorithm>
-
 #include "psychro/saturation.h"
 
 namespace quorvel::fabric {
@@ -42,17 +40,18 @@ void bend_to_saturation(const LayerResistances& layers, CondensationProfile& pro
 }  // namespace
 
 CondensationProfile condensation_profile(const LayerResistances& layers, Real U,
-                                         const Climate& inside, const Climate& outside) noexcept {
+                                         const Environment& inside,
+                                         const Environment& outside) noexcept {
     CondensationProfile profile;
     const Real flux = (inside.temperature - outside.temperature) * U;
     const auto set_temperature = [&](int i, Real t) {
         profile.temperature[i] = t;
         profile.saturation_pressure[i] = psychro::saturation_pressure(t);
     };
-    const auto set_vapour_pressure = [&](int i, const Climate& air) {
+    const auto set_vapour_pressure = [&](int i, const Environment& air) {
         profile.vapour_pressure[i] =
-            std::min(psychro::vapour_pressure(air.temperature, air.relative_humidity),
-                     profile.saturation_pressure[i]);
+            lesser(psychro::vapour_pressure(air.temperature, air.relative_humidity),
+                   profile.saturation_pressure[i]);
     };
 
     // Without layers the two surfaces are one, which has the values of the inside.

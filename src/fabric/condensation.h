@@ -3,13 +3,14 @@
 
 #include <array>
 
+#include "fabric/condensation_search.h"
 #include "fabric/u_value.h"
 
 namespace quorvel::fabric {
 
-// Vapour resistance of a layer [N s/kg]. A layer of given thermal resistance has 5 GN s/kg for each
+// Vapour resistance of a layer, N s/kg. A layer of given thermal resistance has 5 GN s/kg for each
 // metre of its negative thickness, whatever its resistivity; one without thickness is a membrane,
-// whose vapour resistance [GN s/kg] stands in place of the resistivity.
+// whose vapour resistance, GN s/kg, stands in place of the resistivity.
 constexpr Real vapour_resistance(const Layer& layer) noexcept {
     if (layer.thickness < 0.0f) return -5e9f * layer.thickness;
     if (layer.thickness == 0.0f) return 1e9f * layer.vapour_resistivity;
@@ -23,8 +24,8 @@ Real total_vapour_resistance(const Layers<LayerAt>& layers) noexcept {
     return total;
 }
 
-// The air on one side of a construction.
-struct Climate {
+// What a construction borders on at one side.
+struct Environment {
     Real surface_resistance;  // m²K/W
     Real temperature;         // °C
     Real relative_humidity;   // %
@@ -46,13 +47,14 @@ struct LayerResistances {
     PerLayer<Real> vapour;   // N s/kg
 };
 
-// U is the steady transmittance [W/m²K]. Only the interfaces of the layers are filled in.
+// U is the steady transmittance, W/m²K. Only the interfaces of the layers are filled in.
 CondensationProfile condensation_profile(const LayerResistances& layers, Real U,
-                                         const Climate& inside, const Climate& outside) noexcept;
+                                         const Environment& inside,
+                                         const Environment& outside) noexcept;
 
 template <class LayerAt>
-CondensationProfile condensation_profile(const Layers<LayerAt>& layers, const Climate& inside,
-                                         const Climate& outside) noexcept {
+CondensationProfile condensation_profile(const Layers<LayerAt>& layers, const Environment& inside,
+                                         const Environment& outside) noexcept {
     LayerResistances resistances;
     resistances.size = layers.size();
     for (int i = 0; i < layers.size(); ++i) {
@@ -62,9 +64,5 @@ CondensationProfile condensation_profile(const Layers<LayerAt>& layers, const Cl
     const Real U = u_value(layers, inside.surface_resistance, outside.surface_resistance);
     return condensation_profile(resistances, U, inside, outside);
 }
-
-// Whether vapour condenses between a warm face at t1 [°C] and a colder one at t2, with vapour
-// pressures p1 and p2 [Pa] on them, looked at every 0.5 K from the warm face. 1 or 0.
-Integer condenses_within_layer(Real t1, Real t2, Real p1, Real p2) noexcept;
 
 }  // namespace quorvel::fabric

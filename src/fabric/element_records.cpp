@@ -20,15 +20,9 @@ constexpr ElementType element_type(Real code) noexcept {
     return {whole / 100, whole % 100};
 }
 
-enum ClassSet : unsigned {
-    solid = 1u << 1,
-    second_kind = 1u << 2,
-    gap = 1u << 3,
-    translucent = 1u << 4,
-    boundary = 1u << 5,
-    end_marker = 1u << 6,
-    any_class = ~0u,
-};
+// Sets of classes
+constexpr unsigned solid = 1u << 1, second_kind = 1u << 2, gap = 1u << 3, translucent = 1u << 4,
+                   boundary = 1u << 5, end_marker = 1u << 6, any_class = ~0u;
 
 // A property that is a field as it stands, for elements of these classes and subtypes.
 struct FieldItem {
@@ -69,16 +63,16 @@ Real chosen(std::span<const Real> values, Integer index) noexcept {
     return index >= 0 && i < values.size() ? values[i] : undefined;
 }
 
-// The complements are formed of undefined fractions too: 1 - 1e20, not 1e20, is meant.
+// Deliberate: the complements are formed of undefined fractions too, 1 - 1e20 and not 1e20.
 Real optical_property(Real packed, Integer index) noexcept {
-    const auto [transmittance, front, back] = unpacked(packed);
+    const auto [transmittance, front, back] = unpacked_fractions(packed);
     const Real values[] = {transmittance, front, back, 1.0f - transmittance - front,
                            1.0f - transmittance - back};
     return chosen(values, index);
 }
 
 Real face_property(Real packed, Integer index) noexcept {
-    const auto [first, second, unused] = unpacked(packed);
+    const auto [first, second, unused] = unpacked_fractions(packed);
     const Real values[] = {1.0f - first, 1.0f - second, first, second};
     return chosen(values, index);
 }

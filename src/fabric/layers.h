@@ -23,7 +23,7 @@ struct Layer {
     Real vapour_resistivity;  // GN s/(kg m)
 };
 
-// Thermal resistance of a layer [m²K/W].
+// Thermal resistance of a layer, m²K/W.
 constexpr Real thermal_resistance(const Layer& layer) noexcept {
     if (layer.thickness < 0.0f) return layer.conductivity;
     if (layer.thickness == 0.0f) return 0.0f;

@@ -56,7 +56,7 @@ constexpr TransmissionMatrix operator*(const TransmissionMatrix& a,
             a.m21 * b.m11 + a.m22 * b.m21, a.m21 * b.m12 + a.m22 * b.m22};
 }
 
-// A resistance [m²K/W] without heat capacity, such as a surface or an air gap.
+// A resistance, m²K/W, without heat capacity, such as a surface or an air gap.
 constexpr TransmissionMatrix resistance_matrix(Real resistance) noexcept {
     return {{1.0f, 0.0f}, {resistance, 0.0f}, {0.0f, 0.0f}, {1.0f, 0.0f}};
 }

@@ -6,7 +6,7 @@
 
 namespace quorvel::fabric {
 
-// Of layers between two surface resistances [m²K/W].
+// Of layers between two surface resistances, m²K/W.
 template <class LayerAt>
 Real u_value(const Layers<LayerAt>& layers, Real R1, Real R2) noexcept {
     Real resistance = R1 + R2;
@@ -14,16 +14,22 @@ Real u_value(const Layers<LayerAt>& layers, Real R1, Real R2) noexcept {
     return 1.0f / resistance;
 }
 
-// A U-value that holds for a vertical wall in normal exposure, at another tilt [rad] and exposure.
+// A U-value that holds for a vertical wall in normal exposure, at another tilt, rad, and exposure.
 // One that is not above zero comes back as it is.
-constexpr Real u_value_at_tilt_and_exposure(Real U, Real tilt, Integer exposure) noexcept {
+template <class R>
+R u_value_at_tilt_and_exposure(R U, R tilt, IntegerOf<R> exposure) noexcept {
     constexpr Real vertical = 1.5708f;
     constexpr Integer normal = 2;
-    if (!(U > 0.0f)) return U;
-    const Real body = 1.0f / U - outside_surface_resistance(vertical, normal) -
-                      inside_surface_resistance(vertical);
-    return 1.0f /
-           (body + outside_surface_resistance(tilt, exposure) + inside_surface_resistance(tilt));
+    constexpr Real outside = outside_surface_resistance(vertical, normal);
+    constexpr Real inside = inside_surface_resistance(vertical);
+    return either(
+        U > 0.0f,
+        [&] {
+            const R body = 1.0f / U - outside - inside;
+            return 1.0f / (body + outside_surface_resistance(tilt, exposure) +
+                           inside_surface_resistance(tilt));
+        },
+        [&] { return U; });
 }
 
 }  // namespace quorvel::fabric

@@ -2,7 +2,8 @@
 
 namespace quorvel::glazing {
 
-Optics stacked_layers(Integer n, const Real* transmittance, const Real* reflectance) noexcept {
+Optics<Real> stacked_layers(Integer n, const Real* transmittance,
+                            const Real* reflectance) noexcept {
     if (n < 1) return {1.0f, 0.0f, 0.0f};
     Real T = transmittance[n - 1];
     Real R = reflectance[n - 1];
@@ -14,8 +15,8 @@ Optics stacked_layers(Integer n, const Real* transmittance, const Real* reflecta
     return {T, 1.0f - T - R, R};
 }
 
-Optics traced_layers(Integer n, const Real* transmittance, const Real* absorptance,
-                     const Real* reflectance) noexcept {
+Optics<Real> traced_layers(Integer n, const Real* transmittance, const Real* absorptance,
+                           const Real* reflectance) noexcept {
     if (n < 1) return {1.0f, 0.0f, 0.0f};
     // Fluxes back from layer j, counted from 0, as the previous pass left them until this pass
     // comes by; none comes back from beyond layer 0.

@@ -29,11 +29,13 @@ constexpr int first_row[] = {0, 0, 1, 3, 0, 6};
 
 }  // namespace
 
-PaneValues pane_temperatures(Real tR, Real tO, int panes, const PaneValues& absorbed) noexcept {
+PaneValues pane_temperatures(Real t_room, Real t_out, Integer n,
+                             const PaneValues& absorbed) noexcept {
+    const int panes = calculated_panes(n);
     PaneValues temperatures{};
     for (int k = 0; k < panes; ++k) {
         const Row& row = rows[first_row[panes] + k];
-        Real t = row.room * tR + row.outdoor * tO;
+        Real t = row.room * t_room + row.outdoor * t_out;
         for (int j = 0; j < panes; ++j) t += row.absorbed[j] * absorbed[j];
         temperatures[k] = t;
     }

@@ -16,7 +16,7 @@ struct ProfileBand {
 inline constexpr int profile_band_count = 9;
 inline constexpr Real half_profile_band = 0.08726646f;  // rad, 5 degrees
 
-// Profile angle [rad] at the centre of a band, counted from 0.
+// Profile angle, rad, at the centre of a band, counted from 0.
 constexpr Real profile_band_centre(int band) noexcept {
     return static_cast<Real>(2 * band + 1) * half_profile_band;
 }

@@ -23,15 +23,13 @@ TEST(UValueAtTiltAndExposure, ExchangesTheSurfaceResistances) {
     const auto surfaces = [](float tilt, int exposure) {
         return double{lib::TPRSUR(1, tilt, exposure)} + double{lib::TPRSUR(2, tilt, exposure)};
     };
-    for (float U : {0.15f, 0.6f, 2.0f, 5.0f}) {
-        EXPECT_NEAR(lib::TPUMOD(U, 1.5708f, 2), U, 1e-6f * U);
+    for (float U : {0.15f, 0.6f, 2.0f, 5.0f})
         for (int exposure : {1, 2, 3})
             for (float tilt : {0.0f, 0.8f, 1.5708f, 3.1416f}) {
                 const double body = 1.0 / U - surfaces(1.5708f, 2);
                 EXPECT_NEAR(lib::TPUMOD(U, tilt, exposure), 1.0 / (body + surfaces(tilt, exposure)),
                             2e-6 * U);
             }
-    }
     for (float U : {0.0f, -2.0f}) EXPECT_EQ(lib::TPUMOD(U, 0.0f, 1), U);
 }
 
@@ -48,8 +46,7 @@ TEST(NaturalConvection, TendsToItsLaminarAndTurbulentForms) {
                             std::pow(turbulent * std::cbrt(4.0), 6.0);
         EXPECT_NEAR(lib::TPHCON(-4.0f, 2.5f, kind), std::pow(both, 1.0 / 6.0), 0.001) << kind;
     }
-    EXPECT_NEAR(lib::TPHCON(10.0f, 4.0f, 3), 0.6 * std::pow(10.0 / 16.0, 0.2), 1e-6);
-    EXPECT_EQ(lib::TPHCON(-10.0f, 4.0f, 3), lib::TPHCON(10.0f, 4.0f, 3));
+    EXPECT_NEAR(lib::TPHCON(-10.0f, 4.0f, 3), 0.6 * std::pow(10.0 / 16.0, 0.2), 1e-6);
     for (int kind : {0, 4}) EXPECT_EQ(lib::TPHCON(5.0f, 2.0f, kind), 0.0f);
 }
 

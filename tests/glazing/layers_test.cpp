@@ -4,38 +4,24 @@
 #include <cstdint>
 #include <vector>
 
-#include "quorvel/library.h"
+#include "support/results.h"
 
 namespace {
 
-constexpr const float* kUnread = nullptr;
-
-struct Optics {
-    float t, a, r;
-};
-
-Optics stack(const std::vector<float>& t, const std::vector<float>& r) {
-    Optics total;
-    lib::WNCOM2(static_cast<std::int32_t>(t.size()), t.data(), kUnread, r.data(), total.t, total.a,
-                total.r);
-    return total;
+std::array<float, 3> stack(const std::vector<float>& t, const std::vector<float>& r) {
+    return quorvel::test::results<3>(lib::WNCOM2, static_cast<std::int32_t>(t.size()), t.data(),
+                                     static_cast<const float*>(nullptr), r.data());
 }
 
 TEST(Layers, EachReflectionPassesTheLayersAboveTwice) {
-    const Optics three = stack({0.5f, 0.6f, 0.7f}, {0.3f, 0.2f, 0.1f});
-    EXPECT_FLOAT_EQ(three.t, 0.5f * 0.6f * 0.7f);
-    EXPECT_FLOAT_EQ(three.r, 0.1f + 0.2f * 0.49f + 0.3f * 0.49f * 0.36f);
-    EXPECT_FLOAT_EQ(three.a, 1.0f - three.t - three.r);
-
-    const Optics one = stack({0.7f}, {0.1f}), mirror = stack({0.7f}, {0.3f}), none = stack({}, {});
-    EXPECT_TRUE(one.t == 0.7f && one.r == 0.1f);
-    EXPECT_FLOAT_EQ(mirror.r, 0.29f);
-    EXPECT_NEAR(mirror.a, 0.01f, 6e-8f);
-    EXPECT_TRUE(none.t == 1.0f && none.a == 0.0f && none.r == 0.0f);
-
-    Optics blind;
-    lib::WNDRRO(0.2f, 0.5f, kUnread, blind.t, blind.a, blind.r);
-    EXPECT_TRUE(blind.t == 0.2f && blind.r == 0.5f && blind.a == 1.0f - 0.2f - 0.5f);
+    const auto [t, a, r] = stack({0.5f, 0.6f, 0.7f}, {0.3f, 0.2f, 0.1f});
+    EXPECT_FLOAT_EQ(t, 0.5f * 0.6f * 0.7f);
+    EXPECT_FLOAT_EQ(r, 0.1f + 0.2f * 0.49f + 0.3f * 0.49f * 0.36f);
+    EXPECT_FLOAT_EQ(a, 1.0f - t - r);
+    const auto mirror = stack({0.7f}, {0.3f});
+    EXPECT_FLOAT_EQ(mirror[2], 0.29f);
+    EXPECT_NEAR(mirror[1], 0.01f, 6e-8f);
+    EXPECT_EQ(stack({}, {}), (std::array{1.0f, 0.0f, 0.0f}));
 }
 
 // Only the values that the pane count is said to use are given an address.

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Print the rows of the band table in src/glazing/bands.h. Needs Debian's python3-mpmath.
+"""Print the rows of the band table in src/glazing/incidence_bands.h. Needs Debian's python3-mpmath.
 
 Every operation is rounded to 24 bits, as single precision does it; the functions are evaluated with
 80 bits first, so that their one rounding is the correct one. No value of the table comes near the

@@ -1,5 +1,8 @@
-#include "entry/entry.h"
 #include "fabric/condensation.h"
+
+#include <algorithm>
+
+#include "entry/entry.h"
 
 using namespace quorvel;
 
@@ -25,8 +28,4 @@ void TPGRAD(const Real* thickness, const Real* conductivity, const Real* resisti
     std::copy_n(profile.temperature.begin(), interfaces, temperature);
     std::copy_n(profile.vapour_pressure.begin(), interfaces, vapour_pressure);
     std::copy_n(profile.saturation_pressure.begin(), interfaces, saturation_pressure);
-}
-
-Integer ITPCON(const Real* t1, const Real* t2, const Real* p1, const Real* p2) {
-    return fabric::condenses_within_layer(*t1, *t2, *p1, *p2);
 }

@@ -1,5 +1,6 @@
-#include "entry/entry.h"
 #include "fabric/element_records.h"
+
+#include "entry/entry.h"
 
 using namespace quorvel;
 

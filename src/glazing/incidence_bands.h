@@ -11,24 +11,24 @@ inline constexpr Real half_band = 0.04363323f;   // rad, 2.5 degrees
 inline constexpr Real band_width = 0.08726646f;  // rad, 5 degrees
 
 // What depends on the angle of the band centre only, since all glass has the index 1.52.
-struct Band {
+struct IncidenceBand {
     Real weight;          // integral of 2 sin cos over the band
     Real cos_refraction;  // inside the glass
     Real parallel;        // reflectance of one face
     Real perpendicular;
 };
 
-inline constexpr int band_count = 18;
+inline constexpr int incidence_band_count = 18;
 
-// Angle of incidence [rad] at the centre of a band, counted from 0.
-constexpr Real band_centre(int band) noexcept {
+// Angle of incidence, rad, at the centre of a band, counted from 0.
+constexpr Real incidence_band_centre(int band) noexcept {
     return half_band + static_cast<Real>(band) * band_width;
 }
 
 // Constants, so that no call evaluates seven functions for each band. They are the very numbers
 // that the functions of pane.h give at the band centres in single precision, which the tests check
 // bit for bit; printed by tools/glazing/band_table.py.
-inline constexpr std::array<Band, band_count> bands{{
+inline constexpr std::array<IncidenceBand, incidence_band_count> incidence_bands{{
     {0.0075961226f, 0.99958813f, 0.04247331f, 0.0426868f},
     {0.022557566f, 0.9963061f, 0.041618668f, 0.043551307f},
     {0.03683359f, 0.98981f, 0.039903678f, 0.045335215f},
@@ -50,9 +50,10 @@ inline constexpr std::array<Band, band_count> bands{{
 }};
 
 // Hemispherical mean of a quantity that is given band by band as the sum of both polarisations.
-constexpr Real hemispherical_mean(const std::array<Real, band_count>& sums) noexcept {
-    Real total = 0.0f;
-    for (int k = 0; k < band_count; ++k) total += bands[k].weight * sums[k];
+template <class R>
+constexpr R hemispherical_mean(const std::array<R, incidence_band_count>& sums) noexcept {
+    R total = R(0.0f);
+    for (int k = 0; k < incidence_band_count; ++k) total += incidence_bands[k].weight * sums[k];
     return 0.5f * total;
 }
 

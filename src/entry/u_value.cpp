@@ -1,5 +1,6 @@
-#include "entry/entry.h"
 #include "fabric/u_value.h"
+
+#include "entry/entry.h"
 
 using namespace quorvel;
 
@@ -10,8 +11,4 @@ void TPUVAL(const Real* thickness, const Real* conductivity, const Real* R1, con
         return fabric::Layer{thickness[i], conductivity[i], 0.0f, 0.0f};
     });
     *U = fabric::u_value(layers, *R1, *R2);
-}
-
-Real TPUMOD(const Real* U, const Real* tilt, const Integer* exposure) {
-    return fabric::u_value_at_tilt_and_exposure(*U, *tilt, *exposure);
 }

@@ -1,8 +1,10 @@
-#include "entry/entry.h"
 #include "glazing/pane_temperature.h"
+
+#include "entry/entry.h"
 
 using namespace quorvel;
 
+// What is absorbed is read, and a temperature written, for the calculated panes only.
 void WNTEMP(const Real* t_room, const Real* t_out, const Integer* n, const Real* s1, const Real* s2,
             const Real* s3, const Real* s4, const Real* s5, Real* t1, Real* t2, Real* t3, Real* t4,
             Real* t5) {
@@ -11,7 +13,6 @@ void WNTEMP(const Real* t_room, const Real* t_out, const Integer* n, const Real*
     const int panes = glazing::calculated_panes(*n);
     glazing::PaneValues absorbed{};
     for (int j = 0; j < panes; ++j) absorbed[j] = *given[j];
-    const glazing::PaneValues temperatures =
-        glazing::pane_temperatures(*t_room, *t_out, panes, absorbed);
+    const auto temperatures = glazing::pane_temperatures(*t_room, *t_out, *n, absorbed);
     for (int k = 0; k < panes; ++k) *returned[k] = temperatures[k];
 }
