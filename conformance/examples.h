@@ -15,7 +15,7 @@ struct Given {
 };
 
 struct Expected {
-    int argument;  // -1 for the result
+    int argument;                // -1 for the result
     std::vector<double> values;  // of an array its first ones
     double within;
 };

@@ -30,18 +30,18 @@ class Random {
     std::uint64_t state_;
 };
 
-// The file that texts name, unless they are meant to name none; see support/climate_file.h.
+// The file that texts name, unless they are meant to name none; see climate_file.h.
 inline constexpr std::string_view example_file = "example.climate";
 
 // The storage of one call: one block of bytes per argument, large enough for any count that is
-// drawn: as many beyond either end of its range as `beyond`.
+// drawn: as many beyond either end of what it is drawn from as `beyond`.
 class ArgumentSet {
   public:
     explicit ArgumentSet(const Routine& routine, int beyond = 2);
     ArgumentSet(ArgumentSet&&) = default;
     ArgumentSet(const ArgumentSet&) = delete;
 
-    // Draws new arguments: all within their ranges, or some of them also on edges and wild bit
+    // Draws new arguments: all within their bounds, or some of them also on edges and wild bit
     // patterns. Outputs are filled with a pattern that shows what a call has left alone.
     void draw_valid(Random& random);
     void draw_any(Random& random);

@@ -19,7 +19,7 @@ struct Argument {
     const char* name;
     Type type;
     Direction direction;
-    double low, high;           // valid range of an input, ends included
+    double low, high;           // what an input is drawn from, ends included
     std::vector<Extent> shape;  // empty for a scalar
 };
 

@@ -101,11 +101,12 @@ def _shown(value):
 
 
 def _example(routine):
-    """The first example as a call, where it fits into a line."""
-    first = next((example for example in routine.examples), None)
+    """The first example as a call of the inputs, where it fits into a line; "-" is never read."""
+    first = next(iter(routine.examples), None)
     if not first or any(isinstance(value, str) for value in first.given.values()):
         return []
-    given = ", ".join(_shown(first.given[arg.name]) for arg in routine.args if arg.name in first.given)
+    inputs = (arg.name for arg in routine.args if arg.dir != "out")
+    given = ", ".join(_shown(first.given[name]) if name in first.given else "-" for name in inputs)
     gives = []
     for name, value in first.gives.items():
         tolerance = f" +- {_shown(first.within[name])}" if first.within[name] else ""

@@ -1183,7 +1183,7 @@ QUORVEL_API void WNREFL(const float *incidence, const float *refraction_angle,
  * Result:
  *     float  1  absorbed share
  * Formula: 1 - exp(-absorption_product / cos(refraction_angle))
- * Example: WNABEN(0.6035, 0.0736) -> 0.0855 +- 0.0001
+ * Example: WNABEN(0.6035, 0.0736, -) -> 0.0855 +- 0.0001
  * Source: Bouguer's law of absorption.
  */
 QUORVEL_API float WNABEN(const float *refraction_angle, const float *absorption_product,
@@ -2003,7 +2003,7 @@ QUORVEL_API float CLTAOX(const float *hour, const float *mean, const float *ampl
  *       negative. The direct irradiance falls by 2 W/m² where the polynomial takes over.
  *     - An altitude beyond 1.5707964 in size gives two zeros. A sky kind below 0 counts as 0, above
  *       1 as 1.
- * Example: CLSNNR(0.523599, 0, 0) -> direct_normal = 740 +- 7.4
+ * Example: CLSNNR(0.523599, -, 0, 0) -> direct_normal = 740 +- 7.4
  * Source: Polynomials through the design irradiances of a clear and a cloudy sky that building
  *     services guides print.
  */
@@ -2175,7 +2175,7 @@ QUORVEL_API void CLCONS(const int32_t *site_class, const int32_t *month, float *
  *       and -0.62 otherwise; the side of the surface does not matter here.
  *     - Models 1 and 2 divide by the sine of the altitude: at 0 the factor is infinite or no
  *       number.
- * Example: CLDIFRAD(100, 0.8, 300, 0, 1) -> 1 +- 1e-06
+ * Example: CLDIFRAD(100, 0.8, 300, -, 0, 1) -> 1 +- 1e-06
  * Source: T. Muneer, Solar radiation model for Europe, Building Services Engineering Research and
  *     Technology 11 (1990), with a solar constant of 1367 W/m² and the eccentricity of CLETAJ.
  */
@@ -2235,7 +2235,7 @@ QUORVEL_API float CLDIFSLO(const int32_t *day, const float *solar_altitude,
  * Notes:
  *     - The absorptance weighs the long-wave loss as it does the irradiance.
  *     - A coefficient of 0 divides by zero.
- * Example: CLTEO(20, 25, 1, 500, 100) -> 36 +- 1e-05
+ * Example: CLTEO(20, 25, 1, -, -, 500, 100) -> 36 +- 1e-05
  * Source: Heat balance of an outer surface.
  */
 QUORVEL_API float CLTEO(const float *base_temperature, const float *surface_coefficient,

@@ -82,22 +82,6 @@ TEST(SiteConstants, HaveOneDiffuseFactorAndVaryInTheFirstClassOnly) {
     EXPECT_EQ(Site(1, 6).diffuse, 0.66f);
 }
 
-// Mean equation of time on the 1st and the 13th of each month [min], from the table that goes with
-// R. Tobiason's sundials (SOLMaestro, 2006), which has the other sign.
-TEST(SolarTime, EquationOfTimeAgreesWithSundialTables) {
-    constexpr float first[] = {-3.4f, -13.6f, -12.5f, -4.1f, 2.8f,  2.3f,
-                               -3.6f, -6.3f,  -0.2f,  10.1f, 16.3f, 11.2f};
-    constexpr float thirteenth[] = {-8.5f, -14.3f, -9.7f, -0.7f, 3.7f,  0.2f,
-                                    -5.6f, -4.9f,  3.9f,  13.6f, 15.8f, 6.1f};
-    for (int month = 1; month <= 12; ++month) {
-        const auto minutes = [=](int day) {
-            return 60.0f * lib::CLTCOR(0.0f, day_of_year(month, day), 0.3f, 0.3f);
-        };
-        EXPECT_NEAR(minutes(1), first[month - 1], 0.5f) << month;
-        EXPECT_NEAR(minutes(13), thirteenth[month - 1], 0.5f) << month;
-    }
-}
-
 TEST(SolarTime, FallsWithClockShiftAndWesterlyLongitude) {
     const float sundial = lib::CLTCOR(0.0f, 80, 0.0f, 0.0f);
     EXPECT_NEAR(lib::CLTCOR(1.0f, 80, 0.0f, 0.0f), sundial - 1.0f, 1e-6f);
