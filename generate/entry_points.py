@@ -22,7 +22,7 @@ def _parameter(arg):
 def _value(arg):
     if not arg.shape:
         return f"*{arg.name}"
-    return f"load<{VALUES[arg.shape].format(TYPES[arg.type])}>({arg.name})"
+    return f"load<{VALUES[tuple(arg.shape)].format(TYPES[arg.type])}>({arg.name})"
 
 def _number_type(routine):
     types = [thing.type for thing in (*routine.args, routine.result) if thing]

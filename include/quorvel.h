@@ -1613,6 +1613,30 @@ QUORVEL_API void WNDFS3(const float *slat_spacing, const float *slat_width,
 /* ---- Calendar, sun and sky ------------------------------------------------------------------- */
 
 /*
+ * CLBAN1 (locate_band): Where a cumulative fraction of days lies among the ten bands of a month, in
+ *     frequencies of the caller.
+ * Given:
+ *     fraction     float    1  0 .. 1   cumulative fraction of days
+ *     month        int32_t     1 .. 12  month
+ *     frequencies  float    1  0 .. 1   cumulative frequencies by month and band, not falling with
+ *                                       the band [12, 10]
+ * Returned:
+ *     lower_band   int32_t       lower band, 1 to 9
+ *     upper_band   int32_t       upper band, 2 to 10
+ *     band_weight  float    1    (fraction - F(lower)) / (F(upper) - F(lower)), limited to -1 to 1
+ * Notes:
+ *     - Fractions, where CLBAND takes a percentage.
+ *     - At or below the first band's frequency the weight is 0 or negative. Bands of equal
+ *       frequency are skipped upwards, to band 10 at most; for a fraction equal to the frequencies
+ *       of all the rest the weight is not a number.
+ *     - A month outside 1 to 12 counts as the nearest. A fraction that is not a number gives bands
+ *       9 and 10 and a weight that is not a number.
+ * Source: Search for linear interpolation.
+ */
+QUORVEL_API void CLBAN1(const float *fraction, const int32_t *month, const float *frequencies,
+                        int32_t *lower_band, int32_t *upper_band, float *band_weight);
+
+/*
  * CLBAND (band_climate): Monthly climate of one of ten bands of days, or interpolated at a
  *     cumulative percentage of days.
  * Given:
@@ -1649,30 +1673,6 @@ QUORVEL_API void WNDFS3(const float *slat_spacing, const float *slat_width,
 QUORVEL_API void CLBAND(const int32_t *band, const int32_t *month, const int32_t *band_set,
                         float *percentage, float *q1, float *q2, float *q3, float *q4, float *q5,
                         float *q6, float *time_a, float *time_b, float *q7, float *q8);
-
-/*
- * CLBAN1 (locate_band): Where a cumulative fraction of days lies among the ten bands of a month, in
- *     frequencies of the caller.
- * Given:
- *     fraction     float    1  0 .. 1   cumulative fraction of days
- *     month        int32_t     1 .. 12  month
- *     frequencies  float    1  0 .. 1   cumulative frequencies by month and band, not falling with
- *                                       the band [12, 10]
- * Returned:
- *     lower_band   int32_t       lower band, 1 to 9
- *     upper_band   int32_t       upper band, 2 to 10
- *     band_weight  float    1    (fraction - F(lower)) / (F(upper) - F(lower)), limited to -1 to 1
- * Notes:
- *     - Fractions, where CLBAND takes a percentage.
- *     - At or below the first band's frequency the weight is 0 or negative. Bands of equal
- *       frequency are skipped upwards, to band 10 at most; for a fraction equal to the frequencies
- *       of all the rest the weight is not a number.
- *     - A month outside 1 to 12 counts as the nearest. A fraction that is not a number gives bands
- *       9 and 10 and a weight that is not a number.
- * Source: Search for linear interpolation.
- */
-QUORVEL_API void CLBAN1(const float *fraction, const int32_t *month, const float *frequencies,
-                        int32_t *lower_band, int32_t *upper_band, float *band_weight);
 
 /*
  * CLBAN2 (interpolate_band_rows): Value between two rows of the band table.

@@ -3,7 +3,6 @@
 
 #include <array>
 
-#include "fabric/condensation_search.h"
 #include "fabric/u_value.h"
 
 namespace quorvel::fabric {

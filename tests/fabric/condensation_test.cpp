@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <vector>
 
 #include "conformance/random_arguments.h"
@@ -94,17 +95,21 @@ TEST(CondensationProfile, IsTheTautLineBelowSaturation) {
 
 // The glass of a window, say: one surface, at which the inside air meets the outside.
 TEST(CondensationProfile, OfNoLayersIsThatOfTheOneSurface) {
-    Profile p = profile({}, 20.0f, 0.0f, 50.0f, 80.0f);
-    EXPECT_NEAR(p.T[0], 20.0f * 0.04f / 0.17f, 1e-5f);
-    EXPECT_EQ(p.Ps[0], lib::PSSVP(p.T[0]));
-    EXPECT_EQ(p.P[0], p.Ps[0]);
-    p = profile({}, 20.0f, 0.0f, 10.0f, 80.0f);
-    EXPECT_EQ(p.P[0], lib::PSVP(20.0f, 10.0f));
-    EXPECT_EQ(p.T[1], untouched);
-    EXPECT_EQ(p.P[1], untouched);
-    lib::TPGRAD(&p.T[2], &p.T[2], &p.T[2], 0.1f, 0.1f, -1, 20.0f, 0.0f, 50.0f, 80.0f, &p.T[2],
-                &p.P[2], &p.Ps[2]);
-    EXPECT_EQ(p.T[2], untouched);
+    constexpr float untouched = -999.0f, none[1] = {};
+    std::array<float, 2> T, P, Ps;
+    const auto profile = [&](int layers, float rh) {
+        for (auto* values : {&T, &P, &Ps}) values->fill(untouched);
+        lib::TPGRAD(none, none, none, 0.13f, 0.04f, layers, 20.0f, 0.0f, rh, 80.0f, T, P, Ps);
+    };
+    profile(0, 50.0f);
+    EXPECT_NEAR(T[0], 20.0f * 0.04f / 0.17f, 1e-5f);
+    EXPECT_EQ(Ps[0], lib::PSSVP(T[0]));
+    EXPECT_EQ(P[0], Ps[0]);
+    profile(0, 10.0f);
+    EXPECT_EQ(P[0], lib::PSVP(20.0f, 10.0f));
+    for (const auto& values : {T, P, Ps}) EXPECT_EQ(values[1], untouched);
+    profile(-1, 50.0f);
+    EXPECT_EQ(T[0], untouched);
 }
 
 TEST(CondensationWithinALayer, LooksEveryHalfKelvin) {
