@@ -13,3 +13,9 @@ check_cxx_compiler_flag(-fexcess-precision=standard QUORVEL_HAS_EXCESS_PRECISION
 if(QUORVEL_HAS_EXCESS_PRECISION)
     target_compile_options(quorvel_arithmetic INTERFACE -fexcess-precision=standard)
 endif()
+
+# Masks are combined by & and |: one text serves one number and many.
+check_cxx_compiler_flag(-Wbitwise-instead-of-logical QUORVEL_WARNS_OF_MASKS)
+if(QUORVEL_WARNS_OF_MASKS)
+    target_compile_options(quorvel_arithmetic INTERFACE -Wno-bitwise-instead-of-logical)
+endif()

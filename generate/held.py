@@ -5,6 +5,7 @@ from pathlib import Path
 
 import elementary_tables
 import header
+import incidence_bands
 
 ROOT = Path(__file__).parents[1]
 sys.path.insert(0, str(ROOT / "data" / "bands"))
@@ -12,8 +13,10 @@ import make_bands  # noqa: E402
 
 
 def texts(families):
+    glass = ROOT / "src/glazing/incidence_bands.h"
     return {
         ROOT / "include/quorvel.h": header.render(families),
         ROOT / "src/math/tables.h": elementary_tables.render(),
+        glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),
     }

@@ -27,7 +27,7 @@ constexpr Real incidence_band_centre(int band) noexcept {
 
 // Constants, so that no call evaluates seven functions for each band. They are the very numbers
 // that the functions of pane.h give at the band centres in single precision, which the tests check
-// bit for bit; printed by tools/glazing/band_table.py.
+// bit for bit; written by generate/incidence_bands.py.
 inline constexpr std::array<IncidenceBand, incidence_band_count> incidence_bands{{
     {0.0075961226f, 0.99958813f, 0.04247331f, 0.0426868f},
     {0.022557566f, 0.9963061f, 0.041618668f, 0.043551307f},

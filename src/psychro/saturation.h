@@ -9,7 +9,7 @@ namespace quorvel::psychro {
 // Over water from 0 °C up, over ice below. One last-bit difference in log10 becomes more than a
 // hundred in the result, so every intermediate stays single and in the written order.
 template <class R>
-R saturation_pressure(R t) noexcept {
+inline R saturation_pressure(R t) noexcept {
     const R T = t + zero_celsius;
     return math::exp10(either(
         t >= 0.0f,

@@ -1,18 +1,15 @@
-#!/usr/bin/env python3
-"""Print the rows of the band table in src/glazing/incidence_bands.h. Needs Debian's python3-mpmath.
+"""The rows of the table in src/glazing/incidence_bands.h.
 
 Every operation is rounded to 24 bits, as single precision does it; the functions are evaluated with
 80 bits first, so that their one rounding is the correct one. No value of the table comes near the
 ends of the exponent range, where 24 bits alone would not be single precision.
 """
 
+import re
+
 from mpmath import mp, mpf, workprec
 
-mp.prec = 24
-
-REFRACTIVE_INDEX = mpf("1.52")
-HALF_BAND = mpf("0.04363323")  # 2.5 degrees
-BAND = mpf("0.08726646")  # 5 degrees
+REFRACTIVE_INDEX, HALF_BAND, BAND = "1.52", "0.04363323", "0.08726646"  # the bands in rad, 2.5 and 5 degrees
 
 
 def rounded(function, x):
@@ -21,9 +18,9 @@ def rounded(function, x):
     return +value
 
 
-def weight(theta):
-    above = rounded(mp.sin, theta + HALF_BAND)
-    below = rounded(mp.sin, theta - HALF_BAND)
+def weight(theta, half_band):
+    above = rounded(mp.sin, theta + half_band)
+    below = rounded(mp.sin, theta - half_band)
     return above * above - below * below
 
 
@@ -43,8 +40,17 @@ def literal(x):
     raise ArithmeticError(x)
 
 
-for k in range(18):
-    theta = HALF_BAND + mpf(k) * BAND
-    refracted = rounded(mp.asin, rounded(mp.sin, theta) / REFRACTIVE_INDEX)
-    row = [weight(theta), rounded(mp.cos, refracted), *surface_reflectances(theta, refracted)]
-    print(f"    {{{', '.join(literal(value) for value in row)}}},")
+def rows():
+    half_band, band = mpf(HALF_BAND), mpf(BAND)
+    for k in range(18):
+        theta = half_band + mpf(k) * band
+        refracted = rounded(mp.asin, rounded(mp.sin, theta) / mpf(REFRACTIVE_INDEX))
+        row = [weight(theta, half_band), rounded(mp.cos, refracted), *surface_reflectances(theta, refracted)]
+        yield f"    {{{', '.join(literal(value) for value in row)}}},\n"
+
+
+def render(header):
+    """The header with its rows made anew."""
+    with workprec(24):
+        table = "".join(rows())
+    return re.sub(r"(?<=> incidence_bands\{\{\n).*?(?=\}\};)", lambda _: table, header, flags=re.DOTALL)
