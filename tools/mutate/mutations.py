@@ -11,9 +11,9 @@ SWAPS = {
     "comparison": {" < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > ", " == ": " != ", " != ": " == "},
     "sign": {" + ": " - ", " - ": " + ", " += ": " -= ", " -= ": " += ", "(-": "(", "{-": "{", " = -": " = "},
     "factor": {" * ": " / ", " / ": " * "},
-    "logic": {" && ": " || ", " || ": " && ", "(!": "("},
+    "logic": {" && ": " || ", " || ": " && ", " & ": " | ", " | ": " & ", "(!": "("},
 }
-CLAMPS = ("limited(", "std::max(", "std::min(", "std::clamp(", "table_row(", "std::fabs(")
+CLAMPS = ("limited(", "lesser(", "greater(", "absolute(", "std::max(", "std::min(", "std::clamp(", "table_row(", "std::fabs(")
 TABLE_ROW = re.compile(r"^\s*\{?[-\d.,\seEf]+\}?,\s*(//.*)?$")
 NO_CODE = re.compile(r"^\s*(//|#|static_assert|using |template|namespace)")
 
