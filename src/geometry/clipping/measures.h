@@ -14,15 +14,6 @@ struct Box {
         return low.x <= box.low.x && box.high.x <= high.x && low.y <= box.low.y &&
                box.high.y <= high.y;
     }
-    constexpr Point middle() const noexcept { return 0.5 * (low + high); }
-
-    // The most that the cross product of a direction with the way to a point of the box differs
-    // from that with the way to its middle.
-    DoubleReal reach(Point direction) const noexcept {
-        const Point half = 0.5 * (high - low);
-        return std::fabs(direction.x) * half.y + std::fabs(direction.y) * half.x;
-    }
-
     constexpr void include(Point p) noexcept {
         low = {std::min(low.x, p.x), std::min(low.y, p.y)};
         high = {std::max(high.x, p.x), std::max(high.y, p.y)};
@@ -30,6 +21,22 @@ struct Box {
     constexpr void include(const Box& box) noexcept {
         low = {std::min(low.x, box.low.x), std::min(low.y, box.low.y)};
         high = {std::max(high.x, box.high.x), std::max(high.y, box.high.y)};
+    }
+};
+
+// A box by its middle, which is rounded, and what the sides are away from it at most.
+struct CentredBox {
+    Point middle, half;
+
+    explicit constexpr CentredBox(const Box& box) noexcept
+        : middle(0.5 * (box.low + box.high)),
+          half{std::max(box.high.x - middle.x, middle.x - box.low.x),
+               std::max(box.high.y - middle.y, middle.y - box.low.y)} {}
+
+    // The most that the cross product of a direction with the way to a point of the box differs
+    // from that with the way to its middle.
+    DoubleReal reach(Point direction) const noexcept {
+        return std::fabs(direction.x) * half.y + std::fabs(direction.y) * half.x;
     }
 };
 
