@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "clipping/clip_call.h"
-#include "clipping/exact_overlap.h"
+#include "clipping/polygon_pairs.h"
 #include "common/library.h"
 
 namespace {

@@ -1,17 +1,17 @@
 // On which side of a directed line a point lies: the one predicate behind every side question of
 // the clipping.
 //
-// Laws:
+// Laws, for points of any size:
 // 1. Exact: the answer is the sign of (b - a) x (c - a) in real arithmetic, +1 when c lies on the
-//    left of the line from a to b, -1 on the right, 0 on the line. This holds for finite doubles of
-//    any size. Only where the x of the three points, or their y, differ by more than a factor of
-//    2^960 (1e289) and none of them is 0, the least may count as 0.
-// 2. Antisymmetric, without any exception: points in another cyclic order get the same answer, in
-//    reversed order the opposite one. Two questions about the same three points never disagree.
+//    left of the line from a to b, -1 on the right, 0 on the line.
+// 2. Antisymmetric: points in another cyclic order get the same answer, in reversed order the
+//    opposite one. Two questions about the same three points never disagree.
 // 3. A line without length has all points on it, and so has every line when a coordinate is
 //    infinite or not a number.
 // 4. The same everywhere: only sums, differences and products of doubles, each rounded as IEEE 754
 //    says, and powers of two.
+// The first two end where, beside the greatest x of the three points or the greatest y, another one
+// that is not 0 is smaller than by 2^-960 (1e-289): it may count as 0 or not.
 //
 // Source: J. R. Shewchuk, Adaptive precision floating-point arithmetic and fast robust geometric
 // predicates, 1997.
@@ -26,7 +26,8 @@ namespace quorvel::geometry {
 using PlanPosition = PlanVector<DoubleReal>;
 
 // The predicate without its filter, a hundred times as slow.
-[[gnu::const, gnu::cold]] int exact_orientation(PlanPosition a, PlanPosition b, PlanPosition c) noexcept;
+[[gnu::const, gnu::cold]] int exact_orientation(PlanPosition a, PlanPosition b,
+                                                PlanPosition c) noexcept;
 
 // A line of which the predicate is asked more than once.
 class DirectedLine {

@@ -89,25 +89,6 @@ GridPolygon convex(Random& random) {
     return star(3 + random.below(9), {r, r}, random.between(-2, 2), random.between(-2, 2), random);
 }
 
-// A rectangle of whole steps, the axes of which are turned and stretched alike.
-struct Axes {
-    double cos, sin;
-};
-
-GridPolygon rectangle(int x0, int y0, int x1, int y1, double step, Axes axes) {
-    const auto corner = [&](int x, int y) {
-        return on_grid(step * (x * axes.cos - y * axes.sin), step * (x * axes.sin + y * axes.cos));
-    };
-    return {corner(x0, y0), corner(x0, y1), corner(x1, y1), corner(x1, y0)};
-}
-
-GridPolygon rectangle(double step, Axes axes, Random& random) {
-    const int x = random.below(9) - 6, y = random.below(9) - 6;
-    return rectangle(x, y, x + 1 + random.below(6), y + 1 + random.below(6), step, axes);
-}
-
-Axes turned(double angle) { return {std::cos(angle), std::sin(angle)}; }
-
 GridPoint vertex_of(const GridPolygon& polygon, Random& random) {
     return polygon[static_cast<std::size_t>(random.below(static_cast<int>(polygon.size())))];
 }
@@ -133,18 +114,6 @@ GridPolygon shifted(GridPolygon polygon, GridPoint from, GridPoint to) {
 PolygonPair stars(Random& random) { return {star(random), star(random)}; }
 
 PolygonPair convex_ones(Random& random) { return {convex(random), convex(random)}; }
-
-PolygonPair rotated_rectangles(Random& random) {
-    return {rectangle(0.5, turned(random.between(0, full_turn)), random),
-            rectangle(0.5, turned(random.between(0, full_turn)), random)};
-}
-
-// In line with one another to the last bit, or to the rounding of the grid.
-PolygonPair rectangles_of_a_frame(Random& random) {
-    const Axes frames[] = {{1.0, 0.0}, {0.75, 1.0}, turned(random.between(0, full_turn))};
-    const Axes axes = frames[random.below(3)];
-    return {rectangle(0.5, axes, random), rectangle(0.5, axes, random)};
-}
 
 PolygonPair one_inside(Random& random) {
     const double x = random.between(-2, 2), y = random.between(-2, 2);
@@ -236,8 +205,6 @@ const std::vector<PairClass>& pair_classes() {
     static const std::vector<PairClass> classes = {
         {"StarShaped", stars},
         {"Convex", convex_ones},
-        {"RotatedRectangles", rotated_rectangles},
-        {"RectanglesOfOneFrame", rectangles_of_a_frame},
         {"OneInsideTheOther", one_inside},
         {"VertexOnEdge", vertex_on_edge},
         {"VertexOnVertex", vertex_on_vertex},
@@ -267,25 +234,6 @@ PlanRing in_metres(const GridPolygon& polygon) {
     for (const GridPoint& p : polygon)
         ring.push_back({grid * static_cast<double>(p.x), grid * static_cast<double>(p.y)});
     return ring;
-}
-
-double diagonal_of_both(const PolygonPair& pair) {
-    GridPoint low = pair.a[0], high = low;
-    for (const GridPolygon* polygon : {&pair.a, &pair.b})
-        for (const auto& [x, y] : *polygon) {
-            low = {std::min(low.x, x), std::min(low.y, y)};
-            high = {std::max(high.x, x), std::max(high.y, y)};
-        }
-    return length(static_cast<double>(high.x - low.x), static_cast<double>(high.y - low.y));
-}
-
-double perimeter(const GridPolygon& polygon) {
-    double sum = 0.0;
-    for (std::size_t i = 0; i < polygon.size(); ++i) {
-        const GridPoint a = polygon[i], b = polygon[(i + 1) % polygon.size()];
-        sum += length(static_cast<double>(b.x - a.x), static_cast<double>(b.y - a.y));
-    }
-    return sum;
 }
 
 double narrowest(const GridPolygon& polygon) {

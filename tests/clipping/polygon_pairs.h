@@ -35,11 +35,8 @@ PolygonPair draw_pair(const PairClass& kind, Random& random);
 
 PlanRing in_metres(const GridPolygon& polygon);
 
-// In metres, too.
-double diagonal_of_both(const PolygonPair& pair);  // of the box round both
-double perimeter(const GridPolygon& polygon);
 // Least distance of a vertex from an edge: of the same polygon, but not at the vertex; or of
-// another.
+// another. In metres, too.
 double narrowest(const GridPolygon& polygon);
 double distance(const GridPolygon& vertices, const GridPolygon& edges);
 
