@@ -31,7 +31,9 @@ TEST(OrientationPredicate, IsExactNearTheLine) {
     Random random(7);
     for (int i = 0; i < 20000; ++i) {
         const double offset = i % 4 ? std::ldexp(1.0, random.below(40)) : 0.0;
-        const auto point = [&] { return PlanPoint{offset + random.unit(), random.unit() - offset}; };
+        const auto point = [&] {
+            return PlanPoint{offset + random.unit(), random.unit() - offset};
+        };
         const PlanPoint a = point(), b = point();
         const double t = random.below(3) ? 3.0 * random.unit() - 1.0 : 0.5 * random.below(5) - 1.0;
         const PlanPoint c{a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)};
@@ -46,7 +48,10 @@ TEST(OrientationPredicate, IsExactAtAnySize) {
         const int least_x = random.below(1138) - 1074, least_y = random.below(1138) - 1074;
         const auto drawn = [&](int least) {
             const int exponent = least + (random.below(4) ? random.below(959) : 0);
-            return random.below(8) ? std::ldexp((random.below(2) ? -1.0 : 1.0) * random.between(1.0, 2.0), exponent) : 0.0;
+            return random.below(8)
+                       ? std::ldexp((random.below(2) ? -1.0 : 1.0) * random.between(1.0, 2.0),
+                                    exponent)
+                       : 0.0;
         };
         const auto point = [&] { return PlanPoint{drawn(least_x), drawn(least_y)}; };
         const PlanPoint a = point(), b = point();

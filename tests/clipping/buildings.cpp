@@ -81,10 +81,8 @@ struct Site {
 
 const std::vector<BuildingKind>& building_kinds() {
     static const std::vector<BuildingKind> kinds = {
-        {"StoreyAndRoom", storey_and_room},
-        {"Neighbours", neighbours},
-        {"WallAndWindow", wall_and_window},
-        {"StoreyAndShadow", storey_and_shadow},
+        {"StoreyAndRoom", storey_and_room}, {"Neighbours", neighbours},
+        {"WallAndWindow", wall_and_window}, {"StoreyAndShadow", storey_and_shadow},
         {"SameStorey", same_storey},
     };
     return kinds;

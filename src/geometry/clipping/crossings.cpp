@@ -78,7 +78,7 @@ bool cannot_cross(const PreparedRing& a, PreparedRing& b) noexcept {
 }  // namespace
 
 bool crosses_itself(const PreparedRing& ring) noexcept {
-    if (ring.convex()) return false;
+    if (ring.convex() || ring.star_shaped()) return false;
     for (Integer i = 0; i + 2 < ring.size(); ++i) {
         const Edge edge = ring.edge(i);
         const HalfPlane half_plane(edge, Orientation::clockwise);

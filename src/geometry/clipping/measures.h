@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <limits>
 
 #include "geometry/clipping/ring.h"
 
@@ -40,11 +41,34 @@ struct CentredBox {
     }
 };
 
+// How a sequence of directions turns.
+class Turning {
+  public:
+    explicit constexpr Turning(Point first) noexcept : last_(first) {}
+
+    constexpr void add(Point direction) noexcept {
+        const DoubleReal turn = cross(last_, direction);
+        least_ = std::min(least_, turn);
+        greatest_ = std::max(greatest_, turn);
+        half_turns_ += (last_.y > 0.0) != (direction.y > 0.0);
+        last_ = direction;
+    }
+
+    // Of directions that end with the first: always the same way, clearly, and once in all.
+    constexpr bool once_round(DoubleReal clear) const noexcept {
+        return (least_ > clear || greatest_ < -clear) && half_turns_ == 2;
+    }
+
+  private:
+    Point last_;
+    DoubleReal least_ = std::numeric_limits<DoubleReal>::infinity(), greatest_ = -least_;
+    Integer half_turns_ = 0;
+};
+
 struct Measures {
     Box box;
     DoubleReal area;  // positive when clockwise; not finite if a coordinate is not
-    DoubleReal least_turn, greatest_turn;  // cross products of edges that follow one another
-    Integer half_turns;                    // of the edges' directions
+    Turning turning;  // of the edges
 
     explicit Measures(const Ring& ring) noexcept;
 

@@ -15,7 +15,7 @@ class PreparedRing : public Ring {
           finite_(measures.finite()),
           tolerance_(tolerance),
           orientation_(orientation_of(measures.area, tolerance)),
-          convex_(is_convex(measures, tolerance)) {}
+          convex_(measures.turning.once_round(clear_turn()) && finite_) {}
 
     // Coordinates that are not numbers lie in no box.
     const Box& box() const noexcept { return box_; }
@@ -29,6 +29,14 @@ class PreparedRing : public Ring {
 
     // Clearly so: every vertex is off the lines of all edges but those that end there.
     bool convex() const noexcept { return convex_; }
+
+    // Whether all of the boundary is seen from the middle of the box, clearly so.
+    bool star_shaped() const noexcept {
+        const Point from = centred_box_.middle;
+        Turning turning((*this)[size() - 1] - from);
+        for (Integer i = 0; i < size(); ++i) turning.add((*this)[i] - from);
+        return turning.once_round(clear_turn()) && finite_;
+    }
 
     // No point is clear of the ring before this.
     void prepare_half_planes() noexcept { half_planes_.prepare(*this, tolerance_); }
@@ -46,16 +54,12 @@ class PreparedRing : public Ring {
     }
 
   private:
+    // The cross product of two directions that rounding cannot make.
+    DoubleReal clear_turn() const noexcept { return 1.0e-6 * tolerance_ * tolerance_; }
+
     static Orientation orientation_of(DoubleReal area, DoubleReal tolerance) noexcept {
         if (math::sqrt(std::fabs(area)) < 5.0 * tolerance) return Orientation::none;
         return area > 0.0 ? Orientation::clockwise : Orientation::anticlockwise;
-    }
-
-    // Turns the same way at every vertex, and once round in all.
-    static bool is_convex(const Measures& measures, DoubleReal tolerance) noexcept {
-        const DoubleReal clear = 1.0e-6 * tolerance * tolerance;
-        const bool one_way = measures.least_turn > clear || measures.greatest_turn < -clear;
-        return one_way && measures.half_turns == 2 && measures.finite();
     }
 
     Box box_;
