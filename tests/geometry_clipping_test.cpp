@@ -7,9 +7,7 @@
 #include <string>
 
 #include "clipping/buildings.h"
-#include "clipping/clip_call.h"
 #include "clipping/exact_overlap.h"
-#include "clipping/polygon_pairs.h"
 
 namespace {
 
@@ -211,36 +209,32 @@ class ClippingPairs : public testing::TestWithParam<PairClass> {};
 // by at most one and a half of it off either edge there; so by at most four in all. The overlap can
 // be off by the strips which the edges of B sweep. Where no vertex of B touches A it is exact.
 //
-// Of polygons any part of which is narrower than four tolerances, these may cross one another: then
-// the operation fails, or the overlap is as exact as ever.
+// Where polygons are narrower than the tolerance, what is moved may cross itself: then, rarely, the
+// operation fails.
 TEST_P(ClippingPairs, AgreeWithIndependentFormula) {
     Random random(2);
     int failed = 0;
     for (int i = 0; i < 7500; ++i) {
-        const PolygonPair pair = draw_pair(GetParam(), random);
-        const PlanRing a = in_metres(pair.a), b = in_metres(pair.b);
+        const auto [a, b] = draw_pair(GetParam(), random);
         const Clipped clipped = clip(a, b);
         ASSERT_EQ(clipped.fault, "") << i;
         EXPECT_TRUE(even_crossings(clipped, a.size() + b.size())) << i;
-        const double tolerance = 1e-4 * diagonal({a, b});
-        const bool narrow = std::min(narrowest(pair.a), narrowest(pair.b)) < 4.0 * tolerance;
-        if (narrow && clipped.ierr == 105 && ++failed < 5) continue;
+        if (clipped.ierr == 105 && ++failed < 3) continue;
         ASSERT_EQ(clipped.ierr, 0) << i;
-        const double area = signed_area(a), sense = area > 0.0 ? 1.0 : -1.0;
-        const double difference = total_area(clipped.difference);
+        EXPECT_TRUE(clipped.whole) << i;
+        const double area = signed_area(a), tolerance = 1e-4 * diagonal({a, b});
         const double overlap = total_area(clipped.overlap);
-        EXPECT_TRUE(clipped.whole || narrow) << i;
-        EXPECT_NEAR(difference + overlap, area, 1e-10) << i;
-        const bool touching = distance(pair.b, pair.a) < 1.5 * tolerance;
+        EXPECT_NEAR(total_area(clipped.difference) + overlap, area, 1e-10) << i;
+        const bool touching = distance(b, a) < 1.5 * tolerance;
         const double bound = (touching ? 4.0 * tolerance : 1e-10) * perimeter(b);
-        EXPECT_NEAR(sense * overlap, rounded_overlap(a, b), bound) << i;
+        EXPECT_NEAR(area > 0.0 ? overlap : -overlap, rounded_overlap(a, b), bound) << i;
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawn, ClippingPairs, testing::ValuesIn(pair_classes()),
                          [](const auto& info) { return info.param.name; });
 
-class ClippingBuildings : public testing::TestWithParam<BuildingKind> {};
+class ClippingBuildings : public testing::TestWithParam<PairClass> {};
 
 // On site coordinates every wall that runs along another one is in line with it only to rounding.
 // Bound as above, with the perimeters of both, for want of knowledge which one is moved.
@@ -260,7 +254,7 @@ TEST_P(ClippingBuildings, HaveTheExactAreas) {
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(Drawn, ClippingBuildings, testing::ValuesIn(building_kinds()),
+INSTANTIATE_TEST_SUITE_P(Drawn, ClippingBuildings, testing::ValuesIn(building_classes()),
                          [](const auto& info) { return info.param.name; });
 
 }  // namespace

@@ -26,37 +26,26 @@ void expect_one_answer(PlanPoint a, PlanPoint b, PlanPoint c, int answer) {
     EXPECT_EQ(side(c, b, a), -answer);
 }
 
-// The third point is as near to the line as rounding brings it, or on it.
-TEST(OrientationPredicate, IsExactNearTheLine) {
+// The third point is on the line or as near as rounding brings it; and anywhere, at sizes from
+// subnormal to almost infinite, up to 2^960 apart.
+TEST(OrientationPredicate, IsExactAndAntisymmetric) {
     Random random(7);
-    for (int i = 0; i < 20000; ++i) {
-        const double offset = i % 4 ? std::ldexp(1.0, random.below(40)) : 0.0;
-        const auto point = [&] {
-            return PlanPoint{offset + random.unit(), random.unit() - offset};
-        };
-        const PlanPoint a = point(), b = point();
+    for (int i = 0; i < 10000; ++i) {
+        const double offset = random.below(4) ? std::ldexp(1.0, random.below(40)) : 0.0;
+        const auto near = [&] { return PlanPoint{offset + random.unit(), random.unit() - offset}; };
+        const PlanPoint a = near(), b = near();
         const double t = random.below(3) ? 3.0 * random.unit() - 1.0 : 0.5 * random.below(5) - 1.0;
         const PlanPoint c{a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)};
         expect_one_answer(a, b, c, exact_side(a, b, c));
-    }
-}
 
-// From subnormal to almost infinite, by factors up to 2^960 from one point to another.
-TEST(OrientationPredicate, IsExactAtAnySize) {
-    Random random(8);
-    for (int i = 0; i < 3000; ++i) {
-        const int least_x = random.below(1138) - 1074, least_y = random.below(1138) - 1074;
-        const auto drawn = [&](int least) {
-            const int exponent = least + (random.below(4) ? random.below(959) : 0);
-            return random.below(8)
-                       ? std::ldexp((random.below(2) ? -1.0 : 1.0) * random.between(1.0, 2.0),
-                                    exponent)
-                       : 0.0;
+        const int least = random.below(1138) - 1074;
+        const auto size = [&] { return least + (random.below(4) ? random.below(959) : 0); };
+        const auto scaled = [&](double value) {
+            return random.below(8) ? std::ldexp(1.0 + value - std::floor(value), size()) : -0.0;
         };
-        const auto point = [&] { return PlanPoint{drawn(least_x), drawn(least_y)}; };
-        const PlanPoint a = point(), b = point();
-        const PlanPoint c = random.below(2) ? point() : PlanPoint{a.x + 0.5 * (b.x - a.x), b.y};
-        expect_one_answer(a, b, c, exact_side(a, b, c));
+        const PlanPoint u{scaled(a.x), scaled(a.y)}, v{-scaled(b.x), scaled(b.y)};
+        const PlanPoint w{scaled(c.x), random.below(2) ? v.y : scaled(c.y)};
+        if (i % 4 == 0) expect_one_answer(u, v, w, exact_side(u, v, w));
     }
 }
 

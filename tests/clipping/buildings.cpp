@@ -1,11 +1,12 @@
 #include "clipping/buildings.h"
 
-#include <algorithm>
 #include <cmath>
 #include <numbers>
 
 namespace quorvel::test {
 namespace {
+
+constexpr double full_turn = 2.0 * std::numbers::pi;
 
 // Storeys of 4 by 3 steps.
 const PlanRing storeys[] = {
@@ -30,9 +31,10 @@ PlanRing room(int low, int high_x, int high_y, Random& random) {
 
 RingPair storey_and_room(Random& random) { return {storey(random), room(0, 4, 3, random)}; }
 
+// Or twice the same.
 RingPair neighbours(Random& random) {
     RingPair pair{storey(random), storey(random)};
-    const double x = random.below(9) - 4, y = random.below(7) - 3;
+    const double x = random.below(7) - 3, y = random.below(5) - 2;
     const bool mirrored = random.below(2) == 0;
     for (PlanPoint& p : pair.b) p = {x + (mirrored ? 4 - p.x : p.x), y + p.y};
     return pair;
@@ -50,50 +52,29 @@ RingPair storey_and_shadow(Random& random) {
     return {storey(random), shadow};
 }
 
-RingPair same_storey(Random& random) {
-    const PlanRing ring = storey(random);
-    return {ring, ring};
-}
-
-// Steps are from 0.5 m to 3 m.
-struct Site {
-    double step_x, step_y, cos, sin, x, y;
-
-    Site(double offset, Random& random)
-        : step_x(random.between(0.5, 3)), step_y(random.between(0.5, 3)) {
-        const double turn = random.between(0, 2 * std::numbers::pi);
-        const double direction = random.between(0, 2 * std::numbers::pi);
-        cos = std::cos(turn), sin = std::sin(turn);
-        x = offset * std::cos(direction), y = offset * std::sin(direction);
-    }
-
-    void place(PlanRing& ring, Random& random) const {
-        for (PlanPoint& p : ring) {
-            const double u = step_x * p.x, v = step_y * p.y;
-            p = {x + cos * u - sin * v, y + sin * u + cos * v};
-        }
-        if (random.below(2)) std::ranges::reverse(ring);
-        std::ranges::rotate(ring, ring.begin() + random.below(static_cast<int>(ring.size())));
-    }
-};
-
 }  // namespace
 
-const std::vector<BuildingKind>& building_kinds() {
-    static const std::vector<BuildingKind> kinds = {
-        {"StoreyAndRoom", storey_and_room}, {"Neighbours", neighbours},
-        {"WallAndWindow", wall_and_window}, {"StoreyAndShadow", storey_and_shadow},
-        {"SameStorey", same_storey},
+const std::vector<PairClass>& building_classes() {
+    static const std::vector<PairClass> classes = {
+        {"StoreyAndRoom", storey_and_room},
+        {"Neighbours", neighbours},
+        {"WallAndWindow", wall_and_window},
+        {"StoreyAndShadow", storey_and_shadow},
     };
-    return kinds;
+    return classes;
 }
 
-RingPair draw_on_site(const BuildingKind& kind, double offset, Random& random) {
+RingPair draw_on_site(const PairClass& kind, double offset, Random& random) {
     RingPair pair = kind.draw(random);
-    const Site site(offset, random);
-    site.place(pair.a, random);
-    site.place(pair.b, random);
-    if (random.below(2)) std::swap(pair.a, pair.b);
+    const double turn = random.between(0, full_turn), direction = random.between(0, full_turn);
+    const double step_x = random.between(0.5, 3), step_y = random.between(0.5, 3);
+    for (PlanRing* const ring : {&pair.a, &pair.b})
+        for (PlanPoint& p : *ring) {
+            const double x = step_x * p.x, y = step_y * p.y;
+            p = {offset * std::cos(direction) + std::cos(turn) * x - std::sin(turn) * y,
+                 offset * std::sin(direction) + std::sin(turn) * x + std::cos(turn) * y};
+        }
+    turn_about(pair, random);
     return pair;
 }
 

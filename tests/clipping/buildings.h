@@ -1,24 +1,14 @@
 // Pairs of rings as buildings have them: in line with one another but for rounding.
 #pragma once
 
-#include "clipping/clip_call.h"
-#include "support/random_arguments.h"
+#include "clipping/polygon_pairs.h"
 
 namespace quorvel::test {
 
-struct RingPair {
-    PlanRing a, b;
-};
+const std::vector<PairClass>& building_classes();
 
-struct BuildingKind {
-    const char* name;
-    RingPair (*draw)(Random&);
-};
-
-const std::vector<BuildingKind>& building_kinds();
-
-// A pair turned by any angle about the origin, and then set at the offset [m] in any direction. The
-// rings run either way, from any vertex on, and either one comes first.
-RingPair draw_on_site(const BuildingKind& kind, double offset, Random& random);
+// A pair turned by any angle about the origin, set at the offset [m] in any direction, and turned
+// about.
+RingPair draw_on_site(const PairClass& kind, double offset, Random& random);
 
 }  // namespace quorvel::test
