@@ -1899,11 +1899,11 @@ QUORVEL_API void GEINSI(const float *p, const float *v, const int32_t *n, int32_
  *       npool and nmax). 3 or 4: A or B crosses itself. 5: A has no area to speak of (25 square
  *       tolerances). B without area is nothing to subtract.
  *     - ierr = 6: more than kmax crossings. 7: the pool is full. 8 or 9: an edge of A or B carries
- *       more than 10 crossings, or has no length to sort them along. 10 or 11: dif or ovl is full.
- *       105 or 106: the edges of A or of B do not enter and leave the other polygon by turns, as
- *       can happen where a polygon is narrower than the tolerance, or touches itself. 109: no
- *       bridge, for polygons with coordinates that are not numbers. In no case does anything happen
- *       beyond what the capacities allow. A failure leaves lists and pool as they are by then.
+ *       more than 10 crossings. 10 or 11: dif or ovl is full. 105 or 106: the edges of A or of B do
+ *       not enter and leave the other polygon by turns, as can happen where a polygon is narrower
+ *       than the tolerance, or touches itself. 109: no bridge, for polygons with coordinates that
+ *       are not numbers. In no case does anything happen beyond what the capacities allow. A
+ *       failure leaves lists and pool as they are by then.
  *     - On which side of an edge a point lies is decided exactly, also at site coordinates, where
  *       edges are in line with one another only to rounding.
  * Source: Boundary tracing from crossing to crossing: K. Weiler, P. Atherton, Hidden surface

@@ -2,11 +2,16 @@
 
 namespace quorvel::geometry::clipping {
 
+Edge Chain::other_edge(Integer crossing) const noexcept {
+    const Crossing& c = crossings_[crossing];
+    return own_ == &Crossing::a ? c.edge_b : other_.edge(c.a.edge);
+}
+
 // -1 where the walk along the ring meets the other ring's edge at the crossing before all of its
 // edge at the other crossing, +1 where after; 0 where that edge lies on both sides of the first.
 int Chain::place_of(Integer crossing, Integer other) const noexcept {
-    const HalfPlane half_plane((crossings_[crossing].*other_).ends, other_orientation_);
-    const int side = half_plane.side((crossings_[other].*other_).ends);
+    const HalfPlane half_plane(other_edge(crossing), other_.orientation());
+    const int side = half_plane.side(other_edge(other));
     return own(crossing).enters ? -side : side;
 }
 

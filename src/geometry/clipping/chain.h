@@ -10,14 +10,10 @@ class Chain {
   public:
     static constexpr Integer most_on_edge = 10;
 
-    // The ring is that of the first passage.
-    Chain(const PreparedRing& ring, Passage Crossing::*own, const PreparedRing& other_ring,
-          Passage Crossing::*other, const Crossings& crossings) noexcept
-        : ring_(ring),
-          own_(own),
-          other_(other),
-          other_orientation_(other_ring.orientation()),
-          crossings_(crossings) {}
+    // The passages are those of the ring.
+    Chain(const PreparedRing& ring, Passage Crossing::*own, const PreparedRing& other,
+          const Crossings& crossings) noexcept
+        : ring_(ring), own_(own), other_(other), crossings_(crossings) {}
 
     // False when an edge carries too many crossings.
     bool build() noexcept;
@@ -53,6 +49,7 @@ class Chain {
 
     const Passage& own(Integer crossing) const noexcept { return crossings_[crossing].*own_; }
     Integer edge(Integer place) const noexcept { return own(crossing(place)).edge; }
+    Edge other_edge(Integer crossing) const noexcept;
     int place_of(Integer crossing, Integer other) const noexcept;
     bool comes_before(Integer crossing, Integer other) const noexcept;
     void put(Integer place, Integer crossing) noexcept;
@@ -60,8 +57,7 @@ class Chain {
 
     const PreparedRing& ring_;
     Passage Crossing::*own_;
-    Passage Crossing::*other_;
-    Orientation other_orientation_;
+    const PreparedRing& other_;
     const Crossings& crossings_;
     Integer size_ = 0;
     Table stops_, places_;  // crossings in order; and where in the order a crossing is

@@ -33,8 +33,8 @@ bool starts_right(const PreparedRing& a, const PreparedRing& b, bool outside) no
 
 Status clip_crossing(const PreparedRing& a, const PreparedRing& b, Crossings& crossings,
                      Pieces pieces) noexcept {
-    Chain chain_a(a, &Crossing::a, b, &Crossing::b, crossings);
-    Chain chain_b(b, &Crossing::b, a, &Crossing::a, crossings);
+    Chain chain_a(a, &Crossing::a, b, crossings);
+    Chain chain_b(b, &Crossing::b, a, crossings);
     if (!chain_a.build()) return Status::chain_a_overfull;
     if (!chain_b.build()) return Status::chain_b_overfull;
     if (!chain_a.alternates()) return Status::chain_a_inconsistent;

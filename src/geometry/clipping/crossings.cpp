@@ -41,9 +41,9 @@ class EdgeSearch {
         if (half_plane_.contains(edge.end) == leaves) return Status::done;
         const Integer position = pool_.append(half_plane_.meeting_point(edge));
         if (position == 0) return Status::pool_full;
-        const Passage a{i, edge, !leaves}, b{j_, edge_, leaves == agree_};
-        return crossings_.append({a, b, position, false}) ? Status::done
-                                                          : Status::too_many_crossings;
+        const Passage a{i, !leaves}, b{j_, leaves == agree_};
+        return crossings_.append({a, b, edge_, position, false}) ? Status::done
+                                                                 : Status::too_many_crossings;
     }
 
     Integer j_;

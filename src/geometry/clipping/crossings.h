@@ -9,8 +9,9 @@
 // 3. a point on the line of an edge counts as outside, whichever edge asks, and no perturbed vertex
 //    of B lies on the boundary of A;
 // 4. neither ring crosses itself.
-// Only where a ring is narrower than the tolerance can a perturbed vertex meet the boundary again,
-// or perturbed edges cross. So the law is checked before anything is traced (clipping.cpp).
+// Only where a ring touches itself, or is narrower than the tolerance, can a perturbed vertex meet
+// the boundary again, or perturbed edges cross. So the law is checked before anything is traced
+// (clipping.cpp).
 #pragma once
 
 #include "geometry/clipping/perturbation.h"
@@ -21,12 +22,12 @@ namespace quorvel::geometry::clipping {
 // What a crossing is to one of the rings.
 struct Passage {
     Integer edge;
-    Edge ends;    // of that edge; those of B perturbed
-    bool enters;  // whether the ring enters the other one here, or leaves it
+    bool enters;  // the other ring, instead of leaving it
 };
 
 struct Crossing {
     Passage a, b;
+    Edge edge_b;       // perturbed
     Integer position;  // in the pool
     bool used;         // ring A has been walked from here
 };

@@ -15,7 +15,8 @@ struct PerturbedPoint {
 // when the other ring lies inside: moved inwards, two equal rings would not overlap cleanly.
 //
 // One pass over the edges: where two edges meet in a reflex corner sharper than 52 degrees, moving
-// off the second can bring the point back across the first.
+// off the second can bring the point back across the first. It stays within a few tolerances all
+// the same, and what follows takes it where it is.
 Point moved_off(const PreparedRing& ring, Point point) noexcept;
 
 // Most points are far from the ring.
