@@ -28,12 +28,13 @@ struct Polygon {
 };
 
 // Clockwise.
-Polygon regular(int n, double radius, double x, double y, double turn) {
+Polygon star(int n, double radius, double inner, double x, double y, double turn) {
     Polygon polygon;
     for (int i = 0; i < n; ++i) {
         const double angle = turn - 2.0 * std::numbers::pi * i / n;
-        polygon.x.push_back(static_cast<float>(x + radius * std::cos(angle)));
-        polygon.y.push_back(static_cast<float>(y + radius * std::sin(angle)));
+        const double r = i % 2 ? inner * radius : radius;
+        polygon.x.push_back(static_cast<float>(x + r * std::cos(angle)));
+        polygon.y.push_back(static_cast<float>(y + r * std::sin(angle)));
     }
     return polygon;
 }
@@ -43,17 +44,20 @@ struct Pair {
 };
 using Pairs = std::array<Pair, 256>;
 
-// A window of about 2 m and a shadow on it; slightly different from pair to pair.
+// A window of about 2 m and a shadow on it; slightly different from pair to pair. Stars have every
+// other vertex nearer to the centre.
 struct Case {
     const char* name;
-    int sides;
+    int window_sides, sides;
     double radius, distance;  // of the shadow and of its centre
+    double inner = 1.0;       // share of the radius
 };
 constexpr Case cases[] = {
-    {"quadrilaterals", 4, 1.4, 1.2},
-    {"12-gon_and_quadrilateral", 12, 1.2, 1.2},
-    {"contained", 4, 0.5, 0.1},
-    {"disjoint", 4, 1.0, 4.0},
+    {"quadrilaterals", 4, 4, 1.4, 1.2},
+    {"12-gon_and_quadrilateral", 4, 12, 1.2, 1.2},
+    {"12-gons_not_convex", 12, 12, 1.2, 1.5, 0.6},
+    {"contained", 4, 4, 0.5, 0.1},
+    {"disjoint", 4, 4, 1.0, 4.0},
 };
 
 Pairs draw(const Case& c) {
@@ -63,9 +67,9 @@ Pairs draw(const Case& c) {
     for (Pair& pair : pairs) {
         const double angle = 2.0 * std::numbers::pi * random.unit();
         const double distance = about(c.distance);
-        pair.a = regular(4, about(1.4), 0.0, 0.0, about(0.8));
-        pair.b = regular(c.sides, about(c.radius), distance * std::cos(angle),
-                         distance * std::sin(angle), random.unit());
+        pair.a = star(c.window_sides, about(1.4), c.inner, 0.0, 0.0, about(0.8));
+        pair.b = star(c.sides, about(c.radius), c.inner, distance * std::cos(angle),
+                      distance * std::sin(angle), random.unit());
     }
     return pairs;
 }

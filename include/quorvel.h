@@ -2506,7 +2506,7 @@ QUORVEL_API void CLSOR2(const float *solar_altitude, const float *solar_azimuth,
  *       list without room for the 0 is not written.
  *     - Where B lies within A the difference is two pieces, cut along level bridges from the
  *       leftmost and the rightmost vertex of B. The negative of a position marks a vertex from
- *       which a bridge leads to the next one.
+ *       which a bridge leads to the next one. A piece may touch itself along a bridge.
  *     - The polygons may run either way, touch, and have vertices and edges in common; repeated
  *       vertices are let be. B is moved off A where they touch: contact within a tolerance of 1e-4
  *       of the diagonal of the box round both counts as none, and the areas are exact to about this
@@ -2516,12 +2516,13 @@ QUORVEL_API void CLSOR2(const float *solar_altitude, const float *solar_azimuth,
  *       used_points and point_capacity). 3 or 4: A or B crosses itself. 5: A has no area to speak
  *       of (25 square tolerances). B without area is nothing to subtract.
  *     - Status 6: more than crossing_capacity crossings. 7: the pool is full. 8 or 9: an edge of A
- *       or B carries more than 10 crossings, or has no length to sort them along. 10 or 11:
- *       difference_pieces or overlap_pieces is full. 109: no bridge, for polygons with coordinates
- *       that are not numbers. In no case does anything happen beyond what the capacities allow. A
- *       failure leaves lists and pool as they are by then.
- *     - Two edges of A that meet in a reflex corner sharper than about 60 degrees, with a vertex of
- *       B in the corner: there an overlap can come out wrong.
+ *       or B carries more than 10 crossings. 10 or 11: difference_pieces or overlap_pieces is full.
+ *       105 or 106: the edges of A or of B do not enter and leave the other polygon by turns, as
+ *       can happen where a polygon is narrower than the tolerance, or touches itself. 109: no
+ *       bridge, for polygons with coordinates that are not numbers. In no case does anything happen
+ *       beyond what the capacities allow. A failure leaves lists and pool as they are by then.
+ *     - On which side of an edge a point lies is decided exactly, also at site coordinates, where
+ *       edges are in line with one another only to rounding.
  * Source: Boundary tracing from crossing to crossing: K. Weiler, P. Atherton, Hidden surface
  *     removal using polygon area sorting, 1977.
  */
@@ -2553,7 +2554,8 @@ QUORVEL_API void HOHOLEDP(double *x, double *y, const int32_t *vertices_a,
  *     - A coordinate nearer to 0 than 1e-4 is taken as 0.
  *     - The outputs are all 0 where the polygons do not overlap, and where HOHOLEDP fails: a
  *       polygon that crosses itself, more than 10 crossings, more than 50 vertices and crossings in
- *       all. Likewise for more than 5 pieces, or more than 24 vertices in one.
+ *       all. Likewise for more than 5 pieces, or more than 24 vertices in one. Of pairs of real
+ *       polygons 0.75 % exceed one of these capacities.
  *     - The outputs are also 0 where polygon 1 lies in polygon 2 and the two have 42 vertices or
  *       more together: what is left of polygon 2 around it does not fit. Where polygon 2 lies in
  *       polygon 1 they may have 50, as anywhere else.
@@ -3008,7 +3010,9 @@ QUORVEL_API float GEAPO2(const float *x, const float *y, const int32_t *vertices
  *     float  m²  area
  * Notes:
  *     - It is the sum of the triangles over the edges with the mean of the vertices as apex, all
- *       counted as positive: too large for a polygon that is not seen whole from there.
+ *       counted as positive: too large for a polygon that is not seen whole from there. Of the
+ *       surfaces of real buildings 3.3 % come out too large by more than 0.1 %, half of these by
+ *       more than 7 %.
  *     - Fewer than one vertex give 0.
  * Example: GEAPO3((0, 0, 1, 1), (0, 3, 3, 0), (0, 4, 4, 0), 4) -> 5 +- 1e-05
  * Source: Elementary geometry.
@@ -3030,6 +3034,9 @@ QUORVEL_API float GEAPO3(const float *x, const float *y, const float *z, const i
  * Notes:
  *     - The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its
  *       opposite is the outward normal of a convex polygon that runs clockwise seen from outside.
+ *     - Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin
+ *       within a straight side, and for 7 of these rounding alone decides the normal, so that area,
+ *       tilt and orientation are wrong: let vertex 1 be a true corner.
  *     - The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the
  *       azimuth opposite to its first side, from vertex 1 to 2, if the normal points up, and that
  *       of the side if it points down.
@@ -3075,7 +3082,8 @@ QUORVEL_API void GEPROJ(const float *plane_point, const float *plane_normal, con
  *       already, give 1e20 in all coordinates.
  *     - Forwards means that the way from the point to its projection, scaled to length 1, differs
  *       from the direction, scaled so, by 1e-6 at most in each component. Coordinates that are
- *       large beside the way to the plane can spoil that by rounding.
+ *       large beside the way to the plane can spoil that by rounding: at site coordinates of real
+ *       buildings, about 7 % of the points whose projection lies ahead are not found.
  * Example: GEPROJ2((0, 0, 0), (0, 0, 1), (0, 0, 5), (1, 0, -1)) -> projected_point = (5, 0, 0)
  * Source: As GEPROJ.
  */
@@ -3096,7 +3104,8 @@ QUORVEL_API void GEPROJ2(const float *plane_point, const float *plane_normal, co
  *     - A direction whose product with the normal is exactly 0 gives what the division by zero
  *       makes of it: infinities or not a number. There is no other limit for parallel directions,
  *       so that the length of the normal does not matter.
- *     - Ahead is as in GEPROJ2.
+ *     - Ahead is as in GEPROJ2, and so about 7 % of the points at site coordinates of real
+ *       buildings are returned as they are, although the plane lies ahead.
  * Example: GEPROJ3((0, 0, 0), (0, 0, 1), (0, 0, 5), (-1, 0, 1)) -> projected_point = (0, 0, 5)
  * Source: As GEPROJ.
  */

@@ -101,6 +101,25 @@ double signed_area(const PlanRing& ring) {
     return 0.5 * sum;
 }
 
+double perimeter(const PlanRing& ring) {
+    double sum = 0.0;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        const PlanPoint a = ring[i], b = ring[(i + 1) % ring.size()];
+        sum += std::hypot(b.x - a.x, b.y - a.y);
+    }
+    return sum;
+}
+
+double diagonal(const std::vector<PlanRing>& rings) {
+    PlanPoint low = rings[0][0], high = low;
+    for (const PlanRing& ring : rings)
+        for (const auto& [x, y] : ring) {
+            low = {std::min(low.x, x), std::min(low.y, y)};
+            high = {std::max(high.x, x), std::max(high.y, y)};
+        }
+    return std::hypot(high.x - low.x, high.y - low.y);
+}
+
 double total_area(const std::vector<Piece>& pieces) {
     return std::accumulate(pieces.begin(), pieces.end(), 0.0,
                            [](double sum, const Piece& piece) { return sum + piece.area; });

@@ -41,6 +41,9 @@ Clipped clip(const PlanRing& a, const PlanRing& b, const Capacities& capacities 
 double signed_area(const PlanRing& ring);
 double total_area(const std::vector<Piece>& pieces);
 
+double perimeter(const PlanRing& ring);
+double diagonal(const std::vector<PlanRing>& rings);  // of the box round all of them
+
 // Clockwise rings.
 PlanRing rectangle(double x0, double y0, double x1, double y1);
 PlanRing regular(int n, double radius, double x = 0.0, double y = 0.0);

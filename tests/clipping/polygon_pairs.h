@@ -1,9 +1,6 @@
 // Pairs of simple polygons in every kind of contact, drawn at random.
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "clipping/clip_call.h"
 #include "conformance/random_arguments.h"
 
@@ -11,38 +8,27 @@ namespace quorvel::test {
 
 using conformance::Random;
 
-// Vertices lie on a grid, so that single and double precision and whole numbers all hold the very
-// same polygons, and points can be put on edges exactly.
+// Vertices lie on a grid, so that single and double precision hold the very same polygons, and
+// points can be put on edges exactly.
 inline constexpr double grid = 0x1p-18;  // m
 
-struct GridPoint {
-    std::int64_t x, y;
-
-    friend bool operator==(const GridPoint&, const GridPoint&) = default;
-};
-using GridPolygon = std::vector<GridPoint>;
-
-struct PolygonPair {
-    GridPolygon a, b;
+struct RingPair {
+    PlanRing a, b;
 };
 
 struct PairClass {
     const char* name;
-    PolygonPair (*draw)(Random&);
+    RingPair (*draw)(Random&);
 };
 
-// Polygons of 3 to 12 vertices within 8 m of the origin, either way round, from any vertex on.
+// Rings either way round, from any vertex on, and either one first.
+void turn_about(RingPair& pair, Random& random);
+
+// Polygons of 3 to 12 vertices within 8 m of the origin, turned about.
 const std::vector<PairClass>& pair_classes();
-PolygonPair draw_pair(const PairClass& kind, Random& random);
+RingPair draw_pair(const PairClass& kind, Random& random);
 
-PlanRing in_metres(const GridPolygon& polygon);
-
-// In metres, too.
-double diagonal_of_both(const PolygonPair& pair);  // of the box round both
-double perimeter(const GridPolygon& polygon);
-// Least distance of a vertex from an edge: of the same polygon, but not at the vertex; or of
-// another.
-double narrowest(const GridPolygon& polygon);
-double distance(const GridPolygon& vertices, const GridPolygon& edges);
+// Least distance of a vertex from an edge [m].
+double distance(const PlanRing& vertices, const PlanRing& edges);
 
 }  // namespace quorvel::test

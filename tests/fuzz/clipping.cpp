@@ -108,7 +108,8 @@ void clip(const Polygons& given) {
                   given.b.positions.data(), nmax, given.kmax, given.ldif, given.lovl, npool,
                   dif.data(), ovl.data(), ierr);
     require_little_work(before);
-    require((0 <= ierr && ierr <= 11) || ierr == 109, "the status is one that is described");
+    require((0 <= ierr && ierr <= 11) || ierr == 105 || ierr == 106 || ierr == 109,
+            "the status is one that is described");
     require(npool == told || (npool > told && npool <= nmax), "the pool grows within its capacity");
     const auto kept = static_cast<std::size_t>(std::clamp(told, 0, std::max(nmax, 0)));
     require(same_bits(x, x0, kept) && same_bits(y, y0, kept), "points of the pool stay");

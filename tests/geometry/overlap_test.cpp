@@ -8,8 +8,7 @@
 #include <numbers>
 #include <vector>
 
-#include "clipping/clip_call.h"
-#include "clipping/exact_overlap.h"
+#include "clipping/polygon_pairs.h"
 #include "quorvel/library.h"
 
 namespace {
@@ -142,8 +141,7 @@ class OverlapPairs : public testing::TestWithParam<PairClass> {};
 TEST_P(OverlapPairs, AreThePiecesOfHoholedp) {
     Random random(3);
     for (int i = 0; i < 7500; ++i) {
-        const PolygonPair pair = draw_pair(GetParam(), random);
-        const PlanRing polygon_1 = in_metres(pair.b), polygon_2 = in_metres(pair.a);
+        const auto [polygon_2, polygon_1] = draw_pair(GetParam(), random);
         const Outputs outputs = overlap(polygon_1, polygon_2);
         ASSERT_EQ(outputs, expected(polygon_1, polygon_2)) << i;
         if (i % 10 != 0) continue;

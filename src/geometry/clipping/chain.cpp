@@ -1,22 +1,28 @@
 #include "geometry/clipping/chain.h"
 
 namespace quorvel::geometry::clipping {
-namespace {
 
-// The cotangent of the angle, 0 to 180 degrees, between two directions.
-DoubleReal cotangent(Point u, Point v) noexcept { return dot(u, v) / std::fabs(cross(u, v)); }
-
-}  // namespace
-
-DoubleReal Chain::distance_along_edge(Integer crossing) const noexcept {
-    const Edge edge = ring_.edge(crossings_[crossing].*edge_);
-    return dot(edge.along(), point(crossing) - edge.start) / length(edge.along());
+Edge Chain::other_edge(Integer crossing) const noexcept {
+    const Crossing& c = crossings_[crossing];
+    return own_ == &Crossing::a ? c.edge_b : other_.edge(c.a.edge);
 }
 
+// -1 where the walk along the ring meets the other ring's edge at the crossing before all of its
+// edge at the other crossing, +1 where after; 0 where that edge lies on both sides of the first.
+int Chain::place_of(Integer crossing, Integer other) const noexcept {
+    const HalfPlane half_plane(other_edge(crossing), other_.orientation());
+    const int side = half_plane.side(other_edge(other));
+    return own(crossing).enters ? -side : side;
+}
+
+// Of two edges that do not cross, one lies on one side of the other one's line: so the predicate
+// that found the crossings tells their order, also of crossings at one point, where an edge passes
+// through a vertex.
 bool Chain::comes_before(Integer crossing, Integer other) const noexcept {
-    const Integer edge = crossings_[crossing].*edge_, other_edge = crossings_[other].*edge_;
+    const Integer edge = own(crossing).edge, other_edge = own(other).edge;
     if (edge != other_edge) return edge < other_edge;
-    return distance_along_edge(crossing) < distance_along_edge(other);
+    const int place = place_of(crossing, other);
+    return place != 0 ? place < 0 : place_of(other, crossing) > 0;
 }
 
 void Chain::put(Integer place, Integer crossing) noexcept {
@@ -33,7 +39,6 @@ bool Chain::overfull() const noexcept {
 bool Chain::build() noexcept {
     while (size_ < crossings_.size()) {
         const Integer inserted = size_;
-        if (squared_length(ring_.edge(crossings_[inserted].*edge_).along()) == 0.0) return false;
         Integer place = size_++;
         for (; place > 0 && comes_before(inserted, crossing(place - 1)); --place)
             put(place, crossing(place - 1));
@@ -42,24 +47,14 @@ bool Chain::build() noexcept {
     return !overfull();
 }
 
-void Chain::order_ties(const Ring& a, DoubleReal tolerance) noexcept {
-    for (Integer place = 1; place < size_; ++place) {
-        if (edge(place) != edge(place - 1)) continue;
-        const Integer first = crossing(place - 1), second = crossing(place);
-        const DoubleReal gap = distance_along_edge(second) - distance_along_edge(first);
-        if (gap > 1.0e-6 * tolerance) continue;
-        const Integer i = crossings_[first].edge_a, j = crossings_[second].edge_a;
-        const bool in_turn = follows(a, i, j);
-        if (!in_turn && !follows(a, j, i)) continue;
-        const Point far_end_i = in_turn ? a.edge(i).start : a.edge(i).end;
-        const Point far_end_j = in_turn ? a.edge(j).end : a.edge(j).start;
-        const Point along = ring_.edge(edge(place)).along();
-        if (cotangent(along, far_end_j - point(second)) <
-            cotangent(along, far_end_i - point(first))) {
-            put(place - 1, second);
-            put(place, first);
-        }
+bool Chain::alternates() const noexcept {
+    bool last = own(crossing(size_ - 1)).enters;
+    for (Integer place = 0; place < size_; ++place) {
+        const bool enters = own(crossing(place)).enters;
+        if (enters == last) return false;
+        last = enters;
     }
+    return true;
 }
 
 }  // namespace quorvel::geometry::clipping

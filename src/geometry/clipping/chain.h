@@ -10,18 +10,18 @@ class Chain {
   public:
     static constexpr Integer most_on_edge = 10;
 
-    // The edge of the ring is that of the two edges of a crossing.
-    Chain(const Ring& ring, Integer Crossing::*edge, const Crossings& crossings,
-          const Pool& pool) noexcept
-        : ring_(ring), edge_(edge), crossings_(crossings), pool_(pool) {}
+    // The passages are those of the ring.
+    Chain(const PreparedRing& ring, Passage Crossing::*own, const PreparedRing& other,
+          const Crossings& crossings) noexcept
+        : ring_(ring), own_(own), other_(other), crossings_(crossings) {}
 
-    // False when an edge carries too many crossings, or has no length to sort them along.
+    // False when an edge carries too many crossings.
     bool build() noexcept;
 
-    // Where an edge of B passes through a vertex of A, it crosses two edges of A at one point, and
-    // their order decides what is inside. Crossings so close are put in the order in which an edge
-    // of B beside the vertex would meet them: first the edge of A that points back the most.
-    void order_ties(const Ring& a, DoubleReal tolerance) noexcept;
+    // Whether the ring enters the other one and leaves it by turns; and which of these it does
+    // first.
+    bool alternates() const noexcept;
+    bool enters_first() const noexcept { return own(crossing(0)).enters; }
 
     Integer size() const noexcept { return size_; }
     Integer crossing(Integer place) const noexcept { return stops_[place]; }
@@ -47,17 +47,18 @@ class Chain {
   private:
     using Table = std::array<Integer, Crossings::capacity>;
 
-    Integer edge(Integer place) const noexcept { return crossings_[crossing(place)].*edge_; }
-    Point point(Integer crossing) const noexcept { return pool_[crossings_[crossing].position]; }
-    DoubleReal distance_along_edge(Integer crossing) const noexcept;
+    const Passage& own(Integer crossing) const noexcept { return crossings_[crossing].*own_; }
+    Integer edge(Integer place) const noexcept { return own(crossing(place)).edge; }
+    Edge other_edge(Integer crossing) const noexcept;
+    int place_of(Integer crossing, Integer other) const noexcept;
     bool comes_before(Integer crossing, Integer other) const noexcept;
     void put(Integer place, Integer crossing) noexcept;
     bool overfull() const noexcept;
 
-    const Ring& ring_;
-    Integer Crossing::*edge_;
+    const PreparedRing& ring_;
+    Passage Crossing::*own_;
+    const PreparedRing& other_;
     const Crossings& crossings_;
-    const Pool& pool_;
     Integer size_ = 0;
     Table stops_, places_;  // crossings in order; and where in the order a crossing is
 };

@@ -59,9 +59,9 @@ DoubleReal distance_to_the_left(Point point, const Ring& ring) noexcept {
     return turns_left(ring, vertex.index) ? -vertex.distance : vertex.distance;
 }
 
-Location locate_by_distance(Point point, const Outline& ring) noexcept {
+Location locate_by_distance(Point point, const PreparedRing& ring) noexcept {
     const DoubleReal left = distance_to_the_left(point, ring);
-    return {ring.sense() == Sense::clockwise ? left < 0.0 : left >= 0.0,
+    return {ring.orientation() == Orientation::clockwise ? left < 0.0 : left >= 0.0,
             !(std::fabs(left) > 2.1 * ring.tolerance())};
 }
 

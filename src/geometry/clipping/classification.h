@@ -1,7 +1,7 @@
 // Where a point lies with respect to a ring.
 #pragma once
 
-#include "geometry/clipping/nudge.h"
+#include "geometry/clipping/perturbation.h"
 
 namespace quorvel::geometry::clipping {
 
@@ -13,18 +13,18 @@ struct Location {
     bool touching;
 };
 
-// A vertex on another ring that has been nudged off it is found up to two tolerances away; within
+// A vertex on another ring that has been moved off it is found up to two tolerances away; within
 // 2.1 tolerances a point counts as touching.
-Location locate_by_distance(Point point, const Outline& ring) noexcept;
+Location locate_by_distance(Point point, const PreparedRing& ring) noexcept;
 
 // Of a convex ring, the sides of its lines tell the same.
-inline Location locate(const PlacedPoint& placed, const Outline& ring) noexcept {
-    const bool by_sides = placed.view.clear && ring.convex();
-    if (by_sides) return {ring.encloses(placed.view), false};
-    return locate_by_distance(placed.point, ring);
+inline Location locate(const PerturbedPoint& perturbed, const PreparedRing& ring) noexcept {
+    const bool by_sides = perturbed.sides.clear && ring.convex();
+    if (by_sides) return {ring.encloses(perturbed.sides), false};
+    return locate_by_distance(perturbed.point, ring);
 }
-inline Location locate(Point point, const Outline& ring) noexcept {
-    return locate({point, ring.view(point)}, ring);
+inline Location locate(Point point, const PreparedRing& ring) noexcept {
+    return locate({point, ring.sides(point)}, ring);
 }
 
 }  // namespace quorvel::geometry::clipping

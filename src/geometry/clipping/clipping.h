@@ -1,16 +1,25 @@
-// Difference and overlap of two simple rings, in one pass.
+// Difference and overlap of two simple rings in one pass, by tracing boundaries from crossing to
+// crossing: K. Weiler, P. Atherton, Hidden surface removal using polygon area sorting, 1977.
 //
-// The rings may run either way, touch, and share vertices and edges. Ring B is nudged off ring A
-// before the two are compared (nudge.h), so contact within the tolerance never decides anything;
-// the pieces are made of the points as they were. Then
-//   crossings.h       where the rings cross, the crossings are found
-//   chain.h           and sorted along either ring;
-//   tracing.h         pieces change from one ring to the other at each crossing;
-//   classification.h  where they do not, a point tells how the rings lie:
-//   hole.h            B within A is cut out along two bridges; else they are apart, or A is in B.
+// 1. prepared_ring.h    Either ring is measured: box, orientation, convexity. It must not cross
+//                       itself.
+// 2. perturbation.h     The vertices of B that touch A are moved off it, outwards, by the
+// tolerance,
+//                       so that contact never decides anything. Pieces get the vertices as given.
+// 3. crossings.h        The crossings of their edges are found, each as an entry or an exit, by the
+//                       one predicate that decides on which side of a line a point lies, exactly
+//                       (half_plane.h, orientation_predicate.h).
+// 4. chain.h            They are sorted along either ring. Entries and exits take turns there; if
+//                       they do not, the operation fails.
+// 5. tracing.h          A piece of the overlap runs along A from where A enters B to where it
+//                       leaves, goes on along B to where B leaves A, and so forth until it closes;
+//                       a piece of the difference starts where A leaves B, and takes B backwards.
+// 6. classification.h   Without crossings, a point tells how the rings lie: apart, A in B, or B in
+//    hole.h             A, which is then cut along two bridges.
 //
-// What B is moved by bounds the error: the overlap is exact to about the tolerance times the length
-// of the boundaries, and the areas of difference and overlap add up to that of A to rounding.
+// The rings may run either way, touch, and share vertices and edges. What B is moved by bounds the
+// error: the overlap is exact to about the tolerance times the length of the boundaries, and the
+// areas of difference and overlap add up to that of A to rounding.
 #pragma once
 
 #include "geometry/clipping/piece_list.h"

@@ -1,35 +1,22 @@
 #include "geometry/clipping/crossings.h"
 
-#include "geometry/clipping/line.h"
-
 namespace quorvel::geometry::clipping {
 namespace {
-
-// Whether the boxes round two edges are apart. By rounding alone, edges in line with one another
-// may seem to cross that do not even meet.
-bool apart(Edge edge, Edge other, DoubleReal tolerance) noexcept {
-    const Point doubled_offset = (edge.start - other.start) + (edge.end - other.end);
-    const Point along = edge.along(), other_along = other.along();
-    const auto parted = [&](DoubleReal offset, DoubleReal width, DoubleReal other_width) {
-        return std::fabs(offset) > std::fabs(width) + std::fabs(other_width) + 1.0e-6 * tolerance;
-    };
-    return parted(doubled_offset.x, along.x, other_along.x) ||
-           parted(doubled_offset.y, along.y, other_along.y);
-}
 
 // The crossings of one edge of B.
 class EdgeSearch {
   public:
-    EdgeSearch(Integer j, Edge edge, const Outline& a, const Outline& b, Pool& pool,
+    EdgeSearch(Integer j, Edge edge, const PreparedRing& a, const PreparedRing& b, Pool& pool,
                Crossings& crossings) noexcept
         : j_(j),
           edge_(edge),
-          line_(edge, b.outside(), b.tolerance()),
+          half_plane_(edge, b.orientation()),
           a_(a),
+          agree_(a.orientation() == b.orientation()),
           pool_(pool),
           crossings_(crossings) {}
 
-    bool hopeless() const noexcept { return line_.misses(a_.box()); }
+    bool hopeless() const noexcept { return half_plane_.misses(a_.centred_box()); }
 
     // With the edges of A whose bits are set, the lines of which part the edge of B.
     Status among(std::uint64_t edges) noexcept {
@@ -42,8 +29,7 @@ class EdgeSearch {
     Status among_all() noexcept {
         Status status = Status::done;
         for (Integer i = 0; i < a_.size() && status == Status::done; ++i)
-            if (Line(a_.edge(i), a_.outside(), a_.tolerance()).parts(edge_))
-                status = record_crossing(i);
+            if (a_.half_plane(i).parts(edge_)) status = record_crossing(i);
         return status;
     }
 
@@ -51,26 +37,29 @@ class EdgeSearch {
     // If the line of the edge of B parts edge i of A, too.
     Status record_crossing(Integer i) noexcept {
         const Edge edge = a_.edge(i);
-        const DoubleReal start = line_.side(edge.start), end = line_.side(edge.end);
-        if (!Line::differ(start, end) || apart(edge, edge_, a_.tolerance())) return Status::done;
-        const Point point = edge.start + (start / (start - end)) * edge.along();
-        const Integer position = pool_.append(point);
+        const bool leaves = half_plane_.contains(edge.start);
+        if (half_plane_.contains(edge.end) == leaves) return Status::done;
+        const Integer position = pool_.append(half_plane_.meeting_point(edge));
         if (position == 0) return Status::pool_full;
-        return crossings_.append(i, j_, position) ? Status::done : Status::too_many_crossings;
+        const Passage a{i, !leaves}, b{j_, leaves == agree_};
+        return crossings_.append({a, b, edge_, position, false}) ? Status::done
+                                                                 : Status::too_many_crossings;
     }
 
     Integer j_;
     Edge edge_;
-    Line line_;
-    const Outline& a_;
+    HalfPlane half_plane_;
+    const PreparedRing& a_;
+    bool agree_;
     Pool& pool_;
     Crossings& crossings_;
 };
 
-Status search_edge(Integer j, const PlacedPoint& start, const PlacedPoint& end, const Outline& a,
-                   const Outline& b, Pool& pool, Crossings& crossings) noexcept {
-    const std::uint64_t parting = start.view.right ^ end.view.right;
-    const bool clear = start.view.clear && end.view.clear;
+Status search_edge(Integer j, const PerturbedPoint& start, const PerturbedPoint& end,
+                   const PreparedRing& a, const PreparedRing& b, Pool& pool,
+                   Crossings& crossings) noexcept {
+    const std::uint64_t parting = start.sides.right ^ end.sides.right;
+    const bool clear = start.sides.clear && end.sides.clear;
     if (clear && parting == 0) return Status::done;
     EdgeSearch search(j, {start.point, end.point}, a, b, pool, crossings);
     if (search.hopeless()) return Status::done;
@@ -78,29 +67,26 @@ Status search_edge(Integer j, const PlacedPoint& start, const PlacedPoint& end, 
 }
 
 // Whether one of the rings lies clear of all lines of the other. If it is B, its vertices need no
-// nudge either; nor do they if it is A, which is then far from them.
-bool cannot_cross(const Outline& a, Outline& b) noexcept {
-    if (a.box().holds(b.box())) return a.view(b.box()).clear;
+// perturbation either; nor do they if it is A, which is then far from them.
+bool cannot_cross(const PreparedRing& a, PreparedRing& b) noexcept {
+    if (a.box().holds(b.box())) return a.sides(b.centred_box()).clear;
     if (!b.box().holds(a.box())) return false;
-    b.survey();
-    return b.view(a.box()).clear;
+    b.prepare_half_planes();
+    return b.sides(a.centred_box()).clear;
 }
 
 }  // namespace
 
-// Which side is the negative one does not matter here, if it is the same for all.
-bool crosses_itself(const Outline& ring) noexcept {
-    if (ring.convex()) return false;
-    constexpr DoubleReal left = 1.0;
+bool crosses_itself(const PreparedRing& ring) noexcept {
+    if (ring.convex() || ring.star_shaped()) return false;
     for (Integer i = 0; i + 2 < ring.size(); ++i) {
         const Edge edge = ring.edge(i);
-        const Line line(edge, left, ring.tolerance());
-        DoubleReal start = line.side(ring[i + 2]);
+        const HalfPlane half_plane(edge, Orientation::clockwise);
+        bool start = half_plane.contains(ring[i + 2]);
         for (Integer j = i + 2; j < ring.size(); ++j) {
-            const DoubleReal end = line.side(ring[ring.after(j)]);
-            if (Line::differ(start, end) &&
-                Line(ring.edge(j), left, ring.tolerance()).parts(edge) && !neighbours(ring, i, j) &&
-                !apart(edge, ring.edge(j), ring.tolerance()))
+            const bool end = half_plane.contains(ring[ring.after(j)]);
+            if (start != end && HalfPlane(ring.edge(j), Orientation::clockwise).parts(edge) &&
+                !neighbours(ring, i, j))
                 return true;
             start = end;
         }
@@ -108,15 +94,16 @@ bool crosses_itself(const Outline& ring) noexcept {
     return false;
 }
 
-Status find_crossings(const Outline& a, Outline& b, const PlacedPoint& first, Pool& pool,
-                      Crossings& crossings) noexcept {
+Status find_crossings(const PreparedRing& a, PreparedRing& b, const PerturbedPoint& first,
+                      Pool& pool, Crossings& crossings) noexcept {
     if (cannot_cross(a, b)) return Status::done;
-    PlacedPoint start = first;
+    PerturbedPoint start = first;
     for (Integer j = 0; j < b.size(); ++j) {
         const Integer next = b.after(j);
-        const PlacedPoint end = next == 0 ? first : nudged(b[next], a);
+        const PerturbedPoint end = next == 0 ? first : perturbed(b[next], a);
         const Status status = search_edge(j, start, end, a, b, pool, crossings);
         if (status != Status::done) return status;
+        crossings.perturbed |= !end.sides.clear;
         start = end;
     }
     return Status::done;

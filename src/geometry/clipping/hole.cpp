@@ -1,6 +1,6 @@
 #include "geometry/clipping/hole.h"
 
-#include "geometry/clipping/nudge.h"
+#include "geometry/clipping/perturbation.h"
 
 namespace quorvel::geometry::clipping {
 namespace {
@@ -10,7 +10,7 @@ constexpr DoubleReal left = -1.0, right = 1.0;
 
 struct Extreme {
     Integer vertex;
-    Point point;  // nudged
+    Point point;  // perturbed
 
     void update(DoubleReal direction, Integer candidate, Point at) noexcept {
         if (direction * at.x > direction * point.x) *this = {candidate, at};
@@ -22,11 +22,11 @@ struct Extremes {
 };
 
 // The first of equal ones.
-Extremes extremes(const Outline& b, const Outline& a) noexcept {
-    const Extreme first{0, nudged(b[0], a).point};
+Extremes extremes(const PreparedRing& b, const PreparedRing& a) noexcept {
+    const Extreme first{0, perturbed(b[0], a).point};
     Extremes extremes{first, first};
     for (Integer i = 1; i < b.size(); ++i) {
-        const Point point = nudged(b[i], a).point;
+        const Point point = perturbed(b[i], a).point;
         extremes.leftmost.update(left, i, point);
         extremes.rightmost.update(right, i, point);
     }
@@ -41,7 +41,7 @@ struct Landing {
 
 // The nearest edge on a level ray from a vertex of B. An edge spans the level of its lower end and
 // not that of its upper end, so that a ray through a vertex meets each boundary once.
-Landing landing(DoubleReal direction, Point from, const Outline& a) noexcept {
+Landing landing(DoubleReal direction, Point from, const PreparedRing& a) noexcept {
     Landing nearest;
     for (Integer i = 0; i < a.size(); ++i) {
         const auto [start, end] = a.edge(i);
@@ -61,7 +61,7 @@ struct Bridge {
 };
 
 // From one bridge along A to the other one, and back along B.
-void add_piece(const Bridge& from, const Bridge& to, const Outline& a, const Outline& b,
+void add_piece(const Bridge& from, const Bridge& to, const PreparedRing& a, const PreparedRing& b,
                PieceList& list) noexcept {
     list.add(-b.position(from.vertex));
     list.add(from.position);
@@ -69,7 +69,7 @@ void add_piece(const Bridge& from, const Bridge& to, const Outline& a, const Out
     for (; i != to.edge; i = a.after(i)) list.add(a.position(i));
     list.add(a.position(i));
     list.add(-to.position);
-    const bool backward = a.sense() == b.sense();
+    const bool backward = a.orientation() == b.orientation();
     for (i = to.vertex; i != from.vertex; i = backward ? b.before(i) : b.after(i))
         list.add(b.position(i));
     list.close_piece();
@@ -77,7 +77,7 @@ void add_piece(const Bridge& from, const Bridge& to, const Outline& a, const Out
 
 }  // namespace
 
-Status cut_around_hole(const Outline& a, const Outline& b, Pool& pool,
+Status cut_around_hole(const PreparedRing& a, const PreparedRing& b, Pool& pool,
                        PieceList& difference) noexcept {
     const auto [leftmost, rightmost] = extremes(b, a);
     const Landing at_left = landing(left, leftmost.point, a);
@@ -92,7 +92,7 @@ Status cut_around_hole(const Outline& a, const Outline& b, Pool& pool,
     return Status::done;
 }
 
-bool can_cut_around_hole(const Outline& a, const Outline& b, const Pool& pool,
+bool can_cut_around_hole(const PreparedRing& a, const PreparedRing& b, const Pool& pool,
                          const PieceList& difference) noexcept {
     return a.convex() && b.finite() && pool.has_room(2) &&
            difference.has_room(a.size() + b.size() + 8);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <limits>
 
 #include "geometry/clipping/ring.h"
 
@@ -14,15 +15,6 @@ struct Box {
         return low.x <= box.low.x && box.high.x <= high.x && low.y <= box.low.y &&
                box.high.y <= high.y;
     }
-    constexpr Point middle() const noexcept { return 0.5 * (low + high); }
-
-    // The most that the cross product of a direction with the way to a point of the box differs
-    // from that with the way to its middle.
-    DoubleReal reach(Point direction) const noexcept {
-        const Point half = 0.5 * (high - low);
-        return std::fabs(direction.x) * half.y + std::fabs(direction.y) * half.x;
-    }
-
     constexpr void include(Point p) noexcept {
         low = {std::min(low.x, p.x), std::min(low.y, p.y)};
         high = {std::max(high.x, p.x), std::max(high.y, p.y)};
@@ -33,11 +25,50 @@ struct Box {
     }
 };
 
+// A box by its middle, which is rounded, and what the sides are away from it at most.
+struct CentredBox {
+    Point middle, half;
+
+    explicit constexpr CentredBox(const Box& box) noexcept
+        : middle(0.5 * (box.low + box.high)),
+          half{std::max(box.high.x - middle.x, middle.x - box.low.x),
+               std::max(box.high.y - middle.y, middle.y - box.low.y)} {}
+
+    // The most that the cross product of a direction with the way to a point of the box differs
+    // from that with the way to its middle.
+    DoubleReal reach(Point direction) const noexcept {
+        return std::fabs(direction.x) * half.y + std::fabs(direction.y) * half.x;
+    }
+};
+
+// How a sequence of directions turns.
+class Turning {
+  public:
+    explicit constexpr Turning(Point first) noexcept : last_(first) {}
+
+    constexpr void add(Point direction) noexcept {
+        const DoubleReal turn = cross(last_, direction);
+        least_ = std::min(least_, turn);
+        greatest_ = std::max(greatest_, turn);
+        half_turns_ += (last_.y > 0.0) != (direction.y > 0.0);
+        last_ = direction;
+    }
+
+    // Of directions that end with the first: always the same way, clearly, and once in all.
+    constexpr bool once_round(DoubleReal clear) const noexcept {
+        return (least_ > clear || greatest_ < -clear) && half_turns_ == 2;
+    }
+
+  private:
+    Point last_;
+    DoubleReal least_ = std::numeric_limits<DoubleReal>::infinity(), greatest_ = -least_;
+    Integer half_turns_ = 0;
+};
+
 struct Measures {
     Box box;
     DoubleReal area;  // positive when clockwise; not finite if a coordinate is not
-    DoubleReal least_turn, greatest_turn;  // cross products of edges that follow one another
-    Integer half_turns;                    // of the edges' directions
+    Turning turning;  // of the edges
 
     explicit Measures(const Ring& ring) noexcept;
 

@@ -4,10 +4,10 @@
 
 namespace quorvel::geometry::clipping {
 
-// What HOHOLEDP answers. Further codes are set aside for faults that cannot occur here: 105 to 108
-// for a crossing that is missing from a chain (both chains are the one table of crossings, sorted)
-// and 111 for the crossing point of parallel edges (where the ends of one edge lie on different
-// sides of the other, the divisor is not zero).
+// What HOHOLEDP answers. 105 and 106 tell that the law of the crossings (crossings.h) does not
+// hold. Further codes are set aside for faults that cannot occur here: 107 and 108 for a crossing
+// that is missing from a chain (both chains are the one table of crossings, sorted) and 111 for the
+// crossing point of parallel edges (an edge that is parted by a line is not parallel to it).
 enum class Status : Integer {
     done = 0,
     ring_a_unusable = 1,
@@ -21,6 +21,8 @@ enum class Status : Integer {
     chain_b_overfull = 9,
     difference_full = 10,
     overlap_full = 11,
+    chain_a_inconsistent = 105,
+    chain_b_inconsistent = 106,
     no_bridge = 109,
 };
 

@@ -2,22 +2,14 @@
 
 namespace quorvel::geometry::clipping {
 
-void Tracer::mark_entries(bool starts_inside) noexcept {
-    bool inside = starts_inside;
-    for (Integer place = 0; place < chain_b_.size(); ++place) {
-        inside = !inside;
-        crossings_[chain_b_.crossing(place)].entry = inside == agree_;
-    }
-}
-
-// The difference starts where B enters A, the overlap where it leaves. Both go on along A; B is
-// then walked against the sense of A for the difference, with it for the overlap.
+// The overlap starts where A enters B, the difference where it leaves. Both go on along A; B is
+// then walked in the sense of A for the overlap, against it for the difference.
 void Tracer::trace(Operation operation, PieceList& list) noexcept {
-    const bool at_entries = operation == Operation::difference;
+    const bool at_entries = operation == Operation::overlap;
     for (Integer place = 0; place < chain_a_.size() && !list.full(); ++place) {
         const Integer start = chain_a_.crossing(place);
-        if (crossings_[start].entry == at_entries && !crossings_[start].used)
-            trace_piece(start, agree_ != at_entries, list);
+        if (crossings_[start].a.enters == at_entries && !crossings_[start].used)
+            trace_piece(start, agree_ == at_entries, list);
     }
 }
 
@@ -38,13 +30,7 @@ void Tracer::trace_piece(Integer start, bool b_forward, PieceList& list) noexcep
 }
 
 bool Tracer::can_skip_difference(const PieceList& difference) const noexcept {
-    const Integer count = chain_a_.size();
-    for (Integer place = 0; place < count; ++place) {
-        const Integer next = place + 1 < count ? place + 1 : 0;
-        if (crossings_[chain_a_.crossing(place)].entry == crossings_[chain_a_.crossing(next)].entry)
-            return false;
-    }
-    return difference.has_room(a_.size() + b_.size() + 3 * count);
+    return difference.has_room(a_.size() + b_.size() + 3 * chain_a_.size());
 }
 
 }  // namespace quorvel::geometry::clipping

@@ -10,17 +10,14 @@ enum class Operation { difference, overlap };
 
 class Tracer {
   public:
-    Tracer(const Outline& a, const Outline& b, Crossings& crossings, const Chain& chain_a,
+    Tracer(const PreparedRing& a, const PreparedRing& b, Crossings& crossings, const Chain& chain_a,
            const Chain& chain_b) noexcept
         : a_(a),
           b_(b),
-          agree_(a.sense() == b.sense()),
+          agree_(a.orientation() == b.orientation()),
           crossings_(crossings),
           chain_a_(chain_a),
           chain_b_(chain_b) {}
-
-    // B enters and leaves A by turns.
-    void mark_entries(bool starts_inside) noexcept;
 
     // All pieces, or as many as the list has room for.
     void trace(Operation operation, PieceList& list) noexcept;
@@ -32,7 +29,7 @@ class Tracer {
   private:
     void trace_piece(Integer start, bool b_forward, PieceList& list) noexcept;
 
-    const Outline &a_, &b_;
+    const PreparedRing &a_, &b_;
     bool agree_;
     Crossings& crossings_;
     const Chain &chain_a_, &chain_b_;

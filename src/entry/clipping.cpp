@@ -1,5 +1,5 @@
-#include "entry/entry.h"
 #include "geometry/clipping/clipping.h"
+#include "entry/entry.h"
 #include "geometry/clipping/overlap.h"
 
 using namespace quorvel;

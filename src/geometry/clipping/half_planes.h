@@ -10,20 +10,20 @@
 
 namespace quorvel::geometry::clipping {
 
-// The edges of a ring as a point sees them.
-struct View {
-    // Whether the point is farther from the lines of all edges than anything within the tolerance
-    // matters.
+// On which sides of the lines of a ring's edges a point lies.
+struct Sides {
+    // Whether the point is farther from all of the lines than anything within the tolerance
+    // matters, and so much farther than rounding that every predicate would answer the same.
     bool clear;
     // If so, a bit for each edge that has the point on its right.
     std::uint64_t right;
 };
 
-// The lines of a ring's edges. Of a ring that has not been surveyed, or has more edges than a view
-// has bits for, no point is clear.
-class Survey {
+// The lines of a ring's edges, which bound half-planes. Of a ring that has not been prepared, or
+// has more edges than there are bits, no point is clear.
+class HalfPlanes {
   public:
-    void make(const Ring& ring, DoubleReal tolerance) noexcept {
+    void prepare(const Ring& ring, DoubleReal tolerance) noexcept {
         if (ring.size() > most_lines) return;
         for (; size_ < ring.size(); ++size_) {
             const auto [start, end] = ring.edge(size_);
@@ -31,17 +31,18 @@ class Survey {
         }
     }
 
-    View view(Point point) const noexcept {
-        return view(point, [](const Line& line) { return line.margin; });
+    Sides sides(Point point) const noexcept {
+        return sides(point, [](const Line& line) { return line.margin; });
     }
 
     // Of all points of a box at once. The share added covers rounding.
-    View view(const Box& box) const noexcept {
-        return view(box.middle(),
-                    [&](const Line& line) { return line.margin + 1.0001 * box.reach(line.along); });
+    Sides sides(const CentredBox& box) const noexcept {
+        return sides(box.middle, [&](const Line& line) {
+            return line.margin + 1.0001 * box.reach(line.along);
+        });
     }
 
-    // As all edges of a clockwise ring see its inside.
+    // As all edges of a clockwise ring have its inside.
     std::uint64_t all_edges() const noexcept { return ~std::uint64_t{0} >> (most_lines - size_); }
 
   private:
@@ -60,7 +61,7 @@ class Survey {
     }
 
     template <class Margin>
-    View view(Point point, Margin margin) const noexcept {
+    Sides sides(Point point, Margin margin) const noexcept {
         bool clear = size_ > 0;
         std::uint64_t right = 0;
         for (Integer i = size_ - 1; i >= 0; --i) {
