@@ -110,7 +110,7 @@ class Years(unittest.TestCase):
         for number, name in enumerate(CLIMATES, 1):
             process = host.run("from-hourly", f"{name}.epw", "--station", str(number), "-o", "out.toml",
                                files={f"{name}.epw": self.epw[name]})
-            example = ROOT / "hosts" / "climate" / "examples" / f"synthetic_{name}.toml"
+            example = ROOT / "apps" / "climate" / "examples" / f"synthetic_{name}.toml"
             self.assertEqual(process.written["out.toml"].decode(), example.read_text(encoding="utf-8"))
 
     def test_packed_stations_are_clean(self):

@@ -7,7 +7,7 @@ from pathlib import Path
 import host
 from designday_input import SITE, WINDOW, hours, job, window
 
-EXAMPLES = Path(__file__).parents[2] / "hosts" / "designday" / "examples"
+EXAMPLES = Path(__file__).parents[2] / "apps" / "designday" / "examples"
 GOOD = job()
 
 

@@ -8,7 +8,7 @@ from pathlib import Path
 import shade_rays
 from shade_input import DAY, SCREEN, SITE, WINDOW, hours, read, sunny
 
-EXAMPLES = Path(__file__).parents[2] / "hosts" / "shade" / "examples"
+EXAMPLES = Path(__file__).parents[2] / "apps" / "shade" / "examples"
 ENDLESS = 50  # m that make a plate as good as endless
 WIDTH, HEIGHT = WINDOW["width"], WINDOW["height"]
 ROUNDING = 0.02  # %

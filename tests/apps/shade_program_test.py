@@ -8,7 +8,7 @@ from pathlib import Path
 import host
 from shade_input import DAY, SCREEN, SITE, WINDOW, hours, job, read
 
-EXAMPLES = Path(__file__).parents[2] / "hosts" / "shade" / "examples"
+EXAMPLES = Path(__file__).parents[2] / "apps" / "shade" / "examples"
 FIN = {"depth": 0.5}
 
 BAD = [

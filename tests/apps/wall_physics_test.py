@@ -9,7 +9,7 @@ from pathlib import Path
 import host
 from wall_input import BRICK, CAVITY, PLASTER, SHEET, WOOL, interfaces, job, read
 
-EXAMPLES = Path(__file__).parents[2] / "hosts" / "wall" / "examples"
+EXAMPLES = Path(__file__).parents[2] / "apps" / "wall" / "examples"
 GIVEN = {"inside_resistance": 0.13, "outside_resistance": 0.04}  # m²K/W
 RSI, RSE = GIVEN.values()
 

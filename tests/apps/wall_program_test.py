@@ -7,7 +7,7 @@ from pathlib import Path
 import host
 from wall_input import BRICK, CAVITY, CLIMATE, PLASTER, SHEET, WALL, WOOL, interfaces, job
 
-EXAMPLES = Path(__file__).parents[2] / "hosts" / "wall" / "examples"
+EXAMPLES = Path(__file__).parents[2] / "apps" / "wall" / "examples"
 YEAR = [4, 5, 7, 9, 12, 15, 18, 17, 15, 11, 7, 5]
 
 
