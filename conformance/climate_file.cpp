@@ -47,8 +47,8 @@ void ClimateFileImage::fill(int station, Random& random) {
         double low, high;
     } ranges[] = {{0.05, 0.9}, {0, 1.2}, {-5, 30}, {-9, 18}, {-6, 20}, {-9, 16}, {0.1, 0.9}};
     for (int month = 1; month <= 12; ++month)
-        for (const std::size_t set : {0, 1}) {
-            const auto first = static_cast<int>(layout::time_row(set, 0));
+        for (const std::size_t band_set : {0u, 1u}) {
+            const auto first = static_cast<int>(layout::time_row(band_set, 0));
             set(station, first, month, static_cast<float>(14 + random.below(3)));
             set(station, first + 1, month, static_cast<float>(4 + random.below(4)));
             std::array<float, 10> frequency;

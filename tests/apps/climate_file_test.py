@@ -50,11 +50,6 @@ class RoundTrip(unittest.TestCase):
                 shown = tomllib.loads(show(with_header(data, H), number, "--text"))
                 self.assertEqual(tables(shown), tables(station(number)))
 
-    def test_text_form_packs_to_the_same_bytes(self):
-        data = packed(station(1))
-        again = host.run("pack", "out.climate", "a.toml", files={"a.toml": show(data, 1, "--text")})
-        self.assertEqual(again.written, {"out.climate": data})
-
     def test_folder_and_numbers_for_all(self):
         files = {"in/b.toml": text(station(1)), "in/a.toml": text(changed(["set2", "time_B"], 6, station(2))), "in/c.txt": "none"}
         process = host.run("pack", "out.climate", "in", files=files)
@@ -115,14 +110,11 @@ class Check(unittest.TestCase):
         for i, ((quantity, band, month, value), fault) in enumerate(planted):
             s = 1 + i % 2
             with self.subTest(fault):
-                found = self.check(with_value(self.sound, 2, s, quantity, band, month, value))
+                data = with_value(self.sound, 2, s, quantity, band, month, value)
+                found = self.check(data, 2)
+                self.assertEqual((self.check(data), self.check(data, 1)), (found, []))
                 place = f"station 2, set {s}, {month}" + f", band {band}" * (not quantity.startswith("time"))
                 self.assertEqual([line.startswith(f"{place}: {fault}") for line in found], [True], found)
-
-    def test_only_the_station_asked_for(self):
-        data = with_value(self.sound, 2, 1, "Q7", 1, "May", 2)
-        self.assertEqual(self.check(data, 1), [])
-        self.assertEqual(self.check(data, 2), self.check(data))
 
     def test_length_and_header(self):
         cases = [
@@ -139,11 +131,6 @@ class Check(unittest.TestCase):
         for data, line in cases:
             with self.subTest(line):
                 self.assertTrue(self.check(data)[0].startswith(line), self.check(data))
-
-    def test_any_bytes_whatever(self):
-        for filler in (b"\xff", b"\x7f", b"\x80"):
-            self.assertTrue(self.check(filler * 432 * 30))
-            self.assertGreater(len(self.check(self.sound[:864] + filler * 432 * 19)), 1000)
 
 
 if __name__ == "__main__":
