@@ -2,12 +2,11 @@
 
 import re
 import unittest
-from pathlib import Path
 
 import host
 from designday_input import SITE, WINDOW, hours, job, window
 
-EXAMPLES = Path(__file__).parents[2] / "apps" / "designday" / "examples"
+EXAMPLES = host.examples("designday")
 GOOD = job()
 
 

@@ -3,12 +3,11 @@
 import re
 import unittest
 import xml.etree.ElementTree as ElementTree
-from pathlib import Path
 
 import host
 from shade_input import DAY, SCREEN, SITE, WINDOW, hours, job, read
 
-EXAMPLES = Path(__file__).parents[2] / "apps" / "shade" / "examples"
+EXAMPLES = host.examples("shade")
 FIN = {"depth": 0.5}
 
 BAD = [
@@ -46,9 +45,9 @@ class BadInput(host.InputCase, unittest.TestCase):
     def test_hours(self):
         for hours_given in ("25", "-1", "noon", "9,nan", ""):
             with self.subTest(hours_given):
-                process = host.run("--svg", "day.svg", "--hours", hours_given, "job.toml", files={"job.toml": job()})
-                self.expect(process, 2, r"^shade: --hours: value .*; allowed 0 to 24 h")
-        self.expect(host.run("--hours", "9", "job.toml", files={"job.toml": job()}), 2, "^shade: --hours requires --svg")
+                self.expect_refusal(["--svg", "day.svg", "--hours", hours_given, "job.toml"],
+                                    "shade: --hours: value .*; allowed 0 to 24 h")
+        self.expect_refusal(["--hours", "9", "job.toml"], "shade: --hours requires --svg")
 
 
 class Output(host.ReportCase, unittest.TestCase):

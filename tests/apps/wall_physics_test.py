@@ -4,12 +4,11 @@ import cmath
 import math
 import random
 import unittest
-from pathlib import Path
 
 import host
 from wall_input import BRICK, CAVITY, PLASTER, SHEET, WOOL, interfaces, job, read
 
-EXAMPLES = Path(__file__).parents[2] / "apps" / "wall" / "examples"
+EXAMPLES = host.examples("wall")
 GIVEN = {"inside_resistance": 0.13, "outside_resistance": 0.04}  # m²K/W
 RSI, RSE = GIVEN.values()
 

@@ -2,12 +2,11 @@
 
 import re
 import unittest
-from pathlib import Path
 
 import host
 from wall_input import BRICK, CAVITY, CLIMATE, PLASTER, SHEET, WALL, WOOL, interfaces, job
 
-EXAMPLES = Path(__file__).parents[2] / "apps" / "wall" / "examples"
+EXAMPLES = host.examples("wall")
 YEAR = [4, 5, 7, 9, 12, 15, 18, 17, 15, 11, 7, 5]
 
 

@@ -2,8 +2,9 @@
 // has routines.
 //
 // Records of 432 bytes: nine rows of a number for each month, of four bytes, lowest byte first.
-// Record 1 is the header, whose second word H places the stations, of 19 records each. Records count
-// from 1, as do stations; rows, sets, quantities (F, Q1 to Q7), bands and months count from 0.
+// Record 1 is the header, whose second word H places the stations, of 19 records each. Records
+// count from 1, as do stations; rows, sets, quantities (F, Q1 to Q7), bands and months count from
+// 0.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +14,7 @@ namespace quorvel::climate_file_layout {
 
 inline constexpr std::size_t month_count = 12, band_count = 10, set_count = 2, quantity_count = 8;
 inline constexpr int rows_per_record = 9, station_records = 19, record_bytes = 432;
-inline constexpr int header_offset = 4;        // of H, in bytes
+inline constexpr int header_offset = 4;           // of H, in bytes
 inline constexpr std::size_t station_rows = 171;  // the last seven are not in use
 
 // Rows of a set: the times A and B, then ten of each quantity.
