@@ -9,29 +9,29 @@
 #include "quorvel/library.h"
 
 namespace quorvel::conformance {
+
+namespace layout = climate_file_layout;
+
 namespace {
 
-constexpr std::int64_t words_per_record = record_bytes / 4;
-
-constexpr int rows_per_set = 82;
 constexpr int example_stations = 100;
 
 }  // namespace
 
 ClimateFileImage::ClimateFileImage(std::int32_t H, int last_station, std::uint64_t seed) : H_(H) {
-    words_.resize(static_cast<std::size_t>(record_of(last_station, 170) * words_per_record));
+    words_.resize(static_cast<std::size_t>(layout::value_offset(last_station + 1, H, 0, 0) / 4));
     Random random(seed);
     for (std::uint32_t& word : words_) word = static_cast<std::uint32_t>(random.bits());
     words_[1] = static_cast<std::uint32_t>(H);
 }
 
 std::int64_t ClimateFileImage::record_of(std::int64_t station, int row) const {
-    return 19 * station + row / 9 + (std::int64_t{H_} - 1) / 18 + H_ - 16;
+    return layout::first_record(station, H_) + row / layout::rows_per_record;
 }
 
 std::size_t ClimateFileImage::word(int station, int row, int month) const {
-    const auto words_before = (record_of(station, row) - 1) * words_per_record;
-    return static_cast<std::size_t>(words_before + std::int64_t{12} * (row % 9) + month - 1);
+    return static_cast<std::size_t>(
+        layout::value_offset(station, H_, static_cast<std::size_t>(row), 0) / 4 + month - 1);
 }
 
 float ClimateFileImage::value(int station, int row, int month) const {
@@ -47,7 +47,8 @@ void ClimateFileImage::fill(int station, Random& random) {
         double low, high;
     } ranges[] = {{0.05, 0.9}, {0, 1.2}, {-5, 30}, {-9, 18}, {-6, 20}, {-9, 16}, {0.1, 0.9}};
     for (int month = 1; month <= 12; ++month)
-        for (const int first : {0, rows_per_set}) {
+        for (const std::size_t band_set : {0u, 1u}) {
+            const auto first = static_cast<int>(layout::time_row(band_set, 0));
             set(station, first, month, static_cast<float>(14 + random.below(3)));
             set(station, first + 1, month, static_cast<float>(4 + random.below(4)));
             std::array<float, 10> frequency;

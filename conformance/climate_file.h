@@ -8,10 +8,11 @@
 #include <vector>
 
 #include "conformance/random_arguments.h"
+#include "quorvel/climate_file_layout.h"
 
 namespace quorvel::conformance {
 
-inline constexpr std::int64_t record_bytes = 432;
+using climate_file_layout::record_bytes;
 
 // A file's content, to be filled value by value. It ends with the last row of the last station; all
 // that has no value yet is random, as the unused parts of real files may be.

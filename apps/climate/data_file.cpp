@@ -10,12 +10,14 @@
 namespace quorvel::climatefile {
 namespace {
 
+// Puts station 1 at record 3, as near to the header as can be: record 2 would need H = -1, which
+// the library takes for a header not yet read.
 constexpr std::int32_t written_H = 0;
 static_assert(first_record(1, written_H) == 3);
 static_assert(sizeof(Station::rows) == station_records * record_bytes);
 
-std::size_t offset_of(std::int64_t record) {
-    return static_cast<std::size_t>((record - 1) * record_bytes);
+std::size_t begin_of(int station) {
+    return static_cast<std::size_t>(value_offset(station, written_H, 0, 0));
 }
 
 }  // namespace
@@ -23,10 +25,9 @@ std::size_t offset_of(std::int64_t record) {
 std::string data_file(const std::vector<Station>& stations) {
     int last = 0;
     for (const Station& station : stations) last = std::max(last, station.number);
-    std::string bytes(offset_of(first_record(last + 1, written_H)), '\0');
+    std::string bytes(begin_of(last + 1), '\0');
     for (const Station& station : stations)
-        std::memcpy(&bytes[offset_of(first_record(station.number, written_H))], station.rows.data(),
-                    sizeof station.rows);
+        std::memcpy(&bytes[begin_of(station.number)], station.rows.data(), sizeof station.rows);
     return bytes;
 }
 
@@ -37,7 +38,7 @@ DataFile::DataFile(std::string path) : path_(std::move(path)) {
     stream.seekg(0);
     stream.read(header, std::min<std::int64_t>(bytes_, sizeof header));  // a folder opens as well
     if (!stream) throw host::InputError(path_ + ": cannot be read");
-    std::memcpy(&H_, header + 4, sizeof H_);
+    std::memcpy(&H_, header + header_offset, sizeof H_);
 }
 
 std::int64_t DataFile::last_station() const {

@@ -1,5 +1,4 @@
-// The climate data file: records of 432 bytes, nine rows of twelve numbers each. Record 1 is the
-// header, whose second word H places the stations; a station has 19 records.
+// Climate data files, written and looked through.
 #pragma once
 
 #include <cstdint>
@@ -9,15 +8,6 @@
 #include "climate/station.h"
 
 namespace quorvel::climatefile {
-
-inline constexpr std::int64_t record_bytes = 432;
-inline constexpr int station_records = 19;
-
-// Of a station's first record. H = 0 puts station 1 at record 3, as near to the header as can be:
-// record 2 would need H = -1, which the library takes for a header not yet read.
-constexpr std::int64_t first_record(std::int64_t station, std::int64_t H) {
-    return station_records * station + (H - 1) / 18 + H - 16;
-}
 
 // The bytes of a file of these stations. Numbers left out become stations of zeros.
 std::string data_file(const std::vector<Station>& stations);

@@ -6,10 +6,12 @@
 #include <cstddef>
 #include <string>
 
+#include "quorvel/climate_file_layout.h"
+
 namespace quorvel::climatefile {
 
-inline constexpr std::size_t month_count = 12, band_count = 10, set_count = 2;
-inline constexpr std::size_t station_rows = 171;  // the last seven are not in use
+using namespace climate_file_layout;
+
 inline constexpr int last_station_number = 1000;  // of the files written here
 
 using MonthlyRow = std::array<float, month_count>;
@@ -24,7 +26,7 @@ struct Quantity {
 
 inline constexpr Quantity time_a{"time_A", "hour of the warmest air of the day", 0, 24, "h", 1};
 inline constexpr Quantity time_b{"time_B", "hour of the coldest air of the day", 0, 24, "h", 1};
-inline constexpr std::array<Quantity, 8> quantities = {{
+inline constexpr std::array<Quantity, quantity_count> quantities = {{
     {"F", "share of the days in a band and those before it", 0, 1, "of the days", 4},
     {"Q1", "beam factor, on the design irradiance of a clear sky", 0, 10, "of the design value", 3},
     {"Q2", "diffuse factor, on that of a clear sky", 0, 10, "of the design value", 3},
@@ -34,12 +36,6 @@ inline constexpr std::array<Quantity, 8> quantities = {{
     {"Q6", "wet-bulb temperature at time B, °C", -90, 60, "°C", 2},
     {"Q7", "cloud-free share of the sky", 0, 1, "of the sky", 3},
 }};
-
-// Rows of a set: its two times, then ten of each quantity.
-constexpr std::size_t time_row(std::size_t set, std::size_t time) { return 82 * set + time; }
-constexpr std::size_t band_row(std::size_t set, std::size_t quantity, std::size_t band) {
-    return time_row(set, 2) + band_count * quantity + band;
-}
 
 struct Station {
     std::string name;

@@ -28,32 +28,15 @@ def tables(of):
 
 
 class RoundTrip(unittest.TestCase):
-    def test_every_value_is_where_the_record_formula_puts_it(self):
-        stations = [station(3), station(1)]
-        data = packed(*stations)
-        self.assertEqual(len(data), offset(4, 0, 0))
-        self.assertEqual(data[:864], bytes(864))  # H = 0, and nothing else
-        self.assertFalse(any(data[offset(2, 0, 0):offset(3, 0, 0)]))
-        for of in stations:
-            for s in (1, 2):
-                for m, month in enumerate(MONTHS):
-                    values = [(row_of(s, time), of[f"set{s}"][time][m]) for time in ("time_A", "time_B")]
-                    values += [(row_of(s, q, band), of[f"set{s}"][q][month][band - 1]) for q in QUANTITIES for band in range(1, 11)]
-                    for row, value in values:
-                        self.assertEqual(struct.unpack_from("<f", data, offset(of["station"], row, m)), (single(value),))
-
     def test_library_reads_what_was_packed(self):
         """In fresh processes, with stations in several places: H is read once in each."""
-        data = packed(station(1), station(2), station(5))
+        data = packed(station(5), station(1), station(2))
+        self.assertEqual(len(data), offset(6, 0, 0))
+        self.assertEqual((data[:864], data[offset(3, 0, 0):offset(5, 0, 0)]), (bytes(864), bytes(2 * 19 * 432)))
         for H, number in ((0, 1), (0, 5), (1, 5), (18, 2), (19, 1), (40, 5), (-1, 2)):
             with self.subTest(H=H, number=number):
                 shown = tomllib.loads(show(with_header(data, H), number, "--text"))
                 self.assertEqual(tables(shown), tables(station(number)))
-
-    def test_text_form_packs_to_the_same_bytes(self):
-        data = packed(station(1))
-        again = host.run("pack", "out.climate", "a.toml", files={"a.toml": show(data, 1, "--text")})
-        self.assertEqual(again.written, {"out.climate": data})
 
     def test_folder_and_numbers_for_all(self):
         files = {"in/b.toml": text(station(1)), "in/a.toml": text(changed(["set2", "time_B"], 6, station(2))), "in/c.txt": "none"}
@@ -115,14 +98,11 @@ class Check(unittest.TestCase):
         for i, ((quantity, band, month, value), fault) in enumerate(planted):
             s = 1 + i % 2
             with self.subTest(fault):
-                found = self.check(with_value(self.sound, 2, s, quantity, band, month, value))
+                data = with_value(self.sound, 2, s, quantity, band, month, value)
+                found = self.check(data, 2)
+                self.assertEqual((self.check(data), self.check(data, 1)), (found, []))
                 place = f"station 2, set {s}, {month}" + f", band {band}" * (not quantity.startswith("time"))
                 self.assertEqual([line.startswith(f"{place}: {fault}") for line in found], [True], found)
-
-    def test_only_the_station_asked_for(self):
-        data = with_value(self.sound, 2, 1, "Q7", 1, "May", 2)
-        self.assertEqual(self.check(data, 1), [])
-        self.assertEqual(self.check(data, 2), self.check(data))
 
     def test_length_and_header(self):
         cases = [
@@ -139,11 +119,6 @@ class Check(unittest.TestCase):
         for data, line in cases:
             with self.subTest(line):
                 self.assertTrue(self.check(data)[0].startswith(line), self.check(data))
-
-    def test_any_bytes_whatever(self):
-        for filler in (b"\xff", b"\x7f", b"\x80"):
-            self.assertTrue(self.check(filler * 432 * 30))
-            self.assertGreater(len(self.check(self.sound[:864] + filler * 432 * 19)), 1000)
 
 
 if __name__ == "__main__":

@@ -110,7 +110,7 @@ class Years(unittest.TestCase):
         for number, name in enumerate(CLIMATES, 1):
             process = host.run("from-hourly", f"{name}.epw", "--station", str(number), "-o", "out.toml",
                                files={f"{name}.epw": self.epw[name]})
-            example = ROOT / "hosts" / "climate" / "examples" / f"synthetic_{name}.toml"
+            example = ROOT / "apps" / "climate" / "examples" / f"synthetic_{name}.toml"
             self.assertEqual(process.written["out.toml"].decode(), example.read_text(encoding="utf-8"))
 
     def test_packed_stations_are_clean(self):
@@ -202,19 +202,15 @@ class BadInput(unittest.TestCase):
         ]
         for content, message in cases:
             with self.subTest(message):
-                process = host.run("from-hourly", "year.epw", "-o", "out.toml",
-                                   files={"year.epw": "\n".join(content) + "\n" * bool(content), "out.toml": "old"})
-                self.assertEqual((process.returncode, process.stdout, process.written), (2, b"", {}))
-                self.assertRegex(process.stderr.decode(), rf"^year\.epw(?:{message})[^\n]*\n$")
+                files = {"year.epw": "\n".join(content) + "\n" * bool(content), "out.toml": "old"}
+                host.assert_refused(self, ["from-hourly", "year.epw", "-o", "out.toml"], files, rf"year\.epw(?:{message})")
 
     def test_files(self):
         for arguments, line in [(["none.epw", "-o", "a.toml"], "none.epw: cannot be read"),
                                 ([".", "-o", "a.toml"], r"\.: cannot be read"),
                                 (["year.epw", "-o", "year.epw"], "year.epw: a station file's name must end in .toml")]:
             with self.subTest(line):
-                process = host.run("from-hourly", *arguments, files={"year.epw": "LOCATION"})
-                self.assertEqual((process.returncode, process.written), (2, {}))
-                self.assertRegex(process.stderr.decode(), rf"^{line}\n$")
+                host.assert_refused(self, ["from-hourly", *arguments], {"year.epw": "LOCATION"}, line)
 
 
 if __name__ == "__main__":

@@ -7,16 +7,6 @@ from designday_input import CLEAR, COATED, hours, window
 
 NOON = 11
 
-GLAZINGS = {
-    "single": {"panes": [CLEAR]},
-    "double": {"panes": [CLEAR, COATED]},
-    "five": {"panes": [CLEAR, COATED, CLEAR, COATED, CLEAR]},
-    "mirror": {"panes": [{"transmittance": 0.5, "reflectance": 0.5}] * 2},
-    "shading": {"shading": {"short_wave": 0.4, "long_wave": 0.1, "panes": 3}},
-    "dark": {"shading": {"short_wave": 0.05, "long_wave": 0.3, "panes": 1}},
-}
-
-
 def spencer(day):
     """Declination in degrees and equation of time in minutes, by Spencer's Fourier series (1971)."""
     x = 2 * math.pi * (day - 1) / 365
@@ -53,26 +43,20 @@ class Sun(unittest.TestCase):
 
 
 class Irradiance(unittest.TestCase):
-    def test_direct_sun_falls_off_with_the_cosine(self):
-        faces = [window(str(azimuth), azimuth, tilt=tilt) for azimuth, tilt in
+    def test_planes_receive_what_they_face(self):
+        """Direct sun by the cosine of its incidence; of the ground's half reflected light what tilt and cosine tell."""
+        faces = [window(f"{azimuth} {tilt}", azimuth, tilt=tilt) for azimuth, tilt in
                  [(0, 90), (70, 90), (180, 60), (250, 30), (300, 120), (90, 0)]]
-        for name, day in hours(*faces, site={"class": 1}, day={"month": 4}).items():
+        for name, day in hours(*faces, site={"class": 4, "sky": "bright"}, day={"month": 4}).items():
+            seen = (1 - math.cos(math.radians(float(name.split()[1])))) / 2
             for row in filter(lambda row: row["incidence_deg"] is not None, day):
+                beam, diffuse = row["direct_normal_W_m2"], row["diffuse_horizontal_W_m2"]
                 cosine = max(0, math.cos(math.radians(row["incidence_deg"])))
-                self.assertAlmostEqual(row["direct_W_m2"], row["direct_normal_W_m2"] * cosine, delta=0.1, msg=name)
-
-    def test_horizontal_window_sees_what_falls_on_the_ground(self):
-        for row in hours(window("roof", 180, tilt=0), site={"class": 4, "sky": "bright"})["roof"]:
-            altitude = math.radians(row["sun_altitude_deg"] or 0)
-            self.assertAlmostEqual(row["direct_W_m2"], row["direct_normal_W_m2"] * math.sin(altitude), delta=0.1)
-            self.assertAlmostEqual(row["diffuse_W_m2"], row["diffuse_horizontal_W_m2"], delta=0.02)
-            self.assertEqual(row["ground_W_m2"], 0)
-
-    def test_vertical_window_sees_half_of_the_ground(self):
-        for row in hours(site={"class": 4})["South"]:
-            sine = math.sin(math.radians(row["sun_altitude_deg"] or 0))
-            horizontal = row["direct_normal_W_m2"] * sine + row["diffuse_horizontal_W_m2"]
-            self.assertAlmostEqual(row["ground_W_m2"], 0.5 * 0.5 * horizontal, delta=0.05)
+                self.assertAlmostEqual(row["direct_W_m2"], beam * cosine, delta=0.1, msg=name)
+                on_ground = beam * math.sin(math.radians(row["sun_altitude_deg"])) + diffuse
+                self.assertAlmostEqual(row["ground_W_m2"], seen * 0.5 * on_ground, delta=0.1, msg=name)
+                if seen == 0:
+                    self.assertAlmostEqual(row["diffuse_W_m2"], diffuse, delta=0.02)
 
     def test_east_and_west_mirror_each_other_about_noon(self):
         shading = {"shading": {"short_wave": 0.4, "long_wave": 0.1, "panes": 2}}
@@ -95,18 +79,6 @@ class Irradiance(unittest.TestCase):
 
 
 class Glazing(unittest.TestCase):
-    def test_no_more_leaves_the_glazing_than_falls_on_it(self):
-        faces = {"south": (180, 90), "grazed by the noon sun": (270, 90), "roof": (100, 40)}
-        for face, (orientation, tilt) in faces.items():
-            day = hours(*[window(name, orientation, tilt=tilt, **glazing) for name, glazing in GLAZINGS.items()])
-            for name, rows in day.items():
-                for row in rows:
-                    incident = 2 * row["incident_W_m2"]
-                    with self.subTest(face=face, glazing=name, hour=row["hour"]):
-                        self.assertLessEqual(row["transmitted_W"] + row["absorbed_W"], incident + 0.02)
-                        self.assertGreaterEqual(row["absorbed_W"], 0)
-                        self.assertEqual(row["transmitted_W"] > 0, incident > 0)
-
     def test_panes_at_normal_incidence(self):
         """A window that faces the noon sun: one pane gives its own values, two the geometric series."""
         tilt = 90 - hours()["South"][NOON]["sun_altitude_deg"]

@@ -2,12 +2,11 @@
 
 import re
 import unittest
-from pathlib import Path
 
 import host
 from designday_input import SITE, WINDOW, hours, job, window
 
-EXAMPLES = Path(__file__).parents[2] / "hosts" / "designday" / "examples"
+EXAMPLES = host.examples("designday")
 GOOD = job()
 
 
@@ -42,7 +41,6 @@ BAD = [
     (changed("longitude", "nan"), "site.longitude: value nan; allowed -180 to 180"),
     (changed("height", "inf"), "site.height: value inf; allowed -430 to 4000 m"),
     (changed("class", "7"), "site.class: value 7; allowed whole numbers 1 to 6"),
-    (changed("class", "2.5"), "site.class: value 2.5; allowed whole numbers"),
     (changed("class", "99999999999"), "site.class: value 99999999999; allowed"),
     (changed("class", '5\nsky = "grey"'), 'site.sky: value "grey"; allowed clear, bright'),
     (changed("class", "5\nutc_offset = 25"), "site.utc_offset: value 25; allowed -12 to 14 h"),
@@ -57,16 +55,13 @@ BAD = [
     (changed("orientation", "1979-05-27"), "window[1].orientation: value date or time; allowed 0 to 360"),
     (panes("[]"), "window[1].panes: value list of 0; allowed 1 to 5 tables"),
     (panes("[" + "{transmittance = 0.8}," * 6 + "]"), "window[1].panes: value list of 6; allowed 1 to 5"),
-    (panes("[0.8]"), "window[1].panes: value list of 1; allowed"),
     (panes("[{transmittance = 0.8}, {transmittance = 0.95}]"),
      "window[1].panes[2].transmittance: value 0.95; allowed 0.05 to 0.91"),
     (panes("[{transmittance = 0.8, reflectance = 0.3}]"), "window[1].panes[1].reflectance: value 0.3; allowed 0.01 to 0.2 beside"),
-    (panes("[{}]"), "window[1].panes[1]: missing transmittance"),
     (GOOD + "shading = { short_wave = 0.5, long_wave = 0, panes = 1 }\n", "window[1]: needs either panes or shading"),
     (without(GOOD, "panes"), "window[1]: needs either panes or shading"),
     (without(GOOD, "panes") + "shading = { short_wave = 0.5, long_wave = 0.1, panes = 6 }\n",
      "window[1].shading.panes: value 6; allowed whole numbers 1 to 5"),
-    (without(GOOD, "panes") + "shading = 0.5\n", "window[1].shading: value 0.5; allowed a table"),
     (without(GOOD, "panes") + 'shading = { short_wave = 0.5, long_wave = 0, panes = 1 }\nblind = {}\n',
      "window[1].blind: needs panes; shading"),
     (GOOD + "blind = {}\n", "window[1].blind: needs kind (slatted, roller) and side (inside, outside)"),
@@ -93,7 +88,6 @@ BAD = [
     (without(without(GOOD, "latitude"), "height"), "site: missing latitude, height"),
     (GOOD.replace("[[window]]", "[window]"), "window: value table; allowed 1 to 6 tables"),
     (GOOD + (host.table("[[window]]", WINDOW) * 6), "window: value list of 7; allowed 1 to 6"),
-    (changed("latitude", "51,5"), "not valid TOML"),
     (b"\xff\xfe\x00", "not valid TOML"),
 ]
 

@@ -1,9 +1,10 @@
-// The climate data file: what its routines return from a sound file.
+// The climate data file: any calls on files that change between them do what a single record buffer
+// does, from which the rows of a month are read one after another.
 #include <gtest/gtest.h>
 
-#include <bit>
-#include <cmath>
+#include <sstream>
 
+#include "climate/file_session.h"
 #include "climate/library_copy.h"
 
 using namespace quorvel::conformance;
@@ -11,147 +12,111 @@ using namespace quorvel::test;
 
 namespace {
 
-constexpr float untouched = -77.0f;
+namespace climate_file_layout = quorvel::climate_file_layout;
 
-std::uint32_t bits(float value) { return std::bit_cast<std::uint32_t>(value); }
-
-struct Climate {
-    std::array<float, 7> q;
-    float time_a = untouched, time_b = untouched;
-
-    Climate(const LibraryCopy& library, int station, int band, int month, int set,
-            float percentage = 50.0f) {
-        q.fill(untouched);
-        library.CLBNFI(31, station, band, month, set, percentage, q[0], q[1], q[2], q[3], q[4],
-                       q[5], q[6], time_a, time_b);
-    }
-};
-
-// A file of one station, and libraries that read it.
-class StationFile : public testing::Test {
-  protected:
-    void write(std::int32_t H, int station) {
-        image = ClimateFileImage(H, station);
+// The bytes of two stations, from where the first begins.
+std::string two_stations(Random& random) {
+    ClimateFileImage image(1, 2, random.bits());
+    for (const int station : {1, 2}) {
         image.fill(station, random);
-        image.save(name);
-    }
-    void open(const LibraryCopy& library, int station) {
-        std::array<float, 132> records;
-        records.fill(1.0f);
-        library.CLBNF0(name, station, 0, records);
-    }
-
-    TemporaryFolder folder;
-    std::string name = (folder.path() / "stations.climate").string();
-    Random random{7};
-    ClimateFileImage image{1, 1};
-};
-
-TEST_F(StationFile, RowsAndBandsComeBackForEveryHeader) {
-    // Negative headers tell truncation from rounding down.
-    for (const auto& [H, station] :
-         {std::pair{1, 1}, {17, 3}, {18, 1}, {19, 1}, {500, 2}, {0, 1}, {-3, 2}, {-40, 4}}) {
-        const LibraryCopy fresh;
-        write(H, station);
-        constexpr std::uint32_t odd_hours[] = {0x7f800001u, 0xffc12345u, 14, 0x80000000u};
-        for (int month = 1; month <= 4; ++month)
-            image.set(station, 0, month, std::bit_cast<float>(odd_hours[month - 1]));
-        image.save(name);
-        open(fresh, station);
-        for (int row = 0; row < 171; ++row) {
-            std::array<float, 12> values;
-            fresh.CLBNF3(row + 1, values);
-            for (int month = 1; month <= 12; ++month)
-                ASSERT_EQ(bits(values[static_cast<std::size_t>(month - 1)]),
-                          bits(image.value(station, row, month)))
-                    << H << ", " << row;
+        for (int month = 1; month <= 12; ++month) {
+            // Frequencies that repeat, quantities out of their ranges, hours that are no numbers.
+            for (int row = 2; month % 2 && row < 94; row += row % 82 == 11 ? 73 : 1)
+                image.set(station, row, month,
+                          std::round(4 * image.value(station, row, month)) / 4);
+            image.set(station, 12 + random.below(20), month, -0.5f);
+            image.set(station, 72 + random.below(10), month, random.below(2) ? -0.5f : 1.5f);
+            image.set(station, month % 2, month, std::bit_cast<float>(0x7f800001u));
         }
-        for (int band = 1; band <= 10; ++band)
-            for (const int set : {1, 2}) {
-                const int month = band, first = 82 * (set - 1);
-                const Climate climate(fresh, station, band, month, set);
-                for (int q = 0; q < 7; ++q)
-                    EXPECT_EQ(climate.q[static_cast<std::size_t>(q)],
-                              image.value(station, first + 11 + 10 * q + band, month));
-                EXPECT_EQ(bits(climate.time_a), bits(image.value(station, first, month)));
-                EXPECT_EQ(bits(climate.time_b), bits(image.value(station, first + 1, month)));
-            }
+    }
+    const auto bytes = image.bytes().subspan(3 * record_bytes);
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+int any(Random& random, std::initializer_list<int> values) {
+    return values.begin()[random.below(static_cast<int>(values.size()))];
+}
+
+// Negative headers tell truncation from rounding down.
+int any_header(Random& random) { return any(random, {1, 1, 1, 17, 18, 19, 500, 0, -1, -3, -40}); }
+
+// Often on a frequency, or beyond all.
+double percentage(Random& random) {
+    return random.below(2) ? 12.5 * (random.below(13) - 2) : 100.0 * random.unit();
+}
+
+// A step of a session: a file written, shortened or removed, or a call, of a station near the
+// first.
+std::string step(Random& random, int first) {
+    const int station = first - 1 + random.below(4), month = random.below(15) - 1;
+    const int band = random.below(13) - 1, row = random.below(200) - 9;
+    std::ostringstream text;
+    switch (random.below(9)) {
+        case 0:
+            text << "n 21600";
+            break;
+        case 1:
+            text << "n 21600 h " << any_header(random);
+            break;
+        case 2:
+            text << (random.below(2) ? "x" : "n 8000");
+            break;
+        case 3:
+        case 4:
+            text << "0 " << station << ' ' << any(random, {0, month}) << ' '
+                 << 0.5 * random.below(7) - 0.01 * random.below(2) << ' ' << percentage(random);
+            break;
+        case 5:
+            text << "i " << any(random, {31, 31, 31, 30}) << ' ' << station << ' ' << band << ' '
+                 << month << ' ' << random.below(4) << ' ' << percentage(random);
+            break;
+        case 6:
+            text << "1 " << percentage(random) / 100 << ' ' << month;
+            break;
+        case 7:
+            text << "2 " << row << ' ' << band << " 4 " << month << " 0.3";
+            break;
+        default:
+            text << "3 " << row;
+    }
+    return text.str() + ' ';
+}
+
+TEST(ClimateFile, AnyCallsDoWhatOneRecordBufferDoes) {
+    const TemporaryFolder folder;
+    for (std::uint64_t seed = 1; seed <= 60; ++seed) {
+        Random random(seed);
+        const int H = any_header(random);
+        int first = 1;
+        while (climate_file_layout::first_record(first, H) < 2) ++first;
+        std::string values = two_stations(random);
+        const auto begin = climate_file_layout::value_offset(first, H, 0, 0);
+        std::ranges::rotate(values, values.end() - begin % std::ssize(values));
+        FileSession<LibraryCopy> session((folder.path() / "stations").string(), values);
+        std::string text = "n 21600 h " + std::to_string(H) + ' ';
+        for (int i = 0; i < 100; ++i) text += step(random, first);
+        quorvel::fuzz::Bytes steps(text);
+        while (!steps.empty())
+            ASSERT_TRUE(session.step(steps)) << text.substr(0, text.size() - steps.rest().size());
     }
 }
 
-TEST_F(StationFile, BandsAreHeldAtBothEndsAndSkippedWithoutDays) {
-    write(1, 1);
-    const LibraryCopy library;
-    const std::array<float, 10> rising = {0.1f, 0.2f, 0.3f, 0.4f, 0.5f,
-                                          0.6f, 0.7f, 0.8f, 0.9f, 1.0f};
-    const std::array<float, 10> steps = {0.25f, 0.25f, 0.25f, 0.5f, 0.5f,
-                                         0.5f,  0.5f,  0.75f, 1.0f, 1.0f};
-    struct {
-        std::array<float, 10> frequencies;
-        float percentage;
-        int lower, upper;
-        float weight;
-    } const cases[] = {
-        {rising, 10.0f, 1, 1, 0.0f},    {rising, -50.0f, 1, 1, 0.0f},
-        {rising, 100.0f, 10, 10, 0.0f}, {rising, 150.0f, 10, 10, 0.0f},
-        {rising, 20.0f, 1, 2, 1.0f},    {rising, 95.0f, 9, 10, 0.5f},
-        {steps, 25.0f, 1, 1, 0.0f},     {steps, 37.5f, 3, 4, 0.5f},
-        {steps, 50.0f, 3, 4, 1.0f},     {steps, 62.5f, 7, 8, 0.5f},
-        {steps, 99.0f, 8, 9, 0.96f},
-    };
-    for (const auto& c : cases) {
-        for (int band = 0; band < 10; ++band)
-            image.set(1, 2 + band, 3, c.frequencies[static_cast<std::size_t>(band)]);
-        image.save(name);
-        open(library, 1);
-        const Climate found(library, 1, 0, 3, 1, c.percentage);
-        const Climate low(library, 1, c.lower, 3, 1), high(library, 1, c.upper, 3, 1);
-        for (std::size_t q = 0; q < 7; ++q)
-            EXPECT_NEAR(found.q[q], low.q[q] + c.weight * (high.q[q] - low.q[q]), 1e-3f);
-        int lower, upper;
-        float weight;
-        library.CLBNF1(c.percentage / 100.0f, 3, lower, upper, weight);
-        EXPECT_EQ(lower, c.lower) << c.percentage;
-        EXPECT_EQ(upper, c.upper) << c.percentage;
-        EXPECT_NEAR(weight, c.weight, 1e-4f);
-    }
-}
-
-TEST_F(StationFile, RecordsAreTheClimatesOfTheirMonths) {
-    write(1, 1);
-    for (int row = 12; row < 32; ++row) image.set(1, row, 1, -0.5f);  // Q1 and Q2
-    for (int row = 72; row < 82; ++row) image.set(1, row, 1, -0.5f);  // Q7
-    for (int row = 72; row < 82; ++row) image.set(1, row, 2, 1.5f);
+TEST(ClimateFile, RowsComeBackToTheBit) {
+    const TemporaryFolder folder;
+    const std::string name = (folder.path() / "stations").string();
+    const ClimateFileImage image(500, 2, 7);  // words of any kind
     image.save(name);
     const LibraryCopy library;
-    constexpr float sets[] = {1.0f,  1.0f, 1.49f, 1.5f, 1.6f,  2.0f,
-                              2.49f, 2.5f, 3.0f,  0.0f, -2.0f, NAN};
-    std::array<float, 132> records{}, of_may;
-    for (std::size_t m = 0; m < 12; ++m)
-        records[11 * m + 9] = sets[m], records[11 * m + 10] = static_cast<float>(5 + 8 * m);
-    of_may = records;
-    library.CLBNF0(name, 1, 0, records);
-    for (std::size_t m = 0; m < 12; ++m) {
-        const int set = m >= 3 && m <= 6 ? 2 : 1;
-        const Climate month(library, 1, 0, static_cast<int>(m) + 1, set, records[11 * m + 10]);
-        const auto& q = month.q;
-        const float expected[] = {q[3],         q[5], month.time_b, q[2], q[4],
-                                  month.time_a, q[0], q[1],         q[6]};
-        for (std::size_t k = 0; k < 9; ++k) EXPECT_EQ(records[11 * m + k], expected[k]) << m << k;
+    std::array<float, 132> records{};
+    library.CLBNF0(name, 2, 1, records);
+    for (int row = 0; row < 171; ++row) {
+        std::array<float, 12> values;
+        library.CLBNF3(row + 1, values);
+        for (int month = 1; month <= 12; ++month)
+            ASSERT_EQ(std::bit_cast<std::uint32_t>(values[static_cast<std::size_t>(month - 1)]),
+                      std::bit_cast<std::uint32_t>(image.value(2, row, month)))
+                << row;
     }
-    for (const std::size_t zero : {6, 7, 8}) EXPECT_EQ(records[zero], 0.0f);
-    EXPECT_EQ(records[11 + 8], 1.0f);
-    const auto given = of_may;
-    library.CLBNF0(name, 1, 5, of_may);
-    for (std::size_t i = 0; i < 132; ++i)
-        EXPECT_EQ(bits(of_may[i]), bits(i / 11 == 4 ? records[i] : given[i])) << i;
-
-    EXPECT_EQ(Climate(library, 1, 2, 3, 7).q, Climate(library, 1, 2, 3, 1).q)
-        << "no set but 2 is 2";
-    float value;
-    library.CLBNF2(12, 3, 5, 7, 0.25f, value);
-    const float from = image.value(1, 14, 7), to = image.value(1, 16, 7);
-    EXPECT_EQ(value, from + (to - from) * 0.25f);
 }
 
 }  // namespace

@@ -163,17 +163,6 @@ TEST(SolarGeometry, FollowsFromItsDeclination) {
         }
 }
 
-// It knows no leap years and no change of the declination within the day, which is up to 0.4
-// degrees from day to day.
-TEST(SolarGeometry, AgreesWithTheAlmanac) {
-    for (int day = 1; day <= 365; day += 2) {
-        const Date date = date_of(2001 + day % 3, day);
-        const Geometry sun(0.9f, day, 12.0f);
-        EXPECT_NEAR(degrees(sun.declination), degrees(Almanac(3, date, 12.0, 0.9).declination), 0.5)
-            << day;
-    }
-}
-
 void expect_ephemeris(const Date& date, double hour, double latitude, double west, int zone_west) {
     const Almanac sun(2, date, hour, latitude, west, radians(15.0 * zone_west));
     const Ephemeris expected(date, hour + zone_west);
