@@ -4,7 +4,6 @@
 #include <array>
 
 #include "conformance/random_arguments.h"
-#include "literal/climate.h"
 #include "literal/glazing.h"
 #include "literal/psychro.h"
 #include "psychro/saturation.h"
@@ -88,12 +87,8 @@ QUORVEL_BENCH(WNDFGL_literal, wndfgl_literal(i));
 QUORVEL_BENCH(WNDRGL, wndrgl(i));
 QUORVEL_BENCH(WNDRGL_literal, literal::WNDRGL(transmittance[i], 0.0f, incidence[i]));
 QUORVEL_BENCH(CLSNGE, clsnge(i));
-QUORVEL_BENCH(CLSNGE_literal, literal::CLSNGE(latitude[i], day(i), hour[i]));
 QUORVEL_BENCH(CLSNSR, clsnsr(i));
-QUORVEL_BENCH(CLSNSR_literal, literal::CLSNSR(altitude[i], azimuth[i], facing[i], tilt[i]));
 QUORVEL_BENCH(CLSORD, clsord(i));
-QUORVEL_BENCH(CLSORD_literal, literal::CLSORD(altitude[i], azimuth[i], facing[i], tilt[i], 800.0f,
-                                              100.0f, 0.2f, 1.0f, 1.0f));
 
 // 24 hours of a south window at 51.5° N on the June design day, through the exported routines.
 void design_day(benchmark::State& state) {
