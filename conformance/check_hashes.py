@@ -71,8 +71,15 @@ def main():
     committed = options.hashes.read_text().splitlines()
     if options.family:
         lines = run(options.program, libraries[0], options.family)
-        differing = sorted(set(lines) - set(committed))
-        print("DIFFERS" if differing else "the same", *dict.fromkeys(line.split()[0] for line in differing or lines))
+        known = {line.split()[0] for line in committed}
+        differing = [line.split()[0] for line in lines if line not in committed]
+        for label, names in {
+            "the same": [line.split()[0] for line in lines if line in committed],
+            "DIFFERS": [name for name in differing if name in known],
+            "new, record with ./dev hashes": [name for name in differing if name not in known],
+        }.items():
+            if names:
+                print(f"{label}:", *names)
         sys.exit(bool(differing))
     failed = False
     for library in libraries:

@@ -54,7 +54,6 @@ class Exports(unittest.TestCase):
     def test_exactly_the_catalogue(self):
         exported = windows_exports() if WINDOWS else elf_exports()
         self.assertEqual(exported, described())
-        self.assertIn(f"its {len(exported)} routines", (ROOT / "README.md").read_text(encoding="utf-8"))
 
     def test_hosts_find_what_the_last_release_exports(self):
         """A routine may come, but none go or change how it is called, unless SOVERSION rises: ./dev interface."""
