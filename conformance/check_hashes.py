@@ -66,7 +66,7 @@ def main():
     libraries = options.libraries or [""]
 
     if options.write:
-        options.hashes.write_text("".join(f"{line}\n" for line in run(options.program, libraries[0])))
+        options.hashes.write_text("".join(f"{line}\n" for line in sorted(run(options.program, libraries[0]))))
         return
     committed = options.hashes.read_text().splitlines()
     if options.family:
