@@ -85,7 +85,7 @@ R vapour_virial(R t) noexcept {
     return (lookup(D0, row) - lookup(D1, row) * t) / 100.0f;
 }
 
-// Specific volume [m³/kg]; a moisture content above saturation counts as saturation.
+// Specific volume, m³/kg; a moisture content above saturation counts as saturation.
 template <class R>
 R specific_volume(R t, R g, R p) noexcept {
     const R content = lesser(g, MoistAir<R>(p).saturation_content(t));

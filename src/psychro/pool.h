@@ -26,7 +26,7 @@ PoolEvaporation<R> pool_evaporation_from_wet_bulb(R area, R wetted_area, R water
             reference_coefficient * area * (water - reference)};
 }
 
-// Room air by its moisture content g [kg/kg].
+// Room air by its moisture content g, kg/kg.
 template <class R>
 PoolEvaporation<R> pool_evaporation(R area, R wetted_area, R water, R air, R g, R reference,
                                     IntegerOf<R> bathers, R reference_coefficient, R p) noexcept {

@@ -17,7 +17,7 @@ inline R saturation_pressure(R t) noexcept {
         [&] { return 12.538099f - 2663.91f / T; }));
 }
 
-// At dry-bulb t and relative humidity rh [%], which is limited to 0..100.
+// At dry-bulb t and relative humidity rh, %, which is limited to 0..100.
 template <class R>
 R vapour_pressure(R t, R rh) noexcept {
     return saturation_pressure(t) * limited(rh, 0.0f, 100.0f) / 100.0f;
@@ -26,7 +26,7 @@ R vapour_pressure(R t, R rh) noexcept {
 // Type of psychrometer
 inline constexpr Integer sling = 1;
 
-// Psychrometer coefficient [1/K] by type and state of the bulb.
+// Psychrometer coefficient, 1/K, by type and state of the bulb.
 template <class R>
 R psychrometer_coefficient(IntegerOf<R> type, MaskOf<R> iced) noexcept {
     static constexpr Real table[] = {0.000666f, 0.000799f, 0.000594f, 0.00072f};

@@ -1,7 +1,7 @@
 // Wet bulb that belongs to a humidity of the air, by stepping searches on the psychrometer
 // equation. Where a search would never end, what it has reached is returned.
 //
-// All at dry bulb t [°C] and atmospheric pressure p [Pa], for a psychrometer of a type.
+// All at dry bulb t, °C, and atmospheric pressure p, Pa, for a psychrometer of a type.
 #pragma once
 
 #include "psychro/moist_air.h"
@@ -71,7 +71,7 @@ class MoistAirAt {
     PsychrometerSlope<R> slope_;
 };
 
-// What a psychrometer reads at relative humidity rh [%], to 0.1 K.
+// What a psychrometer reads at relative humidity rh, %, to 0.1 K.
 template <class R>
 R psychrometer_wet_bulb(R t, R rh, R p, IntegerOf<R> type) noexcept {
     constexpr R tenth = 0.1f;  // tolerance in K, and step reduction
@@ -111,7 +111,7 @@ R psychrometer_wet_bulb(R t, R rh, R p, IntegerOf<R> type) noexcept {
     return t < tn ? t : tn;
 }
 
-// At percentage saturation [%], with the enhancement factor, to 0.01 K, rounded up.
+// At percentage saturation with the enhancement factor, to 0.01 K, rounded up.
 template <class R>
 R wet_bulb_from_percentage_saturation(R t, R saturation, R p, IntegerOf<R> type) noexcept {
     const MoistAirAt<R> air(t, p, type);
@@ -135,7 +135,7 @@ R wet_bulb_from_percentage_saturation(R t, R saturation, R p, IntegerOf<R> type)
     return twb;
 }
 
-// At moisture content g [kg/kg], with the enhancement factor, to 0.005 K.
+// At moisture content g, kg/kg, with the enhancement factor, to 0.005 K.
 template <class R>
 R wet_bulb_from_moisture_content(R t, R g, R p, IntegerOf<R> type) noexcept {
     const MoistAirAt<R> air(t, p, type);

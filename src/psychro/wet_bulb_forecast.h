@@ -29,7 +29,7 @@ struct PsychrometerSlope {
 template <class R>
 class WetBulbForecast {
   public:
-    // For air at t [°C] with vapour pressure pv [Pa]; saturation is ps(t).
+    // For air at t, °C, with vapour pressure pv, Pa; saturation is ps(t).
     WetBulbForecast(R t, R saturation, R pv, const PsychrometerSlope<R>& slope) noexcept
         : t_(t), pv_(pv), slope_(slope), x0_(t), ps_(saturation) {}
 
