@@ -1,10 +1,9 @@
-// Constructions beside their literal forms: U-value, admittance, condensation.
+// Constructions: U-value, admittance, condensation.
 #include <benchmark/benchmark.h>
 
 #include <array>
 
 #include "conformance/random_arguments.h"
-#include "literal/fabric.h"
 #include "quorvel/library.h"
 
 namespace {
@@ -44,19 +43,11 @@ float tpuval(const Construction& c, int n) {
     lib::TPUVAL(c.thickness, c.conductivity, c.Rsi, c.Rso, n, U);
     return U;
 }
-float tpuval_literal(const Construction& c, int n) {
-    literal::LayerTables table;
-    return literal::TPUVAL(c.thickness.data(), c.conductivity.data(), c.Rsi, c.Rso, n, table);
-}
 std::array<float, 7> tpadmt(const Construction& c, int n) {
     std::array<float, 7> out;
     lib::TPADMT(c.thickness, c.conductivity, c.density, c.specific_heat, c.Rsi, c.Rso, n,
                 c.harmonic, c.kind, out[0], out[1], out[2], out[3], out[4], out[5], out[6]);
     return out;
-}
-literal::CyclicResponse tpadmt_literal(const Construction& c, int n) {
-    return literal::TPADMT(c.thickness.data(), c.conductivity.data(), c.density.data(),
-                           c.specific_heat.data(), c.Rsi, c.Rso, n, c.harmonic, c.kind);
 }
 std::array<float, 63> tpgrad(const Construction& c, int n) {
     std::array<float, 63> out;
@@ -77,9 +68,7 @@ void measure(benchmark::State& state, Calculation calculation) {
     BENCHMARK_CAPTURE(measure, calculation, calculation)->Name("Fabric/" name)->ArgName("layers")
 
 QUORVEL_BENCH(tpuval, "TPUVAL")->Arg(5)->Arg(20);
-QUORVEL_BENCH(tpuval_literal, "TPUVAL_literal")->Arg(5)->Arg(20);
 QUORVEL_BENCH(tpadmt, "TPADMT")->Arg(3)->Arg(20);
-QUORVEL_BENCH(tpadmt_literal, "TPADMT_literal")->Arg(3)->Arg(20);
 QUORVEL_BENCH(tpgrad, "TPGRAD")->Arg(5)->Arg(20);
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "conformance/random_arguments.h"
+#include "literal/fabric.h"
 #include "quorvel/library.h"
 
 namespace {
@@ -127,6 +128,24 @@ TEST(CondensationWithinALayer, LooksEveryHalfKelvin) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(lib::ITPCON(c.t1, c.t2, c.p1, c.p2), c.condenses) << c.why;
+}
+
+// Stretches of steps are decided at once, with the answer of every step.
+TEST(CondensationWithinALayer, IsFoundWhereEveryStepEvaluatedFindsIt) {
+    Random random(3);
+    int condensing = 0;
+    for (int i = 0; i < 50000; ++i) {
+        // Some layers reach from a furnace to below absolute zero, a few far beyond any meaning,
+        // and some pressures too.
+        const float reach = random.below(4) ? 40.0f : random.below(100) ? 1500.0f : 1e5f;
+        const float p = random.below(8) ? 3000.0f : 1e13f;
+        const float t1 = random.real(-reach, reach), t2 = random.real(-reach, reach);
+        const float p1 = random.real(-0.1f * p, p), p2 = random.real(-0.1f * p, p);
+        ASSERT_EQ(lib::ITPCON(t1, t2, p1, p2), literal::ITPCON(t1, t2, p1, p2))
+            << t1 << ' ' << t2 << ' ' << p1 << ' ' << p2;
+        condensing += literal::ITPCON(t1, t2, p1, p2);
+    }
+    EXPECT_GT(condensing, 5000);
 }
 
 }  // namespace

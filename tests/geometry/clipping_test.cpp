@@ -215,7 +215,7 @@ class ClippingPairs : public testing::TestWithParam<PairClass> {};
 TEST_P(ClippingPairs, AgreeWithIndependentFormula) {
     Random random(2);
     int failed = 0;
-    for (int i = 0; i < 7500; ++i) {
+    for (int i = 0; i < 15000; ++i) {
         const auto [a, b] = draw_pair(GetParam(), random);
         const Clipped clipped = clip(a, b);
         ASSERT_EQ(clipped.fault, "") << i;

@@ -140,7 +140,7 @@ class OverlapPairs : public testing::TestWithParam<PairClass> {};
 // GEOVER takes short cuts where only the overlap is wanted; they change nothing.
 TEST_P(OverlapPairs, AreThePiecesOfHoholedp) {
     Random random(3);
-    for (int i = 0; i < 7500; ++i) {
+    for (int i = 0; i < 15000; ++i) {
         const auto [polygon_2, polygon_1] = draw_pair(GetParam(), random);
         const Outputs outputs = overlap(polygon_1, polygon_2);
         ASSERT_EQ(outputs, expected(polygon_1, polygon_2)) << i;
