@@ -4,8 +4,8 @@
 // 1. prepared_ring.h    Either ring is measured: box, orientation, convexity. It must not cross
 //                       itself.
 // 2. perturbation.h     The vertices of B that touch A are moved off it, outwards, by the
-// tolerance,
-//                       so that contact never decides anything. Pieces get the vertices as given.
+//                       tolerance, so that contact never decides anything. Pieces get the vertices
+//                       as given.
 // 3. crossings.h        The crossings of their edges are found, each as an entry or an exit, by the
 //                       one predicate that decides on which side of a line a point lies, exactly
 //                       (half_plane.h, orientation_predicate.h).
