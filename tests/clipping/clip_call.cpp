@@ -154,12 +154,21 @@ PlanRing rectangle(double x0, double y0, double x1, double y1) {
     return {{x0, y0}, {x0, y1}, {x1, y1}, {x1, y0}};
 }
 
-PlanRing regular(int n, double radius, double x, double y) {
+PlanRing regular(int n, double radius, double x, double start) {
     PlanRing ring;
     for (int i = 0; i < n; ++i) {
-        const double angle = -2.0 * std::numbers::pi * (i + 0.3) / n;
-        ring.push_back({x + radius * std::cos(angle), y + radius * std::sin(angle)});
+        const double angle = -2.0 * std::numbers::pi * (i + start) / n;
+        ring.push_back({x + radius * std::cos(angle), radius * std::sin(angle)});
     }
+    return ring;
+}
+
+PlanRing comb(int teeth) {
+    PlanRing ring{{0.0, -1.0}};
+    for (int i = 0; i < teeth; ++i)
+        for (const PlanPoint& p : rectangle(2.0 * i, 0.0, 2.0 * i + 1.0, 1.0)) ring.push_back(p);
+    ring.push_back({2.0 * teeth, 0.0});
+    ring.push_back({2.0 * teeth, -1.0});
     return ring;
 }
 

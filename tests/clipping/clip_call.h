@@ -46,6 +46,7 @@ double diagonal(const std::vector<PlanRing>& rings);  // of the box round all of
 
 // Clockwise rings.
 PlanRing rectangle(double x0, double y0, double x1, double y1);
-PlanRing regular(int n, double radius, double x = 0.0, double y = 0.0);
+PlanRing regular(int n, double radius, double x = 0.0, double start = 0.3);
+PlanRing comb(int teeth);  // from y = 0 to 1, of 1 m with gaps of 1 m, on a bar below
 
 }  // namespace quorvel::test

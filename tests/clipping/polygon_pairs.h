@@ -24,7 +24,7 @@ struct PairClass {
 // Rings either way round, from any vertex on, and either one first.
 void turn_about(RingPair& pair, Random& random);
 
-// Polygons of 3 to 12 vertices within 8 m of the origin, turned about.
+// Polygons of few vertices within 5 m of the origin, turned about.
 const std::vector<PairClass>& pair_classes();
 RingPair draw_pair(const PairClass& kind, Random& random);
 

@@ -126,10 +126,4 @@ TEST(Quadrilaterals, InLocalCoordinatesAreThoseOfTheirSurface) {
     }
 }
 
-TEST(Quadrilaterals, AreTurnedToAxesCornerByCorner) {
-    Quadrilateral q{1, 0, 0, 0, 1, 0, 0, 0, 1, 1, 10, 100};
-    lib::GETRNS(q, std::array{1.0, 2.0, 3.0}, std::array{4.0, 5.0, 6.0}, std::array{7.0, 8.0, 9.0});
-    EXPECT_EQ(q, (Quadrilateral{1, 4, 7, 2, 5, 8, 3, 6, 9, 321, 654, 987}));
-}
-
 }  // namespace

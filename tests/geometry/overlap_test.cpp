@@ -5,7 +5,6 @@
 #include <array>
 #include <cmath>
 #include <cstring>
-#include <numbers>
 #include <vector>
 
 #include "clipping/polygon_pairs.h"
@@ -84,16 +83,6 @@ Outputs expected(const PlanRing& polygon_1, const PlanRing& polygon_2) {
     return outputs;
 }
 
-// Rectangles upwards from a bar below y = 0, each 1 m wide, with gaps of 1 m.
-PlanRing comb(int teeth) {
-    PlanRing ring{{0.0, -1.0}};
-    for (int i = 0; i < teeth; ++i)
-        for (const PlanPoint& p : rectangle(2.0 * i, 0.0, 2.0 * i + 1.0, 1.0)) ring.push_back(p);
-    ring.push_back({2.0 * teeth, 0.0});
-    ring.push_back({2.0 * teeth, -1.0});
-    return ring;
-}
-
 // What fits, and what does not by one, which leaves the outputs cleared.
 TEST(Overlap, Limits) {
     EXPECT_GT(overlap(regular(24, 1.0), rectangle(-2, -2, 2, 2)).area, 3.0f);
@@ -111,17 +100,9 @@ TEST(Overlap, Limits) {
 
 // What the first leaves of the second has a list of 50 entries, although nobody sees it.
 TEST(Overlap, DifferenceThatDoesNotFit) {
-    const auto ring = [](int n, double start, double radius, double x) {
-        PlanRing points;
-        for (int i = 0; i < n; ++i) {
-            const double angle = -2.0 * std::numbers::pi * (i + start) / n;
-            points.push_back({x + radius * std::cos(angle), radius * std::sin(angle)});
-        }
-        return points;
-    };
     // One corner of the first reaches through the middle of an edge of the second.
     const auto bitten = [&](int n) {
-        return overlap(ring(9, 0.0, 0.3, 0.72), ring(n, 0.5, 1.0, 0.0)).area;
+        return overlap(regular(9, 0.3, 0.72, 0.0), regular(n, 1.0, 0.0, 0.5)).area;
     };
     EXPECT_NEAR(bitten(38), 0.26f, 0.01f);
     EXPECT_EQ(bitten(39), 0.0f);

@@ -46,9 +46,6 @@ void expect_identities(auto dot, auto cross, auto length) {
         EXPECT_NEAR(dot(axb, a), T{0}, rounding * length(a));
         EXPECT_NEAR(dot(axb, c), dot(bxc, a), rounding * length(c));
     }
-    Vec<T> z;
-    cross(Vec<T>{1, 0, 0}, Vec<T>{0, 1, 0}, z);
-    EXPECT_EQ(z, (Vec<T>{0, 0, 1}));
 }
 
 TEST(Vectors, ObeyTheIdentitiesOfTheirProducts) {
@@ -78,8 +75,6 @@ TEST(SurfaceAxes, AreRightHandedAndLookOutwards) {
             EXPECT_EQ(axes[0][2], 0.0f);
             EXPECT_GE(axes[1][2], 0.0f);
         }
-    const Axes north_wall(0.0f, 0.5f * pi);
-    EXPECT_EQ(north_wall.axes, (Matrix{-1, 0, 0, 0, 0, 1, 0, 1, 0}));
     EXPECT_EQ(Axes(0.0f, 0.99e-5f)[2][1], 0.0f);
     EXPECT_EQ(Axes(0.0f, 1.01e-5f)[2][1], 1.01e-5f);
     EXPECT_EQ(Axes(-0.99e-5f, 0.0f)[0][1], 0.0f);
@@ -99,10 +94,6 @@ TEST(SurfaceAxes, AreUndoneByTheirInverseAndByTheirTranspose) {
         expect_near(rotated(global, axes.axes, lib::GERAX2), local, 2e-4f);
         expect_near(rotated(global, axes.inverse, lib::GERAXI), local, 2e-5f);
     }
-    // Any matrix will do: rows of it are taken, or columns.
-    const Matrix r{1, 2, 3, 4, 5, 6, 7, 8, 9};
-    EXPECT_EQ(rotated({1, 10, 100}, r, lib::GERAXI), (Vec3{741, 852, 963}));
-    EXPECT_EQ(rotated({1, 10, 100}, r, lib::GERAX2), (Vec3{321, 654, 987}));
 }
 
 TEST(BackAzimuth, OfAnglesAndOfNumbersThatAreNone) {

@@ -47,8 +47,6 @@ TEST(LatentHeat, OfIceAndAtExactlySixty) {
     EXPECT_NEAR(lib::PSHFG(-0.01f), 2834.37f, 0.01f);
     EXPECT_NEAR(lib::PSHFG(-10.0f), 2836.67f, 0.01f);
     EXPECT_EQ(lib::PSHFG(60.0f), 0.0f);
-    EXPECT_NEAR(lib::PSHFG(std::nextafter(60.0f, 0.0f)), 2357.9f, 0.01f);
-    EXPECT_NEAR(lib::PSHFG(std::nextafter(60.0f, 100.0f)), 2357.9f, 0.01f);
 }
 
 TEST(EnhancementFactor, TakesIceAtExactlyZero) {
@@ -91,14 +89,6 @@ TEST(WetBulb, EnclosesTheHumidity) {
         if (low > 0.0f || high < -2.0f) {
             EXPECT_LT(high - low, 0.011f) << t << ' ' << mu;
         }
-    }
-}
-
-TEST(WetBulb, OfSaturatedAirIsTheDryBulb) {
-    for (float t : {-15.0f, 0.0f, 21.3f, 60.0f}) {
-        const float gs = saturation_content(t, standard_pressure);
-        EXPECT_NEAR(lib::PSTWB(t, 130.0f, standard_pressure, 1), t, 1e-5f);
-        EXPECT_EQ(lib::PSWBLB(t, 2.0f * gs, standard_pressure, 1), t);
     }
 }
 

@@ -39,14 +39,6 @@ TEST(Pool, EvaporationOfBathersGrowsWithTheirNumberPerArea) {
     EXPECT_FLOAT_EQ(by_wet_bulb(28.0f, 28.0f, 1)[0], 3.28e-5f);
 }
 
-TEST(Pool, HeatFlows) {
-    const auto [evaporation, latent, convective, exchanged] = by_wet_bulb(22.0f);
-    // The fixed latent heat is that of water at 21.5 °C.
-    EXPECT_NEAR(latent / (evaporation * 300.0f) / (1000.0f * lib::PSHFG(21.5f)), 1.0f, 1e-4f);
-    EXPECT_FLOAT_EQ(convective, 10.0f * 250.0f * (28.0f - 30.0f));
-    EXPECT_FLOAT_EQ(exchanged, 4.0f * 250.0f * (28.0f - 22.0f));
-}
-
 TEST(Pool, HumidityCountsAlikeAsMoistureContentAndAsWetBulb) {
     for (float g : {0.006f, 0.012f, 0.016f, 0.03f}) {
         std::array<float, 4> q;

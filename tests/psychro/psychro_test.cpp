@@ -11,7 +11,6 @@ constexpr float standard_pressure = 101325.0f;
 TEST(SaturationPressure, ChangesFromIceToWaterAtExactlyZero) {
     EXPECT_NEAR(lib::PSSVP(0.0f), 610.34f, 0.02f);
     EXPECT_NEAR(lib::PSSVP(std::nextafter(0.0f, -1.0f)), 610.30f, 0.02f);
-    EXPECT_NEAR(lib::PSSVP(-0.001f), 610.25f, 0.02f);
 }
 
 TEST(SaturationPressure, RisesByTheClausiusClapeyronSlope) {
