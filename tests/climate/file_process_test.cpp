@@ -51,6 +51,9 @@ class ClimateFileProcess : public testing::Test {
 };
 
 TEST_F(ClimateFileProcess, ACancelledThreadFinishesItsCall) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer takes what cancellation leaves of the stack for poisoned";
+#endif
     limit_time();
     pthread_t thread;
     const auto call = [](void* test) -> void* {
