@@ -24,13 +24,13 @@ def _value(arg):
         return f"*{arg.name}"
     return f"load<{VALUES[tuple(arg.shape)].format(TYPES[arg.type])}>({arg.name})"
 
-def _number_type(routine):
+def number_type(routine):
     types = [thing.type for thing in (*routine.args, routine.result) if thing]
     return "DoubleReal" if "DoubleReal" in types else "Real"
 
 def _call(family, routine):
     given = ", ".join(_value(arg) for arg in routine.args if arg.dir != "out" and not arg.ignored)
-    return f"{family.family}::{routine.core or routine.name}<{_number_type(routine)}>({given})"
+    return f"{family.family}::{routine.core or routine.name}<{number_type(routine)}>({given})"
 
 def _statements(family, routine):
     call = _call(family, routine)

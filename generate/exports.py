@@ -1,18 +1,36 @@
 """Lists of names: the export lists for ELF and Windows, and the names as C++ macro calls."""
 
+import array_header
+
 
 def _names(families):
     return sorted(routine.export for family in families for routine in family.routines)
 
 
+def _version_script(names):
+    listed = "".join(f"        {name};\n" for name in names)
+    return f"{{\n    global:\n{listed}    local:\n        *;\n}};\n"
+
+
+def _module_definition(library, names):
+    listed = "".join(f"    {name}\n" for name in names)
+    return f"LIBRARY {library}\nEXPORTS\n{listed}"
+
+
 def version_script(families):
-    names = "".join(f"        {name};\n" for name in _names(families))
-    return f"{{\n    global:\n{names}    local:\n        *;\n}};\n"
+    return _version_script(_names(families))
 
 
 def module_definition(families):
-    names = "".join(f"    {name}\n" for name in _names(families))
-    return f"LIBRARY quorvel\nEXPORTS\n{names}"
+    return _module_definition("quorvel", _names(families))
+
+
+def array_version_script(families):
+    return _version_script(array_header.names(families))
+
+
+def array_module_definition(families):
+    return _module_definition("quorvel_arrays", array_header.names(families))
 
 
 def macro_calls(families):

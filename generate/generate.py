@@ -10,6 +10,8 @@ import argparse
 import sys
 from pathlib import Path
 
+import array_header
+import array_kernels
 import catalogue
 import entry_points
 import example_table
@@ -21,11 +23,18 @@ PRODUCTS = {
     "interface": interface.render,
     "version-script": exports.version_script,
     "module-definition": exports.module_definition,
+    "array-version-script": exports.array_version_script,
+    "array-module-definition": exports.array_module_definition,
+    "array-functions": array_header.definitions,
     "routine-names": exports.macro_calls,
     "routine-table": routine_table.render,
     "examples": example_table.render,
 }
-FOLDERS = {"entry-points": entry_points.files}
+FOLDERS = {
+    "entry-points": entry_points.files,
+    "pack-kernels": array_kernels.with_packs,
+    "single-kernels": array_kernels.alone,
+}
 
 
 def texts(options, families):

@@ -84,7 +84,7 @@ def _meaning(arg, returned):
     return text + "; 1e20 for none" * (returned and arg.none)
 
 
-def _rows(args, returned):
+def rows(args, returned):
     cells = [(arg.name, C_TYPES[arg.type], arg.unit, _domain(arg), _meaning(arg, returned)) for arg in args]
     widths = [max(len(row[column]) for row in cells) for column in range(4)]
     for row in cells:
@@ -92,7 +92,7 @@ def _rows(args, returned):
         yield from textwrap.wrap(row[4], WIDTH - 3, initial_indent=lead, subsequent_indent=" " * len(lead))
 
 
-def _paragraph(text, first, rest):
+def paragraph(text, first, rest):
     return textwrap.wrap(text, WIDTH - 3, initial_indent=first, subsequent_indent=rest)
 
 
@@ -117,25 +117,25 @@ def _example(routine):
 
 def comment(routine):
     """The routine's block, always in one order: purpose, given, returned, formula, notes, example, source."""
-    lines = _paragraph(f"{routine.export} ({routine.name}): {routine.summary}", "", "    ")
+    lines = paragraph(f"{routine.export} ({routine.name}): {routine.summary}", "", "    ")
     given = [arg for arg in routine.args if arg.dir != "out"]
     returned = [arg for arg in routine.args if arg.dir != "in"]
     if given:
-        lines += ["Given:", *_rows(given, returned=False)]
+        lines += ["Given:", *rows(given, returned=False)]
     if returned:
-        lines += ["Returned:", *_rows(returned, returned=True)]
+        lines += ["Returned:", *rows(returned, returned=True)]
     if routine.result:
         value = f"{C_TYPES[routine.result.type]}  {routine.result.unit}".rstrip()
         meaning = routine.result.meaning + "; 1e20 for none" * routine.result.none
-        lines += ["Result:", *_paragraph(meaning, f"    {value}  ", "        ")]
+        lines += ["Result:", *paragraph(meaning, f"    {value}  ", "        ")]
     if routine.formula:
-        lines += _paragraph(f"Formula: {routine.formula}", "", "    ")
+        lines += paragraph(f"Formula: {routine.formula}", "", "    ")
     if routine.notes:
         lines.append("Notes:")
         for note in routine.notes:
-            lines += _paragraph(note, "    - ", "      ")
+            lines += paragraph(note, "    - ", "      ")
     lines += _example(routine)
-    lines += _paragraph(f"Source: {routine.source}", "", "    ")
+    lines += paragraph(f"Source: {routine.source}", "", "    ")
     return "\n".join(["/*", *(f" * {line}".rstrip() for line in lines), " */"])
 
 

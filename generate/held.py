@@ -3,6 +3,7 @@
 import sys
 from pathlib import Path
 
+import array_header
 import elementary_tables
 import header
 import incidence_bands
@@ -16,6 +17,7 @@ def texts(families):
     glass = ROOT / "src/glazing/incidence_bands.h"
     return {
         ROOT / "include/quorvel.h": header.render(families),
+        ROOT / "include/quorvel_arrays.h": array_header.header(families),
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),

@@ -17,7 +17,9 @@ struct Fractions {
 };
 
 template <class R>
-constexpr Fractions<R> undefined_fractions = {R(undefined), R(undefined), R(undefined)};
+Fractions<R> undefined_fractions() noexcept {
+    return {R(undefined), R(undefined), R(undefined)};
+}
 
 // 0.57 times 100 is 56.99999; a tenth of a hundredth keeps it from losing one.
 template <class R>
@@ -39,7 +41,7 @@ inline R packed_fractions(const Fractions<R>& p) noexcept {
 template <class R>
 inline Fractions<R> unpacked_fractions(R v) noexcept {
     return either(
-        is_undefined(v), [&] { return undefined_fractions<R>; },
+        is_undefined(v), [&] { return undefined_fractions<R>(); },
         [&] {
             return Fractions<R>{hundredths(v - truncated(v)) * 0.01f,
                                 truncated(modulo(v, 100.0f)) * 0.01f, truncated(0.01f * v) * 0.01f};
@@ -66,7 +68,7 @@ inline R packed_pane(const Fractions<R>& pane) noexcept {
 template <class R>
 inline Fractions<R> unpacked_pane(R v) noexcept {
     return either(
-        is_undefined(v), [&] { return undefined_fractions<R>; },
+        is_undefined(v), [&] { return undefined_fractions<R>(); },
         [&] {
             const Fractions<R> p = unpacked_fractions(v);
             return Fractions<R>{p.first, face_complement(p.first, p.second),

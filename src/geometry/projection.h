@@ -41,7 +41,7 @@ template <class R>
 SpaceVector<R> forward_projection(SpaceVector<R> p0, SpaceVector<R> normal, SpaceVector<R> p,
                                   SpaceVector<R> d) noexcept {
     const SpaceVector<R> point = intersection(p0, normal, p, d);
-    return select(!parallel_to_plane(normal, d) & ahead(p, d, point), point, far_point<R>());
+    return select((!parallel_to_plane(normal, d)) & ahead(p, d, point), point, far_point<R>());
 }
 
 // Without the limit for parallel directions: only what a division by zero makes is left as it is,

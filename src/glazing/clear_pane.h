@@ -10,7 +10,9 @@ namespace quorvel::glazing {
 inline constexpr Real glass_index = 1.52f;
 
 template <class R>
-constexpr Optics<R> opaque_optics = {R(0.0f), R(0.0f), R(1.0f)};
+Optics<R> opaque_optics() noexcept {
+    return {R(0.0f), R(0.0f), R(1.0f)};
+}
 
 // Means over the hemisphere and both polarisations.
 template <class R>
@@ -45,7 +47,7 @@ class ClearPane {
         return either(
             opaque_,
             [&] {
-                return Polarised<Optics<R>>{opaque_optics<R>, opaque_optics<R>};
+                return Polarised<Optics<R>>{opaque_optics<R>(), opaque_optics<R>()};
             },
             [&] {
                 const R refracted = refraction_angle(theta, R(glass_index));
@@ -59,7 +61,7 @@ class ClearPane {
     // At normal incidence, where the polarisations do not differ.
     Optics<R> normal() const noexcept {
         return either(
-            opaque_, [&] { return opaque_optics<R>; },
+            opaque_, [&] { return opaque_optics<R>(); },
             [&] {
                 constexpr Real r = squared((1.0f - glass_index) / (1.0f + glass_index));
                 return slab_optics(absorption_along(R(1.0f), KL_), R(r));

@@ -118,6 +118,10 @@ struct Number {
     QUORVEL_PACK friend Number& operator+=(Number& a, Number b) noexcept { return a = a + b; }
     QUORVEL_PACK friend Number& operator-=(Number& a, Number b) noexcept { return a = a - b; }
     QUORVEL_PACK friend Number& operator*=(Number& a, Number b) noexcept { return a = a * b; }
+    QUORVEL_PACK friend Number& operator/=(Number& a,
+                                           Number b) noexcept requires std::floating_point<T> {
+        return a = a / b;
+    }
 
     QUORVEL_PACK friend M operator<(Number a, Number b) noexcept { return M(less(a.v, b.v)); }
     QUORVEL_PACK friend M operator>(Number a, Number b) noexcept { return b < a; }
