@@ -14,9 +14,11 @@
 
 namespace quorvel::math {
 
-struct SinCos {
-    float sin, cos;
+template <class R>
+struct SinCosOf {
+    R sin, cos;
 };
+using SinCos = SinCosOf<float>;
 
 namespace detail {
 

@@ -11,6 +11,7 @@
 //     any(lanes)                      whether one is true
 //     Halves<Doubles>                 as many doubles as a register holds floats
 //     widened, narrowed               from one to the other
+//     low_words(longs)                the lower half of each 64-bit integer
 //     gathered(table, index)          elements of a table
 //     fused(a, b, c)                  a b + c, rounded once where the level has that instruction
 //     square_root, truncated

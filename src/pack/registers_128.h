@@ -33,6 +33,9 @@ QUORVEL_PACK Halves<Doubles> widened(Ints x) noexcept {
 QUORVEL_PACK Floats narrowed(Halves<Doubles> x) noexcept {
     return _mm_movelh_ps(_mm_cvtpd_ps(x.low), _mm_cvtpd_ps(x.high));
 }
+QUORVEL_PACK Ints low_words(Halves<Longs> x) noexcept {
+    return __builtin_shufflevector(Ints(x.low), Ints(x.high), 0, 2, 4, 6);
+}
 QUORVEL_PACK Halves<WideLanes> widened_lanes(Lanes m) noexcept {
     return {WideLanes(_mm_unpacklo_epi32(__m128i(m), __m128i(m))),
             WideLanes(_mm_unpackhi_epi32(__m128i(m), __m128i(m)))};

@@ -35,6 +35,9 @@ QUORVEL_PACK Floats narrowed(Halves<Doubles> x) noexcept {
     return _mm256_insertf128_ps(_mm256_castps128_ps256(_mm256_cvtpd_ps(x.low)),
                                 _mm256_cvtpd_ps(x.high), 1);
 }
+QUORVEL_PACK Ints low_words(Halves<Longs> x) noexcept {
+    return __builtin_shufflevector(Ints(x.low), Ints(x.high), 0, 2, 4, 6, 8, 10, 12, 14);
+}
 QUORVEL_PACK Halves<WideLanes> widened_lanes(Lanes m) noexcept {
     return {WideLanes(_mm256_cvtepi32_epi64(_mm256_castsi256_si128(__m256i(m)))),
             WideLanes(_mm256_cvtepi32_epi64(_mm256_extracti128_si256(__m256i(m), 1)))};

@@ -79,6 +79,10 @@ QUORVEL_PACK Floats narrowed(Halves<Doubles> x) noexcept {
     return _mm512_insertf32x8(_mm512_castps256_ps512(_mm512_cvtpd_ps(x.low)),
                               _mm512_cvtpd_ps(x.high), 1);
 }
+QUORVEL_PACK Ints low_words(Halves<Longs> x) noexcept {
+    return __builtin_shufflevector(Ints(x.low), Ints(x.high), 0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20,
+                                   22, 24, 26, 28, 30);
+}
 QUORVEL_PACK Halves<WideLanes> widened_lanes(Lanes m) noexcept {
     return {static_cast<WideLanes>(m), static_cast<WideLanes>(m >> 8)};
 }
