@@ -1,6 +1,9 @@
 // What is wrong with a call, found before anything is written.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+
 #include "quorvel_arrays.h"
 
 namespace quorvel::arrays {

@@ -1,6 +1,9 @@
 // A status in words.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+
 #include "quorvel_arrays.h"
 
 namespace quorvel::arrays {

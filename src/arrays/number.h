@@ -9,6 +9,7 @@
 
 #ifdef QUORVEL_LEVEL
 
+#include "pack/double_math.h"
 #include "pack/math.h"
 #include "pack/pack.h"
 
