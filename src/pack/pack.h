@@ -234,9 +234,17 @@ template <class F, class... N>
     return load<Reals>(results.data());
 }
 
+// Exact where the quotient, in double, is that of the whole numbers: as long as it has fewer than
+// 28 bits. The sign is that of x, also of a 0.
 QUORVEL_PACK Reals modulo(Reals x, Reals y) noexcept {
+    const DoubleReals a = to_double(x), b = to_double(y), quotient = a / b;
+    const DoubleReals rest = absolute(a - truncated(quotient) * b);
+    const Reals result = to_real(from_bits(bits(rest) | (bits(a) & Words(std::uint64_t{1} << 63))));
+    const Mask beyond = !(absolute(quotient) < DoubleReals(0x1p28));
+    if (!any(beyond)) [[likely]]
+        return result;
     return replaced(
-        Mask(true), x, [](Real a, Real b) { return quorvel::modulo(a, b); }, x, y);
+        beyond, result, [](Real p, Real q) { return quorvel::modulo(p, q); }, x, y);
 }
 
 // Structures of N, number by number
