@@ -7,7 +7,8 @@
 #include "conformance/random_arguments.h"
 #include "literal/blinds.h"
 #include "literal/sky.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
+#include "quorvel/glazing.h"
 
 namespace {
 

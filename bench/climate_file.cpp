@@ -5,7 +5,7 @@
 
 #include "conformance/climate_file.h"
 #include "literal/climate_file.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "conformance/random_arguments.h"
-#include "quorvel/library.h"
+#include "quorvel/fabric.h"
 
 namespace {
 

@@ -7,7 +7,9 @@
 #include "literal/glazing.h"
 #include "literal/psychro.h"
 #include "psychro/saturation.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
+#include "quorvel/glazing.h"
+#include "quorvel/psychro.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "conformance/random_arguments.h"
 #include "literal/moist_air.h"
-#include "quorvel/library.h"
+#include "quorvel/psychro.h"
 
 namespace {
 

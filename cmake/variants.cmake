@@ -9,7 +9,7 @@ function(quorvel_variant name compiler)
     add_custom_command(
         OUTPUT ${output}
         COMMAND ${compiler} -std=c++20 -fPIC -shared -fvisibility=hidden -ffp-contract=off -fno-exceptions -fno-rtti
-                -DQUORVEL_BUILDING -I. -I../include -I${QUORVEL_GENERATED} ${ARGN} ${sources} -o ${output}
+                -DQUORVEL_BUILDING -I. -I${QUORVEL_GENERATED} ${ARGN} ${sources} -o ${output}
         DEPENDS quorvel ${headers}
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}/src
         COMMENT "Building the library with ${compiler} ${ARGN}"

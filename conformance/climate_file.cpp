@@ -6,7 +6,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace quorvel::conformance {
 

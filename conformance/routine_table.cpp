@@ -1,6 +1,6 @@
 #include "conformance/routine_table.h"
 
-#include "quorvel.h"
+#include <cstdint>
 
 namespace quorvel::conformance {
 

@@ -103,8 +103,8 @@ def _function(family, routine):
 def _file(family, routines):
     topics = dict.fromkeys(routine.topic for routine in routines if not routine.entry)
     headers = ["arrays/each.h", *(f"{family.family}/{topic}.h" for topic in topics)]
-    if any(routine.entry for routine in routines):
-        headers += ["arrays/row.h", "quorvel.h"]
+    if by_hand := dict.fromkeys(routine.topic for routine in routines if routine.entry):
+        headers += ["arrays/row.h", *(f"entry/{family.family}/{topic}.h" for topic in by_hand)]
     head = "".join(f'#include "{name}"\n' for name in headers)
     declared = "".join(f"void {routine.name}{KERNEL};\n" for routine in routines)
     defined = "".join(_function(family, routine) for routine in routines)

@@ -1,10 +1,13 @@
 """Entry points: each reads the arguments of a call, hands their values to the core function, and stores what
 that returns. A core function that does not fit the catalogue does not compile.
 
-Routines with an `entry` in the catalogue are written by hand in src/entry/.
+Routines with an `entry` in the catalogue are written by hand in src/entry/. A header for each topic declares the
+entry points of both kinds, so that those that do not fit the catalogue do not compile either; nothing else includes it.
 """
 
 from pathlib import Path
+
+import declarations
 
 TYPES = {"Real": "Real", "DoubleReal": "DoubleReal", "Integer": "Integer"}
 
@@ -57,16 +60,18 @@ def _text(family, routines):
     made = [routine for routine in routines if not routine.entry]
     if not made:
         return "// All entry points of this topic are written by hand.\n"
-    headers = (f"{family.family}/{made[0].topic}.h", "entry/entry.h")
+    formulas = f"{family.family}/{made[0].topic}.h"
+    headers = (formulas, "entry/entry.h", f"entry/{formulas}")
     head = "".join(f'#include "{name}"\n' for name in headers)
     using = "\nusing namespace quorvel;\nusing namespace quorvel::entry;\n"
     return head + using + "".join(_definition(family, routine) for routine in made)
 
 def files(families):
-    """The texts of the files by their names, one for each topic."""
+    """The texts of the files by their names: source and header of each topic."""
     texts = {}
     for family in families:
         for topic in dict.fromkeys(routine.topic for routine in family.routines):
             routines = [routine for routine in family.routines if routine.topic == topic]
             texts[Path(family.family) / f"{topic}.cpp"] = _text(family, routines)
+            texts[Path(family.family) / f"{topic}.h"] = declarations.header(routines)
     return texts

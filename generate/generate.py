@@ -16,6 +16,7 @@ import catalogue
 import entry_points
 import example_table
 import exports
+import host_headers
 import interface
 import routine_table
 
@@ -32,6 +33,7 @@ PRODUCTS = {
 }
 FOLDERS = {
     "entry-points": entry_points.files,
+    "host-headers": host_headers.files,
     "pack-kernels": array_kernels.with_packs,
     "single-kernels": array_kernels.alone,
 }

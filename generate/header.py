@@ -4,6 +4,7 @@ import math
 import textwrap
 
 from catalogue import C_TYPES
+from declarations import CLOSING, OPENING, WIDTH, prototype, result_type
 
 PREAMBLE = """\
 /*
@@ -23,32 +24,11 @@ PREAMBLE = """\
 #ifndef QUORVEL_H
 #define QUORVEL_H
 
-#include <stdint.h>
-
-#if defined(QUORVEL_STATIC)
-#define QUORVEL_API
-#elif defined(_WIN32) && defined(QUORVEL_BUILDING)
-#define QUORVEL_API __declspec(dllexport)
-#elif defined(_WIN32)
-#define QUORVEL_API __declspec(dllimport)
-#else
-#define QUORVEL_API __attribute__((visibility("default")))
-#endif
-
-#ifdef __cplusplus
-extern "C" {
-#endif
 """
 
 POSTAMBLE = """
-#ifdef __cplusplus
-}
-#endif
-
 #endif /* QUORVEL_H */
 """
-
-WIDTH = 100
 
 
 def _number(value):
@@ -125,7 +105,7 @@ def comment(routine):
     if returned:
         lines += ["Returned:", *rows(returned, returned=True)]
     if routine.result:
-        value = f"{C_TYPES[routine.result.type]}  {routine.result.unit}".rstrip()
+        value = f"{result_type(routine)}  {routine.result.unit}".rstrip()
         meaning = routine.result.meaning + "; 1e20 for none" * routine.result.none
         lines += ["Result:", *paragraph(meaning, f"    {value}  ", "        ")]
     if routine.formula:
@@ -139,26 +119,9 @@ def comment(routine):
     return "\n".join(["/*", *(f" * {line}".rstrip() for line in lines), " */"])
 
 
-def _parameter(arg):
-    return f"{'const ' if arg.dir == 'in' else ''}{C_TYPES[arg.type]} *{arg.name}"
-
-
-def prototype(routine):
-    """The declaration, wrapped between parameters."""
-    result = C_TYPES[routine.result.type] if routine.result else "void"
-    lines = [f"QUORVEL_API {result} {routine.export}("]
-    indent = " " * len(lines[0])
-    parameters = [_parameter(arg) for arg in routine.args]
-    for parameter, end in zip(parameters, [", "] * (len(parameters) - 1) + [");"]):
-        if len(lines[-1] + parameter + end) > WIDTH:
-            lines.append(indent)
-        lines[-1] += parameter + end
-    return "\n".join(line.rstrip() for line in lines)
-
-
 def render(families):
-    parts = [PREAMBLE]
+    parts = [PREAMBLE, OPENING]
     for family in families:
         parts.append(f"\n/* ---- {family.title} {'-' * (WIDTH - 12 - len(family.title))} */\n")
         parts += [f"\n{comment(routine)}\n{prototype(routine)}\n" for routine in family.routines]
-    return "".join(parts) + POSTAMBLE
+    return "".join(parts) + CLOSING + POSTAMBLE

@@ -3,7 +3,7 @@
 Included by conformance/routine_table.cpp, which declares the types named here.
 """
 
-from catalogue import C_TYPES
+from declarations import pointer, result_type
 
 
 def _extent(extent, names):
@@ -20,13 +20,12 @@ def _argument(arg, names):
 
 
 def _call(routine):
-    args = ", ".join(
-        f"static_cast<{'const ' if arg.dir == 'in' else ''}{C_TYPES[arg.type]}*>(a[{index}])"
-        for index, arg in enumerate(routine.args)
-    )
-    call = f"reinterpret_cast<decltype(&::{routine.export})>(f)({args})"
+    types = [pointer(arg) for arg in routine.args]
+    args = ", ".join(f"static_cast<{kind}>(a[{index}])" for index, kind in enumerate(types))
+    result = result_type(routine)
+    call = f"reinterpret_cast<{result} (*)({', '.join(types)})>(f)({args})"
     if routine.result:
-        return f"[](Address f, void* const* a, void* r) {{ *static_cast<{C_TYPES[routine.result.type]}*>(r) = {call}; }}"
+        return f"[](Address f, void* const* a, void* r) {{ *static_cast<{result}*>(r) = {call}; }}"
     return f"[](Address f, void* const* a, void*) {{ {call}; }}"
 
 

@@ -6,7 +6,6 @@
 #include "common/progress.h"
 #include "conformance/climate_file.h"
 #include "conformance/corpus.h"
-#include "quorvel/library.h"
 
 namespace quorvel::check {
 namespace {

@@ -8,7 +8,8 @@
 #include "common/calendar.h"
 #include "common/input.h"
 #include "common/sun.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
+#include "quorvel/psychro.h"
 
 namespace quorvel::climatefile {
 namespace {

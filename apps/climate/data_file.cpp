@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "common/input.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace quorvel::climatefile {
 namespace {

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "common/angle.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace quorvel::host {
 

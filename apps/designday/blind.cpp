@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "common/angle.h"
-#include "quorvel/library.h"
+#include "quorvel/glazing.h"
 
 namespace quorvel::designday {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "common/calendar.h"
 #include "common/text.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace quorvel::designday {
 namespace {

@@ -5,7 +5,8 @@
 
 #include "common/angle.h"
 #include "common/daily_temperature.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
+#include "quorvel/glazing.h"
 
 namespace quorvel::designday {
 namespace {

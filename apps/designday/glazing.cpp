@@ -8,7 +8,7 @@
 
 #include "common/angle.h"
 #include "designday/blind.h"
-#include "quorvel/library.h"
+#include "quorvel/glazing.h"
 
 namespace quorvel::designday {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "quorvel/library.h"
+#include "quorvel/geometry.h"
 
 namespace quorvel::shade {
 namespace {

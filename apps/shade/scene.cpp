@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "common/angle.h"
-#include "quorvel/library.h"
+#include "quorvel/geometry.h"
 
 namespace quorvel::shade {
 

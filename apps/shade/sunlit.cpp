@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "quorvel/library.h"
+#include "quorvel/geometry.h"
 
 namespace quorvel::shade {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "common/chart.h"
 #include "common/text.h"
-#include "quorvel/library.h"
+#include "quorvel/psychro.h"
 #include "wall/drawing.h"
 #include "wall/report.h"
 

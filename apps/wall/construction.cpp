@@ -5,7 +5,7 @@
 #include <tuple>
 
 #include "common/angle.h"
-#include "quorvel/library.h"
+#include "quorvel/fabric.h"
 
 namespace quorvel::wall {
 namespace {

@@ -1,5 +1,5 @@
-// The types and constants that every routine shares. The exported interface, quorvel.h, is made
-// from the catalogue and included by the entry points only.
+// The types and constants that every routine shares. The exported interface is made from
+// the catalogue; of the sources, entry points alone know it.
 #pragma once
 
 #include <cfloat>

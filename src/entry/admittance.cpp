@@ -1,6 +1,7 @@
 #include "fabric/admittance.h"
 
 #include "entry/entry.h"
+#include "entry/fabric/admittance.h"
 
 using namespace quorvel;
 

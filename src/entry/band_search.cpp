@@ -1,5 +1,6 @@
 #include "climate/band_search.h"
 
+#include "entry/climate/band_search.h"
 #include "entry/entry.h"
 
 using namespace quorvel;

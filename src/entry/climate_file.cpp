@@ -1,4 +1,5 @@
 #include "climate/climate_file.h"
+#include "entry/climate/climate_file.h"
 #include "entry/entry.h"
 
 #include <algorithm>

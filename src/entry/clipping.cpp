@@ -1,5 +1,6 @@
 #include "geometry/clipping/clipping.h"
 #include "entry/entry.h"
+#include "entry/geometry/clipping.h"
 #include "geometry/clipping/overlap.h"
 
 using namespace quorvel;

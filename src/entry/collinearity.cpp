@@ -1,6 +1,7 @@
 #include "geometry/collinearity.h"
 
 #include "entry/entry.h"
+#include "entry/geometry/collinearity.h"
 
 using namespace quorvel;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "entry/entry.h"
+#include "entry/fabric/condensation.h"
 
 using namespace quorvel;
 

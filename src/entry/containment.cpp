@@ -1,6 +1,7 @@
 #include "geometry/containment.h"
 
 #include "entry/entry.h"
+#include "entry/geometry/containment.h"
 
 using namespace quorvel;
 using namespace quorvel::entry;

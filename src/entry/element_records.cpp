@@ -1,6 +1,7 @@
 #include "fabric/element_records.h"
 
 #include "entry/entry.h"
+#include "entry/fabric/element_records.h"
 
 using namespace quorvel;
 

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "base/number.h"
-#include "quorvel.h"
 
 namespace quorvel::entry {
 

@@ -1,6 +1,7 @@
 #include "glazing/layers.h"
 
 #include "entry/entry.h"
+#include "entry/glazing/layers.h"
 
 using namespace quorvel;
 

@@ -1,6 +1,7 @@
 #include "glazing/pane_temperature.h"
 
 #include "entry/entry.h"
+#include "entry/glazing/pane_temperature.h"
 
 using namespace quorvel;
 

@@ -1,6 +1,7 @@
 #include "geometry/polygon_area.h"
 
 #include "entry/entry.h"
+#include "entry/geometry/polygon_area.h"
 
 using namespace quorvel;
 using namespace quorvel::entry;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "entry/entry.h"
+#include "entry/glazing/shading_coefficient.h"
 
 using namespace quorvel;
 

@@ -1,6 +1,7 @@
 #include "fabric/u_value.h"
 
 #include "entry/entry.h"
+#include "entry/fabric/u_value.h"
 
 using namespace quorvel;
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace {
 

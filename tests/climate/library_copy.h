@@ -3,7 +3,7 @@
 #pragma once
 
 #include "conformance/climate_file.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace quorvel::test {
 
@@ -19,11 +19,11 @@ class LibraryCopy {
     LibraryCopy();
     ~LibraryCopy();
 
-    const host::Routine<decltype(&::CLBNF0)> CLBNF0{find("CLBNF0")};
-    const host::Routine<decltype(&::CLBNFI)> CLBNFI{find("CLBNFI")};
-    const host::Routine<decltype(&::CLBNF1)> CLBNF1{find("CLBNF1")};
-    const host::Routine<decltype(&::CLBNF2)> CLBNF2{find("CLBNF2")};
-    const host::Routine<decltype(&::CLBNF3)> CLBNF3{find("CLBNF3")};
+    decltype(lib::CLBNF0) CLBNF0{find("CLBNF0")};
+    decltype(lib::CLBNFI) CLBNFI{find("CLBNFI")};
+    decltype(lib::CLBNF1) CLBNF1{find("CLBNF1")};
+    decltype(lib::CLBNF2) CLBNF2{find("CLBNF2")};
+    decltype(lib::CLBNF3) CLBNF3{find("CLBNF3")};
 };
 
 }  // namespace quorvel::test

@@ -1,7 +1,7 @@
 // The anisotropic sky gives the very bits of its literal form.
 #include "literal/compare.h"
 #include "literal/sky.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 using namespace quorvel::conformance;
 using namespace quorvel::test;

@@ -8,7 +8,7 @@
 #include <numbers>
 
 #include "conformance/random_arguments.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace {
 

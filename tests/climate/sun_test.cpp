@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace {
 

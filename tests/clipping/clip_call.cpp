@@ -7,7 +7,7 @@
 #include <numeric>
 #include <set>
 
-#include "quorvel/library.h"
+#include "quorvel/geometry.h"
 
 namespace quorvel::test {
 namespace {

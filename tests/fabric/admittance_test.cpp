@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "conformance/random_arguments.h"
+#include "quorvel/fabric.h"
 #include "support/results.h"
 
 namespace {

@@ -5,7 +5,8 @@
 
 #include "conformance/random_arguments.h"
 #include "literal/fabric.h"
-#include "quorvel/library.h"
+#include "quorvel/fabric.h"
+#include "quorvel/psychro.h"
 
 namespace {
 

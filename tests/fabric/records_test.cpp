@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "quorvel/library.h"
+#include "quorvel/fabric.h"
 
 namespace {
 

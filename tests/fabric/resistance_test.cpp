@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "conformance/random_arguments.h"
+#include "quorvel/fabric.h"
 #include "support/results.h"
 
 namespace {

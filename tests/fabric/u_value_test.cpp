@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "quorvel/library.h"
+#include "quorvel/fabric.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 // on a new line the bytes of the file, repeated up to its length.
 #include "climate/file_session.h"
 #include "fuzz/input_file.h"
-#include "quorvel/library.h"
+#include "quorvel/climate.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 
 #include "contract/steps.h"
 #include "fuzz/bytes.h"
-#include "quorvel/library.h"
+#include "quorvel/geometry.h"
 
 namespace {
 

@@ -1,5 +1,7 @@
 #include "quorvel/library.h"
 
+#include <quorvel.h>
+
 #include <stdexcept>
 #include <string_view>
 

@@ -5,7 +5,7 @@
 #include <numbers>
 
 #include "conformance/random_arguments.h"
-#include "quorvel/library.h"
+#include "quorvel/geometry.h"
 
 namespace {
 

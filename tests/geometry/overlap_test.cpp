@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "clipping/polygon_pairs.h"
-#include "quorvel/library.h"
+#include "quorvel/geometry.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "conformance/random_arguments.h"
-#include "quorvel/library.h"
+#include "quorvel/geometry.h"
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include <numbers>
 
 #include "conformance/random_arguments.h"
+#include "quorvel/glazing.h"
 #include "support/results.h"
 
 namespace {

@@ -7,6 +7,7 @@
 #include <numbers>
 #include <vector>
 
+#include "quorvel/glazing.h"
 #include "support/results.h"
 
 namespace {

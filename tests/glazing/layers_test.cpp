@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "quorvel/glazing.h"
 #include "support/results.h"
 
 namespace {

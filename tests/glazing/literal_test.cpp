@@ -3,7 +3,7 @@
 #include "literal/blinds.h"
 #include "literal/compare.h"
 #include "literal/glazing.h"
-#include "quorvel/library.h"
+#include "quorvel/glazing.h"
 
 using namespace quorvel::conformance;
 using namespace quorvel::test;

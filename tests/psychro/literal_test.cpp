@@ -2,7 +2,7 @@
 #include "literal/compare.h"
 #include "literal/moist_air.h"
 #include "literal/psychro.h"
-#include "quorvel/library.h"
+#include "quorvel/psychro.h"
 
 using namespace quorvel::conformance;
 using namespace quorvel::test;

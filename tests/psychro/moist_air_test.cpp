@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "conformance/random_arguments.h"
-#include "quorvel/library.h"
+#include "quorvel/psychro.h"
 
 namespace {
 

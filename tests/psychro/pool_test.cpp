@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "quorvel/library.h"
+#include "quorvel/psychro.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "quorvel/library.h"
+#include "quorvel/psychro.h"
 
 namespace {
 

@@ -4,8 +4,6 @@
 #include <array>
 #include <tuple>
 
-#include "quorvel/library.h"
-
 namespace quorvel::test {
 
 inline constexpr float unwritten = -999.0f;  // what a routine leaves alone

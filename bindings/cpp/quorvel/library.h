@@ -1,5 +1,8 @@
 // The Quorvel library as a host sees it: loaded at run time by name, every routine callable by
-// value.
+// value. The headers quorvel/FAMILY.h (psychro.h, climate.h, ...) have the routines.
+//
+//     #include "quorvel/climate.h"
+//     #include "quorvel/psychro.h"
 //
 //     quorvel::host::load_library();
 //     const float ps = lib::PSSVP(20.0f);
@@ -14,8 +17,6 @@
 #include <cstddef>
 #include <string>
 #include <type_traits>
-
-#include "quorvel.h"
 
 namespace quorvel::host {
 
@@ -57,7 +58,7 @@ template <class Function>
 class Routine;
 
 template <class Result, class... Pointers>
-class Routine<Result (*)(Pointers...)> {
+class Routine<Result(Pointers...)> {
   public:
     explicit constexpr Routine(const char* name) : name_(name) {}
     // Of a library that is not the one loaded above.
@@ -80,11 +81,3 @@ class Routine<Result (*)(Pointers...)> {
 };
 
 }  // namespace quorvel::host
-
-// lib::PSSVP, lib::PSVP, ...: all exported routines.
-namespace lib {
-// NOLINTNEXTLINE(bugprone-macro-parentheses): a name being declared takes none
-#define QUORVEL_ROUTINE(name) inline const quorvel::host::Routine<decltype(&::name)> name{#name};
-#include "routine_names.inc"
-#undef QUORVEL_ROUTINE
-}  // namespace lib
