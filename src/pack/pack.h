@@ -191,6 +191,14 @@ QUORVEL_PACK DoubleReals fused(DoubleReals a, DoubleReals b, DoubleReals c) noex
     return DoubleReals({fused(a.v.low, b.v.low, c.v.low), fused(a.v.high, b.v.high, c.v.high)});
 }
 
+// of two numbers
+QUORVEL_PACK DoubleReals smaller(DoubleReals a, DoubleReals b) noexcept {
+    return DoubleReals({smaller(a.v.low, b.v.low), smaller(a.v.high, b.v.high)});
+}
+QUORVEL_PACK DoubleReals larger(DoubleReals a, DoubleReals b) noexcept {
+    return DoubleReals({larger(a.v.low, b.v.low), larger(a.v.high, b.v.high)});
+}
+
 QUORVEL_PACK Reals lookup(const Real* table, Integers index) noexcept {
     return Reals(gathered(table, index.v));
 }
