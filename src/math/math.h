@@ -14,7 +14,6 @@
 #include "math/double_exp_log.h"
 #include "math/double_inverse_trig.h"
 #include "math/double_trig.h"
-#include "math/loop_pairs.h"
 #include "math/power.h"
 #include "math/scalar_exp_log.h"
 #include "math/scalar_inverse_trig.h"

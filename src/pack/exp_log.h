@@ -15,7 +15,7 @@
 namespace quorvel::math {
 namespace detail {
 
-constexpr std::uint32_t kPackExpError = 0x2000, kPackLogError = 0x200;  // see near_midpoint
+constexpr std::uint32_t kPackExpError = 0x2000, kPackLogError = 0x10000;  // see near_midpoint
 
 // 2^x, |x| <= 1000
 QUORVEL_PACK DoubleReals pack_exp2(DoubleReals x) noexcept {
@@ -27,26 +27,24 @@ QUORVEL_PACK DoubleReals pack_exp2(DoubleReals x) noexcept {
     return from_bits(bits(p) + (bits(shifted) << 52));
 }
 
-// x = 2^exponent * mantissa, 1/sqrt 2 <= mantissa < sqrt 2, for a positive normal x
+// x = 2^exponent (1 + excess), 1/sqrt 2 <= 1 + excess < sqrt 2, for a positive normal x
 struct PackScaled {
-    DoubleReals exponent, mantissa;
+    DoubleReals exponent, excess;
 };
-QUORVEL_PACK PackScaled split_exponent(DoubleReals x) noexcept {
-    constexpr std::uint64_t kRootHalf = 0x3fe6a09e667f3bcd, kUnity = 0x3ff0000000000000,
-                            kFraction = 0x000fffffffffffff, kTwo52 = 0x4330000000000000;
-    const Words b = bits(x) + Words(kUnity - kRootHalf);
-    return {from_bits((b >> 52) | Words(kTwo52)) - (0x1p52 + 1023.0),
-            from_bits((b & Words(kFraction)) + Words(kRootHalf))};
+QUORVEL_PACK PackScaled split_exponent(Reals x) noexcept {
+    constexpr std::uint32_t kRootHalf = 0x3f3504f3, kFraction = 0x007fffff;
+    const Patterns b = Patterns(x.v) - kRootHalf;
+    const Reals mantissa{pack::Floats((b & kFraction) + kRootHalf)};
+    return {to_double(pack::Integers(pack::Ints(b) >> 23)), to_double(mantissa - 1.0f)};
 }
 
 // (n + log2 m) log2_scaled, a logarithm to any base, from log m scaled
 QUORVEL_PACK DoubleReals log_of_normal(Reals x, double scale, double log2_scaled) noexcept {
-    const PackScaled x_scaled = split_exponent(to_double(x));
-    const DoubleReals m = x_scaled.mantissa, s = (m - 1.0) / (m + 1.0), z = s * s;
-    const DoubleReals log_m =
-        s * polynomial(z, 2.0, 0x1.555555561f7c5p-1, 0x1.999996a553378p-2, 0x1.249413d7db2cdp-2,
-                       0x1.c62a5fe159aa8p-3, 0x1.9120d109605abp-3);
-    return fused(x_scaled.exponent, log2_scaled, scale == 1.0 ? log_m : log_m * scale);
+    const PackScaled split = split_exponent(x);
+    const DoubleReals f = split.excess, s = f / (f + 2.0);
+    const DoubleReals log_m = s * polynomial(s * s, 2.0, 0x1.555554fd3063ap-1, 0x1.999a7b72d24edp-2,
+                                             0x1.2438956750f5bp-2, 0x1.e301562767e8dp-3);
+    return fused(split.exponent, log2_scaled, scale == 1.0 ? log_m : log_m * scale);
 }
 
 QUORVEL_PACK Mask without_normal_logarithm(Reals x) noexcept {

@@ -18,15 +18,15 @@ namespace detail {
 
 constexpr std::uint32_t kPackArcSineError = 0x4000, kPackArcTangentError = 0x2000;
 
-// asin x, or asin sqrt((1 - x)/2) where x > 1/2
+// asin x, or asin sqrt((1 - x)/2) where x > 1/2. The square of a float is exact, and so is its
+// root.
 struct PackArcSine {
     WideMask small;
     DoubleReals angle;
 };
 QUORVEL_PACK PackArcSine arc_sine(DoubleReals x) noexcept {
     const WideMask small = x <= DoubleReals(0.5);
-    const DoubleReals z = select(small, x * x, fused(x, -0.5, 0.5));
-    const DoubleReals s = select(small, x, square_root(z));
+    const DoubleReals z = smaller(x * x, fused(x, -0.5, 0.5)), s = square_root(z);
     const DoubleReals p = polynomial(
         z, 0x1.55555547de741p-3, 0x1.3333408753c87p-4, 0x1.6db25ce71bad6p-5, 0x1.f2819ea6909e4p-6,
         0x1.6643de02afed9p-6, 0x1.522e99e9ade8ap-6, 0x1.054658628603dp-9, 0x1.0d7ce49571b87p-5);
@@ -51,16 +51,19 @@ struct PackArcTangent {
 };
 QUORVEL_PACK PackArcTangent arc_tangent(DoubleReals y, DoubleReals x) noexcept {
     const WideMask steep = y > x;
-    const DoubleReals small = select(steep, x, y), large = select(steep, y, x);
+    // in this order one of them is not a number if x or y is none
+    const DoubleReals small = smaller(x, y), large = larger(y, x);
     const WideMask diagonal = small > large * 0x1.a827999fcef32p-2;
-    const DoubleReals t =
-        select(diagonal, small - large, small) / select(diagonal, small + large, large);
+    // what is added where the point is nearer to the diagonal
+    const DoubleReals to_small = select(diagonal, large, 0.0),
+                      to_large = select(diagonal, small, 0.0),
+                      to_angle = select(diagonal, DoubleReals(0.5 * kHalfPi), 0.0);
+    const DoubleReals t = (small - to_small) / (large + to_large);
     const DoubleReals z = t * t;
     const DoubleReals p = polynomial(
         z, -0x1.5555554eca9b1p-2, 0x1.999991e7797cp-3, -0x1.2490bfa310bddp-3, 0x1.c6d16a6570ddep-4,
         -0x1.707de36a833bap-4, 0x1.1e45bb0bcbbfp-4, -0x1.365b63f366ce5p-5);
-    const DoubleReals half = select(diagonal, DoubleReals(0.5 * kHalfPi), 0.0);
-    return {steep, half + fused(t * z, p, t)};
+    return {steep, to_angle + fused(t * z, p, t)};
 }
 QUORVEL_PACK DoubleReals atan_in_double(DoubleReals x) noexcept {
     const PackArcTangent a = arc_tangent(absolute(x), 1.0);

@@ -20,6 +20,9 @@
 #include "base/number.h"
 #include "pack/registers.h"
 
+// Functions too long to be inlined wherever they are called.
+#define QUORVEL_PACK_CALL [[gnu::noinline]] inline
+
 namespace quorvel::pack {
 
 // Halves of a pack of doubles are worked on alike.
@@ -195,6 +198,14 @@ QUORVEL_PACK DoubleReals fused(DoubleReals a, DoubleReals b, DoubleReals c) noex
     return DoubleReals({fused(a.v.low, b.v.low, c.v.low), fused(a.v.high, b.v.high, c.v.high)});
 }
 
+// of two numbers
+QUORVEL_PACK DoubleReals smaller(DoubleReals a, DoubleReals b) noexcept {
+    return DoubleReals({smaller(a.v.low, b.v.low), smaller(a.v.high, b.v.high)});
+}
+QUORVEL_PACK DoubleReals larger(DoubleReals a, DoubleReals b) noexcept {
+    return DoubleReals({larger(a.v.low, b.v.low), larger(a.v.high, b.v.high)});
+}
+
 QUORVEL_PACK Reals lookup(const Real* table, Integers index) noexcept {
     return Reals(gathered(table, index.v));
 }
@@ -205,15 +216,29 @@ QUORVEL_PACK DoubleReals lookup(const DoubleReal* table, Words index) noexcept {
     return DoubleReals({gathered(table, index.v.low), gathered(table, index.v.high)});
 }
 
+// Register by register: GCC copies anything longer in pieces, which stalls whoever reads it whole.
 template <class N>
 QUORVEL_PACK N load(const typename N::Scalar* at) noexcept {
-    N x;
-    std::memcpy(&x.v, at, sizeof x.v);
-    return x;
+    using V = decltype(N::v);
+    if constexpr (requires(V y) { y.low; }) {
+        V v;
+        std::memcpy(&v.low, at, sizeof v.low);
+        std::memcpy(&v.high, at + width / 2, sizeof v.high);
+        return N(v);
+    } else {
+        V v;
+        std::memcpy(&v, at, sizeof v);
+        return N(v);
+    }
 }
 template <class N>
 QUORVEL_PACK void store(N x, typename N::Scalar* at) noexcept {
-    std::memcpy(at, &x.v, sizeof x.v);
+    if constexpr (requires { x.v.low; }) {
+        std::memcpy(at, &x.v.low, sizeof x.v.low);
+        std::memcpy(at + width / 2, &x.v.high, sizeof x.v.high);
+    } else {
+        std::memcpy(at, &x.v, sizeof x.v);
+    }
 }
 
 template <class N>
@@ -224,14 +249,14 @@ std::array<typename N::Scalar, width> numbers(N x) noexcept {
 }
 
 // y, but f(x...) of single numbers where m is true, which is seldom
-template <class F, class... N>
-[[gnu::cold, gnu::noinline]] Reals replaced(Mask m, Reals y, F f, N... x) noexcept {
-    std::array<Real, width> results = numbers(y);
-    [&](const auto&... arguments) {
+template <class L, class Y, class F, class... N>
+[[gnu::cold, gnu::noinline]] Y replaced(Truth<L> m, Y y, F f, N... x) noexcept {
+    auto results = numbers(y);
+    [&, lanes = Mask(m).lanes](const auto&... arguments) {
         for (std::size_t i = 0; i < width; ++i)
-            if (lane(m.lanes, i)) results[i] = f(arguments[i]...);
+            if (lane(lanes, i)) results[i] = f(arguments[i]...);
     }(numbers(x)...);
-    return load<Reals>(results.data());
+    return load<Y>(results.data());
 }
 
 // Exact where the quotient, in double, is that of the whole numbers: as long as it has fewer than

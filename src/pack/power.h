@@ -17,12 +17,12 @@ namespace detail {
 constexpr std::uint32_t kPackPowerError = 0x8000;  // see near_midpoint
 
 QUORVEL_PACK DoubleReals pack_log2(Reals x) noexcept {
-    const PackScaled x_scaled = split_exponent(to_double(x));
-    const DoubleReals m = x_scaled.mantissa, s = (m - 1.0) / (m + 1.0);
+    const PackScaled split = split_exponent(x);
+    const DoubleReals f = split.excess, s = f / (f + 2.0);
     return fused(s,
                  polynomial(s * s, 0x1.71547652b824fp1, 0x1.ec709dc5405aep-1, 0x1.2776c28e61e6cp-1,
                             0x1.a61a32e6f900dp-2, 0x1.4794a2fa8cf71p-2, 0x1.21bb76ffaeb22p-2),
-                 x_scaled.exponent);
+                 split.exponent);
 }
 
 }  // namespace detail

@@ -14,6 +14,7 @@
 //     low_words(longs)                the lower half of each 64-bit integer
 //     gathered(table, index)          elements of a table
 //     fused(a, b, c)                  a b + c, rounded once where the level has that instruction
+//     smaller, larger                 of two doubles; the second where they do not compare
 //     square_root, truncated
 //
 // Everything is inlined: what is compiled for one instruction set must never be called for another.

@@ -55,6 +55,8 @@ QUORVEL_PACK Doubles gathered(const double* table, Longs i) noexcept {
 }
 
 QUORVEL_PACK Doubles fused(Doubles a, Doubles b, Doubles c) noexcept { return a * b + c; }
+QUORVEL_PACK Doubles smaller(Doubles a, Doubles b) noexcept { return _mm_min_pd(a, b); }
+QUORVEL_PACK Doubles larger(Doubles a, Doubles b) noexcept { return _mm_max_pd(a, b); }
 QUORVEL_PACK Floats square_root(Floats x) noexcept { return _mm_sqrt_ps(x); }
 QUORVEL_PACK Doubles square_root(Doubles x) noexcept { return _mm_sqrt_pd(x); }
 QUORVEL_PACK Floats truncated(Floats x) noexcept {

@@ -103,6 +103,8 @@ QUORVEL_PACK Doubles gathered(const double* table, Longs index) noexcept {
 QUORVEL_PACK Doubles fused(Doubles a, Doubles b, Doubles c) noexcept {
     return _mm512_fmadd_pd(a, b, c);
 }
+QUORVEL_PACK Doubles smaller(Doubles a, Doubles b) noexcept { return _mm512_min_pd(a, b); }
+QUORVEL_PACK Doubles larger(Doubles a, Doubles b) noexcept { return _mm512_max_pd(a, b); }
 QUORVEL_PACK Floats square_root(Floats x) noexcept { return _mm512_sqrt_ps(x); }
 QUORVEL_PACK Doubles square_root(Doubles x) noexcept { return _mm512_sqrt_pd(x); }
 QUORVEL_PACK Floats truncated(Floats x) noexcept {

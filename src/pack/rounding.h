@@ -16,6 +16,9 @@ using pack::Reals;
 using pack::WideMask;
 using pack::Words;
 
+// 32-bit patterns that wrap around
+using Patterns = std::uint32_t __attribute__((vector_size(sizeof(pack::Ints))));
+
 QUORVEL_PACK Words sign(DoubleReals x) noexcept { return bits(x) & Words(kSignBit); }
 QUORVEL_PACK DoubleReals flip_sign(DoubleReals x, Words sign_bit) noexcept {
     return from_bits(bits(x) ^ sign_bit);
@@ -41,10 +44,9 @@ QUORVEL_PACK DoubleReals polynomial(DoubleReals z, C... c) noexcept {
 // units; kError is a power of 2.
 template <std::uint32_t kError>
 QUORVEL_PACK Mask near_midpoint(DoubleReals value) noexcept {
-    using Unsigned = std::uint32_t __attribute__((vector_size(sizeof(pack::Ints))));
     static_assert((kError & (kError - 1)) == 0);
     constexpr std::uint32_t kHalf = 0x10000000, kDistance = 2 * (kHalf - kError);
-    const auto low = Unsigned(low_words(bits(value).v));
+    const auto low = Patterns(low_words(bits(value).v));
     const auto distance = (low + (kHalf + kError)) & kDistance;
     return pack::Integers(pack::Ints(distance)) == pack::Integers(0);
 }

@@ -46,22 +46,16 @@ class Findings {
     explicit Findings(const Function& function) : reference(function), name_(function.name) {}
 
     template <class... T>
-    void rounding(const char* form, float computed, float exact, T... arguments) {
+    void rounding(float computed, float exact, T... arguments) {
+        ++outcome.inputs;
         const bool both_nan = std::isnan(computed) && std::isnan(exact);
         if (both_nan ||
             std::bit_cast<std::uint32_t>(computed) == std::bit_cast<std::uint32_t>(exact))
             return;
         if (++outcome.misrounded <= 5)
-            std::fprintf(stderr, "%s%s(%s) = %a, correctly rounded %a\n", form, name_.c_str(),
+            std::fprintf(stderr, "%s(%s) = %a, correctly rounded %a\n", name_.c_str(),
                          list(arguments...).c_str(), static_cast<double>(computed),
                          static_cast<double>(exact));
-    }
-
-    template <class... T>
-    void rounding(float single, float in_loop, float exact, T... arguments) {
-        ++outcome.inputs;
-        rounding("", single, exact, arguments...);
-        rounding("loop::", in_loop, exact, arguments...);
     }
 
     template <class... T>
@@ -124,43 +118,93 @@ Outcome in_parallel(const Function& function, std::uint64_t count,
     return total;
 }
 
+// Hard cases, then samples
+class FloatPairs {
+  public:
+    FloatPairs(const FloatPairFunction& function, std::uint64_t count)
+        : is_pow_(function.reference.name == "pow") {
+        const std::uint64_t hard_count = std::min(count / 16, std::uint64_t{1} << 22);
+        hard_ = is_pow_ ? pow_hard_cases(hard_count) : atan2_hard_cases(hard_count);
+    }
+    std::pair<float, float> operator[](std::uint64_t i) const {
+        return i < hard_.size() ? hard_[i] : is_pow_ ? pow_sample(i) : atan2_sample(i);
+    }
+
+  private:
+    bool is_pow_;
+    std::vector<std::pair<float, float>> hard_;
+};
+
+std::size_t whole_packs(std::size_t n) {
+    return (n + pack_loops::kCountUnit - 1) / pack_loops::kCountUnit * pack_loops::kCountUnit;
+}
+
+// The samples of pairs take turns in kind, eight at most: a block's indices in another order
+std::size_t sorted_by_kind(std::size_t i) { return i % (kBlock / 8) * 8 + i / (kBlock / 8); }
+
 }  // namespace
 
 Outcome check(const FloatFunction& function, std::uint64_t count) {
     return in_parallel(function.reference, count,
                        [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
                            const std::size_t n = last - first;
-                           std::vector<float> x(n), single(n), in_loop(n);
+                           std::vector<float> x(n), computed(n);
                            for (std::size_t i = 0; i < n; ++i)
                                x[i] = float_sample(first + i, count);
-                           function.single(x.data(), single.data(), n);
-                           function.in_loop(x.data(), in_loop.data(), n);
+                           function.scalar(x.data(), computed.data(), n);
                            for (std::size_t i = 0; i < n; ++i)
-                               findings.rounding(single[i], in_loop[i],
-                                                 findings.reference.rounded(x[i]), x[i]);
+                               findings.rounding(computed[i], findings.reference.rounded(x[i]),
+                                                 x[i]);
                        });
 }
 
 Outcome check(const FloatPairFunction& function, std::uint64_t count) {
-    const bool is_pow = function.reference.name == "pow";
-    const std::uint64_t hard_count = std::min(count / 16, std::uint64_t{1} << 22);
-    const auto hard = is_pow ? pow_hard_cases(hard_count) : atan2_hard_cases(hard_count);
-    const auto pair = [&](std::uint64_t i) {
-        return i < hard.size() ? hard[i] : is_pow ? pow_sample(i) : atan2_sample(i);
-    };
+    const FloatPairs pairs(function, count);
     return in_parallel(function.reference, count,
                        [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
                            const std::size_t n = last - first;
-                           std::vector<float> x(n), y(n), single(n), in_loop(n);
+                           std::vector<float> x(n), y(n), computed(n);
                            for (std::size_t i = 0; i < n; ++i)
-                               std::tie(x[i], y[i]) = pair(first + i);
-                           function.single(x.data(), y.data(), single.data(), n);
-                           function.in_loop(x.data(), y.data(), in_loop.data(), n);
+                               std::tie(x[i], y[i]) = pairs[first + i];
+                           function.scalar(x.data(), y.data(), computed.data(), n);
                            for (std::size_t i = 0; i < n; ++i)
-                               findings.rounding(single[i], in_loop[i],
-                                                 findings.reference.rounded(x[i], y[i]), x[i],
-                                                 y[i]);
+                               findings.rounding(
+                                   computed[i], findings.reference.rounded(x[i], y[i]), x[i], y[i]);
                        });
+}
+
+Outcome check_packs(const FloatFunction& function, const pack_loops::Functions& level,
+                    std::uint64_t count) {
+    const std::uint64_t mixed = std::min(count, std::uint64_t{1} << 26);
+    return in_parallel(function.reference, count + mixed,
+                       [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
+                           const std::size_t n = last - first;
+                           std::vector<float> x(whole_packs(n)), single(n), packs(x.size());
+                           for (std::size_t i = 0; i < n; ++i)
+                               x[i] = first + i < count ? float_sample(first + i, count)
+                                                        : any_float_sample(first + i);
+                           function.scalar(x.data(), single.data(), n);
+                           (level.*function.packs)(x.data(), packs.data(), x.size());
+                           for (std::size_t i = 0; i < n; ++i)
+                               findings.rounding(packs[i], single[i], x[i]);
+                       });
+}
+
+Outcome check_packs(const FloatPairFunction& function, const pack_loops::Functions& level,
+                    std::uint64_t count) {
+    const FloatPairs pairs(function, count);
+    return in_parallel(
+        function.reference, count,
+        [&](std::uint64_t first, std::uint64_t last, Findings& findings) {
+            const std::size_t n = last - first;
+            const bool sorted = first / kBlock % 2 != 0 && n == kBlock;
+            std::vector<float> x(whole_packs(n)), y(x.size()), single(n), packs(x.size());
+            for (std::size_t i = 0; i < n; ++i)
+                std::tie(x[i], y[i]) = pairs[first + (sorted ? sorted_by_kind(i) : i)];
+            function.scalar(x.data(), y.data(), single.data(), n);
+            (level.*function.packs)(x.data(), y.data(), packs.data(), x.size());
+            for (std::size_t i = 0; i < n; ++i) findings.rounding(packs[i], single[i], x[i], y[i]);
+        });
 }
 
 Outcome check(const DoubleFunction& function, std::uint64_t count) {

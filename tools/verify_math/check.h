@@ -1,5 +1,5 @@
-// Compares a function with its reference on all processors, with a progress display on a terminal.
-// Misrounded results and the worst errors are named on stderr.
+// Compares a function with its reference, or its packs with single calls, on all processors, with a
+// progress display on a terminal. Misrounded results and the worst errors are named on stderr.
 #pragma once
 
 #include <cstdint>
@@ -19,5 +19,12 @@ Outcome check(const FloatFunction& function, std::uint64_t count);
 Outcome check(const FloatPairFunction& function, std::uint64_t count);
 Outcome check(const DoubleFunction& function, std::uint64_t count);
 Outcome check(const DoublePairFunction& function, std::uint64_t count);
+
+// The packs of one level: `count` arguments in order, then mixed ones; pairs mixed or sorted by
+// kind
+Outcome check_packs(const FloatFunction& function, const pack_loops::Functions& level,
+                    std::uint64_t count);
+Outcome check_packs(const FloatPairFunction& function, const pack_loops::Functions& level,
+                    std::uint64_t count);
 
 }  // namespace verify

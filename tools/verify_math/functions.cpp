@@ -19,24 +19,24 @@ namespace own = quorvel::math;
         return mpfr_##f(result, x, y, mode);                             \
     }
 
-#define LOOP(expression)                                                       \
-    [](const float* __restrict in, float* __restrict out, std::size_t count) { \
-        for (std::size_t i = 0; i < count; ++i) out[i] = expression(in[i]);    \
+#define LOOP(expression)                                                    \
+    [](const float* in, float* out, std::size_t count) {                    \
+        for (std::size_t i = 0; i < count; ++i) out[i] = expression(in[i]); \
     }
 #define PAIRS(f)                                                        \
     [](const float* x, const float* y, float* out, std::size_t count) { \
         for (std::size_t i = 0; i < count; ++i) out[i] = f(x[i], y[i]); \
     }
 #define FLOAT(f) \
-    FloatFunction { {#f, PLATFORM(f), MPFR(f)}, LOOP(own::f), LOOP(own::loop::f) }
+    FloatFunction { {#f, PLATFORM(f), MPFR(f)}, LOOP(own::f), &pack_loops::Functions::f }
 #define SINCOS(f)                                                                             \
     FloatFunction {                                                                           \
         {"sincos." #f, PLATFORM(f), MPFR(f)}, LOOP([](float x) { return own::sincos(x).f; }), \
-            LOOP([](float x) { return own::loop::sincos(x).f; })                              \
+            &pack_loops::Functions::sincos_##f                                                \
     }
-#define FLOAT2(f)                                                                   \
-    FloatPairFunction {                                                             \
-        {#f, nullptr, nullptr, PLATFORM2(f), MPFR2(f)}, PAIRS(own::f), own::loop::f \
+#define FLOAT2(f)                                                                                \
+    FloatPairFunction {                                                                          \
+        {#f, nullptr, nullptr, PLATFORM2(f), MPFR2(f)}, PAIRS(own::f), &pack_loops::Functions::f \
     }
 #define DOUBLE(f, low, high, near_one)                                                      \
     DoubleFunction {                                                                        \
@@ -44,20 +44,8 @@ namespace own = quorvel::math;
     }
 
 constexpr FloatFunction kFloat[] = {
-    FLOAT(sin),
-    FLOAT(cos),
-    SINCOS(sin),
-    SINCOS(cos),
-    FLOAT(tan),
-    FLOAT(asin),
-    FLOAT(acos),
-    FLOAT(atan),
-    FLOAT(exp),
-    FLOAT(exp10),
-    FLOAT(log),
-    FLOAT(log10),
-    // which has one form only
-    {{"sqrt", PLATFORM(sqrt), MPFR(sqrt)}, LOOP(own::sqrt), LOOP(own::sqrt)},
+    FLOAT(sin),  FLOAT(cos), SINCOS(sin),  SINCOS(cos), FLOAT(tan),   FLOAT(asin), FLOAT(acos),
+    FLOAT(atan), FLOAT(exp), FLOAT(exp10), FLOAT(log),  FLOAT(log10), FLOAT(sqrt),
 };
 
 constexpr FloatPairFunction kFloatPair[] = {FLOAT2(atan2), FLOAT2(pow)};

@@ -4,21 +4,23 @@
 #include <cstddef>
 #include <span>
 
+#include "pack_loops.h"
 #include "reference.h"
 
 namespace verify {
 
-// Both forms of a single-precision function, evaluated over arrays
+// A single-precision function over arrays: call by call, and the member of pack_loops::Functions
+// that has its packs
 struct FloatFunction {
-    using Evaluate = void (*)(const float* x, float* result, std::size_t count);
     Function reference;
-    Evaluate single, in_loop;
+    pack_loops::Unary scalar;
+    pack_loops::Unary pack_loops::Functions::*packs;
 };
 
 struct FloatPairFunction {
-    using Evaluate = void (*)(const float* x, const float* y, float* result, std::size_t count);
     Function reference;
-    Evaluate single, in_loop;
+    pack_loops::Binary scalar;
+    pack_loops::Binary pack_loops::Functions::*packs;
 };
 
 struct DoubleFunction {

@@ -1,6 +1,7 @@
-// Verifies the rounding of both forms of every single-precision function, over all arguments where
-// it has one, and measures the error of the double-precision ones. Prints a Markdown table; fails
-// if any result is misrounded or a double-precision error reaches one unit in the last place.
+// Verifies the rounding of the single-precision functions, over all arguments where there is one,
+// and measures the error of the double-precision ones; or compares the single-precision functions
+// of packs with those of single numbers. Prints a Markdown table; fails if any result is misrounded
+// or a double-precision error reaches one unit in the last place.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -16,23 +17,25 @@ using namespace verify;
 struct Options {
     std::uint64_t sample = std::uint64_t{1} << 32;
     std::string only;
+    std::string packs;
 };
 
 constexpr std::uint64_t kFloats = std::uint64_t{1} << 32, kPairs = std::uint64_t{1} << 30,
                         kDoubles = std::uint64_t{1} << 21;
 
-// One line of the table; whether all is well
-template <class F>
-bool verify_one(const F& function, const char* precision, std::uint64_t count,
-                const Options& options) {
+// One line of the table: check(count) of a function, unless it was not asked for; whether all is
+// well
+template <class F, class Check>
+bool verify_one(const F& function, const char* kind, std::uint64_t all, const Options& options,
+                Check check_function) {
     const std::string name(function.reference.name);
     if (!options.only.empty() && options.only != name) return true;
     const auto start = std::chrono::steady_clock::now();
-    const Outcome outcome = check(function, std::min(count, options.sample));
+    const Outcome outcome = check_function(std::min(all, options.sample));
     const double seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     const bool by_rounding = outcome.error == 0.0;
-    std::printf("| %-10s | %-6s | %13llu |", name.c_str(), precision,
+    std::printf("| %-10s | %-6s | %13llu |", name.c_str(), kind,
                 static_cast<unsigned long long>(outcome.inputs));
     if (by_rounding)
         std::printf(" %10llu |       |", static_cast<unsigned long long>(outcome.misrounded));
@@ -43,10 +46,32 @@ bool verify_one(const F& function, const char* precision, std::uint64_t count,
     return outcome.misrounded == 0 && outcome.error < 1.0;
 }
 
+template <class Functions>
+bool verify_all(const Functions& functions, const char* precision, std::uint64_t all,
+                const Options& options) {
+    bool good = true;
+    for (const auto& f : functions)
+        good &= verify_one(f, precision, all, options,
+                           [&](std::uint64_t count) { return check(f, count); });
+    return good;
+}
+
+template <class Functions>
+bool verify_packs(const Functions& functions, const pack_loops::Level& level, std::uint64_t all,
+                  const Options& options) {
+    bool good = true;
+    for (const auto& f : functions)
+        good &= verify_one(f, level.name, all, options, [&](std::uint64_t count) {
+            return check_packs(f, *level.functions, count);
+        });
+    return good;
+}
+
 int usage() {
     std::fputs(
-        "usage: verify_math [--sample N] [--only FUNCTION]\n"
-        "  --sample N    N stratified arguments of each function instead of all\n",
+        "usage: verify_math [--sample N] [--only FUNCTION] [--packs LEVEL]\n"
+        "  --sample N     N stratified arguments of each function instead of all\n"
+        "  --packs LEVEL  packs against single numbers: v2, v3, v4, or all that this machine has\n",
         stderr);
     return 2;
 }
@@ -58,10 +83,25 @@ bool parse(int argc, char** argv, Options& options) {
             options.sample = std::strtoull(argv[i + 1], nullptr, 10);
         else if (option == "--only")
             options.only = argv[i + 1];
+        else if (option == "--packs")
+            options.packs = argv[i + 1];
         else
             return false;
     }
     return argc % 2 == 1 && options.sample > 0;
+}
+
+// At least one level
+bool all_packs_good(const Options& options) {
+    bool good = true, any = false;
+    for (const pack_loops::Level& level : pack_loops::levels()) {
+        if (options.packs != "all" && options.packs != level.name) continue;
+        any = true;
+        good &= verify_packs(float_functions(), level, kFloats, options);
+        good &= verify_packs(float_pair_functions(), level, kPairs, options);
+    }
+    if (!any) std::fputs("this machine has no such level\n", stderr);
+    return good && any;
 }
 
 }  // namespace
@@ -72,11 +112,10 @@ int main(int argc, char** argv) {
     std::puts(
         "| function   | type   |        inputs | misrounded | ulp   | seconds |\n"
         "|------------|--------|--------------:|-----------:|------:|--------:|");
-    bool good = true;
-    for (const auto& f : float_functions()) good &= verify_one(f, "float", kFloats, options);
-    for (const auto& f : float_pair_functions()) good &= verify_one(f, "float", kPairs, options);
-    for (const auto& f : double_functions()) good &= verify_one(f, "double", kDoubles, options);
-    for (const auto& f : double_pair_functions())
-        good &= verify_one(f, "double", kDoubles, options);
-    return good ? 0 : 1;
+    if (!options.packs.empty()) return all_packs_good(options) ? 0 : 1;
+    const bool rounded = verify_all(float_functions(), "float", kFloats, options) &
+                         verify_all(float_pair_functions(), "float", kPairs, options);
+    const bool accurate = verify_all(double_functions(), "double", kDoubles, options) &
+                          verify_all(double_pair_functions(), "double", kDoubles, options);
+    return rounded && accurate ? 0 : 1;
 }

@@ -55,6 +55,11 @@ float float_sample(std::uint64_t index, std::uint64_t count) {
     return std::bit_cast<float>(static_cast<std::uint32_t>(index * width + offset));
 }
 
+float any_float_sample(std::uint64_t index) {
+    Random random(index);
+    return any_float(random);
+}
+
 // Half the pairs run through all pairs of exponents, half stay within 2^26 of each other.
 std::pair<float, float> atan2_sample(std::uint64_t index) {
     Random random(index);

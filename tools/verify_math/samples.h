@@ -26,6 +26,7 @@ class Random {
 
 // One argument out of each of `count` equal strata of the 2^32 bit patterns
 float float_sample(std::uint64_t index, std::uint64_t count);
+float any_float_sample(std::uint64_t index);
 std::pair<float, float> atan2_sample(std::uint64_t index);
 std::pair<float, float> pow_sample(std::uint64_t index);
 
