@@ -7,7 +7,9 @@
 //     either(mask, f, g)          one of two calculations; only what is needed is evaluated
 //     piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where none does
 //     both(mask, f)               mask & f(), where f is evaluated only if needed
+//     any(mask)                   whether the mask holds anywhere
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
+//     replaced(mask, y, f, x...)  y, but f(x...) of single numbers where the mask holds, which is seldom
 //
 // The values chosen may also be structures that hold nothing but R.
 //
@@ -39,6 +41,10 @@ using IntegerOf = typename NumberTypes<R>::Integer;
 template <class R>
 using DoubleOf = typename NumberTypes<R>::Double;
 
+// Whether R is one number: searches, in which packs wait for their slowest, have a loop for either.
+template <class R>
+inline constexpr bool is_single = std::is_same_v<MaskOf<R>, bool>;
+
 template <class T>
 constexpr T select(bool mask, const T& a, const T& b) noexcept {
     return mask ? a : b;
@@ -61,6 +67,13 @@ constexpr auto piecewise(Mask mask, F f, Rest... rest) noexcept {
 template <class F>
 constexpr bool both(bool mask, F f) noexcept {
     return mask && f();
+}
+
+constexpr bool any(bool mask) noexcept { return mask; }
+
+template <class Y, class F, class... X>
+constexpr Y replaced(bool mask, Y y, F f, X... x) noexcept {
+    return mask ? f(x...) : y;
 }
 
 template <class T>

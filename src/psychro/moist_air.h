@@ -105,21 +105,35 @@ R specific_volume(R t, R g, R p) noexcept {
 template <class R>
 R saturation_temperature_from_enthalpy(R h, R p) noexcept {
     constexpr int most_steps = 4000;
-    if (h < -10.0f) return -13.4f;
-    if (h > 460.0f) return 60.0f;
+    const MaskOf<R> colder = h < -10.0f, hotter = h > 460.0f;
+    const R without_search = select(colder, R(-13.4f), R(60.0f));
+    MaskOf<R> searching = !(colder | hotter);
+    if (!any(searching)) return without_search;
     const MoistAir<R> air(p);
-    R t = -20.0f;
-    R step = 10.0f;
-    for (int i = 0; i < most_steps; ++i) {
-        if (specific_enthalpy(t, air.saturation_content(t)) > h) {
-            t = (t - step) + step / 10.0f;
-            step /= 10.0f;
-            if (step < 0.005f) return t;
-        } else {
-            t += step;
+    const auto beyond = [&](R t) { return specific_enthalpy(t, air.saturation_content(t)) > h; };
+    R t(-20.0f);
+    R step(10.0f);
+    if constexpr (is_single<R>) {
+        for (int i = 0; i < most_steps; ++i) {
+            if (beyond(t)) {
+                t = (t - step) + step / 10.0f;
+                step /= 10.0f;
+                if (step < 0.005f) return t;
+            } else {
+                t += step;
+            }
         }
+        return t;
+    } else {
+        const MaskOf<R> searched = searching;
+        for (int i = 0; i < most_steps && any(searching); ++i) {
+            const MaskOf<R> refines = searching & beyond(t);
+            t = select(refines, (t - step) + step / 10.0f, select(searching, t + step, t));
+            step = select(refines, step / 10.0f, step);
+            searching = searching & !(step < 0.005f);
+        }
+        return select(searched, t, without_search);
     }
-    return t;
 }
 
 }  // namespace quorvel::psychro

@@ -41,8 +41,9 @@ class MoistAirAt {
     R saturation_content() const noexcept { return content_at(saturation_pressure_); }
 
     R moisture_content(R twb) const noexcept {
-        if (twb >= t_) return saturation_content();
-        return content_at(saturation_pressure(twb) - slope_.at(twb) * (t_ - twb));
+        return either(
+            twb >= t_, [&] { return saturation_content(); },
+            [&] { return content_at(saturation_pressure(twb) - slope_.at(twb) * (t_ - twb)); });
     }
 
     // Of the comparison of moisture_content(twb) with a target. Moisture content rises with vapour
@@ -54,11 +55,11 @@ class MoistAirAt {
         const R pv = p * target / (enhancement_ * (molar_mass_ratio + target));
         WetBulbForecast<R> forecast(t_, saturation_pressure_, pv, slope_);
         const R saturated = saturation_content();
-        const bool holds = is_ordinary(t_) && p > 0.0f && p < 1e9f && saturated < 5.0f &&
-                           target >= 0.0f && target <= saturated;
-        if (holds) {
+        const MaskOf<R> holds = is_ordinary(t_) & (p > 0.0f) & (p < 1e9f) & (saturated < 5.0f) &
+                                (target >= 0.0f) & (target <= saturated);
+        if (any(holds)) {
             forecast.approach_root(3);
-            forecast.set_margin(1e-4f * forecast.saturation_near_root());
+            forecast.decide(1e-4f * forecast.saturation_near_root(), holds);
         }
         return forecast;
     }
@@ -71,31 +72,50 @@ class MoistAirAt {
     PsychrometerSlope<R> slope_;
 };
 
-// What a psychrometer reads at relative humidity rh, %, to 0.1 K.
+// Air whose wet bulb a psychrometer shows, at relative humidity rh, %.
 template <class R>
-R psychrometer_wet_bulb(R t, R rh, R p, IntegerOf<R> type) noexcept {
-    constexpr R tenth = 0.1f;  // tolerance in K, and step reduction
+class PsychrometerReading {
+  public:
+    static constexpr Real tenth = 0.1f;  // tolerance in K, and step reduction
 
     // The row is taken by the dry bulb here, by the wet bulb in the inverse: deliberate.
-    const R Ap = psychrometer_coefficient<R>(type, t < 0.0f) * p;
-    const R saturation = saturation_pressure(t);
-    const R pv = saturation * limited(rh, 0.0f, 100.0f) / 100.0f;
-    WetBulbForecast<R> forecast(t, saturation, pv, {Ap, Ap});
-    if (is_ordinary(t) && Ap >= 10.0f) {
+    PsychrometerReading(R t, R rh, R p, IntegerOf<R> type) noexcept
+        : PsychrometerReading(t, rh, psychrometer_coefficient<R>(type, t < 0.0f) * p,
+                              saturation_pressure(t)) {}
+
+    // The wet bulb that the psychrometer equation gives for the saturation pressure at tw.
+    R trial(R tw) const noexcept { return t - (saturation_pressure(tw) - pv_) / Ap_; }
+
+    R t;
+    WetBulbForecast<R> forecast;
+
+  private:
+    PsychrometerReading(R t, R rh, R Ap, R saturation) noexcept
+        : PsychrometerReading(t, Ap, saturation, saturation * limited(rh, 0.0f, 100.0f) / 100.0f,
+                              is_ordinary(t) & (Ap >= 10.0f)) {}
+    PsychrometerReading(R t, R Ap, R saturation, R pv, MaskOf<R> holds) noexcept
+        : t(t), forecast(t, saturation, pv, {Ap, Ap}), Ap_(Ap), pv_(pv) {
+        if (!any(holds)) return;
         forecast.approach_root(2);
         // No trial lies above t + 1 K, where ps is below 2 ps(t).
-        forecast.set_margin((tenth + 0.001f) * Ap + 1e-4f * saturation);
+        forecast.decide((tenth + 0.001f) * Ap + 1e-4f * saturation, holds);
     }
 
-    R tw = t;
-    R tn = t;
+    R Ap_, pv_;
+};
+
+template <class R>
+R searched_wet_bulb(const PsychrometerReading<R>& air) noexcept requires is_single<R> {
+    const auto& forecast = air.forecast;
+    R tw = air.t;
+    R tn = air.t;
     R step = 1.0f;
     for (int i = 0; i < widest_search; ++i) {
         bool sinks = forecast.above(tw);
         bool rises = forecast.below(tw);
         if (!sinks && !rises) {
-            tn = t - (saturation_pressure(tw) - pv) / Ap;
-            if (absolute(tw - tn) < tenth) break;
+            tn = air.trial(tw);
+            if (absolute(tw - tn) < air.tenth) break;
             sinks = tw > tn;
             rises = tw <= tn;
         }
@@ -103,12 +123,47 @@ R psychrometer_wet_bulb(R t, R rh, R p, IntegerOf<R> type) noexcept {
             tw -= step;
         } else if (rises) {
             tw += step;
-            step *= tenth;
+            step *= air.tenth;
         } else {
             break;  // not a number
         }
     }
-    return t < tn ? t : tn;
+    return tn;
+}
+
+// A pack goes all steps that its forecasts decide before it asks for a trial of those in doubt.
+template <class R>
+R searched_wet_bulb(const PsychrometerReading<R>& air) noexcept {
+    R tw = air.t;
+    R tn = air.t;
+    R step(1.0f);
+    IntegerOf<R> steps(0);
+    MaskOf<R> searching(true);
+    const auto move = [&](MaskOf<R> sinks, MaskOf<R> rises) {
+        tw = select(sinks, tw - step, select(rises, tw + step, tw));
+        step = select(rises, step * air.tenth, step);
+        steps = select(sinks | rises, steps + 1, steps);
+        searching = searching & (steps < widest_search);
+    };
+    while (any(searching)) {
+        const MaskOf<R> sinks = searching & air.forecast.above(tw);
+        const MaskOf<R> rises = searching & air.forecast.below(tw);
+        if (any(sinks | rises)) {
+            move(sinks, rises);
+            continue;
+        }
+        tn = select(searching, air.trial(tw), tn);
+        searching = searching & !(absolute(tw - tn) < air.tenth) & (tw == tw) & (tn == tn);
+        move(searching & (tw > tn), searching & (tw <= tn));
+    }
+    return tn;
+}
+
+// What a psychrometer reads at relative humidity rh, %, to 0.1 K.
+template <class R>
+R psychrometer_wet_bulb(R t, R rh, R p, IntegerOf<R> type) noexcept {
+    const R tn = searched_wet_bulb(PsychrometerReading<R>(t, rh, p, type));
+    return select(t < tn, t, tn);
 }
 
 // At percentage saturation with the enhancement factor, to 0.01 K, rounded up.
@@ -117,20 +172,44 @@ R wet_bulb_from_percentage_saturation(R t, R saturation, R p, IntegerOf<R> type)
     const MoistAirAt<R> air(t, p, type);
     const R saturated = air.saturation_content();
     const WetBulbForecast<R> forecast = air.forecast(saturation * saturated / 100.0f);
+    const auto trial = [&](R twb) { return 100.0f * air.moisture_content(twb) / saturated; };
 
     R twb = t;
-    R step = 1.0f;
-    for (int i = 0; i < widest_search; ++i) {
-        twb -= step;
-        if (forecast.above(twb)) continue;
-        if (!forecast.below(twb)) {
-            const R trial = 100.0f * air.moisture_content(twb) / saturated;
-            if (trial > saturation) continue;
-            if (trial == saturation) return twb;
+    R step(1.0f);
+    if constexpr (is_single<R>) {
+        for (int i = 0; i < widest_search; ++i) {
+            twb -= step;
+            if (forecast.above(twb)) continue;
+            if (!forecast.below(twb)) {
+                const R found = trial(twb);
+                if (found > saturation) continue;
+                if (found == saturation) return twb;
+            }
+            twb += step;
+            step /= 10.0f;
+            if (step < finest_step) return twb;
         }
-        twb += step;
-        step /= 10.0f;
-        if (step < finest_step) return twb;
+    } else {
+        IntegerOf<R> steps(0);
+        MaskOf<R> searching(true), trying(false);  // trying: where twb waits for a trial
+        while (any(searching)) {
+            const MaskOf<R> stepping = searching & !trying;
+            twb = select(stepping, twb - step, twb);
+            steps = select(stepping, steps + 1, steps);
+            const MaskOf<R> moister = stepping & forecast.above(twb);
+            MaskOf<R> drier = stepping & forecast.below(twb);
+            trying = trying | (stepping & !(moister | drier));
+            if (!any(stepping)) {
+                const R found = trial(twb);
+                searching = searching & !(found == saturation);
+                drier = searching & !(found > saturation);
+                trying = MaskOf<R>(false);
+            }
+            twb = select(drier, twb + step, twb);
+            step = select(drier, step / 10.0f, step);
+            searching =
+                searching & !(drier & (step < finest_step)) & (trying | (steps < widest_search));
+        }
     }
     return twb;
 }
@@ -139,22 +218,45 @@ R wet_bulb_from_percentage_saturation(R t, R saturation, R p, IntegerOf<R> type)
 template <class R>
 R wet_bulb_from_moisture_content(R t, R g, R p, IntegerOf<R> type) noexcept {
     const MoistAirAt<R> air(t, p, type);
-    if (g >= air.saturation_content()) return t;
-    if (t > 10000.0f) return -100.0f;
-    if (t != t) return -200.0f;
+    const MaskOf<R> saturated = g >= air.saturation_content();
+    const R without_search =
+        select(saturated, t, select(t > 10000.0f, R(-100.0f), R(-200.0f)));  // the last: no number
+    MaskOf<R> searching = !(saturated | !(t <= 10000.0f));
+    if (!any(searching)) return without_search;
     const WetBulbForecast<R> forecast = air.forecast(g);
 
-    R step = 5.0f;
+    R step(5.0f);
     R twb = t - step;
-    for (int i = 0; i < widest_search / 5; ++i) {
-        if (forecast.below(twb) || (!forecast.above(twb) && air.moisture_content(twb) < g)) {
-            twb += step;
-            step /= 10.0f;
+    if constexpr (is_single<R>) {
+        for (int i = 0; i < widest_search / 5; ++i) {
+            if (forecast.below(twb) || (!forecast.above(twb) && air.moisture_content(twb) < g)) {
+                twb += step;
+                step /= 10.0f;
+            }
+            twb -= step;
+            if (step < finest_step) return twb;
         }
-        twb -= step;
-        if (step < finest_step) return twb;
+        return twb;
+    } else {
+        const MaskOf<R> searched = searching;
+        IntegerOf<R> steps(0);
+        const auto move = [&](MaskOf<R> decided, MaskOf<R> drier) {
+            twb = select(drier, twb + step, twb);
+            step = select(drier, step / 10.0f, step);
+            twb = select(decided, twb - step, twb);
+            steps = select(decided, steps + 1, steps);
+            searching = searching & !(step < finest_step) & (steps < widest_search / 5);
+        };
+        while (any(searching)) {
+            const MaskOf<R> drier = searching & forecast.below(twb);
+            const MaskOf<R> decided = drier | (searching & forecast.above(twb));
+            if (any(decided))
+                move(decided, drier);
+            else
+                move(searching, searching & (air.moisture_content(twb) < g));
+        }
+        return select(searched, twb, without_search);
     }
-    return twb;
 }
 
 }  // namespace quorvel::psychro

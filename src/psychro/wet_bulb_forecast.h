@@ -4,8 +4,9 @@
 // bulb with that of the air, pv: it asks for the sign of
 //     excess(twb) = ps(twb) - Ap (t - twb) - pv.
 // ps rises with temperature. So one known ps(x0) in place of ps(twb) bounds the excess from below
-// for every twb above x0, from above for every twb below it. x0 is taken close to the root, so only
-// trials next to it remain in doubt.
+// for every twb above x0, from above for every twb below it. What is left is linear in twb to
+// either side of 0 °C, and steeper above: it comes to a margin at one temperature, and two
+// comparisons decide. x0 is taken close to the root, so only trials next to it remain in doubt.
 //
 // Rounding: the exponent of ps, some 34 before cancellation, is good to 7e-6, so ps to 2e-5 of
 // itself. Callers choose a margin of more than twice what this and their own comparison err by, and
@@ -44,22 +45,40 @@ class WetBulbForecast {
     }
 
     R saturation_near_root() const noexcept { return ps_; }
-    void set_margin(R margin) noexcept { margin_ = margin; }  // Pa
 
-    MaskOf<R> above(R twb) const noexcept {
-        return both(twb >= x0_, [&] { return excess(twb) > margin_; });
+    // Decides from now on, by a margin in Pa, where `holds`.
+    void decide(R margin, MaskOf<R> holds) noexcept {
+        const R gap = ps_ - pv_;
+        const R dry = bound(gap - margin, slope_.wet, 1.0f);
+        const R damp = bound(gap + margin, slope_.iced, -1.0f);
+        const R sinks = either(
+            dry >= 0.0f, [&] { return dry; },
+            [&] { return bound(gap - margin, slope_.iced, 1.0f); });
+        const R rises = either(
+            damp < 0.0f, [&] { return damp; },
+            [&] { return greater(bound(gap + margin, slope_.wet, -1.0f), R(0.0f)); });
+        above_ = select(holds, greater(sinks, x0_), above_);
+        below_ = select(holds, lesser(rises, x0_), below_);
     }
-    MaskOf<R> below(R twb) const noexcept {
-        return both(twb <= x0_, [&] { return excess(twb) < -margin_; });
-    }
+
+    // Whether the excess at a trial is certainly positive, certainly negative.
+    MaskOf<R> above(R twb) const noexcept { return twb > above_; }
+    MaskOf<R> below(R twb) const noexcept { return twb < below_; }
 
   private:
     R excess(R twb) const noexcept { return ps_ - slope_.at(twb) * (t_ - twb) - pv_; }
 
+    // Where slope (t - twb) comes to `gap`, with room for the rounding on the side of `towards`.
+    R bound(R gap, R slope, Real towards) const noexcept {
+        const R depression = gap / slope;
+        return (t_ - depression) + towards * (1e-3f + 1e-6f * absolute(depression));
+    }
+
     R t_, pv_;
     PsychrometerSlope<R> slope_;
     R x0_, ps_;  // °C, Pa
-    R margin_ = std::numeric_limits<Real>::infinity();
+    R above_ = std::numeric_limits<Real>::infinity();
+    R below_ = -std::numeric_limits<Real>::infinity();
 };
 
 }  // namespace quorvel::psychro
