@@ -3,12 +3,10 @@
 // Algorithm: atan of the smaller over the larger of |y| and |x|, as in atan, turned into its
 // octant; relative error in double below 2^-50. Where that leaves the rounding in doubt (one call
 // in 2^24), the same in 106 bits with the series of atan, of relative error below 2^-98.
-//
-// The second step is a branch, and with it a plain loop does not vectorise; see loop_pairs.h.
 #pragma once
 
+#include "math/careful_inverse_trig.h"
 #include "math/double_double.h"
-#include "math/loop_inverse_trig.h"
 #include "math/scalar.h"
 
 namespace quorvel::math {

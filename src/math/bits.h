@@ -2,7 +2,6 @@
 //
 // Everything under src/math/ computes in double with + - * / sqrt and integer operations only,
 // each correctly rounded by IEEE 754, so that the result depends on neither compiler nor machine.
-// It is written without branches wherever a plain loop should vectorise.
 #pragma once
 
 #include <bit>
@@ -17,7 +16,7 @@ static_assert(std::numeric_limits<double>::is_iec559 && std::numeric_limits<floa
 #error "src/math needs IEEE 754 arithmetic: compile without -ffast-math"
 #endif
 
-// A loop vectorises only if all that it calls is inlined, however long.
+// Formulas call these functions more than anything else.
 #define QUORVEL_INLINE [[gnu::always_inline]] inline
 
 namespace quorvel::math {

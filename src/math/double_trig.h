@@ -9,8 +9,8 @@
 // Constants: tools/math/coefficients.sollya.
 #pragma once
 
+#include "math/careful_trig.h"
 #include "math/double_double.h"
-#include "math/loop_trig.h"
 
 namespace quorvel::math {
 namespace detail {

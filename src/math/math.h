@@ -4,10 +4,7 @@
 // the double-precision ones deviate by less than one unit in the last place; all return the same
 // bits whatever compiler, optimisation or instruction set translates them. See docs/math.md.
 //
-// Each single-precision function exists twice, with the same results:
-//   math::f        for single values: tables and branches, which make it quick on its own
-//   math::loop::f  for a plain loop over an array: neither, so that the loop vectorises; atan2 and
-//                  pow take whole arrays
+// As many numbers as fill a register: pack/math.h.
 #pragma once
 
 #include "math/atan2.h"

@@ -2,13 +2,11 @@
 //
 // Algorithm: 2^(y log2 x) in double, log2 x by the table of log and a quintic, the power of two as
 // in exp; relative error below 2^-36. Where that leaves the rounding in doubt (one call in 2^11)
-// and outside the range of normal floats, e^(y log x) by the polynomials for loops, of relative
+// and outside the range of normal floats, e^(y log x) by the careful polynomials, of relative
 // error below 2^-45. Where that still does (one in 2^20), log x by its series in atanh and e^(y log
 // x) by Taylor's in 106 bits, of relative error below 2^-92. No power is expected nearer than 2^-86
 // to a midpoint of two floats without being one, so what is nearer than 2^-88 is taken for the
 // midpoint itself.
-//
-// The further steps are branches, and with them a plain loop does not vectorise; see loop_pairs.h.
 //
 // Coefficients: tools/math/coefficients.sollya.
 #pragma once

@@ -1,5 +1,5 @@
 // What the functions of single values share: a quick double, a test whether it determines the
-// rounding, and the form for loops for the few arguments where it does not.
+// rounding, and the careful form for the few arguments where it does not.
 #pragma once
 
 #include <algorithm>
@@ -38,16 +38,16 @@ template <auto f, typename... T>
     return f(x...);
 }
 
-// quick(x), of error kError as above, rounded; loop_form(x) where that is in doubt or x not
+// quick(x), of error kError as above, rounded; careful_form(x) where that is in doubt or x not
 // ordinary
-template <auto loop_form, std::uint32_t kError, typename Quick>
+template <auto careful_form, std::uint32_t kError, typename Quick>
 QUORVEL_INLINE float rounded(float x, bool ordinary, Quick quick) noexcept {
     if (ordinary) [[likely]] {
         const double value = quick(static_cast<double>(x));
         if (!near_midpoint<kError>(value)) [[likely]]
             return static_cast<float>(value);
     }
-    return outlined<loop_form>(x);
+    return outlined<careful_form>(x);
 }
 
 }  // namespace quorvel::math::detail

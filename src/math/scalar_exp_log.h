@@ -4,7 +4,7 @@
 // from it. log x = (n + log2 c) log 2 + log(1 + r), 1 + r = m/c, for x = 2^n m, 1 <= m < 2, by a
 // table of 128 steps and a quartic; log10 x from it. The first step has c = 1 and the last c = 2,
 // so that a logarithm near 0 keeps its accuracy: -1/256 <= r <= 1/128. Where the error of the
-// double leaves the rounding in doubt, and outside the range of normal floats, the forms for loops
+// double leaves the rounding in doubt, and outside the range of normal floats, the careful forms
 // decide.
 //
 // Relative error of the double: exp and exp10 2^-37, which leaves one argument in 4096 in doubt;
@@ -13,7 +13,7 @@
 // Coefficients: tools/math/coefficients.sollya.
 #pragma once
 
-#include "math/loop_exp_log.h"
+#include "math/careful_exp_log.h"
 #include "math/scalar.h"
 #include "math/tables.h"
 
@@ -62,27 +62,27 @@ QUORVEL_INLINE bool normal_and_positive(float x) noexcept {
 
 QUORVEL_INLINE float exp(float x) noexcept {
     using namespace detail;
-    return rounded<loop::exp, kExpError>(x, magnitude_within<0, kExpLimit>(x), [](double t) {
+    return rounded<careful::exp, kExpError>(x, magnitude_within<0, kExpLimit>(x), [](double t) {
         return table_exp2(t * 0x1.71547652b82fep0);
     });
 }
 
 QUORVEL_INLINE float exp10(float x) noexcept {
     using namespace detail;
-    return rounded<loop::exp10, kExpError>(x, magnitude_within<0, kExp10Limit>(x), [](double t) {
+    return rounded<careful::exp10, kExpError>(x, magnitude_within<0, kExp10Limit>(x), [](double t) {
         return table_exp2(t * 0x1.a934f0979a371p1);
     });
 }
 
 QUORVEL_INLINE float log(float x) noexcept {
     using namespace detail;
-    return rounded<loop::log, kLogError>(x, normal_and_positive(x),
-                                         [x](double) { return table_log(x); });
+    return rounded<careful::log, kLogError>(x, normal_and_positive(x),
+                                            [x](double) { return table_log(x); });
 }
 
 QUORVEL_INLINE float log10(float x) noexcept {
     using namespace detail;
-    return rounded<loop::log10, kLogError>(
+    return rounded<careful::log10, kLogError>(
         x, normal_and_positive(x), [x](double) { return table_log(x) * 0x1.bcb7b1526e50ep-2; });
 }
 

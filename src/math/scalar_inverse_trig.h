@@ -4,7 +4,7 @@
 // s sqrt(1 - x^2), |d| <= 1/8; acos x = pi/2 - asin x. With an angle a from a table near atan x,
 // atan x = a + atan t, t = (x cos a - sin a) / (cos a + x sin a), |t| <= 1/8. asin d and atan t by
 // polynomials of degree 7. Where the error of the double leaves the rounding in doubt, for -0,
-// subnormals and non-numbers the forms for loops decide.
+// subnormals and non-numbers the careful forms decide.
 //
 // Relative error of the double: asin and acos 2^-35.5, which leaves one argument in 1400 in doubt;
 // atan 2^-33.9, one in 500.
@@ -12,7 +12,7 @@
 // Coefficients: tools/math/coefficients.sollya.
 #pragma once
 
-#include "math/loop_inverse_trig.h"
+#include "math/careful_inverse_trig.h"
 #include "math/scalar.h"
 #include "math/tables.h"
 
@@ -49,16 +49,16 @@ QUORVEL_INLINE double table_atan(double x, std::uint32_t half_octave) noexcept {
 
 QUORVEL_INLINE float asin(float x) noexcept {
     using namespace detail;
-    return rounded<loop::asin, kArcSineError>(x, magnitude_within<kLeastNormal, kOne>(x),
-                                              [](double t) {
-                                                  const auto [angle, rest] = table_asin(t);
-                                                  return angle + rest;
-                                              });
+    return rounded<careful::asin, kArcSineError>(x, magnitude_within<kLeastNormal, kOne>(x),
+                                                 [](double t) {
+                                                     const auto [angle, rest] = table_asin(t);
+                                                     return angle + rest;
+                                                 });
 }
 
 QUORVEL_INLINE float acos(float x) noexcept {
     using namespace detail;
-    return rounded<loop::acos, kArcSineError>(x, magnitude_within<0, kOne>(x), [](double t) {
+    return rounded<careful::acos, kArcSineError>(x, magnitude_within<0, kOne>(x), [](double t) {
         const auto [angle, rest] = table_asin(t);
         return (kHalfPi - angle) - rest;
     });
@@ -66,7 +66,7 @@ QUORVEL_INLINE float acos(float x) noexcept {
 
 QUORVEL_INLINE float atan(float x) noexcept {
     using namespace detail;
-    return rounded<loop::atan, kArcTangentError>(
+    return rounded<careful::atan, kArcTangentError>(
         x, magnitude_within<kLeastNormal, kLargest>(x),
         [x](double t) { return table_atan(t, magnitude_bits(x) >> 22); });
 }

@@ -3,7 +3,7 @@
 // Algorithm: x = k step + r with 512 steps a turn, |r| <= step/2; sin x = sin(k step) cos r +
 // cos(k step) sin r with a table of sines, cos r = 1 - c r^2 and sin r = r - s r^3. tan x likewise
 // from tan r. Where the error of the double leaves the rounding in doubt, for zeros, subnormals and
-// from 2^14 on the forms for loops decide.
+// from 2^14 on the careful forms decide.
 //
 // Relative error of the double: sin and cos 2^-36, which leaves one angle in 2000 in doubt; tan
 // 2^-41.
@@ -11,7 +11,7 @@
 // Coefficients and constants: tools/math/coefficients.sollya.
 #pragma once
 
-#include "math/loop_trig.h"
+#include "math/careful_trig.h"
 #include "math/scalar.h"
 #include "math/tables.h"
 
@@ -63,14 +63,14 @@ constexpr std::uint32_t kBelow2To14 = 0x467fffff;
 
 QUORVEL_INLINE float sin(float x) noexcept {
     using namespace detail;
-    return rounded<loop::sin, kSineError>(x, magnitude_within<kLeastNormal, kBelow2To14>(x),
-                                          [](double t) { return table_sin(nearest_step(t)); });
+    return rounded<careful::sin, kSineError>(x, magnitude_within<kLeastNormal, kBelow2To14>(x),
+                                             [](double t) { return table_sin(nearest_step(t)); });
 }
 
 QUORVEL_INLINE float cos(float x) noexcept {
     using namespace detail;
-    return rounded<loop::cos, kSineError>(x, magnitude_within<0, kBelow2To14>(x),
-                                          [](double t) { return table_cos(nearest_step(t)); });
+    return rounded<careful::cos, kSineError>(x, magnitude_within<0, kBelow2To14>(x),
+                                             [](double t) { return table_cos(nearest_step(t)); });
 }
 
 QUORVEL_INLINE SinCos sincos(float x) noexcept {
@@ -81,13 +81,14 @@ QUORVEL_INLINE SinCos sincos(float x) noexcept {
         if (!near_midpoint<kSineError>(s) && !near_midpoint<kSineError>(c)) [[likely]]
             return {static_cast<float>(s), static_cast<float>(c)};
     }
-    return outlined<loop::sincos>(x);
+    return outlined<careful::sincos>(x);
 }
 
 QUORVEL_INLINE float tan(float x) noexcept {
     using namespace detail;
-    return rounded<loop::tan, kTangentError>(x, magnitude_within<kLeastNormal, kBelow2To14>(x),
-                                             [](double t) { return table_tan(nearest_step(t)); });
+    return rounded<careful::tan, kTangentError>(
+        x, magnitude_within<kLeastNormal, kBelow2To14>(x),
+        [](double t) { return table_tan(nearest_step(t)); });
 }
 
 }  // namespace quorvel::math

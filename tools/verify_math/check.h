@@ -20,11 +20,10 @@ Outcome check(const FloatPairFunction& function, std::uint64_t count);
 Outcome check(const DoubleFunction& function, std::uint64_t count);
 Outcome check(const DoublePairFunction& function, std::uint64_t count);
 
-// The packs of one level: `count` arguments in order, then mixed ones; pairs mixed or sorted by
-// kind
-Outcome check_packs(const FloatFunction& function, const pack_loops::Functions& level,
-                    std::uint64_t count);
-Outcome check_packs(const FloatPairFunction& function, const pack_loops::Functions& level,
-                    std::uint64_t count);
+// The packs of some levels: `count` arguments in order, then mixed ones; pairs mixed or sorted by
+// kind. Each level counts as an input.
+using Levels = std::span<const pack_loops::Level>;
+Outcome check_packs(const FloatFunction& function, Levels levels, std::uint64_t count);
+Outcome check_packs(const FloatPairFunction& function, Levels levels, std::uint64_t count);
 
 }  // namespace verify

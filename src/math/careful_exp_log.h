@@ -1,4 +1,4 @@
-// e^x, 10^x, natural and decimal logarithm in single precision, for loops.
+// e^x, 10^x, natural and decimal logarithm in single precision, where tables do not suffice.
 //
 // Algorithm: x = n log 2 + r (10^x: x = n log10 2 + r / log 10), |r| <= log(2)/2; the result is 2^n
 // times a polynomial of degree 11 in r. Arguments are clamped where the result has long overflowed
@@ -93,7 +93,7 @@ QUORVEL_INLINE double log_or_limit(double x, double value) noexcept {
 
 }  // namespace detail
 
-namespace loop {
+namespace detail::careful {
 
 QUORVEL_INLINE float exp(float x) noexcept {
     return static_cast<float>(detail::exp_in_double(detail::clamp(static_cast<double>(x), 128.0)));
@@ -126,5 +126,5 @@ QUORVEL_INLINE float log10(float x) noexcept {
     return static_cast<float>(detail::log_or_limit(t, value));
 }
 
-}  // namespace loop
+}  // namespace detail::careful
 }  // namespace quorvel::math

@@ -1,4 +1,4 @@
-// Inverse sine, cosine and tangent in single precision, for loops.
+// Inverse sine, cosine and tangent in single precision, where tables do not suffice.
 //
 // Algorithm: asin x by a polynomial for |x| <= 1/2, beyond as pi/2 - 2 asin sqrt((1 - |x|)/2), and
 // acos x = pi/2 - asin x likewise. atan x by a polynomial in t = x, (x - 1)/(x + 1) or -1/x,
@@ -43,7 +43,7 @@ QUORVEL_INLINE double atan_tail(double t) noexcept {
 
 }  // namespace detail
 
-namespace loop {
+namespace detail::careful {
 
 QUORVEL_INLINE float asin(float x) noexcept {
     const double t = static_cast<double>(x), a = detail::magnitude(t);
@@ -82,5 +82,5 @@ QUORVEL_INLINE float atan(float x) noexcept {
     return static_cast<float>(detail::flip_sign(value, detail::sign(t)));
 }
 
-}  // namespace loop
+}  // namespace detail::careful
 }  // namespace quorvel::math

@@ -1,4 +1,4 @@
-// Sine, cosine and tangent in single precision, for loops.
+// Sine, cosine and tangent in single precision, where tables do not suffice.
 //
 // Algorithm: sin x = +-sin r with x = n pi + r, |r| <= pi/2, and cos x = sin(x + pi/2) likewise, by
 // a polynomial of degree 19. sincos and tan reduce to |r| <= pi/4 and use one polynomial each for
@@ -88,7 +88,7 @@ QUORVEL_INLINE float rounded_cos(double x, double value) noexcept {
 
 }  // namespace detail
 
-namespace loop {
+namespace detail::careful {
 
 QUORVEL_INLINE float sin(float x) noexcept {
     const double t = static_cast<double>(x);
@@ -115,5 +115,5 @@ QUORVEL_INLINE float tan(float x) noexcept {
     return static_cast<float>((s.high + s.low) / (c.high + c.low));
 }
 
-}  // namespace loop
+}  // namespace detail::careful
 }  // namespace quorvel::math
