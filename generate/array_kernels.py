@@ -1,12 +1,13 @@
 """What the array library runs for each routine: the formula over whole arrays, or, for lists and records, the
 entry point element by element.
 
-Formulas that take packs are in FAMILY.cpp, which is compiled once for single numbers and once for each level of
-instructions; all others in FAMILY_alone.cpp. table.cpp lists what there is: all routines, or those with packs.
+Formulas that take packs are in pack_kernels/FAMILY.cpp, which is compiled once for single numbers and once for each
+level of instructions; all others in single_kernels/FAMILY.cpp. A table for each level lists what it is to be asked for.
 """
 
 from entry_points import VALUES, number_type
 
+LEVELS = ("v2", "v3", "v4")
 NUMBERS = {"Real": "Number", "Integer": "Integers"}
 KERNEL = "(std::size_t count, char* const* at, const std::ptrdiff_t* step) noexcept"
 
@@ -127,7 +128,9 @@ def with_packs(families):
     for family in families:
         routines = [routine for routine in family.routines if takes_packs(routine)]
         texts[f"{family.family}.cpp"] = _file(family, routines)
-    texts["table.cpp"] = _table([routine for family in families for routine in family.routines], takes_packs)
+    routines = [routine for family in families for routine in family.routines]
+    for level in LEVELS:
+        texts[f"table_{level}.cpp"] = _table(routines, lambda routine: takes_packs(routine) and level >= routine.packs_from)
     return texts
 
 

@@ -26,7 +26,7 @@ ARGUMENT = {
 }
 RESULT = {**DESCRIBED, "logical": checks.is_flag, "none": checks.is_flag}
 ROUTINE = {
-    **dict.fromkeys(("export", "name", "core", "summary", "formula", "source", "state", "entry", "alone"), checks.is_text),
+    **dict.fromkeys(("export", "name", "core", "summary", "formula", "source", "state", "entry", "alone", "packs_from"), checks.is_text),
     "args": checks.is_list_of(checks.is_table),
     "result": checks.is_table,
     "notes": checks.is_list_of(checks.is_text),
@@ -79,7 +79,8 @@ class Routine:
     state: str = ""
     core: str = ""  # the core function, where it has another name: another form of one routine
     entry: str = ""  # the file of src/entry/ where the entry point is written by hand
-    alone: str = ""  # why the formula takes single numbers only, no packs of them
+    alone: str = ""  # why arrays take the formula's numbers one by one, not in packs
+    packs_from: str = ""  # the lowest level of instructions at which packs are quicker than single numbers
 
 
 @dataclass(frozen=True)
