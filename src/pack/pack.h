@@ -64,6 +64,8 @@ QUORVEL_PACK Halves<V> blend(Halves<WideLanes> m, Halves<V> a, Halves<V> b) noex
     return {blend(m.low, a.low, b.low), blend(m.high, a.high, b.high)};
 }
 
+QUORVEL_PACK bool any(WideLanes a) noexcept { return any(Halves<WideLanes>{a, a}); }
+
 // Truth by number. The two kinds of masks convert into one another.
 template <class L>
 struct Truth {
@@ -86,10 +88,12 @@ struct Truth {
     QUORVEL_PACK friend bool all(Truth a) noexcept { return !any(!a); }
 
   private:
-    static constexpr bool wide = !std::same_as<L, Lanes>;
+    static constexpr bool wide = std::same_as<L, Halves<WideLanes>>;
     QUORVEL_PACK static L of(bool b) noexcept {
         if constexpr (wide)
             return {all_wide_lanes(b), all_wide_lanes(b)};
+        else if constexpr (std::same_as<L, WideLanes>)
+            return all_wide_lanes(b);
         else
             return all_lanes(b);
     }
