@@ -33,9 +33,9 @@ template <class D>
 QUORVEL_INLINE StepAngle<D> step_angle(D x) noexcept {
     const D shifted = x * 0x1.45f306dc9c883p6 + kToInteger;
     const D n = shifted - kToInteger;
-    const D head = x - n * 0x1.921fb5448p-7, middle = n * -0x1.e973dcb38p-42;
+    const D head = x - n * 0x1.921fb544p-7, middle = n * 0x1.0b4611a6p-41;
     const D r = head - middle;
-    return {r, ((head - r) - middle) + n * 0x1.9cceba3f91f19p-77, bits(shifted)};
+    return {r, ((head - r) - middle) - n * 0x1.3198a2e037073p-76, bits(shifted)};
 }
 
 // The bits of 2/pi after the binary point, behind 64 zeros
