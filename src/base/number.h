@@ -7,6 +7,7 @@
 //     either(mask, f, g)          one of two calculations; only what is needed is evaluated
 //     piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where none does
 //     both(mask, f)               mask & f(), where f is evaluated only if needed
+//     replaced(mask, y, f, x...)  y, or f(x...) of single numbers, which is seldom needed
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
 //
 // The values chosen may also be structures that hold nothing but R.
@@ -61,6 +62,11 @@ constexpr auto piecewise(Mask mask, F f, Rest... rest) noexcept {
 template <class F>
 constexpr bool both(bool mask, F f) noexcept {
     return mask && f();
+}
+
+template <class Y, class F, class... N>
+constexpr Y replaced(bool mask, Y y, F f, N... x) noexcept {
+    return mask ? f(x...) : y;
 }
 
 template <class T>

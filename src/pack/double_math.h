@@ -8,24 +8,18 @@
 namespace quorvel::math {
 namespace detail {
 
-// `quick`, which is that of ordinary angles, or scalar(x) of others
-template <class F>
-QUORVEL_PACK pack::DoubleReals of_any_angle(pack::DoubleReals quick, F scalar,
-                                            pack::DoubleReals x) noexcept {
-    const pack::WideMask extraordinary = !(absolute(x) < kLeastLargeAngle);
-    if (any(extraordinary)) [[unlikely]]
-        return replaced(extraordinary, quick, scalar, x);
-    return quick;
+QUORVEL_PACK pack::WideMask large_angle(pack::DoubleReals x) noexcept {
+    return !(absolute(x) < kLeastLargeAngle);
 }
 
 // A function of one register, and of the two of a pack
-#define QUORVEL_BY_REGISTER(name, expression)                               \
-    QUORVEL_PACK_CALL pack::Doubles name(pack::Doubles lanes) noexcept {    \
-        const pack::HalfReals x(lanes);                                     \
-        return (expression).v;                                              \
-    }                                                                       \
-    QUORVEL_PACK pack::DoubleReals name(pack::DoubleReals x) noexcept {     \
-        return pack::DoubleReals({name(x.v.low), name(x.v.high)});          \
+#define QUORVEL_BY_REGISTER(name, expression)                            \
+    QUORVEL_PACK_CALL pack::Doubles name(pack::Doubles lanes) noexcept { \
+        const pack::HalfReals x(lanes);                                  \
+        return (expression).v;                                           \
+    }                                                                    \
+    QUORVEL_PACK pack::DoubleReals name(pack::DoubleReals x) noexcept {  \
+        return pack::DoubleReals({name(x.v.low), name(x.v.high)});       \
     }
 QUORVEL_BY_REGISTER(half_sine, sine(step_angle(x)))
 QUORVEL_BY_REGISTER(half_cosine, cosine(step_angle(x)))
@@ -46,20 +40,28 @@ QUORVEL_PACK_CALL pack::Doubles half_sincos(pack::Doubles x, pack::Doubles& cosi
 }  // namespace detail
 
 QUORVEL_PACK pack::DoubleReals sin(pack::DoubleReals x) noexcept {
-    return detail::of_any_angle(detail::half_sine(x), [](DoubleReal a) { return math::sin(a); }, x);
+    return replaced(
+        detail::large_angle(x), detail::half_sine(x), [](DoubleReal a) { return math::sin(a); }, x);
 }
 QUORVEL_PACK pack::DoubleReals cos(pack::DoubleReals x) noexcept {
-    return detail::of_any_angle(detail::half_cosine(x), [](DoubleReal a) { return math::cos(a); }, x);
+    return replaced(
+        detail::large_angle(x), detail::half_cosine(x), [](DoubleReal a) { return math::cos(a); },
+        x);
 }
 QUORVEL_PACK SinCosOf<pack::DoubleReals> sincos(pack::DoubleReals x) noexcept {
     pack::Halves<pack::Doubles> s, c;
     s.low = detail::half_sincos(x.v.low, c.low);
     s.high = detail::half_sincos(x.v.high, c.high);
-    return {detail::of_any_angle(pack::DoubleReals(s), [](DoubleReal a) { return math::sin(a); }, x),
-            detail::of_any_angle(pack::DoubleReals(c), [](DoubleReal a) { return math::cos(a); }, x)};
+    const pack::WideMask large = detail::large_angle(x);
+    return {replaced(
+                large, pack::DoubleReals(s), [](DoubleReal a) { return math::sin(a); }, x),
+            replaced(
+                large, pack::DoubleReals(c), [](DoubleReal a) { return math::cos(a); }, x)};
 }
 QUORVEL_PACK pack::DoubleReals tan(pack::DoubleReals x) noexcept {
-    return detail::of_any_angle(detail::half_tangent(x), [](DoubleReal a) { return math::tan(a); }, x);
+    return replaced(
+        detail::large_angle(x), detail::half_tangent(x), [](DoubleReal a) { return math::tan(a); },
+        x);
 }
 QUORVEL_PACK pack::DoubleReals asin(pack::DoubleReals x) noexcept { return detail::half_asin(x); }
 QUORVEL_PACK pack::DoubleReals acos(pack::DoubleReals x) noexcept { return detail::half_acos(x); }

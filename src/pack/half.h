@@ -12,15 +12,9 @@ using HalfMask = Truth<WideLanes>;
 using HalfReals = Number<Doubles, DoubleReal, HalfMask>;
 using HalfWords = Number<Longs, std::uint64_t, HalfMask>;
 
-QUORVEL_PACK HalfWords operator&(HalfWords a, HalfWords b) noexcept {
-    return HalfWords(a.v & b.v);
-}
-QUORVEL_PACK HalfWords operator|(HalfWords a, HalfWords b) noexcept {
-    return HalfWords(a.v | b.v);
-}
-QUORVEL_PACK HalfWords operator^(HalfWords a, HalfWords b) noexcept {
-    return HalfWords(a.v ^ b.v);
-}
+QUORVEL_PACK HalfWords operator&(HalfWords a, HalfWords b) noexcept { return HalfWords(a.v & b.v); }
+QUORVEL_PACK HalfWords operator|(HalfWords a, HalfWords b) noexcept { return HalfWords(a.v | b.v); }
+QUORVEL_PACK HalfWords operator^(HalfWords a, HalfWords b) noexcept { return HalfWords(a.v ^ b.v); }
 QUORVEL_PACK HalfWords operator<<(HalfWords a, int n) noexcept { return HalfWords(a.v << n); }
 QUORVEL_PACK HalfWords operator>>(HalfWords a, int n) noexcept { return HalfWords(a.v >> n); }
 

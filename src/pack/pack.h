@@ -207,6 +207,9 @@ QUORVEL_PACK Integers lookup(const Integer* table, Integers index) noexcept {
 QUORVEL_PACK DoubleReals lookup(const DoubleReal* table, Words index) noexcept {
     return DoubleReals({gathered(table, index.v.low), gathered(table, index.v.high)});
 }
+QUORVEL_PACK DoubleReals lookup(const DoubleReal* table, Integers index) noexcept {
+    return lookup(table, bits(to_double(index) + 0x1p52) & Words(0xffffffff));
+}
 
 // Register by register: GCC copies anything longer in pieces, which stalls whoever reads it whole.
 template <class N>
@@ -240,15 +243,20 @@ std::array<typename N::Scalar, width> numbers(N x) noexcept {
     return each;
 }
 
-// y, but f(x...) of single numbers where m is true, which is seldom
 template <class L, class Y, class F, class... N>
-[[gnu::cold, gnu::noinline]] Y replaced(Truth<L> m, Y y, F f, N... x) noexcept {
+[[gnu::cold, gnu::noinline]] Y replaced_one_by_one(Truth<L> m, Y y, F f, N... x) noexcept {
     auto results = numbers(y);
     [&, lanes = Mask(m).lanes](const auto&... arguments) {
         for (std::size_t i = 0; i < width; ++i)
             if (lane(lanes, i)) results[i] = f(arguments[i]...);
     }(numbers(x)...);
     return load<Y>(results.data());
+}
+template <class L, class Y, class F, class... N>
+QUORVEL_PACK Y replaced(Truth<L> m, Y y, F f, N... x) noexcept {
+    if (any(m)) [[unlikely]]
+        return replaced_one_by_one(m, y, f, x...);
+    return y;
 }
 
 QUORVEL_PACK Reals modulo(Reals x, Reals y) noexcept {
