@@ -20,13 +20,17 @@ def nearest(x):
     return float(mpf(x)).hex().replace("0x1.0000000000000p", "0x1p").replace("0x0.0p+0", "0")
 
 
+def low_part(x):
+    return nearest(mpf(x) - mpf(float(mpf(x))))
+
+
 def in_rows(texts, per_row):
     rows = [texts[i:i + per_row] for i in range(0, len(texts), per_row)]
     return "\n".join("    " + ", ".join(row) + "," for row in rows)
 
 
 def sines():
-    return [nearest(0 if 2 * k % SINE_STEPS == 0 else sin(2 * pi * k / SINE_STEPS)) for k in range(SINE_STEPS * 5 // 4)]
+    return [mpf(0) if 2 * k % SINE_STEPS == 0 else sin(2 * pi * k / SINE_STEPS) for k in range(SINE_STEPS * 5 // 4)]
 
 
 def log_step(i):
@@ -77,9 +81,19 @@ def arc_tangents():
     return rows
 
 
+def double_arc_tangents():
+    """Tangents, and their angles in 106 bits: 0, four steps an octave from 1/8 to 8, and beyond"""
+    tangents = [mpf(0)]
+    for k in range(24):
+        tangents.append((1 + (mpf(k % 4) + 0.5) / 4) * power(2, k // 4 - 3))
+    tangents.append(mpf(16))
+    columns = [[nearest(t) for t in tangents], [nearest(atan(t)) for t in tangents], [low_part(atan(t)) for t in tangents]]
+    return "\n}, {\n".join(in_rows(column, 4) for column in columns)
+
+
 def render():
     log_steps = [log_step(i) for i in range(LOG_STEPS)]
-    return f"""// Tables of the single-precision functions, written by generate/elementary_tables.py.
+    return f"""// Tables of the elementary functions, written by generate/elementary_tables.py.
 #pragma once
 
 #include <cstdint>
@@ -88,9 +102,15 @@ def render():
 
 namespace quorvel::math::detail {{
 
-// sin(2 pi k / {SINE_STEPS}) over five quarters of a turn: the cosine of a step lies a quarter further on
+// sin(2 pi k / {SINE_STEPS}) over five quarters of a turn: the cosine of a step lies a quarter further on. That of
+// 0 is -0, so that its sum with -0 is.
 inline constexpr double kSines[{SINE_STEPS * 5 // 4}] = {{
-{in_rows(sines(), 4)}
+{in_rows(["-0.0" if x == 0 else nearest(x) for x in sines()], 4)}
+}};
+
+// What the sines exceed these doubles by
+inline constexpr double kSinesLow[{SINE_STEPS * 5 // 4}] = {{
+{in_rows([low_part(x) for x in sines()], 4)}
 }};
 
 // For each of {LOG_STEPS} steps of an octave 1/c, of 28 bits so that its product with a float is exact, and
@@ -124,6 +144,15 @@ struct ArcTangentStep {{
 inline constexpr ArcTangentStep kArcTangentSteps[14] = {{
 {in_rows(arc_tangents(), 1)}
 }};
+
+// Tangents with few bits, and their angles in two parts: 0, one for each of four steps an octave from 1/8 to 8, and one
+// for all beyond
+struct TangentSteps {{
+    double tangent[26], angle[26], angle_low[26];
+}};
+inline constexpr TangentSteps kTangentSteps = {{{{
+{double_arc_tangents()}
+}}}};
 
 // clang-format on
 

@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "base/number.h"
+
 static_assert(FLT_EVAL_METHOD == 0, "float and double must be evaluated in their own precision");
 static_assert(std::numeric_limits<double>::is_iec559 && std::numeric_limits<float>::is_iec559);
 #ifdef __FAST_MATH__
@@ -42,14 +44,24 @@ QUORVEL_INLINE double flip_sign(double x, std::uint64_t sign_bit) noexcept {
     return from_bits(bits(x) ^ sign_bit);
 }
 
+// Functions written for a type D, which is double or a pack of them, need these by the names that
+// packs have for them.
+QUORVEL_INLINE double square_root(double x) noexcept { return sqrt(x); }
+QUORVEL_INLINE double lookup(const double* table, std::uint64_t index) noexcept {
+    return table[index];
+}
+
 // The exact value of a double sum or product of two terms is a Pair: high is the rounded value.
-struct Pair {
-    double high, low;
+template <class D>
+struct PairOf {
+    D high, low;
 };
+using Pair = PairOf<double>;
 
 // |a| >= |b|, or a = 0
-QUORVEL_INLINE Pair fast_two_sum(double a, double b) noexcept {
-    const double s = a + b;
+template <class D>
+QUORVEL_INLINE PairOf<D> fast_two_sum(D a, D b) noexcept {
+    const D s = a + b;
     return {s, (a - s) + b};
 }
 

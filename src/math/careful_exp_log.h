@@ -21,18 +21,20 @@ namespace detail {
 // Added to n it leaves n + 1023, the exponent field of 2^n, in the lowest bits.
 constexpr double kToExponent = kToInteger + 1023.0;
 
-QUORVEL_INLINE double power_of_two(double shifted_exponent) noexcept {
+template <class D>
+QUORVEL_INLINE D power_of_two(D shifted_exponent) noexcept {
     return from_bits(bits(shifted_exponent) << 52);
 }
 
 // e^r - 1 - r, |r| <= 0.347
-QUORVEL_INLINE double exp_tail(double r) noexcept {
-    const double r2 = r * r, r4 = r2 * r2;
-    const double p0 = (0x1.000000000000ap-1 + 0x1.55555555554fcp-3 * r) +
-                      r2 * (0x1.5555555550689p-5 + 0x1.111111112725dp-7 * r);
-    const double p4 = (0x1.6c16c18488a72p-10 + 0x1.a01a012dcb967p-13 * r) +
-                      r2 * (0x1.a01999231b6f2p-16 + 0x1.71df1d1476a07p-19 * r);
-    const double p8 = 0x1.28ae3c99e5f09p-22 + 0x1.ad8d55a45b3dcp-26 * r;
+template <class D>
+QUORVEL_INLINE D exp_tail(D r) noexcept {
+    const D r2 = r * r, r4 = r2 * r2;
+    const D p0 = (0x1.000000000000ap-1 + 0x1.55555555554fcp-3 * r) +
+                 r2 * (0x1.5555555550689p-5 + 0x1.111111112725dp-7 * r);
+    const D p4 = (0x1.6c16c18488a72p-10 + 0x1.a01a012dcb967p-13 * r) +
+                 r2 * (0x1.a01999231b6f2p-16 + 0x1.71df1d1476a07p-19 * r);
+    const D p8 = 0x1.28ae3c99e5f09p-22 + 0x1.ad8d55a45b3dcp-26 * r;
     return r2 * (p0 + r4 * (p4 + r4 * p8));
 }
 
@@ -46,49 +48,53 @@ QUORVEL_INLINE double exp_in_double(double x) noexcept {
     return exp_kernel(r) * power_of_two(shifted);
 }
 
-QUORVEL_INLINE double clamp(double x, double limit) noexcept {
-    const double above = x < -limit ? -limit : x;
-    return above > limit ? limit : above;
+template <class D>
+QUORVEL_INLINE D clamp(D x, double limit) noexcept {
+    const D above = select(x < -limit, D(-limit), x);
+    return select(above > limit, D(limit), above);
 }
 
 // x = 2^exponent * mantissa, 1/sqrt 2 <= mantissa < sqrt 2, for a positive normal x
+template <class D>
 struct Scaled {
-    double exponent, mantissa;
+    D exponent, mantissa;
 };
 
-QUORVEL_INLINE Scaled split_exponent(double x) noexcept {
+template <class D>
+QUORVEL_INLINE Scaled<D> split_exponent(D x) noexcept {
     constexpr std::uint64_t kRootHalf = 0x3fe6a09e667f3bcd, kOne = 0x3ff0000000000000,
                             kFraction = 0x000fffffffffffff, kTwo52 = 0x4330000000000000;
-    const std::uint64_t b = bits(x) + (kOne - kRootHalf);
+    const auto b = bits(x) + (kOne - kRootHalf);
     return {from_bits((b >> 52) | kTwo52) - (0x1p52 + 1023.0),
             from_bits((b & kFraction) + kRootHalf)};
 }
 
 // log(1 + f) for the mantissa of a float: f and f^2 are exact.
-QUORVEL_INLINE Pair log_kernel(double f) noexcept {
-    const double s = f / (2.0 + f), half_square = 0.5 * f * f;
-    const double z = s * s, z2 = z * z;
-    const double p =
+template <class D>
+QUORVEL_INLINE PairOf<D> log_kernel(D f) noexcept {
+    const D s = f / (2.0 + f), half_square = 0.5 * f * f;
+    const D z = s * s, z2 = z * z;
+    const D p =
         (0x1.5555555555593p-1 + 0x1.999999997f9dep-2 * z) +
         z2 * ((0x1.249249422d42ep-2 + 0x1.c71c51d420fep-3 * z) +
               z2 * ((0x1.74664ab095832p-3 + 0x1.39a07573de8e8p-3 * z) + z2 * 0x1.2f12fe9e025dcp-3));
-    const Pair head = fast_two_sum(f, -half_square);
+    const PairOf<D> head = fast_two_sum(f, D(-half_square));
     return {head.high, head.low + s * (half_square + z * p)};
 }
 
 // n log 2 + log mantissa, with the error of the sum
-QUORVEL_INLINE Pair log_sum(double n, double mantissa) noexcept {
-    const Pair log_mantissa = log_kernel(mantissa - 1.0);
-    const Pair head = fast_two_sum(n * 0x1.62e42fefa4p-1, log_mantissa.high);
-    return fast_two_sum(head.high, head.low + (log_mantissa.low - n * 0x1.8432a1b0e2634p-43));
+template <class D>
+QUORVEL_INLINE PairOf<D> log_sum(D n, D mantissa) noexcept {
+    const PairOf<D> log_mantissa = log_kernel(D(mantissa - 1.0));
+    const PairOf<D> head = fast_two_sum(D(n * 0x1.62e42fefa4p-1), log_mantissa.high);
+    return fast_two_sum(head.high, D(head.low + (log_mantissa.low - n * 0x1.8432a1b0e2634p-43)));
 }
 
 // `value` where 0 < x < infinity, else the logarithm's limit or NaN
-QUORVEL_INLINE double log_or_limit(double x, double value) noexcept {
-    const double limit = x > 0.0    ? kInfinity
-                         : x == 0.0 ? -kInfinity
-                                    : std::numeric_limits<double>::quiet_NaN();
-    return x > 0.0 && x < kInfinity ? value : limit;
+template <class D>
+QUORVEL_INLINE D log_or_limit(D x, D value) noexcept {
+    const D below = select(x == 0.0, D(-kInfinity), D(std::numeric_limits<double>::quiet_NaN()));
+    return select(x > 0.0, select(x < kInfinity, value, D(kInfinity)), below);
 }
 
 }  // namespace detail

@@ -18,14 +18,15 @@ namespace detail {
 constexpr double kHalfPi = 0x1.921fb54442d18p0, kHalfPiTail = 0x1.1a62633145c07p-54;
 
 // asin s - s from s and z = s^2, |s| <= 1/2
-QUORVEL_INLINE double asin_tail(double s, double z) noexcept {
-    const double z2 = z * z, z4 = z2 * z2;
-    const double p0 = (0x1.5555555555577p-3 + 0x1.333333332e133p-4 * z) +
-                      z2 * (0x1.6db6db721247bp-5 + 0x1.f1c71a95002f6p-6 * z);
-    const double p4 = (0x1.6e8bdedebfb72p-6 + 0x1.1c49f077d2818p-6 * z) +
-                      z2 * (0x1.ca1f8af264013p-7 + 0x1.75859da822552p-7 * z);
-    const double p8 = (0x1.613c1e9096db8p-7 + 0x1.e5fbe63872ca6p-9 * z) +
-                      z2 * (0x1.639a8a1bbdd02p-6 - 0x1.57fad21f83513p-6 * z);
+template <class D>
+QUORVEL_INLINE D asin_tail(D s, D z) noexcept {
+    const D z2 = z * z, z4 = z2 * z2;
+    const D p0 = (0x1.5555555555577p-3 + 0x1.333333332e133p-4 * z) +
+                 z2 * (0x1.6db6db721247bp-5 + 0x1.f1c71a95002f6p-6 * z);
+    const D p4 = (0x1.6e8bdedebfb72p-6 + 0x1.1c49f077d2818p-6 * z) +
+                 z2 * (0x1.ca1f8af264013p-7 + 0x1.75859da822552p-7 * z);
+    const D p8 = (0x1.613c1e9096db8p-7 + 0x1.e5fbe63872ca6p-9 * z) +
+                 z2 * (0x1.639a8a1bbdd02p-6 - 0x1.57fad21f83513p-6 * z);
     return s * z * (p0 + z4 * (p4 + z4 * (p8 + z4 * 0x1.0b45ea63b1699p-5)));
 }
 

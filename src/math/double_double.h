@@ -12,11 +12,12 @@ inline Pair two_sum(double a, double b) noexcept {
 }
 
 // |a| and |b| below 2^990, and the product's last bit above the subnormals
-inline Pair two_product(double a, double b) noexcept {
+template <class D>
+inline PairOf<D> two_product(D a, D b) noexcept {
     constexpr double kSplitter = 0x1p27 + 1.0;
-    const double ta = kSplitter * a, tb = kSplitter * b;
-    const double ah = ta - (ta - a), bh = tb - (tb - b);
-    const double al = a - ah, bl = b - bh, p = a * b;
+    const D ta = kSplitter * a, tb = kSplitter * b;
+    const D ah = ta - (ta - a), bh = tb - (tb - b);
+    const D al = a - ah, bl = b - bh, p = a * b;
     return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
 }
 

@@ -14,23 +14,31 @@ namespace quorvel::math {
 namespace detail {
 
 // e^(x.high + x.low)
-inline double exp_of(Pair x) noexcept {
-    const double t = clamp(x.high, 1000.0);
-    const double n = (t * 0x1.71547652b82fep0 + kToInteger) - kToInteger;
-    const double head = t - n * 0x1.62e42fefa4p-1;
-    const double tail = n * 0x1.8432a1b0e2634p-43 + (t == x.high ? x.low : 0.0);
-    const Pair r = fast_two_sum(head, tail);
-    const Pair sum = fast_two_sum(1.0, r.high);
-    const double p = sum.high + (sum.low + (r.low + exp_tail(r.high)));
+template <class D>
+QUORVEL_INLINE D exp_of(PairOf<D> x) noexcept {
+    const D t = clamp(x.high, 1000.0);
+    const D n = (t * 0x1.71547652b82fep0 + kToInteger) - kToInteger;
+    const D head = t - n * 0x1.62e42fefa4p-1;
+    const D tail = n * 0x1.8432a1b0e2634p-43 + select(t == x.high, x.low, D(0.0));
+    const PairOf<D> r = fast_two_sum(head, tail);
+    const PairOf<D> sum = fast_two_sum(D(1.0), r.high);
+    const D p = sum.high + (sum.low + (r.low + exp_tail(r.high)));
     // in two steps, since 2^n may not be a double where the result still is one
-    const double first = (0.5 * n + kToExponent) - kToExponent;
-    return p * power_of_two(first + kToExponent) * power_of_two((n - first) + kToExponent);
+    const D first = (0.5 * n + kToExponent) - kToExponent;
+    return p * power_of_two(D(first + kToExponent)) * power_of_two(D((n - first) + kToExponent));
 }
 
-inline Scaled split_exponent_or_subnormal(double x) noexcept {
-    const bool subnormal = x < 0x1p-1022;
-    const auto [n, mantissa] = split_exponent(subnormal ? x * 0x1p54 : x);
-    return {subnormal ? n - 54.0 : n, mantissa};
+template <class D>
+QUORVEL_INLINE Scaled<D> split_exponent_or_subnormal(D x) noexcept {
+    const auto subnormal = x < 0x1p-1022;
+    const auto [n, mantissa] = split_exponent(select(subnormal, D(x * 0x1p54), x));
+    return {select(subnormal, D(n - 54.0), n), mantissa};
+}
+
+template <class D>
+QUORVEL_INLINE D log_of(D x) noexcept {
+    const auto [n, mantissa] = split_exponent_or_subnormal(x);
+    return log_or_limit(x, log_sum(n, mantissa).high);
 }
 
 // log x for finite x > 0 to 2^-65: 2 s + s^3 (2/3 + s^2 P(s^2)), s = (m - 1)/(m + 1)
@@ -52,12 +60,9 @@ inline Pair log_for_pow(double x) noexcept {
 
 }  // namespace detail
 
-inline double exp(double x) noexcept { return detail::exp_of({x, 0.0}); }
+inline double exp(double x) noexcept { return detail::exp_of<double>({x, 0.0}); }
 
-inline double log(double x) noexcept {
-    const auto [n, mantissa] = detail::split_exponent_or_subnormal(x);
-    return detail::log_or_limit(x, detail::log_sum(n, mantissa).high);
-}
+inline double log(double x) noexcept { return detail::log_of(x); }
 
 inline double pow(double x, double y) noexcept {
     if (!(x > 0.0 && x < detail::kInfinity && y - y == 0.0)) return detail::pow_of_special(x, y);

@@ -6,41 +6,62 @@
 // Error in ulp: 0.7.
 #pragma once
 
+#include "base/number.h"
 #include "math/atan2.h"
+#include "math/tables.h"
 
 namespace quorvel::math {
 namespace detail {
 
 // asin sqrt((1 - a)/2), 1/2 < a
-inline Pair asin_of_half_complement(double a) noexcept {
-    const double z = 0.5 - 0.5 * a, s = sqrt(z);
-    const Pair square = two_product(s, s);
-    const double s_error = s > 0.0 ? ((z - square.high) - square.low) / (2.0 * s) : 0.0;
+template <class D>
+QUORVEL_INLINE PairOf<D> asin_of_half_complement(D a) noexcept {
+    const D z = 0.5 - 0.5 * a, s = square_root(z);
+    const PairOf<D> square = two_product(s, s);
+    const D s_error = select(s > 0.0, D(((z - square.high) - square.low) / (2.0 * s)), D(0.0));
     return {s, s_error + asin_tail(s, z)};
+}
+
+// quarters pi/2 - 2 half
+template <class D>
+QUORVEL_INLINE D quarters_less_double(double quarters, PairOf<D> half) noexcept {
+    const PairOf<D> head = fast_two_sum(D(quarters * kHalfPi), D(-2.0 * half.high));
+    return head.high + (head.low + (quarters * kHalfPiTail - 2.0 * half.low));
+}
+
+template <class D>
+QUORVEL_INLINE D asin_of(D x) noexcept {
+    const D a = absolute(x);
+    return either(
+        a <= 0.5, [&] { return D(x + asin_tail(x, D(x * x))); },
+        [&] {
+            const D angle = quarters_less_double(1.0, asin_of_half_complement(a));
+            return from_bits(bits(angle) ^ (bits(x) & kSignBit));
+        });
+}
+
+template <class D>
+QUORVEL_INLINE D acos_of(D x) noexcept {
+    const D a = absolute(x);
+    return either(
+        a <= 0.5,
+        [&] {
+            const PairOf<D> head = fast_two_sum(D(kHalfPi), D(-x));
+            return D(head.high + (head.low + (kHalfPiTail - asin_tail(x, D(x * x)))));
+        },
+        [&] {
+            const PairOf<D> half = asin_of_half_complement(a);
+            return either(
+                x < 0.0, [&] { return quarters_less_double(2.0, half); },
+                [&] { return D(2.0 * (half.high + half.low)); });
+        });
 }
 
 }  // namespace detail
 
-inline double asin(double x) noexcept {
-    const double a = detail::magnitude(x);
-    if (a <= 0.5) return x + detail::asin_tail(x, x * x);
-    const auto [s, tail] = detail::asin_of_half_complement(a);
-    const detail::Pair head = detail::fast_two_sum(detail::kHalfPi, -2.0 * s);
-    return detail::flip_sign(head.high + (head.low + (detail::kHalfPiTail - 2.0 * tail)),
-                             detail::sign(x));
-}
+inline double asin(double x) noexcept { return detail::asin_of(x); }
 
-inline double acos(double x) noexcept {
-    const double a = detail::magnitude(x);
-    if (a <= 0.5) {
-        const detail::Pair head = detail::fast_two_sum(detail::kHalfPi, -x);
-        return head.high + (head.low + (detail::kHalfPiTail - detail::asin_tail(x, x * x)));
-    }
-    const auto [s, tail] = detail::asin_of_half_complement(a);
-    if (detail::sign(x) == 0) return 2.0 * (s + tail);
-    const detail::Pair head = detail::fast_two_sum(2.0 * detail::kHalfPi, -2.0 * s);
-    return head.high + (head.low + 2.0 * (detail::kHalfPiTail - tail));
-}
+inline double acos(double x) noexcept { return detail::acos_of(x); }
 
 namespace detail {
 
@@ -77,6 +98,33 @@ inline double atan2(double y, double x) noexcept {
     return detail::flip_sign(sum.high, detail::sign(y));
 }
 
-inline double atan(double x) noexcept { return atan2(x, 1.0); }
+namespace detail {
+
+// Of a number in two's complement; without a branch, as which half it is in is not foreseeable.
+template <class Words>
+QUORVEL_INLINE Words positive_part(Words n) noexcept {
+    return n & ((n >> 63) - 1);
+}
+
+// atan x = angle of the step + atan((|x| - T)/(1 + |x| T)), T the tangent of the step
+template <class D>
+QUORVEL_INLINE D atan_of(D x) noexcept {
+    const D a = absolute(x);
+    // quarter octaves from 1/8 to 8, of which the 26th ends at infinity
+    const auto k = positive_part(25 - positive_part(4104 - (bits(a) >> 50)));
+    const D T = lookup(kTangentSteps.tangent, k);
+    const D finite = select(a > 0x1p60, D(0x1p60), D(a));
+    const D t = (finite - T) / (1.0 + finite * T), z = t * t, z2 = z * z;
+    const D p = (0x1.55555555554ccp-2 - 0x1.9999999945f32p-3 * z) +
+                z2 * ((0x1.2492489cd7b1bp-3 - 0x1.c71ba72093f37p-4 * z) +
+                      z2 * (0x1.741077b0efd1bp-4 - 0x1.2cc1d054f9e91p-4 * z));
+    const D angle =
+        lookup(kTangentSteps.angle, k) + (t - (t * z * p - lookup(kTangentSteps.angle_low, k)));
+    return from_bits(bits(angle) ^ (bits(x) & kSignBit));
+}
+
+}  // namespace detail
+
+inline double atan(double x) noexcept { return detail::atan_of(x); }
 
 }  // namespace quorvel::math

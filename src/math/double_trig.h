@@ -1,27 +1,41 @@
-// Sine, cosine and tangent in double precision.
+// Sine, cosine and tangent in double precision; D is double or a pack of doubles.
 //
-// Algorithm: the polynomials for |r| <= pi/4 of single precision, with r in 106 bits. Below 2^20
-// quarter turns are subtracted in four parts; from there on the 53-bit integer of the angle is
-// multiplied by 192 bits of 2/pi (Payne and Hanek), dropping multiples of four quarters.
+// Algorithm: x = k step + r with 512 steps a turn, |r| <= step/2 in 106 bits, and sin x = sin(k
+// step) cos r + cos(k step) sin r with a table of sines in 106 bits. The tangent is a quotient of
+// such sums, the rest of whose division is taken from them. From 2^12 on the 53-bit integer of the
+// angle is first multiplied by 192 bits of 2/pi (Payne and Hanek), dropping multiples of four
+// quarters.
 //
-// Error in ulp: sin and cos 0.85, tan 0.97.
+// Error in ulp: sin and cos 0.8, tan 0.9. Of the former the last sum errs by 0.5, and half a step
+// from a zero, where sine and cosine part nearly cancel, the rounded cosine in the table by 0.27.
 //
-// Constants: tools/math/coefficients.sollya.
+// Coefficients and constants: tools/math/coefficients.sollya.
 #pragma once
 
-#include "math/careful_trig.h"
+#include "base/number.h"
 #include "math/double_double.h"
+#include "math/tables.h"
 
 namespace quorvel::math {
 namespace detail {
 
-inline ReducedAngle reduce_moderate_double(double x) noexcept {
-    const double shifted = x * 0x1.45f306dc9c883p-1 + kToInteger;
-    const double n = shifted - kToInteger;
-    const Pair head = two_sum(x - n * 0x1.921fb544p0, -(n * 0x1.0b4611a6p-34));
-    const Pair tail = fast_two_sum(n * 0x1.3198a2ep-69, n * 0x1.b839a252049c1p-104);
-    const Pair r = head - tail;
-    return {r.high, -r.low, bits(shifted)};
+constexpr double kLeastLargeAngle = 0x1p12;
+
+// x = number steps + r + low
+template <class D>
+struct StepAngle {
+    D r, low;
+    decltype(bits(D())) number;  // meaningful modulo 512
+};
+
+// |x| < 2^12: the first two products and all differences but the last are exact.
+template <class D>
+QUORVEL_INLINE StepAngle<D> step_angle(D x) noexcept {
+    const D shifted = x * 0x1.45f306dc9c883p6 + kToInteger;
+    const D n = shifted - kToInteger;
+    const D head = x - n * 0x1.921fb544p-7, middle = n * 0x1.0b4611a6p-41;
+    const D r = head - middle;
+    return {r, ((head - r) - middle) - n * 0x1.3198a2e037073p-76, bits(shifted)};
 }
 
 // The bits of 2/pi after the binary point, behind 64 zeros
@@ -64,8 +78,14 @@ inline Wide low_product(const Wide& a, std::uint64_t factor) noexcept {
     return product;
 }
 
-// |x| >= 2^20 and finite. The product counts quarters in units of 2^-190.
-inline ReducedAngle reduce_large_double(double x) noexcept {
+// x = count quarters + angle
+struct QuarterAngle {
+    Pair angle;
+    std::uint64_t count;  // meaningful modulo 4
+};
+
+// |x| >= 2^12 and finite. The product counts quarters in units of 2^-190.
+inline QuarterAngle quarter_angle(double x) noexcept {
     const int exponent = static_cast<int>(bits(x) >> 52 & 0x7ff) - 1075;
     const std::uint64_t integer = (bits(x) & 0x000fffffffffffff) | 0x0010000000000000;
     const Wide product = low_product(two_over_pi(exponent + 62), integer);
@@ -79,45 +99,136 @@ inline ReducedAngle reduce_large_double(double x) noexcept {
         rest = rest + Pair{product.word[i] * unit, 0.0};
     }
     const Pair r = rest * Pair{0x1.921fb54442d18p0, 0x1.1a62633145c07p-54};
-    return sign(x) != 0 ? ReducedAngle{-r.high, r.low, 0 - count}
-                        : ReducedAngle{r.high, -r.low, count};
+    return sign(x) != 0 ? QuarterAngle{-r, 0 - count} : QuarterAngle{r, count};
 }
 
-inline SinCosPair sin_cos(double x) noexcept {
-    if (!(magnitude(x) < kInfinity)) return {{x - x, 0.0}, {x - x, 0.0}};
-    const auto [r, correction, count] =
-        magnitude(x) < 0x1p20 ? reduce_moderate_double(x) : reduce_large_double(x);
-    const Pair square = two_product(r, r);
-    return in_quadrant(count, sin_kernel(r, correction * (1.0 - 0.5 * square.high)),
-                       cos_kernel(r, r * correction - 0.5 * square.low));
+[[gnu::cold, gnu::noinline]] inline StepAngle<double> step_angle_of_any(double x) noexcept {
+    if (!(magnitude(x) < kInfinity)) return {x - x, 0.0, 0};
+    const auto [angle, count] = quarter_angle(x);
+    const auto [r, low, number] = step_angle(angle.high);
+    return {r, low + angle.low, number + 128 * count};
+}
+
+// step_angle(x) of any x
+QUORVEL_INLINE StepAngle<double> any_step_angle(double x) noexcept {
+    if (magnitude(x) < kLeastLargeAngle) [[likely]]
+        return step_angle(x);
+    return step_angle_of_any(x);
+}
+
+// Sine and cosine of step k, and of r + low: sin - r and 1 - cos
+template <class D>
+struct Addends {
+    D s, s_low, c, c_low;
+    D r, sine_rest, versine;
+};
+template <class D>
+QUORVEL_INLINE Addends<D> addends(StepAngle<D> x) noexcept {
+    const auto k = x.number & 511;
+    const D r = x.r, z = r * r;
+    return {lookup(kSines, k),
+            lookup(kSinesLow, k),
+            lookup(kSines, k + 128),
+            lookup(kSinesLow, k + 128),
+            r,
+            x.low - r * z * (0x1.5555555554437p-3 - z * 0x1.1110faaff7a54p-7),
+            z * (0x1.fffffffffc416p-2 - z * 0x1.55552e2b72ca1p-5)};
+}
+// The same a quarter of a turn on
+template <class D>
+QUORVEL_INLINE Addends<D> quarter_on(const Addends<D>& a) noexcept {
+    return {a.c, a.c_low, -a.s, -a.s_low, a.r, a.sine_rest, a.versine};
+}
+
+// What the sine is more than that of the step
+template <class D>
+QUORVEL_INLINE D beyond_step(const Addends<D>& a) noexcept {
+    return a.c * (a.r + a.sine_rest) + (a.s_low - a.s * a.versine);
+}
+
+// The sine as high - low; adding 0 keeps sin -0 = -0. The product of r and the integer next to the
+// cosine is exact.
+template <class D>
+QUORVEL_INLINE PairOf<D> careful_sine(const Addends<D>& a) noexcept {
+    const D whole = (a.c + kToInteger) - kToInteger, rest = (a.c - whole) + a.c_low;
+    const auto [head, low] = fast_two_sum(a.s, D(whole * a.r));
+    return {head, (0.0 + a.s * a.versine) - (a.s_low + (a.c * a.sine_rest + (rest * a.r + low)))};
+}
+
+// Near zero the two parts nearly cancel.
+constexpr double kCancelled = 0x1p-5;
+
+template <class D>
+QUORVEL_INLINE D sum(const Addends<D>& a) noexcept {
+    const D quick = a.s + beyond_step(a);
+    return either(
+        absolute(quick) < kCancelled,
+        [&] {
+            const PairOf<D> careful = careful_sine(a);
+            return careful.high - careful.low;
+        },
+        [&] { return quick; });
+}
+
+// The first 26 bits: a product of two such is exact.
+template <class D>
+QUORVEL_INLINE D upper_half(D x) noexcept {
+    return from_bits(bits(x) & 0xfffffffff8000000);
+}
+
+// (a.high - a.low)/(b.high - b.low)
+template <class D>
+QUORVEL_INLINE D quotient(PairOf<D> a, PairOf<D> b) noexcept {
+    const D divisor = b.high - b.low, inverse = 1.0 / divisor;
+    const D q = upper_half(D((a.high - a.low) * inverse)), upper = upper_half(divisor);
+    const D lower = (b.high - upper) - b.low;
+    return q - (((q * upper - a.high) + a.low) + q * lower) * inverse;
+}
+
+template <class D>
+QUORVEL_INLINE D sine(StepAngle<D> x) noexcept {
+    return sum(addends(x));
+}
+template <class D>
+QUORVEL_INLINE D cosine(StepAngle<D> x) noexcept {
+    return sum(quarter_on(addends(x)));
+}
+
+template <class D>
+QUORVEL_INLINE D tangent(StepAngle<D> x) noexcept {
+    const Addends<D> s = addends(x), c = quarter_on(s);
+    const D quick = quotient<D>({s.s, -beyond_step(s)}, {c.s, -beyond_step(c)});
+    const D size = absolute(quick);
+    return either((size < kCancelled) | (size > 1.0 / kCancelled),
+                  [&] { return quotient(careful_sine(s), careful_sine(c)); },
+                  [&] { return quick; });
 }
 
 }  // namespace detail
 
-inline double sin(double x) noexcept {
-    if (x == 0.0) return x;
-    const detail::Pair s = detail::sin_cos(x).sin;
-    return s.high + s.low;
-}
-
-inline double cos(double x) noexcept {
-    const detail::Pair c = detail::sin_cos(x).cos;
-    return c.high + c.low;
-}
-
-struct DoubleSinCos {
-    double sin, cos;
+template <class D>
+struct SinCosOf {
+    D sin, cos;
 };
 
-inline DoubleSinCos sincos(double x) noexcept {
-    const auto [s, c] = detail::sin_cos(x);
-    return {x == 0.0 ? x : s.high + s.low, c.high + c.low};
+namespace detail {
+
+template <class D>
+QUORVEL_INLINE SinCosOf<D> sine_and_cosine(StepAngle<D> x) noexcept {
+    const Addends<D> a = addends(x);
+    return {sum(a), sum(quarter_on(a))};
 }
 
-inline double tan(double x) noexcept {
-    if (detail::magnitude(x) < 0x1p-27) return x;
-    const auto [s, c] = detail::sin_cos(x);
-    return (detail::fast_two_sum(s.high, s.low) / detail::fast_two_sum(c.high, c.low)).high;
+}  // namespace detail
+
+inline double sin(double x) noexcept { return detail::sine(detail::any_step_angle(x)); }
+
+inline double cos(double x) noexcept { return detail::cosine(detail::any_step_angle(x)); }
+
+inline SinCosOf<double> sincos(double x) noexcept {
+    return detail::sine_and_cosine(detail::any_step_angle(x));
 }
+
+inline double tan(double x) noexcept { return detail::tangent(detail::any_step_angle(x)); }
 
 }  // namespace quorvel::math

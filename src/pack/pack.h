@@ -64,6 +64,8 @@ QUORVEL_PACK Halves<V> blend(Halves<WideLanes> m, Halves<V> a, Halves<V> b) noex
     return {blend(m.low, a.low, b.low), blend(m.high, a.high, b.high)};
 }
 
+QUORVEL_PACK bool any(WideLanes a) noexcept { return any(Halves<WideLanes>{a, a}); }
+
 // Truth by number. The two kinds of masks convert into one another.
 template <class L>
 struct Truth {
@@ -86,10 +88,12 @@ struct Truth {
     QUORVEL_PACK friend bool all(Truth a) noexcept { return !any(!a); }
 
   private:
-    static constexpr bool wide = !std::same_as<L, Lanes>;
+    static constexpr bool wide = std::same_as<L, Halves<WideLanes>>;
     QUORVEL_PACK static L of(bool b) noexcept {
         if constexpr (wide)
             return {all_wide_lanes(b), all_wide_lanes(b)};
+        else if constexpr (std::same_as<L, WideLanes>)
+            return all_wide_lanes(b);
         else
             return all_lanes(b);
     }
@@ -215,6 +219,9 @@ QUORVEL_PACK Integers lookup(const Integer* table, Integers index) noexcept {
 QUORVEL_PACK DoubleReals lookup(const DoubleReal* table, Words index) noexcept {
     return DoubleReals({gathered(table, index.v.low), gathered(table, index.v.high)});
 }
+QUORVEL_PACK DoubleReals lookup(const DoubleReal* table, Integers index) noexcept {
+    return lookup(table, bits(to_double(index) + 0x1p52) & Words(0xffffffff));
+}
 
 // Register by register: GCC copies anything longer in pieces, which stalls whoever reads it whole.
 template <class N>
@@ -248,15 +255,20 @@ std::array<typename N::Scalar, width> numbers(N x) noexcept {
     return each;
 }
 
-// y, but f(x...) of single numbers where m is true, which is seldom
 template <class L, class Y, class F, class... N>
-[[gnu::cold, gnu::noinline]] Y replaced(Truth<L> m, Y y, F f, N... x) noexcept {
+[[gnu::cold, gnu::noinline]] Y replaced_one_by_one(Truth<L> m, Y y, F f, N... x) noexcept {
     auto results = numbers(y);
     [&, lanes = Mask(m).lanes](const auto&... arguments) {
         for (std::size_t i = 0; i < width; ++i)
             if (lane(lanes, i)) results[i] = f(arguments[i]...);
     }(numbers(x)...);
     return load<Y>(results.data());
+}
+template <class L, class Y, class F, class... N>
+QUORVEL_PACK Y replaced(Truth<L> m, Y y, F f, N... x) noexcept {
+    if (any(m)) [[unlikely]]
+        return replaced_one_by_one(m, y, f, x...);
+    return y;
 }
 
 // Exact where the quotient, in double, is that of the whole numbers: as long as it has fewer than
