@@ -97,11 +97,9 @@ inline LocalQuadrilaterals<R> local_coordinates(const Quadrilateral<R>& q,
     const SpaceVector<R> origin = q[0], side = q[1] - origin;
     const Columns<R, 3> axes{direction(side), direction(q[3] - origin),
                              direction(cross_product(side, q[2] - origin))};
-    const auto seen = [&](Quadrilateral<R> corners) {
-        for (SpaceVector<R>& corner : corners) corner = along(axes, corner - origin);
-        return corners;
-    };
-    return {seen(q), seen(other)};
+    const auto seen = [&](SpaceVector<R> corner) { return along(axes, corner - origin); };
+    return {{seen(q[0]), seen(q[1]), seen(q[2]), seen(q[3])},
+            {seen(other[0]), seen(other[1]), seen(other[2]), seen(other[3])}};
 }
 
 }  // namespace quorvel::geometry
