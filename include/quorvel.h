@@ -39,6 +39,8 @@ extern "C" {
  *     temperature  float  °C  -50 .. 100  temperature
  * Result:
  *     float  kJ/kg  specific enthalpy, 0 at 0 °C
+ * Formula: 0.00071035 + 1.0058 t + 1.7139e-5 t^2 - 7.7976e-7 t^3 + 2.2256e-8 t^4 - 1.691e-10 t^5, t
+ *     = temperature
  * Notes:
  *     - Within 0.02 kJ/kg of the ASHRAE tables from -20 to 50 °C, but 0.3 above them at -50 °C.
  *     - At 0 °C it is 0.0007 kJ/kg: the constant of the fit is deliberate.
@@ -53,6 +55,8 @@ QUORVEL_API float PSHDRY(const float *temperature);
  *     temperature  float  °C  -50 .. 100  temperature
  * Result:
  *     float  kJ/kg  specific enthalpy, from liquid water at 0 °C
+ * Formula: 2500.9 + 1.8439 t + 2.5285e-5 t^2 - 1.6297e-5 t^3 + 5.8962e-9 t^4 + 1.248e-9 t^5, t =
+ *     temperature
  * Notes:
  *     - Within 0.5 kJ/kg of saturated steam from 0 to 60 °C (IAPWS 1995), within 7 at 100 °C.
  * Example: PSHVAP(20) -> 2537.4 +- 0.5
@@ -81,6 +85,7 @@ QUORVEL_API float PSCPDR(const float *temperature);
  *     temperature  float  °C  -50 .. 100  temperature
  * Result:
  *     float  kJ/kgK  specific heat
+ * Formula: 1.7 + 0.01 temperature, at most 1.9
  * Notes:
  *     - Constant from 20 °C up.
  * Example: PSCPVA(25) -> 1.912 +- 0.015
@@ -162,6 +167,7 @@ QUORVEL_API float PSPCST(const float *dry_bulb, const float *moisture_content,
  *                                                 (naturally ventilated)
  * Result:
  *     float  kJ/kg  specific enthalpy, by mass of dry air
+ * Formula: h = PSHDRY(t) + g PSHVAP(t), g = PSGS(t, twb, p)
  * Notes:
  *     - A wet bulb at or above the dry bulb counts as saturation; the coefficient of an iced bulb
  *       is taken when the wet bulb is below 0 °C.
@@ -183,9 +189,15 @@ QUORVEL_API float PSHWET(const float *dry_bulb, const float *wet_bulb, const flo
  *     pressure          float  Pa     50000 .. 110000  atmospheric pressure
  * Result:
  *     float  m³/kg  specific volume, by mass of dry air
+ * Formula: v = 287.04 (t + 273.15) / pa - xa^2 B - 2 xa xv C - xv^2 D; xa = 0.62197 / (0.62197 +
+ *     g), xv = 1 - xa, pa = p - p g / (1.0045 (0.62197 + g))
  * Notes:
  *     - A moisture content above saturation counts as saturation.
  *     - Per kilogram of dry air: the reciprocal is not the density of the moist air.
+ *     - Virial coefficients of air, B = (4.542 - 0.082785 t + 0.0004353 t^2 - 2.1418e-6 t^3) /
+ *       10000, and of air with vapour, C = (1.45 - 0.0097 t + 0.32 (t / 100)^2) / 1000; that of
+ *       vapour, D, follows straight lines, one below 0 °C and one for each 10 K up to 50 °C and
+ *       beyond.
  * Example: PSSPVL(25, 0.020173, 101325) -> 0.872 +- 0.001
  * Source: Virial equation of the mixture, written for 101325 Pa (1.0045 is the enhancement factor
  *     there); its author is not known.
@@ -234,6 +246,9 @@ QUORVEL_API float PSTSAT(const float *enthalpy, const float *pressure);
  *     convective_load   float  W           convection from the water to the room air at 10 W/m²K
  *     reference_load    float  W           exchange of the water with the second reference
  *                                          temperature
+ * Formula: dp = ps(water_temperature) - pv; evaporation_rate = 2.193e-8 dp - 1.64e-5 without
+ *     bathers, 4.17e-8 dp bathers / water_area + 3.28e-5 with them; latent_load = 2.45e6
+ *     evaporation_rate (water_area + wetted_area)
  * Notes:
  *     - The vapour pressure is that of a sling psychrometer at the wet bulb of PSWBLB, and good to
  *       the step of that search.
@@ -271,6 +286,9 @@ QUORVEL_API void TPPOOL(const float *water_area, const float *wetted_area,
  *     convective_load   float  W           convection from the water to the room air at 10 W/m²K
  *     reference_load    float  W           exchange of the water with the second reference
  *                                          temperature
+ * Formula: dp = ps(water_temperature) - pv; evaporation_rate = 2.193e-8 dp - 1.64e-5 without
+ *     bathers, 4.17e-8 dp bathers / water_area + 3.28e-5 with them; latent_load = 2.45e6
+ *     evaporation_rate (water_area + wetted_area)
  * Notes:
  *     - A wet bulb at or above the dry bulb counts as saturated air.
  *     - Nothing is limited: a calm pool close to equilibrium with the air has a negative rate.
@@ -292,6 +310,8 @@ QUORVEL_API void TPPOOL2(const float *water_area, const float *wetted_area,
  *     temperature  float  °C  -100 .. 200  temperature
  * Result:
  *     float  Pa  saturation vapour pressure
+ * Formula: log10(ps) = 33.59051 - 3142.31 / T - 8.2 log10(T) + 0.0024804 T over water, 12.538099 -
+ *     2663.91 / T over ice; T = temperature + 273.15
  * Notes:
  *     - Exactly 0 °C counts as water. The two branches meet there only to 0.04 Pa (610.34 over
  *       water, 610.30 over ice); the step is deliberate.
@@ -336,6 +356,8 @@ QUORVEL_API float PSVP(const float *dry_bulb, const float *relative_humidity);
  *       temperature.
  *     - The result is not limited: a reading drier than any air gives a negative pressure.
  *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ *     - A is 0.000666 1/K for a sling psychrometer and 0.000799 for a screen one, 0.000594 and
+ *       0.00072 with an iced bulb.
  * Example: PSVAP(25, 20, 101325, 1) -> 2002 +- 9
  * Source: Psychrometer equation with the customary coefficients A.
  */
@@ -470,6 +492,8 @@ QUORVEL_API float PSWBLB(const float *dry_bulb, const float *moisture_content,
  *                                         as it was with more than 20 layers
  *     u_value             float  W/m²K    U-value, as TPUVAL gives it; left as it was with more
  *                                         than 20 layers
+ * Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (u_value
+ *     m12); F = 1 - inside_resistance Y
  * Notes:
  *     - A count below 1 leaves the two surfaces alone; no array is read.
  *     - Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U,
@@ -487,6 +511,9 @@ QUORVEL_API float PSWBLB(const float *dry_bulb, const float *moisture_content,
  *       12.3 m of concrete of 1.75 W/mK, 2400 kg/m³ and 1000 J/kgK under the daily cycle; of 2
  *       W/mK, 2000 kg/m³ and 880 J/kgK 15 m still have numbers.
  *     - Density and specific heat enter as their product only.
+ *     - The formula's M is the product of the transmission matrices of the surfaces and the layers.
+ *       Its complex Y, f and F are the admittance, the decrement factor and the surface factor with
+ *       their time shifts.
  * Source: Pipes, Matrix analysis of heat transfer problems, Journal of the Franklin Institute 263,
  *     1957; Milbank and Harrington-Lynn, Thermal response and the admittance procedure, Building
  *     Research Establishment CP 61/74, 1974; ISO 13786.
@@ -505,10 +532,12 @@ QUORVEL_API void TPADMT(const float *thickness, const float *conductivity, const
  *     cavity_width  float  m  from 0.001  width
  * Result:
  *     float  m²K/W  cavity resistance, not below 0.1
+ * Formula: 1 / (5.14 e1 e2 / (e1 + e2 - e1 e2) + 0.025 Nu / width), at least 0.1; Nu = 0.035
+ *     Ra^0.38, at least 1; Ra = 793.00165 width^3 / 4.4e-7
  * Notes:
  *     - A width below 0.001 gives 0.1, where TPRCA2 and TPRCAX give 0: deliberate. Not a number
  *       stays so.
- *     - The emissivities of the faces are 0.85 and 0.86.
+ *     - The emissivities e1 and e2 of the faces are 0.85 and 0.86.
  * Example: TPRCAV(0.025) -> 0.18 +- 0.01
  * Source: As TPRCA2.
  */
@@ -525,6 +554,8 @@ QUORVEL_API float TPRCAV(const float *cavity_width);
  *     emissivity_2  float  1    0 .. 1       long-wave emissivity of the other face
  * Result:
  *     float  m²K/W  cavity resistance
+ * Formula: 1 / (5.14 e1 e2 / (e1 + e2 - e1 e2) + 0.025 Nu / width); Nu = C Ra^n, at least 1; Ra =
+ *     793.00165 width^3 / 4.4e-7
  * Notes:
  *     - A tilt outside 0..3.1416 and a width below 0.001 give 0.
  *     - C and n of the Nusselt number C Ra^n, which is at least 1, are interpolated over the tilt
@@ -552,6 +583,8 @@ QUORVEL_API float TPRCA2(const float *tilt, const float *cavity_width, const flo
  *     viscosity      float  Pa s   from 0       dynamic viscosity of the gas
  * Result:
  *     float  m²K/W  cavity resistance
+ * Formula: 1 / (5.14 e1 e2 / (e1 + e2 - e1 e2) + conductivity Nu / width); Nu = C Ra^n, at least 1;
+ *     Ra = 0.52 specific_heat density^2 width^3 / (viscosity conductivity)
  * Notes:
  *     - Guards and correlation as in TPRCA2.
  *     - The Rayleigh number has a factor of 0.52 m/s² for gravity times expansion times temperature
@@ -577,6 +610,7 @@ QUORVEL_API float TPRCAX(const float *tilt, const float *cavity_width, const flo
  * Returned:
  *     vapour_resistance  float  N s/kg    total vapour resistance; left as it was with more than 20
  *                                         layers
+ * Formula: sum of 1e9 thickness vapour_resistivity
  * Notes:
  *     - A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness,
  *       whatever its resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
@@ -718,6 +752,9 @@ QUORVEL_API float BELDAT(const float *element_records, const int32_t *record_cou
  *                                                   downwards
  * Result:
  *     float  W/m²K  convective coefficient
+ * Formula: ((1.63 dT^(1/3))^6 + (1.40 (dT / L)^(1/4))^6)^(1/6) upwards, 1.23 and 1.50 for 1.63 and
+ *     1.40 at a vertical surface, 0.6 (dT / L^2)^(1/5) downwards; dT = |temperature_difference|, L
+ *     = characteristic_length
  * Notes:
  *     - Any other direction gives 0.
  *     - The coefficients 1.23 and 1.50 of a vertical surface have the laminar term larger than the
@@ -849,10 +886,12 @@ QUORVEL_API void TPCOSW(const int32_t *packing, float *packed_number, float *abs
  *                                          2 normal, 3 severe
  * Result:
  *     float  m²K/W  surface resistance
+ * Formula: inside 1 / (9.53 - 2.6 tilt / pi), outside 1 / (4.59 + a + 4 b (1 - tilt / pi)^2)
  * Notes:
  *     - Another surface type gives 0. Another exposure counts as the nearest one.
  *     - An inside vertical surface has 1 / 8.23 = 0.12 m²K/W.
  *     - The tilt is not tested.
+ *     - a is 4.3, 9.1 and 20.7 W/m²K by exposure, b is 1.3, 2.8 and 6.1.
  * Example: TPRSUR(2, 1.5707963, 2) -> 0.12 +- 0.0055
  * Source: Radiation and convection side by side. The customary values of inside surfaces (0.10 up,
  *     0.12 horizontal, 0.14 down) and of outside ones in normal and severe exposure (walls 0.06 and
@@ -873,10 +912,13 @@ QUORVEL_API float TPRSUR(const int32_t *surface, const float *tilt, const int32_
  *     emissivity  float    1    0 .. 1       long-wave emissivity of the surface
  * Result:
  *     float  m²K/W  surface resistance
+ * Formula: inside 1 / (4.4 - 2.6 tilt / pi + 5.7 emissivity), outside 1 / (5.1 emissivity + a + 4 b
+ *     (1 - tilt / pi)^2)
  * Notes:
  *     - Another surface type gives 0. Another exposure counts as the nearest one.
  *     - At an emissivity of 0.9 it is TPRSUR to rounding.
  *     - Tilt and emissivity are not tested.
+ *     - a and b are those of TPRSUR.
  * Example: TPRSU2(2, 1.5707963, 2, 0.9) -> 0.12 +- 0.005
  * Source: As TPRSUR, with black-body coefficients of 5.1 W/m²K outside and 5.7 W/m²K inside.
  */
@@ -895,6 +937,7 @@ QUORVEL_API float TPRSU2(const int32_t *surface, const float *tilt, const int32_
  *     layers                int32_t         0 .. 20  number of layers
  * Returned:
  *     u_value  float  W/m²K    U-value; left as it was with more than 20 layers
+ * Formula: 1 / (surface_resistance_1 + surface_resistance_2 + sum of thickness / conductivity)
  * Notes:
  *     - A count below 1 leaves the two surfaces alone; no array is read.
  *     - How far below 0 a thickness is makes no difference here; it does in TPDAMP and TPGRAD.
@@ -918,6 +961,8 @@ QUORVEL_API void TPUVAL(const float *thickness, const float *conductivity,
  *                                            normal, 3 severe
  * Result:
  *     float  W/m²K  U-value at that tilt and exposure
+ * Formula: 1 / (1 / u_value - Rso - Rsi + Rso(tilt, exposure) + Rsi(tilt)), Rso and Rsi of a
+ *     vertical surface in normal exposure where nothing else is said
  * Notes:
  *     - A U-value that is not above 0, or no number, comes back as it is.
  *     - Above 5.49 W/m²K, what the two surfaces of the wall let through by themselves, the layers
@@ -959,6 +1004,8 @@ QUORVEL_API float TPUMOD(const float *u_value, const float *tilt, const int32_t 
  *     surface_factor      float  1        surface factor, 1 - Rsi U
  *     surface_factor_lag  float  h        time lag of the surface factor, 0
  *     u_value             float  W/m²K    U-value
+ * Formula: u_value = 1 / (Rso + Rsi + the resistances of the cavities), surface_factor = 1 - Rsi
+ *     u_value
  * Notes:
  *     - The resistance of the glass is neglected and nothing is stored in it.
  *     - Of three panes one may be open: the middle one leaves a single cavity as wide as both. With
@@ -966,6 +1013,7 @@ QUORVEL_API float TPUMOD(const float *u_value, const float *tilt, const int32_t 
  *     - The kinds of the panes are told by their sum: 0, 1, 2 count as three closed panes.
  *     - Another number of panes counts as one pane, with the emissivity of pane 3 outside.
  *     - Cavities as TPRCA2: one that it rejects has no resistance.
+ *     - Rsi and Rso are the resistances of the inner and the outer surface.
  * Source: Surface resistances of TPRSU2 and cavities of TPRCA2 in series.
  */
 QUORVEL_API void TPWNDO(const int32_t *panes, const int32_t *pane_kind_1,
@@ -1103,6 +1151,7 @@ QUORVEL_API void WNCOMP(const int32_t *layers, const float *layer_transmittances
  *     transmittance  float  1    transmittance, that of the blind
  *     absorptance    float  1    absorptance, the rest
  *     reflectance    float  1    reflectance, that of the blind
+ * Formula: absorptance = 1 - blind_transmittance - blind_reflectance
  * Notes:
  *     - Nothing is limited: a blind that transmits and reflects more than 1 gives a negative
  *       absorptance.
@@ -1139,6 +1188,7 @@ QUORVEL_API void WNDFRO(const float *blind_transmittance, const float *blind_ref
  *     refractive_index  float  1    1 .. 4             refractive index of the glass
  * Result:
  *     float  rad  refraction angle
+ * Formula: asin(sin(incidence) / refractive_index)
  * Notes:
  *     - Where the sine of the incidence is below 0.01 in size the result is incidence /
  *       refractive_index, the ratio of the angles in place of that of the sines.
@@ -1161,6 +1211,8 @@ QUORVEL_API float WNRANG(const float *incidence, const float *refractive_index);
  *     parallel_reflectance       float  1    reflectance, polarised parallel to the plane of
  *                                            incidence
  *     perpendicular_reflectance  float  1    reflectance, polarised perpendicular to it
+ * Formula: perpendicular (sin(i - r) / sin(i + r))^2, parallel (tan(i - r) / tan(i + r))^2; i =
+ *     incidence, r = refraction_angle
  * Notes:
  *     - Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value
  *       at normal incidence, ((1 - n) / (1 + n))^2 with the refractive index n. WNRANG tests the
@@ -1199,6 +1251,9 @@ QUORVEL_API float WNABEN(const float *refraction_angle, const float *absorption_
  *     transmittance  float  1    transmittance
  *     absorptance    float  1    absorptance, not below 0
  *     reflectance    float  1    reflectance
+ * Formula: transmittance = (1 - r)^2 tau / (1 - r^2 tau^2), reflectance = r + r (1 - r)^2 tau^2 /
+ *     (1 - r^2 tau^2), absorptance = 1 - transmittance - reflectance; tau = 1 -
+ *     single_pass_absorptance, r = face_reflectance
  * Notes:
  *     - Faces that reflect everything around a body that absorbs nothing leave the result undefined
  *       (0/0).
@@ -1217,6 +1272,8 @@ QUORVEL_API void WNTAR(const float *single_pass_absorptance, const float *face_r
  *     refractive_index      float  1  1 .. 4     refractive index
  * Result:
  *     float  1  absorption coefficient times thickness
+ * Formula: -ln((sqrt((1 - r)^4 + 4 r^2 T^2) - (1 - r)^2) / (2 T r^2)); T = normal_transmittance, r
+ *     = ((refractive_index - 1) / (refractive_index + 1))^2
  * Notes:
  *     - Evaluated as written in single precision, where a difference of roots cancels for nearly
  *       opaque glass: the relative error of the transmittance T, given back by WNTNOR, is up to
@@ -1237,6 +1294,7 @@ QUORVEL_API float WNKL(const float *normal_transmittance, const float *refractiv
  *     normal_reflectance  float  1  0 .. 0.99  normal reflectance of one face
  * Result:
  *     float  1  normal transmittance of the pane
+ * Formula: (1 - r)^2 tau / (1 - r^2 tau^2); tau = exp(-absorption_product), r = normal_reflectance
  * Notes:
  *     - The second argument is a reflectance, ((n - 1) / (n + 1))^2, where WNKL takes the
  *       refractive index.
@@ -1947,6 +2005,9 @@ QUORVEL_API void CLBNF3(const int32_t *row, float *values);
  *     hour_of_lowest       float  h   0 .. 24      hour of the lowest
  * Result:
  *     float  °C  temperature
+ * Formula: m + a cos(pi h / L) after the highest, m - a cos(pi h / L) after the lowest; m = mean of
+ *     both, a = half their difference, h = hours since the one passed last, L = hours from it to
+ *     the other
  * Notes:
  *     - The same before and after midnight if the next day is like this one.
  *     - Hours of the extremes that coincide give the mean at every hour. With one at 0 and the
@@ -1974,6 +2035,9 @@ QUORVEL_API float CLTAO(const float *hour, const float *highest_temperature,
  *     amplitude_factor  float  1  any      factor on the amplitude
  * Result:
  *     float  1  value
+ * Formula: mean + a cos(pi (hour - first_hour) / (second_hour - first_hour)) between the two hours,
+ *     mean - a cos(pi h / (first_hour + 24 - second_hour)) h hours after the second; a =
+ *     amplitude_factor amplitude
  * Notes:
  *     - The order of the hours is not checked: with the second before the first, the wave that
  *       should go through midnight runs beyond its extreme.
@@ -1997,6 +2061,9 @@ QUORVEL_API float CLTAOX(const float *hour, const float *mean, const float *ampl
  * Returned:
  *     direct_normal       float  W/m²    direct normal irradiance, the same for both skies
  *     diffuse_horizontal  float  W/m²    diffuse irradiance on the horizontal
+ * Formula: direct_normal = 1035.49 - 156.13 / a - 1.91863 / a^2 + 2.51353 / a^3 - 0.148842 / a^4;
+ *     diffuse_horizontal = 1.52269 + 280.358 a - 375.111 a^2 + 253.716 a^3 - 63.3311 a^4 of the
+ *     clear sky, 0.331322 + 283.1 a + 4.42111 a^2 of the cloudy one; a = solar_altitude above 0.087
  * Notes:
  *     - Both grow with the height by the factor of CLHIGH.
  *     - Up to 0.087 rad both are proportional to the altitude, also below 0, where they are
@@ -2018,6 +2085,7 @@ QUORVEL_API void CLSNNR(const float *solar_altitude, const float *solar_azimuth,
  *     solar_altitude  float  rad  0 .. 1.5707964  solar altitude
  * Result:
  *     float  1  factor
+ * Formula: 1.02 + site_height (0.00002 + 0.00005 / sin(solar_altitude))
  * Notes:
  *     - 1 below 300 m, and for suns whose sine of altitude is below 0.08; the factor jumps from 1
  *       to 1.041 or more at 300 m.
@@ -2033,6 +2101,7 @@ QUORVEL_API float CLHIGH(const float *site_height, const float *solar_altitude);
  *     day  int32_t    1 .. 366  day of the year
  * Result:
  *     float  1  factor
+ * Formula: 1 + 0.03344 cos((360 day / 365.25 - 2.8) pi / 180)
  * Notes:
  *     - 0.967 to 1.033; greatest in the first days of January.
  * Example: CLETAJ(3) -> 1.034 +- 0.002
@@ -2049,6 +2118,7 @@ QUORVEL_API float CLETAJ(const int32_t *day);
  *     global_horizontal  float    W/m²  from 0          global horizontal irradiance
  * Result:
  *     float  1  clearness index
+ * Formula: global_horizontal / (1367 CLETAJ(day) sin(solar_altitude))
  * Notes:
  *     - An altitude of 0 divides by zero: infinite, or not a number for an irradiance of 0.
  * Example: CLMODUL(94, 0.5235988, 341.75) -> 0.5 +- 0.003
@@ -2079,10 +2149,17 @@ QUORVEL_API float CLMODUL(const int32_t *day, const float *solar_altitude,
  *     ground_reflected  float  W/m²    ground-reflected irradiance on the surface
  *     incidence         float  rad     angle of incidence, 1.5707964 with the sun behind the
  *                                      surface
+ * Formula: surface_beam = beam_horizontal cos(i) / sin(h); surface_diffuse = diffuse_horizontal (f
+ *     (1 - K) + K cos(i) / sin(h)); ground_reflected = ground_reflectance (beam_horizontal +
+ *     diffuse_horizontal) sin(b / 2)^2; f = cos(b / 2)^2 + 2 r / (pi (2 r + 3)) (sin(b) - b cos(b)
+ *     - pi sin(b / 2)^2), K = beam_horizontal / extraterrestrial_horizontal, h = solar_altitude, b
+ *     = tilt, i = angle of incidence
  * Notes:
- *     - Radiance index 5.73 with the sun behind the surface; else 1.68 for a beam below 5 W/m² and
- *       -0.62 from there on. The circumsolar part starts above 5: exactly 5 takes -0.62 without it:
- *       deliberate.
+ *     - Radiance index r = 5.73 with the sun behind the surface; else 1.68 for a beam below 5 W/m²
+ *       and -0.62 from there on. The circumsolar part starts above 5: exactly 5 takes -0.62 without
+ *       it: deliberate.
+ *     - With the sun behind the surface cos(i) counts as 0; there, and up to a beam of 5 W/m², K
+ *       does too.
  *     - A sun up to 0.1 rad above the horizon has a form of its own: the diffuse irradiance times
  *       the cosine of the angle of incidence, brightened with the tilt. The result jumps there and
  *       at the thresholds of the beam.
@@ -2116,6 +2193,9 @@ QUORVEL_API void CLMUNRAD(const float *solar_altitude, const float *solar_azimut
  *                                                           atmosphere
  * Returned:
  *     surface_diffuse  float  W/m²    diffuse irradiance of the sky on the surface
+ * Formula: diffuse_horizontal ((1 - F1) cos(tilt / 2)^2 + F1 a / b + F2 sin(tilt)); a =
+ *     cos(incidence), at least 0, b = sin(solar_altitude), at least 0.0871557; F1 = f11 + f12 D +
+ *     f13 Z, at least 0, F2 = f21 + f22 D + f23 Z
  * Notes:
  *     - The air mass is that of Kasten and Young with the altitude in radians in place of degrees:
  *       16 % too small for the sun at 2.5 degrees, 4 % at 30 and 2 % in the zenith: deliberate.
@@ -2124,6 +2204,9 @@ QUORVEL_API void CLMUNRAD(const float *solar_altitude, const float *solar_azimut
  *       two rows of coefficients belongs to the lower. The result jumps between rows, as the
  *       published model does.
  *     - Altitude, diffuse and extraterrestrial irradiance of 0 divide by zero.
+ *     - The formula's Z is the sun's angle from the zenith, D the brightness: the air mass times
+ *       diffuse_horizontal / extraterrestrial_normal. The coefficients f are those of the row of
+ *       the clearness.
  * Example: CLPERSKY(0.8, 0, 300, 150, 0.7707963, 1367) -> surface_diffuse = 150 +- 0.01
  * Source: R. Perez, P. Ineichen, R. Seals, J. Michalsky and R. Stewart, Modeling daylight
  *     availability and irradiance components from direct and global irradiance, Solar Energy 44
@@ -2170,9 +2253,12 @@ QUORVEL_API void CLCONS(const int32_t *site_class, const int32_t *month, float *
  *                                                     value
  * Result:
  *     float  1  factor, 1 for a horizontal surface
+ * Formula: cos(b / 2)^2 + a (sin(b) - b cos(b) - pi sin(b / 2)^2), b = tilt; model 0: a = 2 r / (pi
+ *     (2 r + 3)), model 1: 0.00333 - 0.415 K - 0.6987 K^2, model 2: 0.00263 - 0.712 K - 0.6883 K^2;
+ *     K = beam_horizontal / (1367 CLETAJ(day) sin(solar_altitude))
  * Notes:
- *     - Model 0 takes the radiance index 5.73 up to an altitude of 0, 1.68 for a beam below 5 W/m²
- *       and -0.62 otherwise; the side of the surface does not matter here.
+ *     - Model 0 takes the radiance index r = 5.73 up to an altitude of 0, 1.68 for a beam below 5
+ *       W/m² and -0.62 otherwise; the side of the surface does not matter here.
  *     - Models 1 and 2 divide by the sine of the altitude: at 0 the factor is infinite or no
  *       number.
  * Example: CLDIFRAD(100, 0.8, 300, -, 0, 1) -> 1 +- 1e-06
@@ -2200,6 +2286,8 @@ QUORVEL_API float CLDIFRAD(const int32_t *day, const float *solar_altitude,
  *                                                        value
  * Result:
  *     float  W/m²  diffuse irradiance of the sky on the surface
+ * Formula: diffuse_horizontal (f (1 - K) + K cos(i) / sin(solar_altitude)); f = CLDIFRAD, i = angle
+ *     of incidence
  * Notes:
  *     - The factor of CLDIFRAD and a circumsolar part, weighted by the clearness of the beam. A sun
  *       behind the surface has no circumsolar part, as one whose direction is not a number.
@@ -2208,6 +2296,7 @@ QUORVEL_API float CLDIFRAD(const int32_t *day, const float *solar_altitude,
  *     - On the horizontal the result is the diffuse irradiance, but for that form, which brightens
  *       it around the sun: at 0.0999 rad by 0.4 % for a beam of 50 W/m² and by 4.5 % for 600.
  *     - Divides by the sine of the altitude: at 0 the result is infinite or no number.
+ *     - K is that of CLDIFRAD.
  * Example: CLDIFSLO(100, 0.8, 3, 0, 0, 300, 150, 2) -> 150 +- 0.01
  * Source: As CLDIFRAD. Low sun: the clear sky of R. C. Temps and K. L. Coulson (Solar Energy 19,
  *     1977) with the modulation by T. M. Klucher (Solar Energy 23, 1979), the beam clearness in
@@ -2250,6 +2339,7 @@ QUORVEL_API float CLTEO(const float *base_temperature, const float *surface_coef
  *     cloud_cover  float  1    0 .. 1       share of the sky that is covered by cloud
  * Result:
  *     float  W/m²  net loss
+ * Formula: 72 cos(tilt) + 21 - (62 cos(tilt) + 17) cloud_cover, at least 0
  * Notes:
  *     - Horizontal 93 - 79 cloud_cover, vertical 21 - 17 cloud_cover, between them by the cosine of
  *       the tilt. Less than nothing is 0; not a number stays so.
@@ -2362,6 +2452,10 @@ QUORVEL_API void CLRISESET(const int32_t *year, const int32_t *month, const int3
  *                                   left as it was with latitude, day or hour outside its range
  *     sunset          float  h      sunset; 25 when the sun does not set, 0 when it does not rise;
  *                                   left as it was with latitude, day or hour outside its range
+ * Formula: sin(declination) = 0.398 sin(d - 1.4096 + 0.03347 sin(d)), d = 0.01721 day;
+ *     sin(altitude) = sin(declination) sin(latitude) + cos(declination) cos(latitude) cos(H), H =
+ *     0.261799395 (12 - solar_time); sunrise = 12 / pi acos(tan(latitude) tan(declination)), sunset
+ *     = 24 - sunrise
  * Notes:
  *     - Latitude, day or hour outside its range (day 366 too) gives a declination, altitude and
  *       azimuth of 0.
@@ -2393,6 +2487,8 @@ QUORVEL_API void CLSNGE(const float *latitude, const int32_t *day, const float *
  *                                            surface
  *     horizontal_shadow_angle  float  rad    angle off the normal in the plane of normal and level
  *                                            line, positive clockwise seen from above
+ * Formula: cos(incidence) = cos(solar_altitude) sin(tilt) cos(solar_azimuth - surface_azimuth) +
+ *     sin(solar_altitude) cos(tilt)
  * Notes:
  *     - With the sun behind the surface the two angles exceed pi/2 in size.
  *     - With the sun along the level line the vertical angle is pi/2, with the sun along the slope
@@ -2423,6 +2519,10 @@ QUORVEL_API void CLSNSR(const float *solar_altitude, const float *solar_azimuth,
  *     surface_beam      float  W/m²    beam irradiance on the surface, 0 with the sun behind it
  *     surface_diffuse   float  W/m²    diffuse irradiance of the sky on the surface
  *     ground_reflected  float  W/m²    ground-reflected irradiance on the surface
+ * Formula: surface_beam = direct_normal beam_factor cos(i); surface_diffuse = d (1 + cos(tilt)) / 2
+ *     (1 - 0.1 sin(tilt) (1 + cos(surface_azimuth))); ground_reflected = ground_reflectance (1 -
+ *     cos(tilt)) / 2 (d + direct_normal beam_factor sin(solar_altitude)); d = diffuse_horizontal
+ *     diffuse_factor, i = angle of incidence, the beam 0 behind the surface
  * Notes:
  *     - A vertical surface gets up to 20 % less diffuse irradiance the more it faces north,
  *       whatever the hemisphere.
@@ -2915,6 +3015,8 @@ QUORVEL_API float BORI(const float *angle);
  *     solar_azimuth   float  rad  0 .. 6.2832        azimuth
  * Returned:
  *     direction  float  1    direction [3]
+ * Formula: (sin(solar_azimuth) cos(solar_altitude), cos(solar_azimuth) cos(solar_altitude),
+ *     sin(solar_altitude))
  * Example: GESUNV(0.5235988, 1.5707963) -> direction = (0.8660254, 0, 0.5) +- 1e-06
  * Source: Spherical to rectangular coordinates.
  */
@@ -2930,6 +3032,8 @@ QUORVEL_API void GESUNV(const float *solar_altitude, const float *solar_azimuth,
  *     rotation_matrix  float  1    matrix; its columns are the local axes in global coordinates [3,
  *                                  3]
  *     inverse_matrix   float  1    inverse of it [3, 3]
+ * Formula: columns (-cos(a), sin(a), 0), (-sin(a) cos(b), -cos(a) cos(b), sin(b)), (sin(a) sin(b),
+ *     cos(a) sin(b), cos(b)); a = surface_azimuth, b = tilt
  * Notes:
  *     - Local x is level and points to the right seen from outside, y points up the slope, z
  *       outwards; the axes are right-handed.
@@ -2976,6 +3080,7 @@ QUORVEL_API void GERAX2(const float *global_vector, const float *rotation_matrix
  *     vertices  int32_t     from 3  number of vertices
  * Result:
  *     float  m²  area
+ * Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
  * Notes:
  *     - Fewer than one vertex give 0.
  *     - A polygon far from the origin beside its size loses digits.
@@ -2992,6 +3097,7 @@ QUORVEL_API float GEAPOL(const float *x, const float *y, const int32_t *vertices
  *     vertices  int32_t     from 3  number of vertices
  * Result:
  *     float  m²  area, negative for anticlockwise vertices
+ * Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
  * Notes:
  *     - As GEAPOL.
  * Example: GEAPO2((0, 0, 1, 1), (0, 1, 1, 0), 4) -> 1
@@ -3058,6 +3164,8 @@ QUORVEL_API void GEASO(const int32_t *vertices, const float *polygon, float *are
  *     direction     float  1  any  direction, of any length [3]
  * Returned:
  *     projected_point  float  m    projected point [3]; 1e20 for none
+ * Formula: point + t direction, t = (plane_point - point) . plane_normal / (direction .
+ *     plane_normal)
  * Notes:
  *     - A direction parallel to the plane (its dot product with the normal of magnitude 1e-15 or
  *       less, or not a number) gives 1e20 in all coordinates.
@@ -3077,6 +3185,8 @@ QUORVEL_API void GEPROJ(const float *plane_point, const float *plane_normal, con
  *     direction     float  1  any  direction, of any length [3]
  * Returned:
  *     projected_point  float  m    projected point [3]; 1e20 for none
+ * Formula: point + t direction, t = (plane_point - point) . plane_normal / (direction .
+ *     plane_normal)
  * Notes:
  *     - A direction parallel to the plane or away from it, and a point that is in the plane
  *       already, give 1e20 in all coordinates.
@@ -3100,6 +3210,8 @@ QUORVEL_API void GEPROJ2(const float *plane_point, const float *plane_normal, co
  *     direction     float  1  any  direction, of any length [3]
  * Returned:
  *     projected_point  float  m    projected point, or the point itself [3]
+ * Formula: point + t direction, t = (plane_point - point) . plane_normal / (direction .
+ *     plane_normal)
  * Notes:
  *     - A direction whose product with the normal is exactly 0 gives what the division by zero
  *       makes of it: infinities or not a number. There is no other limit for parallel directions,
@@ -3119,6 +3231,7 @@ QUORVEL_API void GEPROJ3(const float *plane_point, const float *plane_normal, co
  *     vector_b  float  m  any  vector [3]
  * Result:
  *     float  m²  a . b
+ * Formula: a1 b1 + a2 b2 + a3 b3
  * Example: GEDOTP((1, 2, 3), (4, 5, 6)) -> 32
  * Source: Definition.
  */
@@ -3131,6 +3244,7 @@ QUORVEL_API float GEDOTP(const float *vector_a, const float *vector_b);
  *     vector_b  double  m  any  vector [3]
  * Result:
  *     double  m²  a . b
+ * Formula: a1 b1 + a2 b2 + a3 b3
  * Example: GEDTDP((1, 2, 3), (4, 5, 6)) -> 32
  * Source: Definition.
  */
@@ -3143,6 +3257,7 @@ QUORVEL_API double GEDTDP(const double *vector_a, const double *vector_b);
  *     vector_b  float  m  any  vector [3]
  * Returned:
  *     cross_product  float  m²    a x b [3]
+ * Formula: (a2 b3 - a3 b2, a3 b1 - a1 b3, a1 b2 - a2 b1)
  * Example: GEXPRO((1, 2, 3), (4, 5, 6)) -> cross_product = (-3, 6, -3)
  * Source: Definition.
  */
@@ -3155,6 +3270,7 @@ QUORVEL_API void GEXPRO(const float *vector_a, const float *vector_b, float *cro
  *     vector_b  double  m  any  vector [3]
  * Returned:
  *     cross_product  double  m²    a x b [3]
+ * Formula: (a2 b3 - a3 b2, a3 b1 - a1 b3, a1 b2 - a2 b1)
  * Example: GEXPDP((1, 2, 3), (4, 5, 6)) -> cross_product = (-3, 6, -3)
  * Source: Definition.
  */
@@ -3166,6 +3282,7 @@ QUORVEL_API void GEXPDP(const double *vector_a, const double *vector_b, double *
  *     vector  float  m  any  vector [3]
  * Result:
  *     float  m  length
+ * Formula: sqrt(v1^2 + v2^2 + v3^2)
  * Notes:
  *     - Squares beyond the range of a float make the length infinite or 0: from about 1e19, below
  *       about 1e-23.
@@ -3180,6 +3297,7 @@ QUORVEL_API float GEVMOD(const float *vector);
  *     vector  double  m  any  vector [3]
  * Result:
  *     double  m  length
+ * Formula: sqrt(v1^2 + v2^2 + v3^2)
  * Example: GEVMDP((3, 4, 12)) -> 13
  * Source: Definition.
  */

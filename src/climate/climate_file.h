@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
@@ -19,11 +20,14 @@
 
 namespace quorvel::climate {
 
-inline constexpr int station_records = 19;
+inline constexpr int records_per_station = 19;
 inline constexpr int rows_per_record = std::tuple_size_v<Record>;
-inline constexpr int station_rows = station_records * rows_per_record;
+inline constexpr int station_rows = records_per_station * rows_per_record;
 inline constexpr int station_set_rows = 82;
 inline constexpr int station_quantities = 7;
+
+// Of a month's record, as callers hold it, the last two are given.
+inline constexpr std::ptrdiff_t reals_per_record = 11;
 
 inline constexpr Integer file_unit = 31;  // the only unit there is
 
@@ -34,7 +38,7 @@ inline constexpr Integer header_unread = -1;
 // there is no such record.
 constexpr std::int64_t record_number(Integer station, int part, Integer H) noexcept {
     const std::int64_t h = H;
-    return std::int64_t{station_records} * station + part + (h - 1) / 18 + h - 16;
+    return std::int64_t{records_per_station} * station + part + (h - 1) / 18 + h - 16;
 }
 
 // What is carried from call to call. H is read once and the buffered record is never forgotten, so
@@ -85,19 +89,25 @@ class ClimateFileReader {
     bool open(const char* name, Integer station) noexcept;
     void select(Integer unit, Integer station) noexcept;
 
+    // Fills a record for the month, or twelve for month 0, from the file of that name, up to the
+    // first month that cannot be read. Two Reals of each are given: the selector of the set and the
+    // percentage of days.
+    void station_records(const char* name, Integer station, Integer month, Real* records) noexcept;
+
     // Of a band or, for band 0, interpolated at the fraction. Set 2 or, for any other number, set
     // 1; bands and months outside count as the nearest.
-    std::optional<StationClimate> climate(Integer band, Real fraction, Integer month,
-                                          Integer set) noexcept;
+    std::optional<StationClimate> station_climate(Integer band, Real fraction, Integer month,
+                                                  Integer set) noexcept;
 
     // Rows of the station count from 0; numbers outside pick its first or last one. Wide, for sums
     // of any Integers.
-    const MonthlyRow* row(std::int64_t number) noexcept;
+    const MonthlyRow* station_row(std::int64_t number) noexcept;
     std::optional<Real> value(std::int64_t row_number, Integer month) noexcept;
-    std::optional<Real> between(std::int64_t lower, std::int64_t upper, Integer month,
-                                Real weight) noexcept;
+    std::optional<Real> interpolate_station_rows(std::int64_t lower, std::int64_t upper,
+                                                 Integer month, Real weight) noexcept;
 
   private:
+    bool fill(Real* record, Integer month) noexcept;
     bool load_frequencies(int first) noexcept;
     bool read(std::int64_t number, Record& record) noexcept;
     bool read_header() noexcept;
@@ -107,7 +117,7 @@ class ClimateFileReader {
     File file_;  // open from the first read on
     std::uint32_t loaded_ = 0;
     std::size_t last_ = 0;
-    std::array<Record, station_records> records_;  // those whose bit in loaded_ is set
+    std::array<Record, records_per_station> records_;  // those whose bit in loaded_ is set
 };
 
 template <class File>
@@ -169,7 +179,7 @@ const Record* ClimateFileReader<File>::find(std::size_t part) noexcept {
 }
 
 template <class File>
-const MonthlyRow* ClimateFileReader<File>::row(std::int64_t number) noexcept {
+const MonthlyRow* ClimateFileReader<File>::station_row(std::int64_t number) noexcept {
     const auto index =
         static_cast<std::size_t>(std::clamp<std::int64_t>(number, 0, station_rows - 1));
     const Record* const record = find(index / rows_per_record);
@@ -179,14 +189,16 @@ const MonthlyRow* ClimateFileReader<File>::row(std::int64_t number) noexcept {
 template <class File>
 std::optional<Real> ClimateFileReader<File>::value(std::int64_t row_number,
                                                    Integer month) noexcept {
-    const MonthlyRow* const values = row(row_number);
+    const MonthlyRow* const values = station_row(row_number);
     if (!values) return {};
     return (*values)[static_cast<std::size_t>(table_row(month, 12))];
 }
 
 template <class File>
-std::optional<Real> ClimateFileReader<File>::between(std::int64_t lower, std::int64_t upper,
-                                                     Integer month, Real weight) noexcept {
+std::optional<Real> ClimateFileReader<File>::interpolate_station_rows(std::int64_t lower,
+                                                                      std::int64_t upper,
+                                                                      Integer month,
+                                                                      Real weight) noexcept {
     const auto from = value(lower, month);
     const auto to = from ? value(upper, month) : from;
     if (!to) return {};
@@ -197,15 +209,15 @@ template <class File>
 bool ClimateFileReader<File>::load_frequencies(int first) noexcept {
     std::array<const MonthlyRow*, band_count> rows;
     for (std::size_t band = 0; band < rows.size(); ++band)
-        if (!(rows[band] = row(first + static_cast<int>(band)))) return false;
+        if (!(rows[band] = station_row(first + static_cast<int>(band)))) return false;
     for (std::size_t band = 0; band < rows.size(); ++band) state_.frequencies[band] = *rows[band];
     return true;
 }
 
 template <class File>
-std::optional<StationClimate> ClimateFileReader<File>::climate(Integer band, Real fraction,
-                                                               Integer month,
-                                                               Integer set) noexcept {
+std::optional<StationClimate> ClimateFileReader<File>::station_climate(Integer band, Real fraction,
+                                                                       Integer month,
+                                                                       Integer set) noexcept {
     const int first = set == 2 ? station_set_rows : 0;
     const auto time_a = value(first, month);
     const auto time_b = time_a ? value(first + 1, month) : time_a;
@@ -215,8 +227,9 @@ std::optional<StationClimate> ClimateFileReader<File>::climate(Integer band, Rea
     int before = first + 1;  // the row before a quantity's band 1
     for (Real& quantity : climate.quantities) {
         before += band_count;
-        const auto found = band ? value(before + table_row(band, band_count) + 1, month)
-                                : between(before + lower, before + upper, month, weight);
+        const auto found =
+            band ? value(before + table_row(band, band_count) + 1, month)
+                 : interpolate_station_rows(before + lower, before + upper, month, weight);
         if (!found) return {};
         quantity = *found;
     }
@@ -225,6 +238,26 @@ std::optional<StationClimate> ClimateFileReader<File>::climate(Integer band, Rea
     q2 = std::max(q2, 0.0f);
     q7 = limited(q7, 0.0f, 1.0f);
     return climate;
+}
+
+template <class File>
+bool ClimateFileReader<File>::fill(Real* record, Integer month) noexcept {
+    const auto climate = station_climate(0, record[10] / 100.0f, month, rounded_set(record[9]));
+    if (!climate) return false;
+    const auto& [q1, q2, q3, q4, q5, q6, q7] = climate->quantities;
+    const Real filled[] = {q4, q6, climate->time_b, q3, q5, climate->time_a, q1, q2, q7};
+    std::ranges::copy(filled, record);
+    return true;
+}
+
+template <class File>
+void ClimateFileReader<File>::station_records(const char* name, Integer station, Integer month,
+                                              Real* records) noexcept {
+    if (!open(name, station)) return;
+    const Integer first = table_row(month, 12) + 1;
+    const Integer last = month == 0 ? 12 : first;
+    for (Integer m = first; m <= last; ++m)
+        if (!fill(records + reals_per_record * (m - 1), m)) return;
 }
 
 }  // namespace quorvel::climate

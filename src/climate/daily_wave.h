@@ -10,7 +10,7 @@ namespace quorvel::climate {
 // 1 at the first hour, -1 at the second; rising is the time, h, from the second through midnight to
 // the first.
 template <class R>
-R half_waves(R hour, R first, R second, R rising) noexcept {
+inline R half_waves(R hour, R first, R second, R rising) noexcept {
     return piecewise(
         hour < first, [&] { return -math::cos(pi * (hour + 24.0f - second) / rising); },
         hour < second, [&] { return math::cos(pi * (hour - first) / (second - first)); },

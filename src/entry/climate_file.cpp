@@ -21,36 +21,20 @@ struct Call {
     climate::ClimateFileReader<climate::RecordFile> file{state};
 };
 
-// Of a month's record the last two are given.
-constexpr std::ptrdiff_t reals_per_record = 11;
-
-bool fill(Real* record, Integer month, Call& call) {
-    const auto climate =
-        call.file.climate(0, record[10] / 100.0f, month, climate::rounded_set(record[9]));
-    if (!climate) return false;
-    const auto& [q1, q2, q3, q4, q5, q6, q7] = climate->quantities;
-    const Real filled[] = {q4, q6, climate->time_b, q3, q5, climate->time_a, q1, q2, q7};
-    std::ranges::copy(filled, record);
-    return true;
-}
-
 }  // namespace
 
-void CLBNF0(const char* file, const Integer* station, const Integer* month, Real* records) {
-    Call call;
-    if (!call.file.open(file, *station)) return;
-    const Integer first = table_row(*month, 12) + 1;
-    const Integer last = *month == 0 ? 12 : first;
-    for (Integer m = first; m <= last; ++m)
-        if (!fill(records + reals_per_record * (m - 1), m, call)) return;
+void CLBNF0(const char* file_name, const Integer* station, const Integer* month,
+            Real* station_records) {
+    Call().file.station_records(file_name, *station, *month, station_records);
 }
 
-void CLBNFI(const Integer* unit, const Integer* station, const Integer* band, const Integer* month,
-            const Integer* set, const Real* percentage, Real* q1, Real* q2, Real* q3, Real* q4,
-            Real* q5, Real* q6, Real* q7, Real* time_a, Real* time_b) {
+void CLBNFI(const Integer* file_unit, const Integer* station, const Integer* band,
+            const Integer* month, const Integer* band_set, const Real* percentage, Real* q1,
+            Real* q2, Real* q3, Real* q4, Real* q5, Real* q6, Real* q7, Real* time_a,
+            Real* time_b) {
     Call call;
-    call.file.select(*unit, *station);
-    const auto climate = call.file.climate(*band, *percentage / 100.0f, *month, *set);
+    call.file.select(*file_unit, *station);
+    const auto climate = call.file.station_climate(*band, *percentage / 100.0f, *month, *band_set);
     if (!climate) return;
     Real* const quantities[climate::station_quantities] = {q1, q2, q3, q4, q5, q6, q7};
     for (std::size_t q = 0; q < climate->quantities.size(); ++q)
@@ -59,25 +43,26 @@ void CLBNFI(const Integer* unit, const Integer* station, const Integer* band, co
     *time_b = climate->time_b;
 }
 
-void CLBNF1(const Real* fraction, const Integer* month, Integer* lower, Integer* upper,
-            Real* weight) {
+void CLBNF1(const Real* fraction, const Integer* month, Integer* lower_band, Integer* upper_band,
+            Real* band_weight) {
     const std::lock_guard guard(lock);
     const auto position = climate::locate_station_band(state, *fraction, *month);
-    *lower = position.lower;
-    *upper = position.upper;
-    *weight = position.weight;
+    *lower_band = position.lower;
+    *upper_band = position.upper;
+    *band_weight = position.weight;
 }
 
-void CLBNF2(const Integer* base, const Integer* lower, const Integer* upper, const Integer* month,
-            const Real* weight, Real* value) {
+void CLBNF2(const Integer* base_row, const Integer* lower_band, const Integer* upper_band,
+            const Integer* month, const Real* band_weight, Real* value) {
     Call call;
-    const std::int64_t before = std::int64_t{*base} - 1;
-    if (const auto found = call.file.between(before + *lower, before + *upper, *month, *weight))
+    const std::int64_t before = std::int64_t{*base_row} - 1;
+    if (const auto found = call.file.interpolate_station_rows(
+            before + *lower_band, before + *upper_band, *month, *band_weight))
         *value = *found;
 }
 
 void CLBNF3(const Integer* row, Real* values) {
     Call call;
-    if (const auto* const found = call.file.row(std::int64_t{*row} - 1))
+    if (const auto* const found = call.file.station_row(std::int64_t{*row} - 1))
         std::ranges::copy(*found, values);
 }

@@ -6,22 +6,30 @@
 using namespace quorvel;
 using namespace quorvel::geometry;
 
-void HOHOLEDP(DoubleReal* x, DoubleReal* y, const Integer* na, const Integer* ia, const Integer* nb,
-              const Integer* ib, const Integer* nmax, const Integer* kmax, const Integer* ldif,
-              const Integer* lovl, Integer* npool, Integer* dif, Integer* ovl, Integer* ierr) {
-    clipping::Pool pool(x, y, *nmax, *npool);
-    clipping::PieceList difference(dif, *ldif), overlap(ovl, *lovl);
-    const clipping::Ring a(pool, ia, *na), b(pool, ib, *nb);
-    *ierr = static_cast<Integer>(clipping::clip(a, b, *kmax, pool, difference, overlap));
-    *npool = pool.used();
+void HOHOLEDP(DoubleReal* x, DoubleReal* y, const Integer* vertices_a, const Integer* positions_a,
+              const Integer* vertices_b, const Integer* positions_b, const Integer* point_capacity,
+              const Integer* crossing_capacity, const Integer* difference_capacity,
+              const Integer* overlap_capacity, Integer* used_points, Integer* difference_pieces,
+              Integer* overlap_pieces, Integer* status) {
+    clipping::Pool pool(x, y, *point_capacity, *used_points);
+    clipping::PieceList difference(difference_pieces, *difference_capacity),
+        overlap(overlap_pieces, *overlap_capacity);
+    const clipping::Ring a(pool, positions_a, *vertices_a), b(pool, positions_b, *vertices_b);
+    *status =
+        static_cast<Integer>(clipping::clip(a, b, *crossing_capacity, pool, difference, overlap));
+    *used_points = pool.used();
 }
 
-void GEOVER(const Real* xa, const Real* ya, const Integer* na, const Real* xb, const Real* yb,
-            const Integer* nb, Real* xout, Real* yout, Integer* nout, Real* area) {
-    clipping::overlap(PlanPoints(xa, ya, *na), PlanPoints(xb, yb, *nb), {xout, yout, nout, area});
+void GEOVER(const Real* x_1, const Real* y_1, const Integer* vertices_1, const Real* x_2,
+            const Real* y_2, const Integer* vertices_2, Real* piece_x, Real* piece_y,
+            Integer* piece_vertices, Real* area) {
+    clipping::overlap(PlanPoints(x_1, y_1, *vertices_1), PlanPoints(x_2, y_2, *vertices_2),
+                      {piece_x, piece_y, piece_vertices, area});
 }
 
-void GEHOLE(const Real* xa, const Real* ya, const Integer* na, const Real* xb, const Real* yb,
-            const Integer* nb, Real* xout, Real* yout, Integer* nout, Real* area) {
-    clipping::overlap(PlanPoints(xa, ya, *na), PlanPoints(xb, yb, *nb), {xout, yout, nout, area});
+void GEHOLE(const Real* x_1, const Real* y_1, const Integer* vertices_1, const Real* x_2,
+            const Real* y_2, const Integer* vertices_2, Real* piece_x, Real* piece_y,
+            Integer* piece_vertices, Real* area) {
+    clipping::overlap(PlanPoints(x_1, y_1, *vertices_1), PlanPoints(x_2, y_2, *vertices_2),
+                      {piece_x, piece_y, piece_vertices, area});
 }

@@ -5,6 +5,6 @@
 
 using namespace quorvel;
 
-Integer IGELIN(const Real* x, const Real* y, const Integer* n) {
-    return geometry::collinearity({x, y, *n});
+Integer IGELIN(const Real* x, const Real* y, const Integer* points) {
+    return geometry::collinearity({x, y, *points});
 }

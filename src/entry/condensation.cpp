@@ -7,26 +7,29 @@
 
 using namespace quorvel;
 
-void TPDAMP(const Real* thickness, const Real* resistivity, const Integer* n, Real* total) {
-    if (*n > fabric::most_layers) return;
-    const fabric::Layers layers(*n, [=](int i) {
-        return fabric::Layer{thickness[i], 0.0f, 0.0f, resistivity[i]};
+void TPDAMP(const Real* thickness, const Real* vapour_resistivity, const Integer* layers,
+            Real* vapour_resistance) {
+    if (*layers > fabric::most_layers) return;
+    const fabric::Layers construction(*layers, [=](int i) {
+        return fabric::Layer{thickness[i], 0.0f, 0.0f, vapour_resistivity[i]};
     });
-    *total = fabric::total_vapour_resistance(layers);
+    *vapour_resistance = fabric::total_vapour_resistance(construction);
 }
 
-void TPGRAD(const Real* thickness, const Real* conductivity, const Real* resistivity,
-            const Real* R_inside, const Real* R_outside, const Integer* n, const Real* t_inside,
-            const Real* t_outside, const Real* rh_inside, const Real* rh_outside, Real* temperature,
-            Real* vapour_pressure, Real* saturation_pressure) {
-    if (*n < 0 || *n > fabric::most_layers) return;
-    const fabric::Layers layers(*n, [=](int i) {
-        return fabric::Layer{thickness[i], conductivity[i], 0.0f, resistivity[i]};
+void TPGRAD(const Real* thickness, const Real* conductivity, const Real* vapour_resistivity,
+            const Real* inside_resistance, const Real* outside_resistance, const Integer* layers,
+            const Real* inside_temperature, const Real* outside_temperature,
+            const Real* inside_humidity, const Real* outside_humidity, Real* interface_temperature,
+            Real* interface_vapour_pressure, Real* interface_saturation_pressure) {
+    if (*layers < 0 || *layers > fabric::most_layers) return;
+    const fabric::Layers construction(*layers, [=](int i) {
+        return fabric::Layer{thickness[i], conductivity[i], 0.0f, vapour_resistivity[i]};
     });
-    const auto profile = fabric::condensation_profile(layers, {*R_inside, *t_inside, *rh_inside},
-                                                      {*R_outside, *t_outside, *rh_outside});
-    const int interfaces = layers.size() + 1;
-    std::copy_n(profile.temperature.begin(), interfaces, temperature);
-    std::copy_n(profile.vapour_pressure.begin(), interfaces, vapour_pressure);
-    std::copy_n(profile.saturation_pressure.begin(), interfaces, saturation_pressure);
+    const auto profile = fabric::condensation_profile(
+        construction, {*inside_resistance, *inside_temperature, *inside_humidity},
+        {*outside_resistance, *outside_temperature, *outside_humidity});
+    const int interfaces = construction.size() + 1;
+    std::copy_n(profile.temperature.begin(), interfaces, interface_temperature);
+    std::copy_n(profile.vapour_pressure.begin(), interfaces, interface_vapour_pressure);
+    std::copy_n(profile.saturation_pressure.begin(), interfaces, interface_saturation_pressure);
 }

@@ -14,7 +14,9 @@ fabric::ElementRecord record_at(const Real* records, Integer number) noexcept {
 
 }  // namespace
 
-Real BELDAT(const Real* records, const Integer* n, const Integer* i, const Integer* item) {
-    if (*i < 1 || *i > *n) return undefined;
-    return fabric::element_property(record_at(records, *i), record_at(records, *n)[0], *item);
+Real BELDAT(const Real* element_records, const Integer* record_count, const Integer* record_number,
+            const Integer* item) {
+    if (*record_number < 1 || *record_number > *record_count) return undefined;
+    return fabric::element_property(record_at(element_records, *record_number),
+                                    record_at(element_records, *record_count)[0], *item);
 }

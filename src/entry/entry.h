@@ -31,6 +31,13 @@ void store(const T& value, Scalar* at) noexcept {
 inline void store(Real value, Real* at) noexcept { *at = value; }
 inline void store(DoubleReal value, DoubleReal* at) noexcept { *at = value; }
 inline void store(Integer value, Integer* at) noexcept { *at = value; }
+template <class T, std::size_t n, class Scalar>
+void store(const std::array<T, n>& values, Scalar* at) noexcept {
+    for (const T& value : values) {
+        store(value, at);
+        at += numbers_in<T, Scalar>;
+    }
+}
 template <class R>
 void store(const Maybe<R>& result, R* at) noexcept {
     if (result.written) *at = result.value;

@@ -15,13 +15,18 @@ void store_optics(const glazing::Optics<Real>& optics, Real* t, Real* a, Real* r
 
 }  // namespace
 
-void WNCOM2(const Integer* n, const Real* t, const Real*, const Real* r, Real* t_total,
-            Real* a_total, Real* r_total) {
-    store_optics(glazing::stacked_layers(*n, t, r), t_total, a_total, r_total);
+void WNCOM2(const Integer* layers, const Real* layer_transmittances, const Real*,
+            const Real* layer_reflectances, Real* transmittance, Real* absorptance,
+            Real* reflectance) {
+    store_optics(glazing::stacked_layers(*layers, layer_transmittances, layer_reflectances),
+                 transmittance, absorptance, reflectance);
 }
 
-void WNCOMP(const Integer* n, const Real* t, const Real* a, const Real* r, Real* t_total,
-            Real* a_total, Real* r_total) {
-    if (*n > glazing::most_traced_layers) return;
-    store_optics(glazing::traced_layers(*n, t, a, r), t_total, a_total, r_total);
+void WNCOMP(const Integer* layers, const Real* layer_transmittances, const Real* layer_absorptances,
+            const Real* layer_reflectances, Real* transmittance, Real* absorptance,
+            Real* reflectance) {
+    if (*layers > glazing::most_traced_layers) return;
+    store_optics(glazing::traced_layers(*layers, layer_transmittances, layer_absorptances,
+                                        layer_reflectances),
+                 transmittance, absorptance, reflectance);
 }

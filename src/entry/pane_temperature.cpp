@@ -6,14 +6,18 @@
 using namespace quorvel;
 
 // What is absorbed is read, and a temperature written, for the calculated panes only.
-void WNTEMP(const Real* t_room, const Real* t_out, const Integer* n, const Real* s1, const Real* s2,
-            const Real* s3, const Real* s4, const Real* s5, Real* t1, Real* t2, Real* t3, Real* t4,
-            Real* t5) {
-    const Real* const given[] = {s1, s2, s3, s4, s5};
-    Real* const returned[] = {t1, t2, t3, t4, t5};
-    const int panes = glazing::calculated_panes(*n);
+void WNTEMP(const Real* inside_temperature, const Real* outside_temperature, const Integer* panes,
+            const Real* absorbed_1, const Real* absorbed_2, const Real* absorbed_3,
+            const Real* absorbed_4, const Real* absorbed_5, Real* pane_temperature_1,
+            Real* pane_temperature_2, Real* pane_temperature_3, Real* pane_temperature_4,
+            Real* pane_temperature_5) {
+    const Real* const given[] = {absorbed_1, absorbed_2, absorbed_3, absorbed_4, absorbed_5};
+    Real* const returned[] = {pane_temperature_1, pane_temperature_2, pane_temperature_3,
+                              pane_temperature_4, pane_temperature_5};
+    const int calculated = glazing::calculated_panes(*panes);
     glazing::PaneValues absorbed{};
-    for (int j = 0; j < panes; ++j) absorbed[j] = *given[j];
-    const auto temperatures = glazing::pane_temperatures(*t_room, *t_out, *n, absorbed);
-    for (int k = 0; k < panes; ++k) *returned[k] = temperatures[k];
+    for (int j = 0; j < calculated; ++j) absorbed[j] = *given[j];
+    const auto temperatures =
+        glazing::pane_temperatures(*inside_temperature, *outside_temperature, *panes, absorbed);
+    for (int k = 0; k < calculated; ++k) *returned[k] = temperatures[k];
 }

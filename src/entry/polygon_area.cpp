@@ -6,21 +6,22 @@
 using namespace quorvel;
 using namespace quorvel::entry;
 
-Real GEAPOL(const Real* x, const Real* y, const Integer* n) {
-    return geometry::plan_area({x, y, *n});
+Real GEAPOL(const Real* x, const Real* y, const Integer* vertices) {
+    return geometry::plan_area({x, y, *vertices});
 }
 
-Real GEAPO2(const Real* x, const Real* y, const Integer* n) {
-    return geometry::signed_plan_area({x, y, *n});
+Real GEAPO2(const Real* x, const Real* y, const Integer* vertices) {
+    return geometry::signed_plan_area({x, y, *vertices});
 }
 
-Real GEAPO3(const Real* x, const Real* y, const Real* z, const Integer* n) {
-    return geometry::area_in_space({x, y, z, *n});
+Real GEAPO3(const Real* x, const Real* y, const Real* z, const Integer* vertices) {
+    return geometry::area_in_space({x, y, z, *vertices});
 }
 
-void GEASO(const Integer* n, const Real* v, Real* area, Real* tilt, Real* orientation) {
-    const auto lie = geometry::polygon_orientation({v, *n});
+void GEASO(const Integer* vertices, const Real* polygon, Real* area, Real* tilt,
+           Real* back_azimuth) {
+    const auto lie = geometry::polygon_orientation({polygon, *vertices});
     store(lie.area, area);
     store(lie.tilt, tilt);
-    store(lie.orientation, orientation);
+    store(lie.orientation, back_azimuth);
 }

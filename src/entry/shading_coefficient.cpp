@@ -17,19 +17,30 @@ void store_shares(const glazing::UnitShares& unit, Real* t, Real* panes, Real* a
 
 }  // namespace
 
-void WNDRSM(const Real* sc, const Real* scl, const Real* theta, const Integer* n, Real* t,
-            Real* panes, Real* a) {
-    store_shares(glazing::unit_direct_shares(*sc, *scl, *theta, *n), t, panes, a);
+void WNDRSM(const Real* shortwave_shading_coefficient, const Real* longwave_shading_coefficient,
+            const Real* incidence, const Integer* panes, Real* transmittance, Real* pane_shares,
+            Real* absorptance) {
+    store_shares(glazing::unit_direct_shares(*shortwave_shading_coefficient,
+                                             *longwave_shading_coefficient, *incidence, *panes),
+                 transmittance, pane_shares, absorptance);
 }
 
-void WNDFSM(const Real* sc, const Real* scl, const Integer* n, Real* t, Real* panes, Real* a) {
-    store_shares(glazing::unit_diffuse_shares(*sc, *scl, *n), t, panes, a);
+void WNDFSM(const Real* shortwave_shading_coefficient, const Real* longwave_shading_coefficient,
+            const Integer* panes, Real* transmittance, Real* pane_shares, Real* absorptance) {
+    store_shares(glazing::unit_diffuse_shares(*shortwave_shading_coefficient,
+                                              *longwave_shading_coefficient, *panes),
+                 transmittance, pane_shares, absorptance);
 }
 
 // The angle is read in mode 1 only.
-void WNDRS0(const Integer* mode, const Real* sc, const Real* scl, const Real* theta,
-            const Integer* n, Real* t, Real* panes, Real* a) {
-    const auto unit = *mode == 1 ? glazing::unit_direct_shares(*sc, *scl, *theta, *n)
-                                 : glazing::unit_diffuse_shares(*sc, *scl, *n);
-    store_shares(unit, t, panes, a);
+void WNDRS0(const Integer* radiation, const Real* shortwave_shading_coefficient,
+            const Real* longwave_shading_coefficient, const Real* incidence, const Integer* panes,
+            Real* transmittance, Real* pane_shares, Real* absorptance) {
+    const auto unit =
+        *radiation == 1
+            ? glazing::unit_direct_shares(*shortwave_shading_coefficient,
+                                          *longwave_shading_coefficient, *incidence, *panes)
+            : glazing::unit_diffuse_shares(*shortwave_shading_coefficient,
+                                           *longwave_shading_coefficient, *panes);
+    store_shares(unit, transmittance, pane_shares, absorptance);
 }

@@ -5,11 +5,11 @@
 
 using namespace quorvel;
 
-void TPUVAL(const Real* thickness, const Real* conductivity, const Real* R1, const Real* R2,
-            const Integer* n, Real* U) {
-    if (*n > fabric::most_layers) return;
-    const fabric::Layers layers(*n, [=](int i) {
+void TPUVAL(const Real* thickness, const Real* conductivity, const Real* surface_resistance_1,
+            const Real* surface_resistance_2, const Integer* layers, Real* u_value) {
+    if (*layers > fabric::most_layers) return;
+    const fabric::Layers construction(*layers, [=](int i) {
         return fabric::Layer{thickness[i], conductivity[i], 0.0f, 0.0f};
     });
-    *U = fabric::u_value(layers, *R1, *R2);
+    *u_value = fabric::u_value(construction, *surface_resistance_1, *surface_resistance_2);
 }

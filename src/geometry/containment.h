@@ -69,7 +69,7 @@ inline Real angle_between(SpacePoint a, SpacePoint b, SpacePoint q) noexcept {
     const auto pulled_inside = [](Real x) { return absolute(x) > 1.0f ? x * 0.999f : x; };
     const Real lengths = length(a) * length(b);
     const Real angle = math::asin(pulled_inside(length(q) / lengths));
-    return dot(a, b) / lengths > 0.0f ? angle : pi - angle;
+    return dot_product(a, b) / lengths > 0.0f ? angle : pi - angle;
 }
 
 // Whether a point in the plane of a closed polygon, the last vertex of which repeats the first,
@@ -80,12 +80,12 @@ inline bool inside(SpacePoint p, SpacePoints polygon) noexcept {
     SpacePoint normal{};
     Real turn = 0.0f;
     for (Integer i = 0; i + 1 < polygon.size(); ++i) {
-        const SpacePoint a = polygon[i] - p, b = polygon[i + 1] - p, q = cross(a, b);
+        const SpacePoint a = polygon[i] - p, b = polygon[i + 1] - p, q = cross_product(a, b);
         if (length(q) <= degenerate) return spans(polygon[i], polygon[i + 1], p);
         if (length(a) <= degenerate || length(b) <= degenerate) return false;
         if (i == 0) normal = q / length(q);
         const Real angle = angle_between(a, b, q);
-        turn += i == 0 || dot(normal, q) > -1.0e-5f ? angle : -angle;
+        turn += i == 0 || dot_product(normal, q) > -1.0e-5f ? angle : -angle;
     }
     return absolute(turn) >= pi;
 }

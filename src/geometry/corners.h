@@ -14,12 +14,13 @@ using Quadrilateral = Columns<R, 4>;
 
 template <class R>
 MaskOf<R> parallel(SpaceVector<R> a, SpaceVector<R> b) noexcept {
-    return length(cross(a, b)) < 0.001;
+    return length(cross_product(a, b)) < 0.001;
 }
 
 template <class R>
 MaskOf<R> parallel_planes(const Triangle<R>& s, const Triangle<R>& t) noexcept {
-    return parallel(cross(s[0] - s[1], s[0] - s[2]), cross(t[0] - t[1], t[0] - t[2]));
+    return parallel(cross_product(s[0] - s[1], s[0] - s[2]),
+                    cross_product(t[0] - t[1], t[0] - t[2]));
 }
 
 // A side of each of two triangles, numbered from 1 by the corner at which it starts; 3 for none.
@@ -44,7 +45,7 @@ ParallelSides<R> parallel_sides(const Triangle<R>& s, const Triangle<R>& t) noex
 template <class R>
 MaskOf<R> rectangular(const Quadrilateral<R>& q) noexcept {
     const auto right_angle = [](SpaceVector<R> back, SpaceVector<R> ahead) {
-        return absolute(dot(back, ahead)) <= 1.0e-6;
+        return absolute(dot_product(back, ahead)) <= 1.0e-6;
     };
     return both(right_angle(q[1] - q[0], q[1] - q[2]), [&] {
         return right_angle(q[2] - q[1], q[2] - q[3]) & right_angle(q[3] - q[2], q[3] - q[0]);
@@ -61,7 +62,7 @@ struct Facing {
 template <class R>
 inline Facing<R> facing(const Triangle<R>& t, R level_azimuth) noexcept {
     constexpr DoubleReal triangle_pi = 3.1415926537, two_pi = 6.2831853074;
-    const SpaceVector<R> inward = cross(t[1] - t[0], t[2] - t[0]);
+    const SpaceVector<R> inward = cross_product(t[1] - t[0], t[2] - t[0]);
     const R from_vertical = math::acos(inward.z / length(inward));
     const R level = length(PlanVector<R>{inward.x, inward.y});
     const R bearing = either(
@@ -95,12 +96,10 @@ inline LocalQuadrilaterals<R> local_coordinates(const Quadrilateral<R>& q,
                                                 const Quadrilateral<R>& other) noexcept {
     const SpaceVector<R> origin = q[0], side = q[1] - origin;
     const Columns<R, 3> axes{direction(side), direction(q[3] - origin),
-                             direction(cross(side, q[2] - origin))};
-    const auto seen = [&](Quadrilateral<R> corners) {
-        for (SpaceVector<R>& corner : corners) corner = along(axes, corner - origin);
-        return corners;
-    };
-    return {seen(q), seen(other)};
+                             direction(cross_product(side, q[2] - origin))};
+    const auto seen = [&](SpaceVector<R> corner) { return along(axes, corner - origin); };
+    return {{seen(q[0]), seen(q[1]), seen(q[2]), seen(q[3])},
+            {seen(other[0]), seen(other[1]), seen(other[2]), seen(other[3])}};
 }
 
 }  // namespace quorvel::geometry

@@ -14,9 +14,9 @@ PlanVector<R> meeting_point(PlanVector<R> a, PlanVector<R> b, PlanVector<R> c,
                             PlanVector<R> d) noexcept {
     const PlanVector<R> along = b - a;
     const PlanVector<R> normal{d.y - c.y, c.x - d.x};
-    const R divergence = dot(along, normal);
+    const R divergence = dot_product(along, normal);
     return select(absolute(divergence) < 1.0e-10f, far_point_in_plan<R>(),
-                  a + dot(c - a, normal) / divergence * along);
+                  a + dot_product(c - a, normal) / divergence * along);
 }
 
 template <class R>
@@ -79,7 +79,7 @@ R in_span(SpaceVector<R> a, SpaceVector<R> b, SpaceVector<R> p) noexcept {
 template <class R>
 R ahead_and_nearer(SpaceVector<R> a, SpaceVector<R> b, SpaceVector<R> p) noexcept {
     const SpaceVector<R> u = b - a, w = p - a;
-    const MaskOf<R> out = (dot(w, u) < 0.0f) | (squared_length(u) <= squared_length(w));
+    const MaskOf<R> out = (dot_product(w, u) < 0.0f) | (squared_length(u) <= squared_length(w));
     return select(out, R(0.0f), R(1.0f));
 }
 

@@ -40,7 +40,7 @@ class DirectedLine {
 
     // The cross product with the way to a point, rounded: in proportion to the distance.
     constexpr DoubleReal product(PlanPosition point) const noexcept {
-        return cross(along_, point - start_);
+        return cross_product(along_, point - start_);
     }
 
     // What is beyond the bound cannot be due to rounding; its second part covers underflow.

@@ -11,8 +11,8 @@ namespace quorvel::geometry {
 constexpr Real shoelace_sum(PlanPoints polygon) noexcept {
     const Integer n = polygon.size();
     if (n < 1) return 0.0f;
-    Real sum = cross(polygon[0], polygon[n - 1]);
-    for (Integer i = 1; i < n; ++i) sum += cross(polygon[i], polygon[i - 1]);
+    Real sum = cross_product(polygon[0], polygon[n - 1]);
+    for (Integer i = 1; i < n; ++i) sum += cross_product(polygon[i], polygon[i - 1]);
     return sum;
 }
 
@@ -37,7 +37,7 @@ inline Real area_in_space(SpacePoints polygon) noexcept {
     Real sum = 0.0f;
     for (Integer i = 0; i < polygon.size(); ++i) {
         const SpacePoint a = polygon[i] - centre, b = polygon[polygon.after(i)] - centre;
-        sum += length(cross(a, b)) * 0.5f;
+        sum += length(cross_product(a, b)) * 0.5f;
     }
     return sum;
 }
@@ -53,8 +53,8 @@ inline PolygonPlane plane_of(SpacePoints polygon) noexcept {
     const Integer last = polygon.size() - 1;
     const SpacePoint origin = polygon[0];
     const SpacePoint along = direction_if_any(polygon[std::min(Integer{1}, last)] - origin);
-    const SpacePoint normal = direction_if_any(cross(along, polygon[last] - origin));
-    return {origin, along, cross(normal, along), normal};
+    const SpacePoint normal = direction_if_any(cross_product(along, polygon[last] - origin));
+    return {origin, along, cross_product(normal, along), normal};
 }
 
 // Positive for vertices that run anticlockwise about the normal; 0 for fewer than three vertices,
@@ -65,8 +65,8 @@ constexpr Real signed_area(SpacePoints polygon, const PolygonPlane& plane) noexc
     Real sum = 0.0f;
     for (Integer k = 1; k < polygon.size(); ++k) {
         const SpacePoint offset = polygon[k] - plane.origin;
-        const PlanPoint vertex{dot(offset, plane.along), dot(offset, plane.across)};
-        sum += cross(previous, vertex);
+        const PlanPoint vertex{dot_product(offset, plane.along), dot_product(offset, plane.across)};
+        sum += cross_product(previous, vertex);
         previous = vertex;
     }
     return 0.5f * sum;
@@ -79,7 +79,7 @@ constexpr Real degrees(Real radians) noexcept { return 180.0f * radians / pi; }
 inline Real back_azimuth(const PolygonPlane& plane) noexcept {
     constexpr SpacePoint up{0.0f, 0.0f, 1.0f};
     const bool nearly_level = !(absolute(plane.normal.z) <= 0.999f);
-    const SpacePoint level = cross(nearly_level ? plane.across : plane.normal, up);
+    const SpacePoint level = cross_product(nearly_level ? plane.across : plane.normal, up);
     const Real from_east = degrees(math::atan2(level.y, level.x));
     const Real angle = nearly_level ? from_east : from_east + 90.0f;
     return back_azimuth(angle < 0.0f ? angle + 360.0f : angle);

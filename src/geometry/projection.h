@@ -7,7 +7,7 @@ namespace quorvel::geometry {
 
 template <class R>
 MaskOf<R> parallel_to_plane(SpaceVector<R> normal, SpaceVector<R> d) noexcept {
-    return !(absolute(dot(d, normal)) > 1.0e-15f);
+    return !(absolute(dot_product(d, normal)) > 1.0e-15f);
 }
 
 // Where the line through p along d, ahead or behind, meets the plane; infinite or not a number when
@@ -15,7 +15,7 @@ MaskOf<R> parallel_to_plane(SpaceVector<R> normal, SpaceVector<R> d) noexcept {
 template <class R>
 SpaceVector<R> intersection(SpaceVector<R> p0, SpaceVector<R> normal, SpaceVector<R> p,
                             SpaceVector<R> d) noexcept {
-    const R t = dot(p0 - p, normal) / dot(d, normal);
+    const R t = dot_product(p0 - p, normal) / dot_product(d, normal);
     return p + t * d;
 }
 
@@ -50,7 +50,7 @@ template <class R>
 SpaceVector<R> forward_projection_or_start(SpaceVector<R> p0, SpaceVector<R> normal,
                                            SpaceVector<R> p, SpaceVector<R> d) noexcept {
     const SpaceVector<R> point = intersection(p0, normal, p, d);
-    return select((dot(d, normal) == 0.0f) | ahead(p, d, point), point, p);
+    return select((dot_product(d, normal) == 0.0f) | ahead(p, d, point), point, p);
 }
 
 }  // namespace quorvel::geometry

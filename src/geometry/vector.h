@@ -79,27 +79,27 @@ constexpr SpaceVector<R> operator/(SpaceVector<R> v, R divisor) noexcept {
 }
 
 template <class R>
-constexpr R dot(PlanVector<R> a, PlanVector<R> b) noexcept {
+constexpr R dot_product(PlanVector<R> a, PlanVector<R> b) noexcept {
     return a.x * b.x + a.y * b.y;
 }
 template <class R>
-constexpr R dot(SpaceVector<R> a, SpaceVector<R> b) noexcept {
+constexpr R dot_product(SpaceVector<R> a, SpaceVector<R> b) noexcept {
     return a.x * b.x + a.y * b.y + a.z * b.z;
 }
 
 // The z of the cross product of two directions in plan: positive when b points to the left of a.
 template <class R>
-constexpr R cross(PlanVector<R> a, PlanVector<R> b) noexcept {
+constexpr R cross_product(PlanVector<R> a, PlanVector<R> b) noexcept {
     return a.x * b.y - a.y * b.x;
 }
 template <class R>
-constexpr SpaceVector<R> cross(SpaceVector<R> a, SpaceVector<R> b) noexcept {
+constexpr SpaceVector<R> cross_product(SpaceVector<R> a, SpaceVector<R> b) noexcept {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
 template <class R, int dimensions>
 constexpr R squared_length(Vector<R, dimensions> v) noexcept {
-    return dot(v, v);
+    return dot_product(v, v);
 }
 
 template <class R, int dimensions>
@@ -124,7 +124,7 @@ inline SpaceVector<R> direction_if_any(SpaceVector<R> v) noexcept {
 // Coordinates of p along each of three axes.
 template <class R>
 constexpr SpaceVector<R> along(const Columns<R, 3>& axes, SpaceVector<R> p) noexcept {
-    return {dot(axes[0], p), dot(axes[1], p), dot(axes[2], p)};
+    return {dot_product(axes[0], p), dot_product(axes[1], p), dot_product(axes[2], p)};
 }
 
 }  // namespace quorvel::geometry

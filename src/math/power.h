@@ -106,15 +106,15 @@ QUORVEL_INLINE float pow(float x, float y) noexcept {
 
 namespace detail {
 
-enum class Parity { kNotAnInteger, kEven, kOdd };
+enum class Parity { not_an_integer, even, odd };
 
 // A number of magnitude 2^53 or more is an even integer, which covers infinity.
 inline Parity parity(double y) noexcept {
     const double a = std::abs(y);
-    if (a >= 0x1p53) return Parity::kEven;
+    if (a >= 0x1p53) return Parity::even;
     const auto whole = static_cast<std::int64_t>(a);
-    if (static_cast<double>(whole) != a) return Parity::kNotAnInteger;
-    return (whole & 1) != 0 ? Parity::kOdd : Parity::kEven;
+    if (static_cast<double>(whole) != a) return Parity::not_an_integer;
+    return (whole & 1) != 0 ? Parity::odd : Parity::even;
 }
 
 template <typename T>
@@ -127,10 +127,10 @@ T pow_of_special(T x, T y) noexcept {
     // for a zero or infinite x or y
     T value = base == T{1} ? T{1} : (base > T{1}) == (y > T{0}) ? kLimit : T{0};
     if (base > T{0} && base < kLimit && std::abs(y) < kLimit) {
-        if (kind == Parity::kNotAnInteger) return std::numeric_limits<T>::quiet_NaN();
+        if (kind == Parity::not_an_integer) return std::numeric_limits<T>::quiet_NaN();
         value = pow(base, y);
     }
-    return std::signbit(x) && kind == Parity::kOdd ? -value : value;
+    return std::signbit(x) && kind == Parity::odd ? -value : value;
 }
 
 }  // namespace detail

@@ -26,7 +26,7 @@ R water_vapour_enthalpy(R t) noexcept {
 
 // clang-format off
 template <class R>
-R dry_air_specific_heat(R t) noexcept {
+inline R dry_air_specific_heat(R t) noexcept {
     return piecewise(t < 0.0f,  [&] { return 1.0056f + 1.3e-5f * t; },
                      t < 10.0f, [&] { return 1.0056f + 2.2e-5f * t; },
                      t < 20.0f, [&] { return 1.00582f + 2.8e-5f * (t - 10.0f); },
@@ -38,7 +38,7 @@ R dry_air_specific_heat(R t) noexcept {
 
 // Latent heat of evaporation, of sublimation below 0 °C. Deliberate: exactly 60 °C has none.
 template <class R>
-R latent_heat(R t) noexcept {
+inline R latent_heat(R t) noexcept {
     return piecewise(t <= -5.0f, [&] { return 2835.6267f - 0.20934f * (t + 5.0f); },
                      t < 0.0f,   [&] { return 2834.3706f - 0.2512f * t; },
                      t <= 30.0f, [&] { return 2500.8f - 2.36f * t; },
@@ -50,7 +50,7 @@ R latent_heat(R t) noexcept {
 // clang-format on
 
 template <class R>
-R water_vapour_specific_heat(R t) noexcept {
+inline R water_vapour_specific_heat(R t) noexcept {
     return either(
         t >= 20.0f, [&] { return R(1.9f); }, [&] { return 1.7f + 0.01f * t; });
 }

@@ -73,7 +73,8 @@ std::vector<StationClimate> year(ClimateFileState& state, const Request& request
     if (!reader.open("stations", 1)) return months;
     for (int month = 0; month < 12; ++month) {
         const auto m = static_cast<std::size_t>(month);
-        const auto climate = reader.climate(0, request.fraction[m], month + 1, request.set[m]);
+        const auto climate =
+            reader.station_climate(0, request.fraction[m], month + 1, request.set[m]);
         if (!climate) break;
         months.push_back(*climate);
     }
@@ -100,7 +101,7 @@ class ClimateFileReads : public testing::Test {
     }
     void row(int number) {
         Reader reader(state);
-        reader.row(number);
+        reader.station_row(number);
     }
 
     ClimateFileImage image{5, 2};
@@ -137,8 +138,8 @@ TEST_F(ClimateFileReads, NoneForARecordThatWasUsedLast) {
     EXPECT_EQ(reads_of([&] { row(0); }), 1u);
     EXPECT_EQ(reads_of([&] { row(8), row(1), row(-5); }), 0u);
     EXPECT_EQ(reads_of([&] { row(9), row(8), row(9); }), 3u);
-    EXPECT_EQ(reads_of([&] { Reader(state).between(9, 17, 1, 0.5f); }), 0u);
-    EXPECT_EQ(reads_of([&] { Reader(state).between(17, 18, 1, 0.5f); }), 1u);
+    EXPECT_EQ(reads_of([&] { Reader(state).interpolate_station_rows(9, 17, 1, 0.5f); }), 0u);
+    EXPECT_EQ(reads_of([&] { Reader(state).interpolate_station_rows(17, 18, 1, 0.5f); }), 1u);
     EXPECT_EQ(reads_of([&] { row(18), row(26); }), 0u);
     // The year ends in the rows of Q7, and the buffered record counts only until another is read.
     Request request = draw(random, 1);

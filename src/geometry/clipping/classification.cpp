@@ -30,10 +30,10 @@ Nearest nearest_edge(Point point, const Ring& ring) noexcept {
     for (Integer i = 0; i < ring.size(); ++i) {
         const Edge edge = ring.edge(i);
         const Point along = edge.along(), offset = point - edge.start;
-        const DoubleReal foot = dot(along, offset), squared = squared_length(along);
+        const DoubleReal foot = dot_product(along, offset), squared = squared_length(along);
         const DoubleReal slack = 1.0e-9 * squared;
         if (!(foot >= -slack && foot <= squared + slack && squared > 0.0)) continue;
-        const DoubleReal distance = cross(along, offset) / math::sqrt(squared);
+        const DoubleReal distance = cross_product(along, offset) / math::sqrt(squared);
         if (std::fabs(distance) < std::fabs(nearest.distance)) nearest = {i, distance};
     }
     return nearest;
@@ -45,7 +45,7 @@ bool turns_left(const Ring& ring, Integer corner) noexcept {
     Integer a = ring.before(corner), b = ring.after(corner);
     while (a != corner && same(ring[a], vertex)) a = ring.before(a);
     while (b != corner && same(ring[b], vertex)) b = ring.after(b);
-    return cross(vertex - ring[a], ring[b] - vertex) > 0.0;
+    return cross_product(vertex - ring[a], ring[b] - vertex) > 0.0;
 }
 
 }  // namespace

@@ -65,7 +65,7 @@ class HalfPlanes {
         bool clear = size_ > 0;
         std::uint64_t right = 0;
         for (Integer i = size_ - 1; i >= 0; --i) {
-            const DoubleReal product = cross(lines_[i].along, point - lines_[i].start);
+            const DoubleReal product = cross_product(lines_[i].along, point - lines_[i].start);
             clear &= std::fabs(product) > margin(lines_[i]);
             right = right << 1 | std::bit_cast<std::uint64_t>(product) >> 63;
         }

@@ -47,7 +47,7 @@ class Turning {
     explicit constexpr Turning(Point first) noexcept : last_(first) {}
 
     constexpr void add(Point direction) noexcept {
-        const DoubleReal turn = cross(last_, direction);
+        const DoubleReal turn = cross_product(last_, direction);
         least_ = std::min(least_, turn);
         greatest_ = std::max(greatest_, turn);
         half_turns_ += (last_.y > 0.0) != (direction.y > 0.0);

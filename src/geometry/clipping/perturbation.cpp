@@ -13,8 +13,8 @@ Point snapped_to_vertices(Point point, const PreparedRing& ring) noexcept {
 Point moved_off(Edge edge, Point point, DoubleReal left, DoubleReal tolerance) noexcept {
     const Point along = edge.along(), offset = point - edge.start;
     const DoubleReal edge_length = length(along);
-    const DoubleReal distance = cross(along, offset) / edge_length;
-    const DoubleReal station = dot(along, offset) / edge_length;
+    const DoubleReal distance = cross_product(along, offset) / edge_length;
+    const DoubleReal station = dot_product(along, offset) / edge_length;
     const bool near = std::fabs(distance) <= 1.001 * tolerance && station >= -tolerance &&
                       station <= edge_length + tolerance;
     if (!near) return point;
