@@ -2,6 +2,11 @@
 # precision. The last two flags change no value and let loops vectorise.
 include(CheckCXXCompilerFlag)
 
+# 32-bit x86 would compute in the x87 unit, in extended precision.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "^(i[3-6]86|x86_64)$")
+    add_compile_options(-msse2 -mfpmath=sse)
+endif()
+
 add_library(quorvel_arithmetic INTERFACE)
 target_compile_options(quorvel_arithmetic INTERFACE
     -ffp-contract=off -fno-fast-math -fno-math-errno -fno-trapping-math

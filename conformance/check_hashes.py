@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Hold the corpus hashes of one or more builds of the library against the committed ones.
 
-    check_hashes.py [--write] [--family NAME] HASHES PROGRAM [LIBRARY ...]
+    check_hashes.py [--write] [--family NAME] [--apart] HASHES PROGRAM [LIBRARY ...]
 
 PROGRAM is the corpus program (with its emulator in front, if any). Without LIBRARY it runs on the
 library it finds itself; with libraries, on each in turn. A build that differs from the committed
@@ -14,6 +14,7 @@ import shlex
 import struct
 import subprocess
 import sys
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 CPU_FLAGS = {"x86-64-v3": {"avx2", "bmi2", "fma"}, "x86-64-v4": {"avx512f", "avx512bw", "avx512cd", "avx512dq", "avx512vl"}}
@@ -25,6 +26,12 @@ def run(program, library, *arguments):
     if done.returncode:
         sys.exit(f"{' '.join(program)} on {library or 'its library'}: {done.stderr.strip()}")
     return done.stdout.replace("\r", "").splitlines()
+
+
+def run_apart(program, library, routines):
+    """Each in a process of its own, as many at once as there are processors."""
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        return [line for lines in pool.map(lambda routine: run(program, library, routine), routines) for line in lines]
 
 
 def runs_here(library):
@@ -44,7 +51,7 @@ def readable(words):
 
 
 def first_difference(program, routine, reference, library):
-    for ours, theirs in zip(run(program, reference, routine), run(program, library, routine)):
+    for ours, theirs in zip(run(program, reference, "--cases", routine), run(program, library, "--cases", routine)):
         if ours != theirs:
             given, _, result = ours.partition(" : ")
             return (
@@ -59,6 +66,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--write", action="store_true", help="write HASHES anew (say why in the changelog)")
     parser.add_argument("--family", help="only the routines of one family, in their own order")
+    parser.add_argument("--apart", action="store_true", help="run the routines side by side and in one order only")
     parser.add_argument("hashes", type=Path)
     parser.add_argument("program", type=shlex.split)
     parser.add_argument("libraries", nargs="*")
@@ -87,13 +95,17 @@ def main():
         if not runs_here(library):
             print(f"skipped   {label}: this CPU lacks its instruction set")
             continue
-        differing = sorted(set(run(options.program, library)) ^ set(committed))
-        print(f"{'DIFFERS' if differing else 'the same'}  {label}")
-        for routine in dict.fromkeys(line.split()[0] for line in differing):
+        names = [line.split()[0] for line in committed]
+        found = run_apart(options.program, library, names) if options.apart else run(options.program, library)
+        differing = dict.fromkeys(line.split()[0] for line in sorted(set(found) ^ set(committed)))
+        print(f"{'DIFFERS' if differing else 'the same'}  {len(set(found) & set(committed))} of {len(committed)}  {label}")
+        for routine in differing:
             print(f"  {routine}")
             if len(libraries) > 1:
                 print(first_difference(options.program, routine, libraries[0], library))
         failed = failed or bool(differing)
+    if options.apart:
+        sys.exit(failed)
     shuffled = sorted(set(run(options.program, libraries[0], "--shuffled")) ^ set(committed))
     if shuffled and not failed:
         print("DIFFERS  when the routines run in another order:", *dict.fromkeys(line.split()[0] for line in shuffled))

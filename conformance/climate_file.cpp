@@ -21,8 +21,9 @@ constexpr int example_stations = 100;
 ClimateFileImage::ClimateFileImage(std::int32_t H, int last_station, std::uint64_t seed) : H_(H) {
     words_.resize(static_cast<std::size_t>(layout::value_offset(last_station + 1, H, 0, 0) / 4));
     Random random(seed);
-    for (std::uint32_t& word : words_) word = static_cast<std::uint32_t>(random.bits());
-    words_[1] = static_cast<std::uint32_t>(H);
+    for (std::uint32_t& word : words_)
+        word = layout::file_order(static_cast<std::uint32_t>(random.bits()));
+    words_[1] = layout::file_order(static_cast<std::uint32_t>(H));
 }
 
 std::int64_t ClimateFileImage::record_of(std::int64_t station, int row) const {
@@ -35,11 +36,11 @@ std::size_t ClimateFileImage::word(int station, int row, int month) const {
 }
 
 float ClimateFileImage::value(int station, int row, int month) const {
-    return std::bit_cast<float>(words_.at(word(station, row, month)));
+    return std::bit_cast<float>(layout::file_order(words_.at(word(station, row, month))));
 }
 
 void ClimateFileImage::set(int station, int row, int month, float value) {
-    words_.at(word(station, row, month)) = std::bit_cast<std::uint32_t>(value);
+    words_.at(word(station, row, month)) = layout::file_order(std::bit_cast<std::uint32_t>(value));
 }
 
 void ClimateFileImage::fill(int station, Random& random) {

@@ -35,7 +35,7 @@ class ClimateFileImage {
     std::size_t word(int station, int row, int month) const;
 
     std::int32_t H_;
-    std::vector<std::uint32_t> words_;
+    std::vector<std::uint32_t> words_;  // in the order of the file
 };
 
 // A new empty folder, removed with all in it at the end.

@@ -1,10 +1,11 @@
 // One 64-bit hash per exported routine over a fixed corpus of arguments: equal hashes mean equal
 // bits.
 //
-//     quorvel_corpus              prints "NAME HASH" for every routine
-//     quorvel_corpus FAMILY       the same for the routines of one family
-//     quorvel_corpus --shuffled   the same with the routines in random order, in the user's locale
-//     quorvel_corpus NAME         prints every case of one routine: arguments before, results after
+//     quorvel_corpus               prints "NAME HASH" for every routine
+//     quorvel_corpus FAMILY        the same for the routines of one family
+//     quorvel_corpus NAME          the same for one routine
+//     quorvel_corpus --shuffled    the same with the routines in random order, in the user's locale
+//     quorvel_corpus --cases NAME  prints every case of one: arguments before, results after
 //
 // The library under test is the one that library.h loads (QUORVEL_LIBRARY names another one).
 #include "conformance/corpus.h"
@@ -61,7 +62,7 @@ std::vector<Routine> shuffled(std::vector<Routine> routines) {
 }  // namespace
 
 int main(int argc, char** argv) try {
-    const std::string_view wanted = argc > 1 ? argv[1] : "";
+    const std::string_view wanted = argc > 1 ? argv[1] : "", routine_name = argc > 2 ? argv[2] : "";
     quorvel::host::load_library();
     const ExampleFolder folder;
     if (wanted.empty()) return print_hashes(routines()), 0;
@@ -69,13 +70,13 @@ int main(int argc, char** argv) try {
         std::setlocale(LC_ALL, "");
         return print_hashes(shuffled(routines())), 0;
     }
-    for (const Routine& routine : routines())
-        if (wanted == routine.name) return print_cases(routine), 0;
-    std::vector<Routine> family;
-    std::ranges::copy_if(routines(), std::back_inserter(family),
-                         [&](const Routine& routine) { return wanted == routine.family; });
-    if (!family.empty()) return print_hashes(family), 0;
-    std::fprintf(stderr, "no exported routine and no family is called %s\n", argv[1]);
+    const bool cases = wanted == "--cases";
+    std::vector<Routine> selected;
+    std::ranges::copy_if(routines(), std::back_inserter(selected), [&](const Routine& routine) {
+        return (cases ? routine_name : wanted) == routine.name || wanted == routine.family;
+    });
+    if (!selected.empty()) return cases ? print_cases(selected[0]) : print_hashes(selected), 0;
+    std::fprintf(stderr, "no exported routine and no family is called %s\n", argv[argc - 1]);
     return 2;
 } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());

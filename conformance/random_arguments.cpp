@@ -159,8 +159,7 @@ void ArgumentSet::draw(SingleWord single, DoubleWord pair, IntegerWord integer, 
                 block[j] = single(argument);
             } else {
                 const std::uint64_t bits = pair(argument);
-                block[j] = static_cast<std::uint32_t>(bits);
-                block[++j] = static_cast<std::uint32_t>(bits >> 32);
+                std::memcpy(&block[j++], &bits, sizeof bits);
             }
         }
     }
@@ -182,7 +181,12 @@ void ArgumentSet::draw_any(Random& random) {
     draw([&](const Argument& a) { return any_real<float, std::uint32_t>(a, random); },
          [&](const Argument& a) { return any_real<double, std::uint64_t>(a, random); },
          [&](std::size_t i) { return any_integer(i, random); },
-         [&](auto& room) { store_text(any_text(random), random.below(2) == 0, room); });
+         [&](auto& room) {
+             // One draw a statement: in which order arguments are evaluated is the compiler's
+             // choice.
+             const bool padded = random.below(2) == 0;
+             store_text(any_text(random), padded, room);
+         });
 }
 
 void ArgumentSet::spoil(Random& random) {

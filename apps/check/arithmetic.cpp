@@ -1,6 +1,10 @@
 #include "check/arithmetic.h"
 
+#ifdef __SSE__
 #include <xmmintrin.h>
+#else
+#include <fenv.h>
+#endif
 
 #include <bit>
 #include <cstdint>
@@ -8,9 +12,17 @@
 
 namespace quorvel::check {
 
+// On x86 the functions of the C library tell of the x87 unit, where nothing is computed.
+#ifdef __SSE__
+static bool exceptions_are_masked() { return _MM_GET_EXCEPTION_MASK() == _MM_MASK_MASK; }
+void mask_exceptions() { _MM_SET_EXCEPTION_MASK(_MM_MASK_MASK); }
+#else
+static bool exceptions_are_masked() { return fegetexcept() == 0; }
+void mask_exceptions() { fedisableexcept(FE_ALL_EXCEPT); }
+#endif
+
 std::string fault_of_arithmetic() {
-    if (_MM_GET_EXCEPTION_MASK() != _MM_MASK_MASK)
-        return "floating-point exceptions end the process";
+    if (!exceptions_are_masked()) return "floating-point exceptions end the process";
     // Volatile: computed by the processor in its present state, not by the compiler.
     volatile float smallest = std::numeric_limits<float>::min(), half = 0.5f, one = 1.0f;
     volatile float third = one / 3.0f, minus_third = -one / 3.0f, subnormal = smallest * half;
@@ -22,7 +34,5 @@ std::string fault_of_arithmetic() {
         return "results are not rounded to the nearest number";
     return {};
 }
-
-void mask_exceptions() { _MM_SET_EXCEPTION_MASK(_MM_MASK_MASK); }
 
 }  // namespace quorvel::check

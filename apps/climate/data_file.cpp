@@ -1,6 +1,8 @@
 #include "climate/data_file.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstring>
 #include <fstream>
 
@@ -20,14 +22,23 @@ std::size_t begin_of(int station) {
     return static_cast<std::size_t>(value_offset(station, written_H, 0, 0));
 }
 
+using Number = std::array<char, 4>;
+
+Number bytes_of(float value) {
+    return std::bit_cast<Number>(file_order(std::bit_cast<std::uint32_t>(value)));
+}
+
 }  // namespace
 
 std::string data_file(const std::vector<Station>& stations) {
     int last = 0;
     for (const Station& station : stations) last = std::max(last, station.number);
     std::string bytes(begin_of(last + 1), '\0');
-    for (const Station& station : stations)
-        std::memcpy(&bytes[begin_of(station.number)], station.rows.data(), sizeof station.rows);
+    for (const Station& station : stations) {
+        auto to = bytes.begin() + static_cast<std::ptrdiff_t>(begin_of(station.number));
+        for (const MonthlyRow& row : station.rows)
+            for (const float value : row) to = std::ranges::copy(bytes_of(value), to).out;
+    }
     return bytes;
 }
 
@@ -38,7 +49,9 @@ DataFile::DataFile(std::string path) : path_(std::move(path)) {
     stream.seekg(0);
     stream.read(header, std::min<std::int64_t>(bytes_, sizeof header));  // a folder opens as well
     if (!stream) throw host::InputError(path_ + ": cannot be read");
-    std::memcpy(&H_, header + header_offset, sizeof H_);
+    std::uint32_t H;
+    std::memcpy(&H, header + header_offset, sizeof H);
+    H_ = static_cast<std::int32_t>(file_order(H));
 }
 
 std::int64_t DataFile::last_station() const {

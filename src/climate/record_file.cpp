@@ -1,4 +1,9 @@
+#define _FILE_OFFSET_BITS 64  // of 32-bit Linux, before any header
+
 #include "climate/record_file.h"
+
+#include <algorithm>
+#include <bit>
 
 #ifdef _WIN32
 #ifndef NOMINMAX
@@ -108,6 +113,10 @@ bool RecordFile::read(std::int64_t number, Record& record) const noexcept {
         if (count == 0) return false;
         done += count;
     }
+    // The file has the lowest byte of a number first.
+    if constexpr (std::endian::native == std::endian::big)
+        for (done = 0; done < sizeof(Record); done += sizeof(Real))
+            std::reverse(bytes + done, bytes + done + sizeof(Real));
     return true;
 }
 

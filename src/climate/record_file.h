@@ -1,4 +1,5 @@
-// A file of fixed-length records, read only, addressed by record number.
+// A file of fixed-length records of numbers, lowest byte first, read only, addressed by record
+// number.
 #pragma once
 
 #include <array>

@@ -8,6 +8,7 @@
 
 #include "climate/climate_file.h"
 #include "conformance/climate_file.h"
+#include "support/climate_record.h"
 
 using namespace quorvel::climate;
 using quorvel::conformance::ClimateFileImage;
@@ -43,8 +44,10 @@ class DiskFile {
         const bool fails = disk.reads.size() == disk.failing || end > disk.content.size();
         disk.reads.push_back(number);
         std::memset(&record, 0xEE, sizeof record);
-        if (!fails) std::memcpy(&record, &disk.content[end - sizeof record], sizeof record);
-        return !fails;
+        if (fails) return false;
+        std::memcpy(&record, &disk.content[end - sizeof record], sizeof record);
+        quorvel::test::put_in_order(record);
+        return true;
     }
 
   private:

@@ -25,12 +25,19 @@ std::string two_stations(Random& random) {
                 image.set(station, row, month,
                           std::round(4 * image.value(station, row, month)) / 4);
             image.set(station, 12 + random.below(20), month, -0.5f);
-            image.set(station, 72 + random.below(10), month, random.below(2) ? -0.5f : 1.5f);
+            const int fraction_row = 72 + random.below(10);
+            image.set(station, fraction_row, month, random.below(2) ? -0.5f : 1.5f);
             image.set(station, month % 2, month, std::bit_cast<float>(0x7f800001u));
         }
     }
     const auto bytes = image.bytes().subspan(3 * record_bytes);
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+// Halves round away from zero; a little less does not.
+double any_set(Random& random) {
+    const double set = 0.5 * random.below(7);
+    return random.below(2) ? set - 0.01 : set;
 }
 
 int any(Random& random, std::initializer_list<int> values) {
@@ -63,8 +70,8 @@ std::string step(Random& random, int first) {
             break;
         case 3:
         case 4:
-            text << "0 " << station << ' ' << any(random, {0, month}) << ' '
-                 << 0.5 * random.below(7) - 0.01 * random.below(2) << ' ' << percentage(random);
+            text << "0 " << station << ' ' << any(random, {0, month}) << ' ' << any_set(random)
+                 << ' ' << percentage(random);
             break;
         case 5:
             text << "i " << any(random, {31, 31, 31, 30}) << ' ' << station << ' ' << band << ' '

@@ -26,7 +26,8 @@ double place(int low, int high, Random& random) {
 
 PlanRing room(int low, int high_x, int high_y, Random& random) {
     const double x = place(low, high_x - 1, random), y = place(low, high_y - 1, random);
-    return rectangle(x, y, x + place(1, 4, random), y + place(1, 3, random));
+    const double width = place(1, 4, random), depth = place(1, 3, random);
+    return rectangle(x, y, x + width, y + depth);
 }
 
 RingPair storey_and_room(Random& random) { return {storey(random), room(0, 4, 3, random)}; }

@@ -56,8 +56,8 @@ PlanRing star(int n, Radii radii, double x, double y, Random& random) {
 // Some are convex, with all vertices on a circle.
 PlanRing star(Random& random) {
     const double high = random.between(0.5, 2.5), low = random.below(3) ? 0.1 * high : high;
-    return star(3 + random.below(9), {low, high}, random.between(-2, 2), random.between(-2, 2),
-                random);
+    const double x = random.between(-2, 2), y = random.between(-2, 2);
+    return star(3 + random.below(9), {low, high}, x, y, random);
 }
 
 // All coordinates are multiples of 64 steps of the grid, so that each edge has grid points on it.
@@ -93,8 +93,10 @@ RingPair touching(Random& random) {
         if (random.below(rarity) == 0) b.push_back(a[i]);
         if (random.below(rarity) == 0) b.push_back(between(a[i], a[(i + 1) % a.size()], random));
     }
-    for (int extra = random.below(4); extra > 0; --extra)
-        b.push_back(on_grid(random.between(-3, 3), random.between(-3, 3)));
+    for (int extra = random.below(4); extra > 0; --extra) {
+        const double x = random.between(-3, 3), y = random.between(-3, 3);
+        b.push_back(on_grid(x, y));
+    }
     return {a, b};
 }
 

@@ -17,11 +17,14 @@ using Complex = std::complex<double>;
 struct Wall {
     std::vector<float> thickness, conductivity, density, specific_heat;
 
-    void add(float d, float k, float rho, float c) {
-        thickness.push_back(d);
-        conductivity.push_back(k);
-        density.push_back(rho);
-        specific_heat.push_back(c);
+    struct Layer {
+        float d, k, rho, c;
+    };
+    void add(const Layer& layer) {
+        thickness.push_back(layer.d);
+        conductivity.push_back(layer.k);
+        density.push_back(layer.rho);
+        specific_heat.push_back(layer.c);
     }
 };
 
@@ -73,17 +76,17 @@ Wall draw_wall(Random& random, int layers) {
     Wall wall;
     while (layers-- > 0) switch (random.below(6)) {
             case 0:
-                wall.add(-1.0f, random.real(0.05, 0.3), 0.0f, 0.0f);
+                wall.add({-1.0f, random.real(0.05, 0.3), 0.0f, 0.0f});
                 break;
             case 1:
-                wall.add(random.below(2) ? 0.0f : 0.01f, 0.3f, 0.0f, 1500.0f);
+                wall.add({random.below(2) ? 0.0f : 0.01f, 0.3f, 0.0f, 1500.0f});
                 break;
             case 2:
-                wall.add(random.real(0.02, 0.1), random.real(0.03, 0.06), 20.0f, 1000.0f);
+                wall.add({random.real(0.02, 0.1), random.real(0.03, 0.06), 20.0f, 1000.0f});
                 break;
             default:
-                wall.add(random.real(0.01, 0.15), random.real(0.3, 2.0), random.real(600.0, 2400.0),
-                         random.real(700.0, 1600.0));
+                wall.add({random.real(0.01, 0.15), random.real(0.3, 2.0),
+                          random.real(600.0, 2400.0), random.real(700.0, 1600.0)});
         }
     return wall;
 }

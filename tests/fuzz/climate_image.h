@@ -1,10 +1,12 @@
 // A climate data file that a few words make, so that seeds can be small.
 #pragma once
 
+#include <bit>
 #include <cstring>
 #include <string>
 
 #include "fuzz/bytes.h"
+#include "quorvel/climate_file_layout.h"
 
 namespace quorvel::fuzz {
 
@@ -21,15 +23,19 @@ struct ClimateImage {
             fill_rising(file);
         else
             for (std::size_t i = 0; i < file.size(); ++i) file[i] = values[i % values.size()];
-        if (file.size() >= 8) std::memcpy(&file[4], &H, sizeof H);
+        if (file.size() >= 8) put(static_cast<std::uint32_t>(H), file, 4);
         return file;
     }
 
   private:
+    static void put(std::uint32_t bits, std::string& file, std::size_t offset) {
+        bits = climate_file_layout::file_order(bits);
+        std::memcpy(&file[offset], &bits, sizeof bits);
+    }
     static void fill_rising(std::string& file) {
         for (std::size_t i = 0; i + 4 <= file.size(); i += 4) {
             const float value = static_cast<float>(i % 4096) / 4096;
-            std::memcpy(&file[i], &value, sizeof value);
+            put(std::bit_cast<std::uint32_t>(value), file, i);
         }
     }
 };

@@ -88,7 +88,7 @@ TEST(SurfaceAxes, AreUndoneByTheirInverseAndByTheirTranspose) {
         return q;
     };
     for (int i = 0; i < 10000; ++i) {
-        const Axes axes(random.real(0.0, 6.3), random.real(0.0, 3.14));
+        const Axes axes{random.real(0.0, 6.3), random.real(0.0, 3.14)};
         const auto local = random_vector<float>(random, 10.0);
         const Vec3 global = rotated(local, axes.axes, lib::GERAXI);
         expect_near(rotated(global, axes.axes, lib::GERAX2), local, 2e-4f);

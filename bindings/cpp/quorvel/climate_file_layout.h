@@ -7,6 +7,7 @@
 // 0.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -37,6 +38,12 @@ constexpr std::int64_t value_offset(std::int64_t station, std::int64_t H, std::s
                                     std::size_t month) {
     return record_offset(first_record(station, H)) +
            static_cast<std::int64_t>(4 * (month_count * row + month));
+}
+
+// The bits of a number in the order of the file, from those in the order of memory, and back.
+constexpr std::uint32_t file_order(std::uint32_t bits) {
+    if constexpr (std::endian::native == std::endian::little) return bits;
+    return bits << 24 | (bits & 0xff00) << 8 | (bits >> 8 & 0xff00) | bits >> 24;
 }
 
 }  // namespace quorvel::climate_file_layout
