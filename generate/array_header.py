@@ -120,7 +120,7 @@ def name_of(arg):
     return getattr(arg, "name", "result")
 
 
-def _columns(routine):
+def columns(routine):
     """Name in C, and argument, of each input and output."""
     given = [(arg.name, arg) for arg in inputs(routine)]
     taken = {name for name, _ in given}
@@ -130,7 +130,7 @@ def _columns(routine):
 
 
 def _parameters(routine):
-    given, returned = _columns(routine)
+    given, returned = columns(routine)
     pairs = [(f"const {C_TYPES[arg.type]} *{name}", name) for name, arg in given]
     pairs += [(f"{C_TYPES[arg.type]} *{name}", name) for name, arg in returned]
     return ["size_t count", *(f"{pointer}, ptrdiff_t {name}_stride" for pointer, name in pairs)]
@@ -164,10 +164,10 @@ def header(families):
 
 
 def _definition(number, routine):
-    given, returned = _columns(routine)
-    columns = ", ".join(f"column({name}, {name}_stride)" for name, _ in (*given, *returned))
+    given, returned = columns(routine)
+    listed = ", ".join(f"column({name}, {name}_stride)" for name, _ in (*given, *returned))
     parameters = ", ".join(_parameters(routine))
-    return f"\nint32_t quorvel_{routine.name}({parameters}) {{\n    return call({number}, count, {columns});\n}}\n"
+    return f"\nint32_t quorvel_{routine.name}({parameters}) {{\n    return call({number}, count, {listed});\n}}\n"
 
 
 def _data(arg, name, places, counts):
@@ -183,7 +183,7 @@ def _data(arg, name, places, counts):
 
 
 def _arguments(routine):
-    given, returned = _columns(routine)
+    given, returned = columns(routine)
     places = {name: index for index, (name, _) in enumerate(given)}
     counts = {extent for arg in routine.args for extent in arg.shape if not isinstance(extent, int)}
     rows_of_data = [_data(arg, name, places, counts) for name, arg in given]
