@@ -139,11 +139,12 @@ std::ptrdiff_t row_bytes(const Table<T>& table) {
     return table.rows() == 1 ? 0 : static_cast<std::ptrdiff_t>(table.columns() * sizeof(T));
 }
 
+// Lists without elements need no address.
 template <class T>
 Column<const Number<T>> given(const char* name, const Table<const T>& table,
                               const Input<std::int32_t>& counts) {
-    return {name,  numbers(table.data()), row_bytes(table), table.rows(),
-            false, table.columns(),       &counts};
+    const T* const first = table.columns() == 0 ? &unread<T> : table.data();
+    return {name, numbers(first), row_bytes(table), table.rows(), false, table.columns(), &counts};
 }
 
 template <class T>
@@ -158,12 +159,12 @@ Column<Number<T>> returned(const char* name, const Table<T>& table,
             table.columns(), &counts};
 }
 
-template <class T>
-void check_elements(const std::string& routine, std::size_t count, const Column<T>& column) {
-    if (column.count != count && (column.output || column.count != 1))
-        throw std::invalid_argument(routine + ": " + column.name + " has " +
-                                    std::to_string(column.count) + " elements and not " +
-                                    std::to_string(count));
+/// Inputs of one element serve all elements.
+inline void check_elements(const std::string& routine, std::size_t count, const char* name,
+                           std::size_t size, bool output = false) {
+    if (size != count && (output || size != 1))
+        throw std::invalid_argument(routine + ": " + name + " has " + std::to_string(size) +
+                                    " elements and not " + std::to_string(count));
 }
 
 /// That no element counts more than a row has.
@@ -196,7 +197,7 @@ void call_arrays(const char* routine, Function function, const Column<T>&... col
         if (output && !std::exchange(known, true)) count = elements;
     };
     (count_outputs(columns.output, columns.count), ...);
-    (check_elements(routine, count, columns), ...);
+    (check_elements(routine, count, columns.name, columns.count, columns.output), ...);
     (check_columns(routine, columns), ...);
     const std::int32_t status = std::apply(
         function, std::tuple_cat(std::tuple(count), std::tuple(columns.first, columns.stride)...));

@@ -62,6 +62,12 @@ constexpr Integer rounded_set(Real selector) noexcept {
     return selector >= 1.5f && selector < 2.5f ? 2 : 1;
 }
 
+// Of a set: 2 or, for any other number, 1.
+constexpr int first_row(Integer set) noexcept { return set == 2 ? station_set_rows : 0; }
+
+// Reals of a month in the records that hosts keep.
+inline constexpr std::ptrdiff_t reals_per_record = 11;
+
 struct StationClimate {
     std::array<Real, station_quantities> quantities;  // Q1 to Q7
     Real time_a, time_b;
@@ -77,6 +83,8 @@ template <class File>
 class ClimateFileReader {
   public:
     explicit ClimateFileReader(ClimateFileState& state) noexcept : state_(state) {}
+    // On a file that is open already.
+    ClimateFileReader(ClimateFileState& state, File file) noexcept : state_(state), file_(file) {}
     ~ClimateFileReader();
     ClimateFileReader(const ClimateFileReader&) = delete;
     ClimateFileReader& operator=(const ClimateFileReader&) = delete;
@@ -89,6 +97,12 @@ class ClimateFileReader {
     // 1; bands and months outside count as the nearest.
     std::optional<StationClimate> climate(Integer band, Real fraction, Integer month,
                                           Integer set) noexcept;
+    // Has the frequencies of a set of the station in the state.
+    bool load_frequencies(Integer set) noexcept;
+    // The record of a month, for month 0 those of all, up to the first that cannot be read. Given
+    // in a record: 10 set, 11 percentage. Returned: 1 Q4, 2 Q6, 3 time B, 4 Q3, 5 Q5, 6 time A, 7
+    // Q1, 8 Q2, 9 Q7.
+    bool fill_records(Integer month, Real* records) noexcept;
 
     // Rows of the station count from 0; numbers outside pick its first or last one. Wide, for sums
     // of any Integers.
@@ -98,7 +112,7 @@ class ClimateFileReader {
                                 Real weight) noexcept;
 
   private:
-    bool load_frequencies(int first) noexcept;
+    bool fill_record(Integer month, Real* record) noexcept;
     bool read(std::int64_t number, Record& record) noexcept;
     bool read_header() noexcept;
     const Record* find(std::size_t part) noexcept;
@@ -194,7 +208,8 @@ std::optional<Real> ClimateFileReader<File>::between(std::int64_t lower, std::in
 }
 
 template <class File>
-bool ClimateFileReader<File>::load_frequencies(int first) noexcept {
+bool ClimateFileReader<File>::load_frequencies(Integer set) noexcept {
+    const int first = first_row(set) + 2;
     std::array<const MonthlyRow*, band_count> rows;
     for (std::size_t band = 0; band < rows.size(); ++band)
         if (!(rows[band] = row(first + static_cast<int>(band)))) return false;
@@ -206,10 +221,10 @@ template <class File>
 std::optional<StationClimate> ClimateFileReader<File>::climate(Integer band, Real fraction,
                                                                Integer month,
                                                                Integer set) noexcept {
-    const int first = set == 2 ? station_set_rows : 0;
+    const int first = first_row(set);
     const auto time_a = value(first, month);
     const auto time_b = time_a ? value(first + 1, month) : time_a;
-    if (!time_b || !load_frequencies(first + 2)) return {};
+    if (!time_b || !load_frequencies(set)) return {};
     StationClimate climate{{}, *time_a, *time_b};
     const auto [lower, upper, weight] = locate_station_band(state_, fraction, month);
     int before = first + 1;  // the row before a quantity's band 1
@@ -225,6 +240,25 @@ std::optional<StationClimate> ClimateFileReader<File>::climate(Integer band, Rea
     q2 = std::max(q2, 0.0f);
     q7 = limited(q7, 0.0f, 1.0f);
     return climate;
+}
+
+template <class File>
+bool ClimateFileReader<File>::fill_record(Integer month, Real* record) noexcept {
+    const auto found = climate(0, record[10] / 100.0f, month, rounded_set(record[9]));
+    if (!found) return false;
+    const auto& [q1, q2, q3, q4, q5, q6, q7] = found->quantities;
+    const Real filled[] = {q4, q6, found->time_b, q3, q5, found->time_a, q1, q2, q7};
+    std::ranges::copy(filled, record);
+    return true;
+}
+
+template <class File>
+bool ClimateFileReader<File>::fill_records(Integer month, Real* records) noexcept {
+    const Integer first = table_row(month, 12) + 1;
+    const Integer last = month == 0 ? 12 : first;
+    for (Integer m = first; m <= last; ++m)
+        if (!fill_record(m, records + reals_per_record * (m - 1))) return false;
+    return true;
 }
 
 }  // namespace quorvel::climate

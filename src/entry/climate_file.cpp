@@ -21,28 +21,12 @@ struct Call {
     climate::ClimateFileReader<climate::RecordFile> file{state};
 };
 
-// Of a month's record the last two are given.
-constexpr std::ptrdiff_t reals_per_record = 11;
-
-bool fill(Real* record, Integer month, Call& call) {
-    const auto climate =
-        call.file.climate(0, record[10] / 100.0f, month, climate::rounded_set(record[9]));
-    if (!climate) return false;
-    const auto& [q1, q2, q3, q4, q5, q6, q7] = climate->quantities;
-    const Real filled[] = {q4, q6, climate->time_b, q3, q5, climate->time_a, q1, q2, q7};
-    std::ranges::copy(filled, record);
-    return true;
-}
-
 }  // namespace
 
 void CLBNF0(const char* file, const Integer* station, const Integer* month, Real* records) {
     Call call;
     if (!call.file.open(file, *station)) return;
-    const Integer first = table_row(*month, 12) + 1;
-    const Integer last = *month == 0 ? 12 : first;
-    for (Integer m = first; m <= last; ++m)
-        if (!fill(records + reals_per_record * (m - 1), m, call)) return;
+    call.file.fill_records(*month, records);
 }
 
 void CLBNFI(const Integer* unit, const Integer* station, const Integer* band, const Integer* month,
