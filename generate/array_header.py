@@ -1,5 +1,7 @@
 """quorvel_arrays.h: the documented C header of the array library, and the functions and data behind it."""
 
+import re
+
 from array_kernels import has_kernel, inputs, outputs
 from catalogue import C_TYPES
 from header import WIDTH, paragraph, rows
@@ -23,8 +25,8 @@ PREAMBLE = """\
  * The functions return QUORVEL_OK, or what is wrong, found before anything is written; quorvel_message
  * says it in words. An output may stand where an input of its element stands (not where that is an
  * array itself that is counted), and columns of one table may be inputs and outputs; arrays that overlap
- * in any other way are refused. No function starts a
- * thread, allocates memory or keeps anything; all may be called from any thread.
+ * in any other way are refused. No function starts a thread, and but for those of climate data files
+ * none allocates memory or keeps anything; all may be called from any thread.
  */
 #ifndef QUORVEL_ARRAYS_H
 #define QUORVEL_ARRAYS_H
@@ -52,7 +54,10 @@ enum {
     QUORVEL_NO_ARRAY = 1,           /* an address is null */
     QUORVEL_OUTSIDE_RANGE = 2,      /* a count says more or fewer numbers than there may be */
     QUORVEL_OVERLAP = 3,            /* an output overlaps another array, or itself */
-    QUORVEL_NOT_ELEMENTWISE = 4     /* the routine has a state or takes a text: see quorvel.h */
+    QUORVEL_NOT_ELEMENTWISE = 4,    /* the routine has a state or takes a text: see quorvel.h */
+    QUORVEL_NO_FILE = 5,            /* there is no regular file of that name, or it may not be read */
+    QUORVEL_NO_MEMORY = 6,
+    QUORVEL_UNREADABLE = 7          /* a climate data file has no such record, or fails to be read */
 };
 
 /* ---- For bindings: any routine by its name ---------------------------------------------------- */
@@ -102,6 +107,46 @@ QUORVEL_ARRAYS_API const char *quorvel_level(void);
 /* Takes another level from now on; a null pointer stands for the best. 0, and no change, if it is not
  * supported. Results do not depend on it. */
 QUORVEL_ARRAYS_API int32_t quorvel_choose_level(const char *name);
+
+/* ---- Climate data files -------------------------------------------------------------------------
+ *
+ * Each object is one open file, with what was read of it. It may be used by one thread at a time;
+ * different objects have nothing in common. The functions give the bits that the routine of quorvel.h
+ * in brackets gives once CLBNF0 or CLBNFI was called for that station, and take what lies outside the
+ * ranges as it does. They return QUORVEL_OK, or QUORVEL_UNREADABLE and leave what they return as it was.
+ */
+
+typedef struct quorvel_climate_file quorvel_climate_file;
+
+/* Null where the file cannot be opened: *status (which may be null) says why. */
+QUORVEL_ARRAYS_API quorvel_climate_file *quorvel_climate_file_open(const char *path, int32_t *status);
+
+QUORVEL_ARRAYS_API void quorvel_climate_file_close(quorvel_climate_file *file); /* null is let be */
+
+/* Monthly climate of a band, or for band 0 interpolated at the percentage [CLBNFI]: seven quantities
+ * Q1 to Q7, and times A and B. */
+QUORVEL_ARRAYS_API int32_t quorvel_climate_file_station_climate(
+    quorvel_climate_file *file, int32_t station, int32_t band, int32_t month, int32_t band_set,
+    float percentage, float *quantities, float *times);
+
+/* Where a cumulative fraction of days lies among the ten bands of a month [CLBNF1]. */
+QUORVEL_ARRAYS_API int32_t quorvel_climate_file_locate_station_band(
+    quorvel_climate_file *file, int32_t station, int32_t band_set, float fraction, int32_t month,
+    int32_t *lower_band, int32_t *upper_band, float *band_weight);
+
+/* Value between two rows of a station [CLBNF2]. */
+QUORVEL_ARRAYS_API int32_t quorvel_climate_file_interpolate_station_rows(
+    quorvel_climate_file *file, int32_t station, int32_t base_row, int32_t lower_band,
+    int32_t upper_band, int32_t month, float band_weight, float *value);
+
+/* One row of a station, twelve values [CLBNF3]. */
+QUORVEL_ARRAYS_API int32_t quorvel_climate_file_station_row(
+    quorvel_climate_file *file, int32_t station, int32_t row, float *values);
+
+/* Monthly records, twelve of eleven values, all of them or that of one month [CLBNF0]; filled up to the
+ * first that cannot be read. */
+QUORVEL_ARRAYS_API int32_t quorvel_climate_file_station_records(
+    quorvel_climate_file *file, int32_t station, int32_t month, float *records);
 """
 
 POSTAMBLE = """
@@ -120,7 +165,7 @@ def name_of(arg):
     return getattr(arg, "name", "result")
 
 
-def _columns(routine):
+def columns(routine):
     """Name in C, and argument, of each input and output."""
     given = [(arg.name, arg) for arg in inputs(routine)]
     taken = {name for name, _ in given}
@@ -130,7 +175,7 @@ def _columns(routine):
 
 
 def _parameters(routine):
-    given, returned = _columns(routine)
+    given, returned = columns(routine)
     pairs = [(f"const {C_TYPES[arg.type]} *{name}", name) for name, arg in given]
     pairs += [(f"{C_TYPES[arg.type]} *{name}", name) for name, arg in returned]
     return ["size_t count", *(f"{pointer}, ptrdiff_t {name}_stride" for pointer, name in pairs)]
@@ -164,10 +209,10 @@ def header(families):
 
 
 def _definition(number, routine):
-    given, returned = _columns(routine)
-    columns = ", ".join(f"column({name}, {name}_stride)" for name, _ in (*given, *returned))
+    given, returned = columns(routine)
+    listed = ", ".join(f"column({name}, {name}_stride)" for name, _ in (*given, *returned))
     parameters = ", ".join(_parameters(routine))
-    return f"\nint32_t quorvel_{routine.name}({parameters}) {{\n    return call({number}, count, {columns});\n}}\n"
+    return f"\nint32_t quorvel_{routine.name}({parameters}) {{\n    return call({number}, count, {listed});\n}}\n"
 
 
 def _data(arg, name, places, counts):
@@ -183,7 +228,7 @@ def _data(arg, name, places, counts):
 
 
 def _arguments(routine):
-    given, returned = _columns(routine)
+    given, returned = columns(routine)
     places = {name: index for index, (name, _) in enumerate(given)}
     counts = {extent for arg in routine.args for extent in arg.shape if not isinstance(extent, int)}
     rows_of_data = [_data(arg, name, places, counts) for name, arg in given]
@@ -213,6 +258,6 @@ def definitions(families):
 
 def names(families):
     """What the array library exports."""
-    fixed = ["find_routine", "routines", "call", "message", "level", "choose_level"]
+    fixed = re.findall(r"^QUORVEL_ARRAYS_API .*?\bquorvel_(\w+)\(", PREAMBLE, re.MULTILINE)
     made = [routine.name for family in families for routine in family.routines if has_kernel(routine)]
     return [f"quorvel_{name}" for name in sorted(fixed + made)]

@@ -31,17 +31,17 @@ POSTAMBLE = """
 """
 
 
-def _number(value):
+def number(value):
     return f"{value:.8g}" if isinstance(value, float) else str(value)
 
 
 def _interval(low, high):
     if high == math.inf:
-        return f"from {_number(low)}"
-    return f"to {_number(high)}" if low == -math.inf else f"{_number(low)} .. {_number(high)}"
+        return f"from {number(low)}"
+    return f"to {number(high)}" if low == -math.inf else f"{number(low)} .. {number(high)}"
 
 
-def _domain(arg):
+def domain(arg):
     if arg.ignored:
         return "not used"
     if arg.dir == "out":
@@ -53,7 +53,7 @@ def _domain(arg):
     return _interval(*arg.range) if arg.range else "any"
 
 
-def _meaning(arg, returned):
+def meaning(arg, returned):
     text = arg.meaning
     if arg.values:
         text += ": " + ", ".join(f"{number} {meaning}" for number, meaning in arg.values.values())
@@ -65,7 +65,7 @@ def _meaning(arg, returned):
 
 
 def rows(args, returned):
-    cells = [(arg.name, C_TYPES[arg.type], arg.unit, _domain(arg), _meaning(arg, returned)) for arg in args]
+    cells = [(arg.name, C_TYPES[arg.type], arg.unit, domain(arg), meaning(arg, returned)) for arg in args]
     widths = [max(len(row[column]) for row in cells) for column in range(4)]
     for row in cells:
         lead = "    " + "  ".join(cell.ljust(width) for cell, width in zip(row, widths)) + "  "

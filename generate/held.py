@@ -4,6 +4,7 @@ import sys
 from pathlib import Path
 
 import array_header
+import cpp_headers
 import elementary_tables
 import header
 import incidence_bands
@@ -18,6 +19,7 @@ def texts(families):
     return {
         ROOT / "include/quorvel.h": header.render(families),
         ROOT / "include/quorvel_arrays.h": array_header.header(families),
+        **{ROOT / "include/quorvel" / name: text for name, text in cpp_headers.files(families).items()},
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),

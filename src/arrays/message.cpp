@@ -34,6 +34,15 @@ std::size_t message(const quorvel_routine& routine, std::int32_t status, char* t
             length =
                 written("%s: keeps a state or takes a text; call %s", name, routine.exported_name);
             break;
+        case QUORVEL_NO_FILE:
+            length = written("%s: no regular file that may be read", name);
+            break;
+        case QUORVEL_NO_MEMORY:
+            length = written("%s: no memory", name);
+            break;
+        case QUORVEL_UNREADABLE:
+            length = written("%s: the climate data file cannot be read there", name);
+            break;
         default:
             length = written("%s: unknown status %d", name, status);
     }

@@ -66,6 +66,12 @@ constexpr Integer rounded_set(Real selector) noexcept {
     return selector >= 1.5f && selector < 2.5f ? 2 : 1;
 }
 
+// Of a set: 2 or, for any other number, 1.
+constexpr int first_row(Integer set) noexcept { return set == 2 ? station_set_rows : 0; }
+
+// Reals of a month in the records that hosts keep.
+inline constexpr std::ptrdiff_t reals_per_record = 11;
+
 struct StationClimate {
     std::array<Real, station_quantities> quantities;  // Q1 to Q7
     Real time_a, time_b;
@@ -81,6 +87,8 @@ template <class File>
 class ClimateFileReader {
   public:
     explicit ClimateFileReader(ClimateFileState& state) noexcept : state_(state) {}
+    // On a file that is open already.
+    ClimateFileReader(ClimateFileState& state, File file) noexcept : state_(state), file_(file) {}
     ~ClimateFileReader();
     ClimateFileReader(const ClimateFileReader&) = delete;
     ClimateFileReader& operator=(const ClimateFileReader&) = delete;
@@ -89,15 +97,19 @@ class ClimateFileReader {
     bool open(const char* name, Integer station) noexcept;
     void select(Integer unit, Integer station) noexcept;
 
-    // Fills a record for the month, or twelve for month 0, from the file of that name, up to the
-    // first month that cannot be read. Two Reals of each are given: the selector of the set and the
-    // percentage of days.
+    // As fill_records, from the file of that name.
     void station_records(const char* name, Integer station, Integer month, Real* records) noexcept;
 
     // Of a band or, for band 0, interpolated at the fraction. Set 2 or, for any other number, set
     // 1; bands and months outside count as the nearest.
     std::optional<StationClimate> station_climate(Integer band, Real fraction, Integer month,
                                                   Integer set) noexcept;
+    // Has the frequencies of a set of the station in the state.
+    bool load_frequencies(Integer set) noexcept;
+    // The record of a month, for month 0 those of all, up to the first that cannot be read. Given
+    // in a record: 10 set, 11 percentage. Returned: 1 Q4, 2 Q6, 3 time B, 4 Q3, 5 Q5, 6 time A, 7
+    // Q1, 8 Q2, 9 Q7.
+    bool fill_records(Integer month, Real* records) noexcept;
 
     // Rows of the station count from 0; numbers outside pick its first or last one. Wide, for sums
     // of any Integers.
@@ -107,8 +119,7 @@ class ClimateFileReader {
                                                  Integer month, Real weight) noexcept;
 
   private:
-    bool fill(Real* record, Integer month) noexcept;
-    bool load_frequencies(int first) noexcept;
+    bool fill_record(Integer month, Real* record) noexcept;
     bool read(std::int64_t number, Record& record) noexcept;
     bool read_header() noexcept;
     const Record* find(std::size_t part) noexcept;
@@ -206,7 +217,8 @@ std::optional<Real> ClimateFileReader<File>::interpolate_station_rows(std::int64
 }
 
 template <class File>
-bool ClimateFileReader<File>::load_frequencies(int first) noexcept {
+bool ClimateFileReader<File>::load_frequencies(Integer set) noexcept {
+    const int first = first_row(set) + 2;
     std::array<const MonthlyRow*, band_count> rows;
     for (std::size_t band = 0; band < rows.size(); ++band)
         if (!(rows[band] = station_row(first + static_cast<int>(band)))) return false;
@@ -218,10 +230,10 @@ template <class File>
 std::optional<StationClimate> ClimateFileReader<File>::station_climate(Integer band, Real fraction,
                                                                        Integer month,
                                                                        Integer set) noexcept {
-    const int first = set == 2 ? station_set_rows : 0;
+    const int first = first_row(set);
     const auto time_a = value(first, month);
     const auto time_b = time_a ? value(first + 1, month) : time_a;
-    if (!time_b || !load_frequencies(first + 2)) return {};
+    if (!time_b || !load_frequencies(set)) return {};
     StationClimate climate{{}, *time_a, *time_b};
     const auto [lower, upper, weight] = locate_station_band(state_, fraction, month);
     int before = first + 1;  // the row before a quantity's band 1
@@ -241,11 +253,11 @@ std::optional<StationClimate> ClimateFileReader<File>::station_climate(Integer b
 }
 
 template <class File>
-bool ClimateFileReader<File>::fill(Real* record, Integer month) noexcept {
-    const auto climate = station_climate(0, record[10] / 100.0f, month, rounded_set(record[9]));
-    if (!climate) return false;
-    const auto& [q1, q2, q3, q4, q5, q6, q7] = climate->quantities;
-    const Real filled[] = {q4, q6, climate->time_b, q3, q5, climate->time_a, q1, q2, q7};
+bool ClimateFileReader<File>::fill_record(Integer month, Real* record) noexcept {
+    const auto found = station_climate(0, record[10] / 100.0f, month, rounded_set(record[9]));
+    if (!found) return false;
+    const auto& [q1, q2, q3, q4, q5, q6, q7] = found->quantities;
+    const Real filled[] = {q4, q6, found->time_b, q3, q5, found->time_a, q1, q2, q7};
     std::ranges::copy(filled, record);
     return true;
 }
@@ -253,11 +265,16 @@ bool ClimateFileReader<File>::fill(Real* record, Integer month) noexcept {
 template <class File>
 void ClimateFileReader<File>::station_records(const char* name, Integer station, Integer month,
                                               Real* records) noexcept {
-    if (!open(name, station)) return;
+    if (open(name, station)) fill_records(month, records);
+}
+
+template <class File>
+bool ClimateFileReader<File>::fill_records(Integer month, Real* records) noexcept {
     const Integer first = table_row(month, 12) + 1;
     const Integer last = month == 0 ? 12 : first;
     for (Integer m = first; m <= last; ++m)
-        if (!fill(records + reals_per_record * (m - 1), m)) return;
+        if (!fill_record(m, records + reals_per_record * (m - 1))) return false;
+    return true;
 }
 
 }  // namespace quorvel::climate
