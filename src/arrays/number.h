@@ -9,7 +9,6 @@
 
 #ifdef QUORVEL_LEVEL
 
-#include "pack/double_math.h"
 #include "pack/math.h"
 #include "pack/pack.h"
 

@@ -69,9 +69,6 @@ constexpr Integer rounded_set(Real selector) noexcept {
 // Of a set: 2 or, for any other number, 1.
 constexpr int first_row(Integer set) noexcept { return set == 2 ? station_set_rows : 0; }
 
-// Reals of a month in the records that hosts keep.
-inline constexpr std::ptrdiff_t reals_per_record = 11;
-
 struct StationClimate {
     std::array<Real, station_quantities> quantities;  // Q1 to Q7
     Real time_a, time_b;

@@ -27,6 +27,12 @@ namespace quorvel::math {
 QUORVEL_INLINE float sqrt(float x) noexcept { return __builtin_sqrtf(x); }
 QUORVEL_INLINE double sqrt(double x) noexcept { return __builtin_sqrt(x); }
 
+template <class R>
+struct SinCosOf {
+    R sin, cos;
+};
+using SinCos = SinCosOf<float>;
+
 namespace detail {
 
 constexpr std::uint64_t kSignBit = std::uint64_t{1} << 63;

@@ -14,12 +14,6 @@
 
 namespace quorvel::math {
 
-template <class R>
-struct SinCosOf {
-    R sin, cos;
-};
-using SinCos = SinCosOf<float>;
-
 namespace detail {
 
 // sin r, |r| <= pi/2; adding 0 keeps sin -0 = -0

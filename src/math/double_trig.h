@@ -204,15 +204,6 @@ QUORVEL_INLINE D tangent(StepAngle<D> x) noexcept {
                   [&] { return quick; });
 }
 
-}  // namespace detail
-
-template <class D>
-struct SinCosOf {
-    D sin, cos;
-};
-
-namespace detail {
-
 template <class D>
 QUORVEL_INLINE SinCosOf<D> sine_and_cosine(StepAngle<D> x) noexcept {
     const Addends<D> a = addends(x);

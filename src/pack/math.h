@@ -6,6 +6,7 @@
 // ordinary the scalar function is called. See docs/math.md.
 #pragma once
 
+#include "pack/double_math.h"
 #include "pack/exp_log.h"
 #include "pack/inverse_trig.h"
 #include "pack/power.h"
@@ -14,6 +15,5 @@
 namespace quorvel::math {
 
 QUORVEL_PACK pack::Reals sqrt(pack::Reals x) noexcept { return square_root(x); }
-QUORVEL_PACK pack::DoubleReals sqrt(pack::DoubleReals x) noexcept { return square_root(x); }
 
 }  // namespace quorvel::math
