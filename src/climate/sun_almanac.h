@@ -53,18 +53,19 @@ template <class D>
 struct ApparentSun {
     D longitude, right_ascension;
     D declination;  // rad
+    D tan_declination;
 };
 
 // At T Julian centuries with the equation of the centre C.
 template <class D>
 ApparentSun<D> apparent_sun(D T, D C) noexcept {
     const D L = below_full_turn<D>(280.46 + 36000.77 * T + C);
-    const D right_ascension =
-        L - 2.466 * math::sin(2.0 * L * degree) + 0.053 * math::sin(4.0 * L * degree);
+    const auto [sin_2L, cos_2L] = math::sincos(D(2.0 * L * degree));
+    const D sin_4L = 2.0 * sin_2L * cos_2L;
+    const D right_ascension = L - 2.466 * sin_2L + 0.053 * sin_4L;
     const D obliquity = 23.4393 - 0.013 * T;
-    const D declination =
-        math::atan(math::tan(obliquity * degree) * math::sin(right_ascension * degree));
-    return {L, right_ascension, declination};
+    const D tan_declination = math::tan(obliquity * degree) * math::sin(right_ascension * degree);
+    return {L, right_ascension, math::atan(tan_declination), tan_declination};
 }
 
 template <class D>
@@ -72,17 +73,16 @@ struct HorizontalPosition {
     D altitude, azimuth;
 };
 
-// Of a declination, rad, and hour angle at a latitude; afternoon is where the hour angle is
-// positive.
+// Of the sun at an hour angle and a latitude; afternoon is where the hour angle is positive.
 template <class D>
-HorizontalPosition<D> horizontal_position(D declination, D hour_angle, D latitude) noexcept {
+HorizontalPosition<D> horizontal_position(const ApparentSun<D>& sun, D hour_angle,
+                                          D latitude) noexcept {
     const D cos_H = -math::cos((180.0 + hour_angle) * degree);
     const auto [sin_lat, cos_lat] = math::sincos(latitude);
-    const auto [sin_dec, cos_dec] = math::sincos(declination);
+    const auto [sin_dec, cos_dec] = math::sincos(sun.declination);
     const D sin_alt = sin_dec * sin_lat + cos_dec * cos_lat * cos_H;
     const D altitude = math::asin(limited(sin_alt, -1.0f, 1.0f));
-    const D x =
-        cos_dec * (cos_lat * math::tan(declination) - sin_lat * cos_H) / math::cos(altitude);
+    const D x = cos_dec * (cos_lat * sun.tan_declination - sin_lat * cos_H) / math::cos(altitude);
     const D cosine = select(x < -0.999999, D(-1.0), select(x > 0.999999, D(1.0), x));
     const D from_north = math::acos(cosine);
     return {altitude, select(hour_angle > 0.0, 2.0 * almanac_pi - from_north, from_north)};
@@ -117,7 +117,7 @@ AlmanacPosition<R> almanac_position(IntegerOf<R> mode, IntegerOf<R> year, Intege
             return D(greenwich - to_double(west) / degree);
         },
         [&] { return D((clock - 12.0) * 15.0); });
-    const auto position = horizontal_position<D>(sun.declination, hour_angle, to_double(latitude));
+    const auto position = horizontal_position<D>(sun, hour_angle, to_double(latitude));
     return {west, meridian, to_real(position.altitude), to_real(position.azimuth),
             to_real(sun.declination)};
 }
@@ -130,9 +130,9 @@ SunHours<R> almanac_sun_hours(IntegerOf<R> year, IntegerOf<R> month, IntegerOf<R
     const D T = julian_centuries<R>(year, month, day, D(-8707.0));
     const R g = to_real(mean_anomaly<D>(T));
     const D C = equation_of_centre<D>(to_double(g), to_double(math::sin(2.0f * g)));
-    const D declination = apparent_sun<D>(T, C).declination;
+    const D tan_declination = apparent_sun<D>(T, C).tan_declination;
     const SunHours<D> hours =
-        sun_hours<D>(math::tan(declination) * math::tan(to_double(latitude)), D(almanac_pi));
+        sun_hours<D>(tan_declination * math::tan(to_double(latitude)), D(almanac_pi));
     return {to_real(hours.sunrise), to_real(hours.sunset)};
 }
 

@@ -2,6 +2,9 @@
 //
 // Algorithm: asin and acos as in single precision, with the rounding error of the square root made
 // good; atan2 with the reduced tangent in 106 bits and the polynomial of the single-precision atan.
+// atan takes the nearest of 26 tangents T with few bits, four an octave, whose angles stand in a
+// table with a low part, and a polynomial of (x - T)/(1 + x T). That is at most an eighth of x, so
+// that its three roundings are 0.2 ulp of the result. D is double or a pack of doubles.
 //
 // Error in ulp: 0.7.
 #pragma once
