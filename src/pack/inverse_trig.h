@@ -6,7 +6,8 @@
 // that atan t has |t| <= tan(pi/8): a polynomial of degree 15. Non-numbers, subnormal angles and
 // points that have no angle of their own are left to the scalar functions.
 //
-// Relative error of the double: asin and acos 2^-39.9; atan and atan2 2^-40.1.
+// Relative error of the double: acos 2^-39.9, asin twice that beyond 1/2; atan and atan2
+// 2^-40.1.
 //
 // Coefficients: tools/math/coefficients.sollya.
 #pragma once

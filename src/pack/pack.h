@@ -202,7 +202,7 @@ QUORVEL_PACK DoubleReals fused(DoubleReals a, DoubleReals b, DoubleReals c) noex
     return DoubleReals({fused(a.v.low, b.v.low, c.v.low), fused(a.v.high, b.v.high, c.v.high)});
 }
 
-// of two numbers
+// the second where one is not a number
 QUORVEL_PACK DoubleReals smaller(DoubleReals a, DoubleReals b) noexcept {
     return DoubleReals({smaller(a.v.low, b.v.low), smaller(a.v.high, b.v.high)});
 }

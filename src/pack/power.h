@@ -2,9 +2,9 @@
 //
 // Algorithm: 2^(y log2 x) as in exp and log. The odd polynomial of degree 11 for log2 m has a
 // relative error of 2^-45.0, and so has n + log2 m, since |log2 m| <= 1/2 and n is 0 or at least 1
-// in magnitude. Within the range of normal floats |y log2 x| <= 126, so that the exponent errs by
-// less than 2^-38, the power relatively by log 2 times that and by 2^-40.2 of its own: 2^-38.2 in
-// all. Bases and results that are no normal numbers are left to the scalar function.
+// in magnitude. For |y log2 x| <= 125 the exponent errs by less than 2^-38, the power relatively by
+// log 2 times that and by 2^-40.2 of its own: 2^-38.2 in all. Bases and results that are no normal
+// numbers are left to the scalar function.
 //
 // Coefficients: tools/math/coefficients.sollya.
 #pragma once
