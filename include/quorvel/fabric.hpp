@@ -36,7 +36,7 @@ struct CyclicResponse {
     float u_value = detail::none<float>;
 };
 
-/// What cyclic_response returns, an element of each for an element of what is given.
+/// Arrays for what cyclic_response returns.
 struct CyclicResponseArrays {
     std::span<float> admittance;
     std::span<float> admittance_lead;
@@ -285,7 +285,7 @@ struct CondensationProfile {
     std::array<float, 21> interface_saturation_pressure = detail::none<std::array<float, 21>>;
 };
 
-/// What condensation_profile returns, an element of each for an element of what is given.
+/// Arrays for what condensation_profile returns.
 struct CondensationProfileArrays {
     std::span<std::array<float, 21>> interface_temperature;
     std::span<std::array<float, 21>> interface_vapour_pressure;
@@ -508,7 +508,7 @@ struct PackTwoFractions {
     float fraction_2 = detail::none<float>;
 };
 
-/// What pack_two_fractions returns, an element of each for an element of what is given.
+/// Arrays for what pack_two_fractions returns.
 struct PackTwoFractionsArrays {
     std::span<float> packed_number;
     std::span<float> fraction_1;
@@ -562,7 +562,7 @@ struct PackThreeFractions {
     float fraction_3 = detail::none<float>;
 };
 
-/// What pack_three_fractions returns, an element of each for an element of what is given.
+/// Arrays for what pack_three_fractions returns.
 struct PackThreeFractionsArrays {
     std::span<float> packed_number;
     std::span<float> fraction_1;
@@ -632,7 +632,7 @@ struct PackThreeFractionsThirdFirst {
     float fraction_2 = detail::none<float>;
 };
 
-/// What pack_three_fractions_third_first returns, an element of each for an element of what is given.
+/// Arrays for what pack_three_fractions_third_first returns.
 struct PackThreeFractionsThirdFirstArrays {
     std::span<float> packed_number;
     std::span<float> fraction_3;
@@ -690,7 +690,7 @@ struct PackPane {
     float reflectance_2 = detail::none<float>;
 };
 
-/// What pack_pane returns, an element of each for an element of what is given.
+/// Arrays for what pack_pane returns.
 struct PackPaneArrays {
     std::span<float> packed_number;
     std::span<float> absorptance;
@@ -899,7 +899,7 @@ struct WindowParameters {
     float u_value = detail::none<float>;
 };
 
-/// What window_parameters returns, an element of each for an element of what is given.
+/// Arrays for what window_parameters returns.
 struct WindowParametersArrays {
     std::span<float> admittance;
     std::span<float> admittance_lead;

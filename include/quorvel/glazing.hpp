@@ -33,7 +33,7 @@ struct GlassDirect {
     float perpendicular_reflectance = detail::none<float>;
 };
 
-/// What glass_direct returns, an element of each for an element of what is given.
+/// Arrays for what glass_direct returns.
 struct GlassDirectArrays {
     std::span<float> parallel_transmittance;
     std::span<float> parallel_absorptance;
@@ -107,7 +107,7 @@ struct GlassDiffuse {
     float absorptance = detail::none<float>;
 };
 
-/// What glass_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what glass_diffuse returns.
 struct GlassDiffuseArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -150,7 +150,7 @@ struct StackedLayers {
     float reflectance = detail::none<float>;
 };
 
-/// What stacked_layers returns, an element of each for an element of what is given.
+/// Arrays for what stacked_layers returns.
 struct StackedLayersArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -209,7 +209,7 @@ struct TracedLayers {
     float reflectance = detail::none<float>;
 };
 
-/// What traced_layers returns, an element of each for an element of what is given.
+/// Arrays for what traced_layers returns.
 struct TracedLayersArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -275,7 +275,7 @@ struct RollerBlind {
     float reflectance = detail::none<float>;
 };
 
-/// What roller_blind returns, an element of each for an element of what is given.
+/// Arrays for what roller_blind returns.
 struct RollerBlindArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -319,7 +319,7 @@ struct DiffuseRollerBlind {
     float reflectance = detail::none<float>;
 };
 
-/// What diffuse_roller_blind returns, an element of each for an element of what is given.
+/// Arrays for what diffuse_roller_blind returns.
 struct DiffuseRollerBlindArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -389,7 +389,7 @@ struct SurfaceReflectance {
     float perpendicular_reflectance = detail::none<float>;
 };
 
-/// What surface_reflectance returns, an element of each for an element of what is given.
+/// Arrays for what surface_reflectance returns.
 struct SurfaceReflectanceArrays {
     std::span<float> parallel_reflectance;
     std::span<float> perpendicular_reflectance;
@@ -460,7 +460,7 @@ struct SlabOptics {
     float reflectance = detail::none<float>;
 };
 
-/// What slab_optics returns, an element of each for an element of what is given.
+/// Arrays for what slab_optics returns.
 struct SlabOpticsArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -565,7 +565,7 @@ struct PaneTemperatures {
     float pane_temperature_5 = detail::none<float>;
 };
 
-/// What pane_temperatures returns, an element of each for an element of what is given.
+/// Arrays for what pane_temperatures returns.
 struct PaneTemperaturesArrays {
     std::span<float> pane_temperature_1;
     std::span<float> pane_temperature_2;
@@ -633,7 +633,7 @@ struct UnitDirect {
     float reflectance = detail::none<float>;
 };
 
-/// What unit_direct returns, an element of each for an element of what is given.
+/// Arrays for what unit_direct returns.
 struct UnitDirectArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -697,7 +697,7 @@ struct UnitDiffuse {
     float reflectance = detail::none<float>;
 };
 
-/// What unit_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what unit_diffuse returns.
 struct UnitDiffuseArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -748,7 +748,7 @@ struct UnitDirectShares {
     float absorptance = detail::none<float>;
 };
 
-/// What unit_direct_shares returns, an element of each for an element of what is given.
+/// Arrays for what unit_direct_shares returns.
 struct UnitDirectSharesArrays {
     std::span<float> transmittance;
     Table<float> pane_shares;
@@ -806,7 +806,7 @@ struct UnitDiffuseShares {
     float absorptance = detail::none<float>;
 };
 
-/// What unit_diffuse_shares returns, an element of each for an element of what is given.
+/// Arrays for what unit_diffuse_shares returns.
 struct UnitDiffuseSharesArrays {
     std::span<float> transmittance;
     Table<float> pane_shares;
@@ -859,7 +859,7 @@ struct UnitShares {
     float absorptance = detail::none<float>;
 };
 
-/// What unit_shares returns, an element of each for an element of what is given.
+/// Arrays for what unit_shares returns.
 struct UnitSharesArrays {
     std::span<float> transmittance;
     Table<float> pane_shares;
@@ -916,7 +916,7 @@ struct SlatDirect {
     float reflectance = detail::none<float>;
 };
 
-/// What slat_direct returns, an element of each for an element of what is given.
+/// Arrays for what slat_direct returns.
 struct SlatDirectArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -982,7 +982,7 @@ struct TwoFacedSlatDirect {
     float reflectance = detail::none<float>;
 };
 
-/// What two_faced_slat_direct returns, an element of each for an element of what is given.
+/// Arrays for what two_faced_slat_direct returns.
 struct TwoFacedSlatDirectArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -1050,7 +1050,7 @@ struct OpenSlatDirect {
     float reflectance = detail::none<float>;
 };
 
-/// What open_slat_direct returns, an element of each for an element of what is given.
+/// Arrays for what open_slat_direct returns.
 struct OpenSlatDirectArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -1116,7 +1116,7 @@ struct SlatDiffuse {
     float ground_absorptance = detail::none<float>;
 };
 
-/// What slat_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what slat_diffuse returns.
 struct SlatDiffuseArrays {
     std::span<float> sky_transmittance;
     std::span<float> ground_transmittance;
@@ -1179,7 +1179,7 @@ struct TwoFacedSlatDiffuse {
     float ground_absorptance = detail::none<float>;
 };
 
-/// What two_faced_slat_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what two_faced_slat_diffuse returns.
 struct TwoFacedSlatDiffuseArrays {
     std::span<float> sky_transmittance;
     std::span<float> ground_transmittance;
@@ -1242,7 +1242,7 @@ struct OpenSlatDiffuse {
     float ground_absorptance = detail::none<float>;
 };
 
-/// What open_slat_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what open_slat_diffuse returns.
 struct OpenSlatDiffuseArrays {
     std::span<float> sky_transmittance;
     std::span<float> ground_transmittance;
