@@ -120,8 +120,7 @@ def _routine(routine):
     parts = []
     if several:
         parts += [f"/// What {routine.name} returns.", cpp_scalar.structure(routine, _above_field)]
-        parts += ["", f"/// What {routine.name} returns, an element of each for an element of what is given.",
-                  cpp_arrays.structure(routine), ""]
+        parts += ["", f"/// Arrays for what {routine.name} returns.", cpp_arrays.structure(routine), ""]
     parts += [*_about(routine), *_statements(cpp_scalar.function(routine)), ""]
     parts += [*_about_arrays(routine), *_statements(cpp_arrays.function(routine))]
     return "\n" + "\n".join(parts) + "\n"

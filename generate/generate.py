@@ -13,6 +13,7 @@ from pathlib import Path
 import array_header
 import array_kernels
 import catalogue
+import cpp_examples
 import entry_points
 import example_table
 import exports
@@ -32,6 +33,7 @@ PRODUCTS = {
     "examples": example_table.render,
 }
 FOLDERS = {
+    "cpp-examples": cpp_examples.files,
     "entry-points": entry_points.files,
     "host-headers": host_headers.files,
     "pack-kernels": array_kernels.with_packs,

@@ -155,8 +155,8 @@ Column<Number<T>> returned(const char* name, std::span<T> values) {
 template <class T>
 Column<Number<T>> returned(const char* name, const Table<T>& table,
                            const Input<std::int32_t>& counts) {
-    return {name, numbers(table.data()), row_bytes(table), table.rows(), true,
-            table.columns(), &counts};
+    return {name, numbers(table.data()), row_bytes(table), table.rows(),
+            true, table.columns(),       &counts};
 }
 
 /// Inputs of one element serve all elements.
@@ -175,9 +175,8 @@ void check_columns(const std::string& routine, const Column<T>& column) {
         const std::int32_t counted = (*column.counts)[i];
         if (counted > 0 && static_cast<std::size_t>(counted) > column.columns)
             throw std::invalid_argument(routine + ": " + column.name + " has " +
-                                        std::to_string(column.columns) +
-                                        " columns, and element " + std::to_string(i) + " counts " +
-                                        std::to_string(counted));
+                                        std::to_string(column.columns) + " columns, and element " +
+                                        std::to_string(i) + " counts " + std::to_string(counted));
     }
 }
 

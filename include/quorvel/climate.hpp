@@ -27,7 +27,7 @@ struct LocateBand {
     float band_weight = detail::none<float>;
 };
 
-/// What locate_band returns, an element of each for an element of what is given.
+/// Arrays for what locate_band returns.
 struct LocateBandArrays {
     std::span<std::int32_t> lower_band;
     std::span<std::int32_t> upper_band;
@@ -100,7 +100,7 @@ struct BandClimate {
     float q8 = detail::none<float>;
 };
 
-/// What band_climate returns, an element of each for an element of what is given.
+/// Arrays for what band_climate returns.
 struct BandClimateArrays {
     std::span<float> percentage;
     std::span<float> q1;
@@ -456,7 +456,7 @@ struct DesignIrradiance {
     float diffuse_horizontal = detail::none<float>;
 };
 
-/// What design_irradiance returns, an element of each for an element of what is given.
+/// Arrays for what design_irradiance returns.
 struct DesignIrradianceArrays {
     std::span<float> direct_normal;
     std::span<float> diffuse_horizontal;
@@ -587,7 +587,7 @@ struct MuneerSlope {
     float incidence = detail::none<float>;
 };
 
-/// What muneer_slope returns, an element of each for an element of what is given.
+/// Arrays for what muneer_slope returns.
 struct MuneerSlopeArrays {
     std::span<float> surface_beam;
     std::span<float> surface_diffuse;
@@ -734,7 +734,7 @@ struct SiteConstants {
     float alternative_diffuse_factor = detail::none<float>;
 };
 
-/// What site_constants returns, an element of each for an element of what is given.
+/// Arrays for what site_constants returns.
 struct SiteConstantsArrays {
     std::span<float> ground_reflectance;
     std::span<float> beam_factor;
@@ -984,7 +984,7 @@ struct AlmanacPosition {
     float declination = detail::none<float>;
 };
 
-/// What almanac_position returns, an element of each for an element of what is given.
+/// Arrays for what almanac_position returns.
 struct AlmanacPositionArrays {
     std::span<float> longitude;
     std::span<float> zone_meridian;
@@ -1059,7 +1059,7 @@ struct AlmanacSunHours {
     float sunset = detail::none<float>;
 };
 
-/// What almanac_sun_hours returns, an element of each for an element of what is given.
+/// Arrays for what almanac_sun_hours returns.
 struct AlmanacSunHoursArrays {
     std::span<float> sunrise;
     std::span<float> sunset;
@@ -1115,7 +1115,7 @@ struct SolarGeometry {
     float sunset = detail::none<float>;
 };
 
-/// What solar_geometry returns, an element of each for an element of what is given.
+/// Arrays for what solar_geometry returns.
 struct SolarGeometryArrays {
     std::span<float> declination;
     std::span<float> solar_altitude;
@@ -1183,7 +1183,7 @@ struct SurfaceAngles {
     float horizontal_shadow_angle = detail::none<float>;
 };
 
-/// What surface_angles returns, an element of each for an element of what is given.
+/// Arrays for what surface_angles returns.
 struct SurfaceAnglesArrays {
     std::span<float> incidence;
     std::span<float> vertical_shadow_angle;
@@ -1243,7 +1243,7 @@ struct SurfaceIrradiance {
     float ground_reflected = detail::none<float>;
 };
 
-/// What surface_irradiance returns, an element of each for an element of what is given.
+/// Arrays for what surface_irradiance returns.
 struct SurfaceIrradianceArrays {
     std::span<float> surface_beam;
     std::span<float> surface_diffuse;
@@ -1320,7 +1320,7 @@ struct SurfaceIrradianceAndIncidence {
     float incidence = detail::none<float>;
 };
 
-/// What surface_irradiance_and_incidence returns, an element of each for an element of what is given.
+/// Arrays for what surface_irradiance_and_incidence returns.
 struct SurfaceIrradianceAndIncidenceArrays {
     std::span<float> surface_beam;
     std::span<float> surface_diffuse;

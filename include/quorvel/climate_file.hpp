@@ -52,9 +52,9 @@ class ClimateFile {
                                    std::int32_t band_set, float percentage = 0.0f) {
         std::array<float, 7> q;
         std::array<float, 2> times;
-        check(station, quorvel_climate_file_station_climate(file_.get(), station, band, month,
-                                                            band_set, percentage, q.data(),
-                                                            times.data()));
+        check(station,
+              quorvel_climate_file_station_climate(file_.get(), station, band, month, band_set,
+                                                   percentage, q.data(), times.data()));
         return {q[0], q[1], q[2], q[3], q[4], q[5], q[6], times[0], times[1]};
     }
 
@@ -83,16 +83,15 @@ class ClimateFile {
     /// bands, 13 to 82 Q1 to Q7, ten each; 82 more in set 2. (CLBNF3)
     Row station_row(std::int32_t station, std::int32_t row) {
         Row values;
-        check(station,
-              quorvel_climate_file_station_row(file_.get(), station, row, values.data()));
+        check(station, quorvel_climate_file_station_row(file_.get(), station, row, values.data()));
         return values;
     }
 
     /// The record of a month, or all for month 0. Given in a record: [9] band set, [10] percentage
     /// of days. Returned: Q4, Q6, time B, Q3, Q5, time A, Q1, Q2, Q7. (CLBNF0)
     Records station_records(std::int32_t station, std::int32_t month, Records records) {
-        check(station, quorvel_climate_file_station_records(file_.get(), station, month,
-                                                            records[0].data()));
+        check(station,
+              quorvel_climate_file_station_records(file_.get(), station, month, records[0].data()));
         return records;
     }
 

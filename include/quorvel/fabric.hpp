@@ -36,7 +36,7 @@ struct CyclicResponse {
     float u_value = detail::none<float>;
 };
 
-/// What cyclic_response returns, an element of each for an element of what is given.
+/// Arrays for what cyclic_response returns.
 struct CyclicResponseArrays {
     std::span<float> admittance;
     std::span<float> admittance_lead;
@@ -303,7 +303,7 @@ struct CondensationProfile {
     std::array<float, 21> interface_saturation_pressure = detail::none<std::array<float, 21>>;
 };
 
-/// What condensation_profile returns, an element of each for an element of what is given.
+/// Arrays for what condensation_profile returns.
 struct CondensationProfileArrays {
     std::span<std::array<float, 21>> interface_temperature;
     std::span<std::array<float, 21>> interface_vapour_pressure;
@@ -530,7 +530,7 @@ struct PackTwoFractions {
     float fraction_2 = detail::none<float>;
 };
 
-/// What pack_two_fractions returns, an element of each for an element of what is given.
+/// Arrays for what pack_two_fractions returns.
 struct PackTwoFractionsArrays {
     std::span<float> packed_number;
     std::span<float> fraction_1;
@@ -584,7 +584,7 @@ struct PackThreeFractions {
     float fraction_3 = detail::none<float>;
 };
 
-/// What pack_three_fractions returns, an element of each for an element of what is given.
+/// Arrays for what pack_three_fractions returns.
 struct PackThreeFractionsArrays {
     std::span<float> packed_number;
     std::span<float> fraction_1;
@@ -654,7 +654,7 @@ struct PackThreeFractionsThirdFirst {
     float fraction_2 = detail::none<float>;
 };
 
-/// What pack_three_fractions_third_first returns, an element of each for an element of what is given.
+/// Arrays for what pack_three_fractions_third_first returns.
 struct PackThreeFractionsThirdFirstArrays {
     std::span<float> packed_number;
     std::span<float> fraction_3;
@@ -712,7 +712,7 @@ struct PackPane {
     float reflectance_2 = detail::none<float>;
 };
 
-/// What pack_pane returns, an element of each for an element of what is given.
+/// Arrays for what pack_pane returns.
 struct PackPaneArrays {
     std::span<float> packed_number;
     std::span<float> absorptance;
@@ -935,7 +935,7 @@ struct WindowParameters {
     float u_value = detail::none<float>;
 };
 
-/// What window_parameters returns, an element of each for an element of what is given.
+/// Arrays for what window_parameters returns.
 struct WindowParametersArrays {
     std::span<float> admittance;
     std::span<float> admittance_lead;

@@ -31,7 +31,7 @@ struct Overlap {
     float area = detail::none<float>;
 };
 
-/// What overlap returns, an element of each for an element of what is given.
+/// Arrays for what overlap returns.
 struct OverlapArrays {
     std::span<std::array<std::array<float, 25>, 5>> piece_x;
     std::span<std::array<std::array<float, 25>, 5>> piece_y;
@@ -111,7 +111,7 @@ struct OverlapAlias {
     float area = detail::none<float>;
 };
 
-/// What overlap_alias returns, an element of each for an element of what is given.
+/// Arrays for what overlap_alias returns.
 struct OverlapAliasArrays {
     std::span<std::array<std::array<float, 25>, 5>> piece_x;
     std::span<std::array<std::array<float, 25>, 5>> piece_y;
@@ -210,7 +210,7 @@ struct CountEnclosed {
     std::int32_t enclosed_points = detail::none<std::int32_t>;
 };
 
-/// What count_enclosed returns, an element of each for an element of what is given.
+/// Arrays for what count_enclosed returns.
 struct CountEnclosedArrays {
     Table<std::int32_t> enclosed;
     std::span<std::int32_t> enclosed_points;
@@ -277,7 +277,7 @@ struct BoundaryCrossing {
     std::int32_t crossing_code = detail::none<std::int32_t>;
 };
 
-/// What boundary_crossing returns, an element of each for an element of what is given.
+/// Arrays for what boundary_crossing returns.
 struct BoundaryCrossingArrays {
     std::span<std::array<float, 2>> crossing_point;
     std::span<std::int32_t> crossing_code;
@@ -406,7 +406,7 @@ struct ParallelSides {
     std::int32_t side_2 = detail::none<std::int32_t>;
 };
 
-/// What parallel_sides returns, an element of each for an element of what is given.
+/// Arrays for what parallel_sides returns.
 struct ParallelSidesArrays {
     std::span<std::int32_t> result;
     std::span<std::int32_t> side_1;
@@ -475,7 +475,7 @@ struct Facing {
     double tilt = detail::none<double>;
 };
 
-/// What facing returns, an element of each for an element of what is given.
+/// Arrays for what facing returns.
 struct FacingArrays {
     std::span<double> azimuth;
     std::span<double> tilt;
@@ -522,7 +522,7 @@ struct LocalCoordinates {
         detail::none<std::array<std::array<double, 3>, 4>>;
 };
 
-/// What local_coordinates returns, an element of each for an element of what is given.
+/// Arrays for what local_coordinates returns.
 struct LocalCoordinatesArrays {
     std::span<std::array<std::array<double, 3>, 4>> local_1;
     std::span<std::array<std::array<double, 3>, 4>> local_2;
@@ -835,7 +835,7 @@ struct SurfaceAxes {
         detail::none<std::array<std::array<float, 3>, 3>>;
 };
 
-/// What surface_axes returns, an element of each for an element of what is given.
+/// Arrays for what surface_axes returns.
 struct SurfaceAxesArrays {
     std::span<std::array<std::array<float, 3>, 3>> rotation_matrix;
     std::span<std::array<std::array<float, 3>, 3>> inverse_matrix;
@@ -1025,7 +1025,7 @@ struct PolygonOrientation {
     float back_azimuth = detail::none<float>;
 };
 
-/// What polygon_orientation returns, an element of each for an element of what is given.
+/// Arrays for what polygon_orientation returns.
 struct PolygonOrientationArrays {
     std::span<float> area;
     std::span<float> tilt;

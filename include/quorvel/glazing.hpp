@@ -33,7 +33,7 @@ struct GlassDirect {
     float perpendicular_reflectance = detail::none<float>;
 };
 
-/// What glass_direct returns, an element of each for an element of what is given.
+/// Arrays for what glass_direct returns.
 struct GlassDirectArrays {
     std::span<float> parallel_transmittance;
     std::span<float> parallel_absorptance;
@@ -107,7 +107,7 @@ struct GlassDiffuse {
     float absorptance = detail::none<float>;
 };
 
-/// What glass_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what glass_diffuse returns.
 struct GlassDiffuseArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -150,7 +150,7 @@ struct StackedLayers {
     float reflectance = detail::none<float>;
 };
 
-/// What stacked_layers returns, an element of each for an element of what is given.
+/// Arrays for what stacked_layers returns.
 struct StackedLayersArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -209,7 +209,7 @@ struct TracedLayers {
     float reflectance = detail::none<float>;
 };
 
-/// What traced_layers returns, an element of each for an element of what is given.
+/// Arrays for what traced_layers returns.
 struct TracedLayersArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -275,7 +275,7 @@ struct RollerBlind {
     float reflectance = detail::none<float>;
 };
 
-/// What roller_blind returns, an element of each for an element of what is given.
+/// Arrays for what roller_blind returns.
 struct RollerBlindArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -321,7 +321,7 @@ struct DiffuseRollerBlind {
     float reflectance = detail::none<float>;
 };
 
-/// What diffuse_roller_blind returns, an element of each for an element of what is given.
+/// Arrays for what diffuse_roller_blind returns.
 struct DiffuseRollerBlindArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -393,7 +393,7 @@ struct SurfaceReflectance {
     float perpendicular_reflectance = detail::none<float>;
 };
 
-/// What surface_reflectance returns, an element of each for an element of what is given.
+/// Arrays for what surface_reflectance returns.
 struct SurfaceReflectanceArrays {
     std::span<float> parallel_reflectance;
     std::span<float> perpendicular_reflectance;
@@ -467,7 +467,7 @@ struct SlabOptics {
     float reflectance = detail::none<float>;
 };
 
-/// What slab_optics returns, an element of each for an element of what is given.
+/// Arrays for what slab_optics returns.
 struct SlabOpticsArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -581,7 +581,7 @@ struct PaneTemperatures {
     float pane_temperature_5 = detail::none<float>;
 };
 
-/// What pane_temperatures returns, an element of each for an element of what is given.
+/// Arrays for what pane_temperatures returns.
 struct PaneTemperaturesArrays {
     std::span<float> pane_temperature_1;
     std::span<float> pane_temperature_2;
@@ -649,7 +649,7 @@ struct UnitDirect {
     float reflectance = detail::none<float>;
 };
 
-/// What unit_direct returns, an element of each for an element of what is given.
+/// Arrays for what unit_direct returns.
 struct UnitDirectArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -713,7 +713,7 @@ struct UnitDiffuse {
     float reflectance = detail::none<float>;
 };
 
-/// What unit_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what unit_diffuse returns.
 struct UnitDiffuseArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -764,7 +764,7 @@ struct UnitDirectShares {
     float absorptance = detail::none<float>;
 };
 
-/// What unit_direct_shares returns, an element of each for an element of what is given.
+/// Arrays for what unit_direct_shares returns.
 struct UnitDirectSharesArrays {
     std::span<float> transmittance;
     Table<float> pane_shares;
@@ -822,7 +822,7 @@ struct UnitDiffuseShares {
     float absorptance = detail::none<float>;
 };
 
-/// What unit_diffuse_shares returns, an element of each for an element of what is given.
+/// Arrays for what unit_diffuse_shares returns.
 struct UnitDiffuseSharesArrays {
     std::span<float> transmittance;
     Table<float> pane_shares;
@@ -875,7 +875,7 @@ struct UnitShares {
     float absorptance = detail::none<float>;
 };
 
-/// What unit_shares returns, an element of each for an element of what is given.
+/// Arrays for what unit_shares returns.
 struct UnitSharesArrays {
     std::span<float> transmittance;
     Table<float> pane_shares;
@@ -932,7 +932,7 @@ struct SlatDirect {
     float reflectance = detail::none<float>;
 };
 
-/// What slat_direct returns, an element of each for an element of what is given.
+/// Arrays for what slat_direct returns.
 struct SlatDirectArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -998,7 +998,7 @@ struct TwoFacedSlatDirect {
     float reflectance = detail::none<float>;
 };
 
-/// What two_faced_slat_direct returns, an element of each for an element of what is given.
+/// Arrays for what two_faced_slat_direct returns.
 struct TwoFacedSlatDirectArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -1066,7 +1066,7 @@ struct OpenSlatDirect {
     float reflectance = detail::none<float>;
 };
 
-/// What open_slat_direct returns, an element of each for an element of what is given.
+/// Arrays for what open_slat_direct returns.
 struct OpenSlatDirectArrays {
     std::span<float> transmittance;
     std::span<float> absorptance;
@@ -1132,7 +1132,7 @@ struct SlatDiffuse {
     float ground_absorptance = detail::none<float>;
 };
 
-/// What slat_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what slat_diffuse returns.
 struct SlatDiffuseArrays {
     std::span<float> sky_transmittance;
     std::span<float> ground_transmittance;
@@ -1195,7 +1195,7 @@ struct TwoFacedSlatDiffuse {
     float ground_absorptance = detail::none<float>;
 };
 
-/// What two_faced_slat_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what two_faced_slat_diffuse returns.
 struct TwoFacedSlatDiffuseArrays {
     std::span<float> sky_transmittance;
     std::span<float> ground_transmittance;
@@ -1258,7 +1258,7 @@ struct OpenSlatDiffuse {
     float ground_absorptance = detail::none<float>;
 };
 
-/// What open_slat_diffuse returns, an element of each for an element of what is given.
+/// Arrays for what open_slat_diffuse returns.
 struct OpenSlatDiffuseArrays {
     std::span<float> sky_transmittance;
     std::span<float> ground_transmittance;

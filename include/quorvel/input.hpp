@@ -10,6 +10,21 @@
 #include <utility>
 
 namespace quorvel::inline v0 {
+namespace detail {
+
+template <class Values>
+concept Array = std::ranges::contiguous_range<Values> && std::ranges::sized_range<Values>;
+
+template <class Values, class T>
+concept ArrayOf = Array<Values> && std::is_same_v<std::ranges::range_value_t<Values>, T>;
+
+template <class Values>
+using Pointer = decltype(std::ranges::data(std::declval<Values&>()));
+
+template <class Values, class T>
+concept RoomFor = Array<Values> && std::is_convertible_v<Pointer<Values>, T*>;
+
+}  // namespace detail
 
 /// Values of an argument, an element each; a single value serves all elements. An array is not
 /// copied and has to outlive the call.
@@ -19,9 +34,7 @@ class Input {
     Input(const T& value) : value_(value) {}
 
     /// A std::vector, std::array, std::span, or C array of values.
-    template <std::ranges::contiguous_range Values>
-        requires(std::ranges::sized_range<Values> &&
-                 std::is_same_v<std::ranges::range_value_t<Values>, T>)
+    template <detail::ArrayOf<T> Values>
     Input(const Values& values)
         : Input(std::ranges::data(values), static_cast<std::size_t>(std::ranges::size(values))) {}
 
@@ -62,9 +75,7 @@ class Table {
         : first_(first), rows_(rows), columns_(columns) {}
 
     /// All rows, one after the other.
-    template <std::ranges::contiguous_range Values>
-        requires(std::ranges::sized_range<Values> &&
-                 std::is_convertible_v<decltype(std::ranges::data(std::declval<Values&>())), T*>)
+    template <detail::RoomFor<T> Values>
     Table(Values&& values, std::size_t rows, std::size_t columns)
         : Table(std::ranges::data(values), rows, columns) {
         const auto size = static_cast<std::size_t>(std::ranges::size(values));
@@ -93,8 +104,7 @@ class Table {
     std::size_t rows_, columns_;
 };
 
-template <std::ranges::contiguous_range Values>
-Table(Values&&, std::size_t, std::size_t)
-    -> Table<std::remove_pointer_t<decltype(std::ranges::data(std::declval<Values&>()))>>;
+template <detail::Array Values>
+Table(Values&&, std::size_t, std::size_t) -> Table<std::remove_pointer_t<detail::Pointer<Values>>>;
 
 }  // namespace quorvel::inline v0

@@ -66,8 +66,7 @@ void parallel(std::size_t count, F&& f, unsigned threads = 0) {
     {
         std::vector<std::jthread> started;
         try {
-            for (std::size_t i = 1; i < helpers; ++i)
-                started.emplace_back([&] { chunks.work(f); });
+            for (std::size_t i = 1; i < helpers; ++i) started.emplace_back([&] { chunks.work(f); });
         } catch (const std::system_error&) {
             // The system has no more threads: those that there are do the work.
         }

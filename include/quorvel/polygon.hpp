@@ -57,22 +57,29 @@ struct Clipped {
 
 /// Why polygons could not be clipped, by the status.
 inline const char* clipping_fault(std::int32_t status) {
-    switch (status) {
-        case 0: return "no fault";
-        case 1: return "a has fewer than 3 vertices";
-        case 2: return "b has fewer than 3 vertices";
-        case 3: return "a crosses itself";
-        case 4: return "b crosses itself";
-        case 5: return "a has no area";
-        case 6: return "a and b cross more than 1024 times";
-        case 7:
-        case 10:
-        case 11: return "the pieces have more than 16 million vertices";
-        case 8: return "an edge of a carries more than 10 crossings";
-        case 9: return "an edge of b carries more than 10 crossings";
-        case 109: return "a or b has coordinates that are not numbers";
-        default: return "a or b is narrower than the tolerance, or touches itself";
-    }
+    struct Fault {
+        std::int32_t status;
+        const char* text;
+    };
+    constexpr const char* too_many = "the pieces have more than 16 million vertices";
+    constexpr Fault faults[] = {
+        {0, "no fault"},
+        {1, "a has fewer than 3 vertices"},
+        {2, "b has fewer than 3 vertices"},
+        {3, "a crosses itself"},
+        {4, "b crosses itself"},
+        {5, "a has no area"},
+        {6, "a and b cross more than 1024 times"},
+        {7, too_many},
+        {8, "an edge of a carries more than 10 crossings"},
+        {9, "an edge of b carries more than 10 crossings"},
+        {10, too_many},
+        {11, too_many},
+        {109, "a or b has coordinates that are not numbers"},
+    };
+    for (const Fault& fault : faults)
+        if (fault.status == status) return fault.text;
+    return "a or b is narrower than the tolerance, or touches itself";
 }
 
 class ClippingError : public std::runtime_error {

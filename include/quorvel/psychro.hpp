@@ -315,7 +315,7 @@ struct PoolEvaporation {
     float reference_load = detail::none<float>;
 };
 
-/// What pool_evaporation returns, an element of each for an element of what is given.
+/// Arrays for what pool_evaporation returns.
 struct PoolEvaporationArrays {
     std::span<float> evaporation_rate;
     std::span<float> latent_load;
@@ -394,7 +394,7 @@ struct PoolEvaporationFromWetBulb {
     float reference_load = detail::none<float>;
 };
 
-/// What pool_evaporation_from_wet_bulb returns, an element of each for an element of what is given.
+/// Arrays for what pool_evaporation_from_wet_bulb returns.
 struct PoolEvaporationFromWetBulbArrays {
     std::span<float> evaporation_rate;
     std::span<float> latent_load;
