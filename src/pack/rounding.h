@@ -5,9 +5,6 @@
 #include "math/math.h"
 #include "pack/pack.h"
 
-// The functions are called, not inlined: they come in registers and take a hundred instructions.
-#define QUORVEL_PACK_CALL [[gnu::noinline]] inline
-
 namespace quorvel::math::detail {
 
 using pack::DoubleReals;
