@@ -159,22 +159,27 @@ Column<Number<T>> returned(const char* name, const Table<T>& table,
             true, table.columns(),       &counts};
 }
 
+[[noreturn]] inline void refuse_elements(const char* routine, std::size_t count, const char* name,
+                                         std::size_t size) {
+    throw std::invalid_argument(std::string(routine) + ": " + name + " has " +
+                                std::to_string(size) + " elements and not " +
+                                std::to_string(count));
+}
+
 /// Inputs of one element serve all elements.
-inline void check_elements(const std::string& routine, std::size_t count, const char* name,
+inline void check_elements(const char* routine, std::size_t count, const char* name,
                            std::size_t size, bool output = false) {
-    if (size != count && (output || size != 1))
-        throw std::invalid_argument(routine + ": " + name + " has " + std::to_string(size) +
-                                    " elements and not " + std::to_string(count));
+    if (size != count && (output || size != 1)) refuse_elements(routine, count, name, size);
 }
 
 /// That no element counts more than a row has.
 template <class T>
-void check_columns(const std::string& routine, const Column<T>& column) {
+void check_columns(const char* routine, const Column<T>& column) {
     if (!column.counts) return;
     for (std::size_t i = 0; i < column.counts->size(); ++i) {
         const std::int32_t counted = (*column.counts)[i];
         if (counted > 0 && static_cast<std::size_t>(counted) > column.columns)
-            throw std::invalid_argument(routine + ": " + column.name + " has " +
+            throw std::invalid_argument(std::string(routine) + ": " + column.name + " has " +
                                         std::to_string(column.columns) + " columns, and element " +
                                         std::to_string(i) + " counts " + std::to_string(counted));
     }
