@@ -29,9 +29,11 @@ FAMILY = """\
 #include "quorvel/selectors.hpp"
 
 // The inner names keep what an application compiles apart from the library's own functions.
-namespace quorvel::{family}::inline v0 {{
+namespace quorvel::{family} {{
+inline namespace v0 {{
 {routines}
-}}  // namespace quorvel::{family}::inline v0
+}}  // namespace v0
+}}  // namespace quorvel::{family}
 """
 
 SELECTORS = """\

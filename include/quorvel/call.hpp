@@ -18,7 +18,9 @@
 
 #include "quorvel/input.hpp"
 
-namespace quorvel::inline v0::detail {
+namespace quorvel {
+inline namespace v0 {
+namespace detail {
 
 // ---- Values as numbers one after the other ----
 
@@ -208,4 +210,6 @@ void call_arrays(const char* routine, Function function, const Column<T>&... col
     if (status != QUORVEL_OK) refuse(routine, status);
 }
 
-}  // namespace quorvel::inline v0::detail
+}  // namespace detail
+}  // namespace v0
+}  // namespace quorvel

@@ -15,7 +15,8 @@
 #include "quorvel/selectors.hpp"
 
 // The inner names keep what an application compiles apart from the library's own functions.
-namespace quorvel::climate::inline v0 {
+namespace quorvel::climate {
+inline namespace v0 {
 
 /// What locate_band returns.
 struct LocateBand {
@@ -1380,4 +1381,5 @@ inline void surface_irradiance_and_incidence(const Input<float>& solar_altitude,
         detail::returned("incidence", out.incidence));
 }
 
-}  // namespace quorvel::climate::inline v0
+}  // namespace v0
+}  // namespace quorvel::climate

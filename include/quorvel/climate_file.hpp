@@ -12,7 +12,8 @@
 #include <string>
 #include <system_error>
 
-namespace quorvel::climate::inline v0 {
+namespace quorvel::climate {
+inline namespace v0 {
 
 /// Climate of a month: the quantities of the file, in its units (Q1 and Q2 not below 0, Q7 from 0
 /// to 1), and hours of the day.
@@ -122,4 +123,5 @@ class ClimateFile {
     std::unique_ptr<quorvel_climate_file, Close> file_;
 };
 
-}  // namespace quorvel::climate::inline v0
+}  // namespace v0
+}  // namespace quorvel::climate

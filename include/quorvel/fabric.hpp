@@ -15,7 +15,8 @@
 #include "quorvel/selectors.hpp"
 
 // The inner names keep what an application compiles apart from the library's own functions.
-namespace quorvel::fabric::inline v0 {
+namespace quorvel::fabric {
+inline namespace v0 {
 
 /// What cyclic_response returns.
 struct CyclicResponse {
@@ -1020,4 +1021,5 @@ inline void window_parameters(const Input<std::int32_t>& panes,
         detail::returned("u_value", out.u_value));
 }
 
-}  // namespace quorvel::fabric::inline v0
+}  // namespace v0
+}  // namespace quorvel::fabric

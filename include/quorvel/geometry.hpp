@@ -15,7 +15,8 @@
 #include "quorvel/selectors.hpp"
 
 // The inner names keep what an application compiles apart from the library's own functions.
-namespace quorvel::geometry::inline v0 {
+namespace quorvel::geometry {
+inline namespace v0 {
 
 /// What overlap returns.
 struct Overlap {
@@ -1334,4 +1335,5 @@ inline void length_in_double(const Input<std::array<double, 3>>& vector, std::sp
         detail::returned("result", result));
 }
 
-}  // namespace quorvel::geometry::inline v0
+}  // namespace v0
+}  // namespace quorvel::geometry

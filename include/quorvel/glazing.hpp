@@ -15,7 +15,8 @@
 #include "quorvel/selectors.hpp"
 
 // The inner names keep what an application compiles apart from the library's own functions.
-namespace quorvel::glazing::inline v0 {
+namespace quorvel::glazing {
+inline namespace v0 {
 
 /// What glass_direct returns.
 struct GlassDirect {
@@ -1307,4 +1308,5 @@ inline void open_slat_diffuse(const Input<float>& slat_spacing, const Input<floa
         detail::returned("ground_absorptance", out.ground_absorptance));
 }
 
-}  // namespace quorvel::glazing::inline v0
+}  // namespace v0
+}  // namespace quorvel::glazing

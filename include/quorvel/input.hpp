@@ -9,7 +9,8 @@
 #include <type_traits>
 #include <utility>
 
-namespace quorvel::inline v0 {
+namespace quorvel {
+inline namespace v0 {
 namespace detail {
 
 template <class Values>
@@ -107,4 +108,5 @@ class Table {
 template <detail::Array Values>
 Table(Values&&, std::size_t, std::size_t) -> Table<std::remove_pointer_t<detail::Pointer<Values>>>;
 
-}  // namespace quorvel::inline v0
+}  // namespace v0
+}  // namespace quorvel

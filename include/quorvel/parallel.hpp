@@ -10,7 +10,8 @@
 #include <thread>
 #include <vector>
 
-namespace quorvel::inline v0 {
+namespace quorvel {
+inline namespace v0 {
 namespace detail {
 
 /// Chunks of elements, taken one after the other by any thread.
@@ -75,4 +76,5 @@ void parallel(std::size_t count, F&& f, unsigned threads = 0) {
     chunks.rethrow();
 }
 
-}  // namespace quorvel::inline v0
+}  // namespace v0
+}  // namespace quorvel

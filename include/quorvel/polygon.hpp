@@ -18,7 +18,8 @@
 #include "quorvel/call.hpp"
 #include "quorvel/input.hpp"
 
-namespace quorvel::geometry::inline v0 {
+namespace quorvel::geometry {
+inline namespace v0 {
 
 struct PlanPoint {
     double x, y;  ///< m
@@ -205,4 +206,5 @@ inline void overlap_areas(const Input<Polygon>& a, const Input<Polygon>& b,
     }
 }
 
-}  // namespace quorvel::geometry::inline v0
+}  // namespace v0
+}  // namespace quorvel::geometry

@@ -15,7 +15,8 @@
 #include "quorvel/selectors.hpp"
 
 // The inner names keep what an application compiles apart from the library's own functions.
-namespace quorvel::psychro::inline v0 {
+namespace quorvel::psychro {
+inline namespace v0 {
 
 /// Specific enthalpy of dry air.
 ///
@@ -696,4 +697,5 @@ inline void wet_bulb_from_moisture_content(const Input<float>& dry_bulb,
         detail::returned("result", result));
 }
 
-}  // namespace quorvel::psychro::inline v0
+}  // namespace v0
+}  // namespace quorvel::psychro
