@@ -1,5 +1,6 @@
-// Nanoseconds an element of every routine, called by reference and through the array library at each
-// level that this processor has; the least of interleaved runs, so that ratios hold on a busy machine.
+// Nanoseconds an element of every routine, called by reference and through the array library at
+// each level that this processor has; the least of interleaved runs, so that ratios hold on a busy
+// machine.
 //     quorvel_array_ratios [ROUTINE...]
 #include <algorithm>
 #include <chrono>
@@ -66,7 +67,8 @@ class Work {
         by_reference_.resize(blocks_.size());
         for (std::size_t i = 0; i < blocks_.size(); ++i) {
             const Argument& a = routine_.arguments[i];
-            by_reference_[i] = a.direction == Direction::Out ? outputs_[i].data() : blocks_[i].data();
+            by_reference_[i] =
+                a.direction == Direction::Out ? outputs_[i].data() : blocks_[i].data();
             if (a.name != given) continue;
             at_.push_back(output ? outputs_[i].data() : blocks_[i].data());
             stride_.push_back(static_cast<std::ptrdiff_t>(size(i)));
@@ -124,7 +126,6 @@ int main(int argc, char** argv) {
         if (quorvel_choose_level(level)) std::printf("  %9s ratio", level);
     std::printf("\n");
     for (const Routine& routine : routines())
-        if (quorvel_find_routine(routine.name)->elementwise &&
-            asked_for(routine.name, argc, argv))
+        if (quorvel_find_routine(routine.name)->elementwise && asked_for(routine.name, argc, argv))
             compare(routine);
 }

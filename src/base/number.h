@@ -9,7 +9,8 @@
 //     both(mask, f)               mask & f(), where f is evaluated only if needed
 //     any(mask)                   whether the mask holds anywhere
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
-//     replaced(mask, y, f, x...)  y, but f(x...) of single numbers where the mask holds, which is seldom
+//     replaced(mask, y, f, x...)  y, but f(x...) of single numbers where the mask holds, which is
+//     seldom
 //
 // The values chosen may also be structures that hold nothing but R.
 //

@@ -105,7 +105,7 @@ R specific_volume(R t, R g, R p) noexcept {
 template <class R>
 R saturation_temperature_from_enthalpy(R h, R p) noexcept {
     constexpr int most_steps = 4000;
-    const MaskOf<R> colder = h < -10.0f, hotter = h > 460.0f;
+    const MaskOf<R> colder = h<-10.0f, hotter = h> 460.0f;
     const R without_search = select(colder, R(-13.4f), R(60.0f));
     MaskOf<R> searching = !(colder | hotter);
     if (!any(searching)) return without_search;
