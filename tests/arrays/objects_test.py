@@ -27,9 +27,9 @@ def faults(objdump, level, file):
             yield f"above {level}: {line.strip()}"
             break
     for line in lines(objdump, "-t", file):
-        flags, name = line[17:24], line.split()[-1] if line.split() else ""
-        if ("w" in flags or "u" in flags) and f"quorvel_{level}" not in name and level != "scalar":
-            yield f"shared with other objects: {name}"
+        symbol = re.match(r"[0-9a-f]+ (.{7}) .*\s(\S+)$", line)
+        if symbol and level != "scalar" and set(symbol[1]) & set("wu") and f"quorvel_{level}" not in symbol[2]:
+            yield f"shared with other objects: {symbol[2]}"
 
 
 def main():
