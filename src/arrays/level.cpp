@@ -26,9 +26,13 @@ namespace {
 
 // From the best to the one that every processor supports.
 constexpr Level levels[] = {
-#ifdef QUORVEL_LEVELS
+#ifdef QUORVEL_HAS_v4
     {"v4", supports_v4, quorvel_v4::arrays::table},
+#endif
+#ifdef QUORVEL_HAS_v3
     {"v3", supports_v3, quorvel_v3::arrays::table},
+#endif
+#ifdef QUORVEL_HAS_v2
     {"v2", supports_v2, quorvel_v2::arrays::table},
 #endif
     {"scalar", []() noexcept { return true; }, table},
