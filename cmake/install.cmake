@@ -3,7 +3,7 @@ include(CMakePackageConfigHelpers)
 
 install(FILES include/quorvel.h include/quorvel_arrays.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY include/quorvel DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(TARGETS quorvel quorvel_static quorvel_arrays quorvel_cpp EXPORT quorvel)
+install(TARGETS quorvel quorvel_static quorvel_arrays quorvel_arrays_static quorvel_cpp EXPORT quorvel)
 set(QUORVEL_PACKAGE ${CMAKE_INSTALL_LIBDIR}/cmake/quorvel)
 install(EXPORT quorvel NAMESPACE quorvel:: FILE quorvel-targets.cmake DESTINATION ${QUORVEL_PACKAGE})
 configure_file(cmake/quorvel-config.cmake.in quorvel-config.cmake COPYONLY)

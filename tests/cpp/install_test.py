@@ -41,6 +41,7 @@ class Installed(unittest.TestCase):
         output_of("cmake", "-S", CONSUMER, "-B", build, f"-DCMAKE_PREFIX_PATH={self.prefix}", f"-DCMAKE_CXX_COMPILER={CXX}")
         output_of("cmake", "--build", build)
         self.run_consumer(build / "consumer")
+        output_of(build / "consumer_static")
 
     @unittest.skipUnless(shutil.which("pkg-config"), "needs pkg-config")
     def test_pkg_config(self):
