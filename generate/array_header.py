@@ -256,8 +256,11 @@ def definitions(families):
     )
 
 
+def prototypes(families):
+    """What the array library exports, a line each."""
+    declared = re.findall(r"^QUORVEL_ARRAYS_API (.*?);", header(families), re.MULTILINE | re.DOTALL)
+    return [" ".join(text.split()).replace("( ", "(") for text in declared]
+
+
 def names(families):
-    """What the array library exports."""
-    fixed = re.findall(r"^QUORVEL_ARRAYS_API .*?\bquorvel_(\w+)\(", PREAMBLE, re.MULTILINE)
-    made = [routine.name for family in families for routine in family.routines if has_kernel(routine)]
-    return [f"quorvel_{name}" for name in sorted(fixed + made)]
+    return sorted(re.search(r"\bquorvel_\w+(?=\()", text).group() for text in prototypes(families))

@@ -1,4 +1,7 @@
-"""interface.txt: what hosts rely on, a line for each routine: how it is called, and the order of what it takes."""
+"""interface.txt: what hosts rely on, a line for each routine and each function of the array library: how it is
+called, and the order of what it takes."""
+
+import array_header
 
 
 def _argument(arg):
@@ -12,4 +15,5 @@ def line(routine):
 
 
 def render(families):
-    return "".join(sorted(f"{line(routine)}\n" for family in families for routine in family.routines))
+    lines = [line(routine) for family in families for routine in family.routines]
+    return "".join(f"{text}\n" for text in sorted(lines) + sorted(array_header.prototypes(families)))

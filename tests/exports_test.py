@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""The library exports exactly the routines of the catalogue and all those of the last release, says
-its version, needs no library beyond the system's own, and nothing of the folder or the libraries
-that it meets in a process.
+"""The libraries export exactly the routines of the catalogue and all those of the last release, say
+their version, need no library beyond the system's own, and nothing of the folder or the libraries
+that they meet in a process.
 
-    exports_test.py VERSION LIBRARY
+    exports_test.py VERSION LIBRARY ARRAY_LIBRARY
 """
 
 import re
@@ -19,9 +19,11 @@ sys.path.insert(0, str(ROOT / "generate"))
 import catalogue  # noqa: E402
 import interface  # noqa: E402
 
-LIBRARY, VERSION = Path(sys.argv.pop()), sys.argv.pop()
+ARRAYS, LIBRARY, VERSION = Path(sys.argv.pop()), Path(sys.argv.pop()), sys.argv.pop()
 WINDOWS = LIBRARY.suffix == ".dll"
 SYSTEM = {"KERNEL32.dll", "msvcrt.dll"} if WINDOWS else {"libc.so.6", "libm.so.6", "libgcc_s.so.1", "ld-linux-x86-64.so.2"}
+FAMILIES = catalogue.load(ROOT / "catalogue")
+ROUTINES = [routine for family in FAMILIES for routine in family.routines]
 
 
 def output_of(*command):
@@ -32,45 +34,77 @@ def is_elf(path):
     return path.is_file() and path.read_bytes()[:4] == b"\x7fELF"
 
 
-def described():
-    return {routine.export for family in catalogue.load(ROOT / "catalogue") for routine in family.routines}
-
-
-def windows_exports():
-    table = output_of("objdump", "-p", LIBRARY).split("[Ordinal/Name Pointer] Table")[1]
+def exports(library):
+    if not WINDOWS:
+        return {line.split()[-1] for line in output_of("nm", "-D", "--defined-only", library).splitlines()}
+    table = output_of("objdump", "-p", library).split("[Ordinal/Name Pointer] Table")[1]
     return {line.split()[-1] for line in table.splitlines() if line.strip().startswith("[")}
 
 
-def elf_exports():
-    return {line.split()[-1] for line in output_of("nm", "-D", "--defined-only", LIBRARY).splitlines()}
+def imports(library):
+    if WINDOWS:
+        return set(output_of("objdump", "-p", library).split())
+    return {line.split()[-1].split("@")[0] for line in output_of("nm", "-D", "--undefined-only", library).splitlines()}
 
 
-def needed():
+def needed(library):
     marker = "DLL Name:" if WINDOWS else "NEEDED"
-    return {line.split()[-1] for line in output_of("objdump", "-p", LIBRARY).splitlines() if marker in line}
+    return {line.split()[-1] for line in output_of("objdump", "-p", library).splitlines() if marker in line}
+
+
+def each_library(test):
+    def run(self):
+        for library in (LIBRARY, ARRAYS):
+            with self.subTest(library.name):
+                test(self, library)
+
+    return run
+
+
+class EitherLibrary(unittest.TestCase):
+    @each_library
+    def test_no_library_beyond_the_systems(self, library):
+        self.assertLessEqual(needed(library), SYSTEM)
+
+    @unittest.skipIf(WINDOWS, "has details instead")
+    @each_library
+    def test_soname(self, library):
+        stem = library.name.split(".")[0]
+        soname = re.search(r"SONAME +(\S+)", output_of("objdump", "-p", library)).group(1)
+        self.assertRegex(soname, rf"^{stem}\.so\.\d+$")
+        self.assertEqual(library.name, f"{stem}.so.{VERSION}")
+        for name in (soname, f"{stem}.so"):
+            self.assertEqual(library.with_name(name).resolve(), library.resolve())
+
+    @unittest.skipIf(WINDOWS, "binds no names of its own")
+    @each_library
+    def test_nothing_of_its_own_is_called_by_an_exported_name(self, library):
+        relocated = set(re.findall(r"(\w+)\S* \+ ", output_of("readelf", "-rW", library)))
+        self.assertTrue(relocated)
+        self.assertFalse(relocated & exports(library))
+
+    @each_library
+    def test_no_transcendental_function_of_the_platform(self, library):
+        names = "sin cos tan asin acos atan atan2 sincos exp exp2 exp10 log log2 log10 log1p pow sinh cosh tanh".split()
+        self.assertFalse(imports(library) & {name + suffix for name in names for suffix in ("", "f", "l")})
 
 
 class Exports(unittest.TestCase):
     def test_exactly_the_catalogue(self):
-        exported = windows_exports() if WINDOWS else elf_exports()
-        self.assertEqual(exported, described())
+        self.assertEqual(exports(LIBRARY), {routine.export for routine in ROUTINES})
+
+    def test_arrays_of_the_catalogue_and_what_their_header_declares(self):
+        header = (ROOT / "include" / "quorvel_arrays.h").read_text(encoding="utf-8")
+        declared = set(re.findall(r"^QUORVEL_ARRAYS_API .*?\b(quorvel_\w+)\(", header, re.MULTILINE))
+        self.assertEqual(exports(ARRAYS), declared)
+        elementwise = {r.name for r in ROUTINES if not r.state and all(arg.type != "Text" for arg in r.args)}
+        self.assertGreater(len(elementwise), len(ROUTINES) // 2)
+        self.assertLessEqual({f"quorvel_{name}" for name in elementwise}, declared)
 
     def test_hosts_find_what_the_last_release_exports(self):
         """A routine may come, but none go or change how it is called, unless SOVERSION rises: ./dev interface."""
         recorded = (ROOT / "conformance" / "interface.txt").read_text(encoding="utf-8").splitlines()
-        current = interface.render(catalogue.load(ROOT / "catalogue")).splitlines()
-        self.assertLessEqual(set(recorded), set(current))
-
-    def test_no_library_beyond_the_systems(self):
-        self.assertLessEqual(needed(), SYSTEM)
-
-    @unittest.skipIf(WINDOWS, "has details instead")
-    def test_soname(self):
-        soname = re.search(r"SONAME +(\S+)", output_of("objdump", "-p", LIBRARY)).group(1)
-        self.assertRegex(soname, r"^libquorvel\.so\.\d+$")
-        self.assertEqual(LIBRARY.name, "libquorvel.so." + VERSION)
-        for name in (soname, "libquorvel.so"):
-            self.assertEqual(LIBRARY.with_name(name).resolve(), LIBRARY.resolve())
+        self.assertLessEqual(set(recorded), set(interface.render(FAMILIES).splitlines()))
 
     @unittest.skipUnless(WINDOWS, "has a soname instead")
     def test_details_that_windows_shows(self):
@@ -84,12 +118,6 @@ class Exports(unittest.TestCase):
         for name, value in {"ProductName": "Quorvel", "ProductVersion": VERSION, "FileVersion": VERSION,
                             "FileDescription": "Building-physics and building-services calculations"}.items():
             self.assertRegex(texts, f"{name}\0+{re.escape(value)}\0")
-
-    @unittest.skipIf(WINDOWS, "binds no names of its own")
-    def test_no_routine_is_called_by_its_exported_name(self):
-        relocated = set(re.findall(r"(\w+)\S* \+ ", output_of("readelf", "-rW", LIBRARY)))
-        self.assertTrue(relocated)
-        self.assertFalse(relocated & described())
 
     @unittest.skipIf(WINDOWS, "has no run paths")
     def test_run_paths_start_at_the_file(self):
@@ -117,14 +145,6 @@ class Exports(unittest.TestCase):
         # Next to each other: no constructors between the two ends of their list, no relocations in theirs.
         self.assertEqual(symbols["__DTOR_LIST__"] - symbols["__CTOR_LIST__"], 16)
         self.assertEqual(symbols["__RUNTIME_PSEUDO_RELOC_LIST__"], symbols["__RUNTIME_PSEUDO_RELOC_LIST_END__"])
-
-    def test_no_transcendental_function_of_the_platform(self):
-        if WINDOWS:
-            imported = set(output_of("objdump", "-p", LIBRARY).split())
-        else:
-            imported = {line.split()[-1].split("@")[0] for line in output_of("nm", "-D", "--undefined-only", LIBRARY).splitlines()}
-        names = "sin cos tan asin acos atan atan2 sincos exp exp2 exp10 log log2 log10 log1p pow sinh cosh tanh".split()
-        self.assertFalse(imported & {name + suffix for name in names for suffix in ("", "f", "l")})
 
 
 if __name__ == "__main__":
