@@ -19,6 +19,7 @@ import example_table
 import exports
 import host_headers
 import interface
+import python_core
 import routine_table
 
 PRODUCTS = {
@@ -31,6 +32,7 @@ PRODUCTS = {
     "routine-names": exports.macro_calls,
     "routine-table": routine_table.render,
     "examples": example_table.render,
+    "python-core": python_core.render,
 }
 FOLDERS = {
     "cpp-examples": cpp_examples.files,

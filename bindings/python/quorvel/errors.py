@@ -1,0 +1,95 @@
+"""What is done about values outside the valid ranges."""
+
+from contextvars import ContextVar
+
+from . import _core
+
+__all__ = ["RangeError", "RangeWarning", "errstate"]
+
+POLICIES = {"ignore": 0, "nan": 1, "warn": 2, "raise": 3}
+
+
+class RangeError(ValueError):
+    """A value is outside its valid range."""
+
+
+class RangeWarning(UserWarning):
+    """A value is outside its valid range."""
+
+
+class errstate:
+    """Context in which values outside the valid ranges are answered; not-a-number is outside.
+
+    Parameters
+    ----------
+    range : {"ignore", "nan", "warn", "raise"}
+        "ignore", as without a context, gives what the routine's notes say; "nan" gives not-a-number (0 in
+        integers, False in logical results) for those elements; "warn" warns with `RangeWarning`; "raise" raises
+        `RangeError`, which names the argument, the value and the range.
+
+    Notes
+    -----
+    It holds for this thread or task, and for Dask's arrays where the function is called, wherever they are
+    computed in the end. Contexts may be nested.
+
+    Examples
+    --------
+    >>> import quorvel
+    >>> with quorvel.errstate(range="nan"):
+    ...     print(quorvel.psychro.vapour_pressure(20, [50, 150]))
+    [1167.7646       nan]
+    """
+
+    def __init__(self, *, range):
+        if range not in POLICIES:
+            raise ValueError(f"range must be one of {', '.join(map(repr, POLICIES))}, not {range!r}")
+        self._policy = POLICIES[range]
+        self._tokens = []
+
+    def __enter__(self):
+        self._tokens.append(_policy.set(self._policy))
+        _core.count_errstates(1)
+        return self
+
+    def __exit__(self, *_):
+        _core.count_errstates(-1)
+        _policy.reset(self._tokens.pop())
+
+    def __call__(self, function):
+        """As a decorator."""
+        from functools import wraps
+
+        @wraps(function)
+        def guarded(*args, **options):
+            with type(self)(range=current(self._policy)):
+                return function(*args, **options)
+
+        return guarded
+
+
+def current(policy=None):
+    """The name of this context's policy."""
+    value = _policy.get() if policy is None else policy
+    return next(name for name, number in POLICIES.items() if number == value)
+
+
+def _report(routine, argument, value, elements, policy):
+    """Called by the inner loops; `argument` is the name in the catalogue."""
+    import warnings
+
+    from .catalogue import ROUTINES
+
+    described = next(known for known in ROUTINES[routine].inputs if known.name == argument)
+    low, high = described.range
+    limits = f"{low:g} to {high:g}" if high < float("inf") else f"from {low:g}"
+    unit = f" {described.unit}" if described.unit not in ("", "1") else ""
+    more = f" ({elements} elements are outside)" if elements > 1 else ""
+    text = f"{routine}: {argument} = {value:g} is outside its valid range, {limits}{unit}{more}"
+    if policy == POLICIES["raise"]:
+        raise RangeError(text)
+    warnings.warn(text, RangeWarning, stacklevel=3)
+
+
+_policy = ContextVar("quorvel.errstate", default=POLICIES["ignore"])
+_core.set_errstate_variable(_policy)
+_core.set_reporter(_report)

@@ -1,0 +1,143 @@
+"""Docstrings of the Python package, in NumPy's form."""
+
+import math
+import textwrap
+
+from array_header import name_of
+from header import number
+from python_model import class_name, given_counts, operands, selector, signature
+
+WIDTH = 100
+
+TYPES = {"Real": "float32", "DoubleReal": "float64", "Integer": "int32", "Logical": "bool"}
+
+
+def wrapped(text, indent=""):
+    return textwrap.wrap(text, WIDTH - 4, initial_indent=indent, subsequent_indent=indent,
+                         break_long_words=False, break_on_hyphens=False)
+
+
+def valid(operand):
+    """The valid range in words; empty without one."""
+    low, high = operand.interval or (-math.inf, math.inf)
+    if math.isinf(low):
+        return "" if math.isinf(high) else f"to {number(high)}"
+    return f"from {number(low)}" if math.isinf(high) else f"{number(low)} to {number(high)}"
+
+
+def _shape(operand):
+    return f", shape (..., {', '.join(map(str, operand.axes))})" if operand.axes else ""
+
+
+def _type(operand):
+    if kind := selector(operand.arg):
+        return f"{kind} or array_like of int"
+    return f"array_like of {'int' if operand.kind == 'Integer' else 'float'}"
+
+
+def _sentence(operand, returned):
+    arg = operand.arg
+    text = arg.meaning
+    if arg.values:
+        text += ": " + ", ".join(f"{value} {what}" for value, what in arg.values.values())
+    text += f" [{arg.unit}]" if arg.unit not in ("", "1") else ""
+    if returned:
+        text += "; 1e20 where there is none" * arg.none
+        if unwritten := getattr(arg, "unwritten", ""):
+            text += f"; {'as given' if arg.dir == 'inout' else 'not a number'} {unwritten}"
+    elif not arg.values and valid(operand):
+        text += f"; valid {valid(operand)}"
+    return text[0].upper() + text[1:] + "."
+
+
+def _parameters(routine, inputs, several):
+    for operand in inputs:
+        yield f"{operand.field} : {_type(operand)}{_shape(operand)}"
+        yield from wrapped(_sentence(operand, returned=False), "    ")
+    yield "out : tuple of ndarray, optional" if several else "out : ndarray, optional"
+    yield from wrapped("Where to put the results, as for any NumPy ufunc.", "    ")
+    if not signature(routine):
+        yield "where : array_like of bool, optional"
+        yield from wrapped("Which elements to work out, as for any NumPy ufunc.", "    ")
+
+
+def _returns(routine, outputs):
+    if len(outputs) > 1:
+        yield class_name(routine)
+        yield "    A named tuple of:"
+        yield ""
+    for operand in outputs:
+        name = operand.field if operand.field != "result" else operand.arg.quantity
+        yield f"{name} : {TYPES[operand.kind]}{_shape(operand)}"
+        yield from wrapped(_sentence(operand, returned=True), "    ")
+
+
+def _notes(routine):
+    formula = [f"Formula: {routine.formula}"] if routine.formula else []
+    room = [
+        f"Beyond the count `{name}`, what it counts is not a number." for name in given_counts(routine)
+    ]
+    same = [f"Each element has the bits of {routine.export} in quorvel.h."] if routine.export else []
+    for text in [*formula, *routine.notes, *room, *same]:
+        yield from wrapped(text)
+        yield ""
+
+
+def _literal(operand, value):
+    if operand.arg.values and not operand.axes:
+        name = next((name for name, (number, _) in operand.arg.values.items() if number == value), None)
+        if name:
+            return f"{selector(operand.arg)}.{name}"
+    if not operand.axes:
+        return repr(value)
+    rows = value
+    for extent in reversed(operand.axes[1:]):
+        rows = [rows[k:k + extent] for k in range(0, len(rows), extent)]
+    return repr(rows)
+
+
+def call(routine, example):
+    """An example as a call."""
+    inputs, _ = operands(routine)
+    given = ", ".join(f"{operand.field}={_literal(operand, example.given[operand.arg.name])}" for operand in inputs)
+    return f"{routine.name}({given})"
+
+
+def _compared(operand, value, tolerance, several):
+    got = f"result.{operand.field}" if several else "result"
+    if operand.kind == "Logical":
+        return f"bool({got})", str(bool(value))
+    if not operand.axes:
+        return (f"bool({got} == {value!r})" if not tolerance else f"bool(abs({got} - {value!r}) <= {tolerance!r})"), "True"
+    return f"all(abs(a - b) <= {tolerance!r} for a, b in zip({got}.flat, {value!r}))", "True"
+
+
+def example_lines(routine, family):
+    example = next(iter(routine.examples), None)
+    if not example:
+        return
+    inputs, outputs = operands(routine)
+    names = sorted({routine.name} | {selector(o.arg) for o in inputs if o.arg.values and not o.axes})
+    yield f">>> from quorvel.{family} import {', '.join(names)}"
+    yield f">>> result = {call(routine, example)}"
+    for operand in outputs:
+        if name_of(operand.arg) in example.gives:
+            value, tolerance = example.gives[name_of(operand.arg)], example.within[name_of(operand.arg)]
+            text, answer = _compared(operand, value, tolerance, len(outputs) > 1)
+            yield f">>> {text}"
+            yield answer
+    yield ""
+    yield from wrapped(f"({example.source})")
+
+
+def docstring(routine, family):
+    inputs, outputs = operands(routine)
+    lines = [*wrapped(routine.summary), "", "Parameters", "----------",
+             *_parameters(routine, inputs, len(outputs) > 1), "", "Returns", "-------", *_returns(routine, outputs), ""]
+    notes = list(_notes(routine))
+    if notes:
+        lines += ["Notes", "-----", *notes]
+    lines += ["References", "----------", *wrapped(routine.source)]
+    if routine.examples:
+        lines += ["", "Examples", "--------", *example_lines(routine, family)]
+    return "\n".join(line.rstrip() for line in lines)

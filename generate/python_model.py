@@ -1,0 +1,79 @@
+"""What the Python package makes of a routine: its operands, their core dimensions, and the function's parameters.
+
+A list tells its own length, so the counts of lists are no operands. A count that no list tells stays one: what it
+counts has then room for the most, and is not a number beyond the count.
+"""
+
+from dataclasses import dataclass
+
+from array_header import columns
+from array_kernels import has_kernel
+from cpp_types import bounds, camel, taken_from_lists
+
+# Replaced by a function of polygons that is written by hand: quorvel/polygon.py
+BY_HAND = {"clip"}
+
+
+@dataclass(frozen=True)
+class Operand:
+    name: str   # in the arrays
+    field: str  # in Python: of the parameter, or of the result
+    arg: object
+    axes: tuple  # the core dimensions, numbers or names of counts; the last one varies fastest
+
+    @property
+    def kind(self):
+        return "Logical" if getattr(self.arg, "logical", False) else self.arg.type
+
+    @property
+    def interval(self):
+        """The valid values; none where any is."""
+        if self.arg.values:
+            numbers = [number for number, _ in self.arg.values.values()]
+            return min(numbers), max(numbers)
+        return tuple(self.arg.range)
+
+
+def is_offered(routine):
+    return has_kernel(routine) and routine.name not in BY_HAND
+
+
+def given_counts(routine):
+    """The counts that are operands, by name."""
+    told = taken_from_lists(routine)
+    return {
+        extent: next(arg for arg in routine.args if arg.name == extent)
+        for arg in routine.args for extent in arg.shape if not isinstance(extent, int) and extent not in told
+    }
+
+
+def _axes(arg, given):
+    room = [bounds(given[extent])[1] if extent in given else extent for extent in arg.shape]
+    return tuple(reversed(room))
+
+
+def operands(routine):
+    """The inputs and the outputs."""
+    told, given = taken_from_lists(routine), given_counts(routine)
+    taken, returned = columns(routine)
+    inputs = [Operand(name, name, arg, _axes(arg, given)) for name, arg in taken if name not in told]
+    return inputs, [Operand(name, name.removeprefix("new_"), arg, _axes(arg, given)) for name, arg in returned]
+
+
+def signature(routine):
+    """As NumPy writes core dimensions; empty for a function of numbers."""
+    inputs, outputs = operands(routine)
+    if not any(operand.axes for operand in inputs + outputs):
+        return ""
+    sides = (",".join(f"({','.join(map(str, operand.axes))})" for operand in side) for side in (inputs, outputs))
+    return "->".join(sides)
+
+
+def class_name(routine):
+    """Of the named tuple that a routine with several outputs returns."""
+    return camel(routine.name)
+
+
+def selector(arg):
+    """The enumeration of an argument; empty for others."""
+    return camel(arg.quantity) if arg.values else ""
