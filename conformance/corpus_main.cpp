@@ -6,6 +6,7 @@
 //     quorvel_corpus NAME          the same for one routine
 //     quorvel_corpus --shuffled    the same with the routines in random order, in the user's locale
 //     quorvel_corpus --cases NAME  prints every case of one: arguments before, results after
+//     quorvel_corpus --words NAME  writes the same words as they are in memory, 32 bits each
 //
 // The library under test is the one that library.h loads (QUORVEL_LIBRARY names another one).
 #include "conformance/corpus.h"
@@ -19,6 +20,7 @@
 #include <iterator>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "conformance/climate_file.h"
 #include "quorvel/library.h"
@@ -46,6 +48,13 @@ void print_cases(const Routine& routine) {
     std::puts("");
 }
 
+void write_words(const Routine& routine) {
+    std::vector<std::uint32_t> words;
+    const auto keep = [&](std::uint32_t word) { words.push_back(word); };
+    run_corpus(routine, keep, keep);
+    std::fwrite(words.data(), sizeof words[0], words.size(), stdout);
+}
+
 void print_hashes(const std::vector<Routine>& routines) {
     for (const Routine& routine : routines)
         std::printf("%s %s\n", routine.name, corpus_hash(routine).c_str());
@@ -70,12 +79,15 @@ int main(int argc, char** argv) try {
         std::setlocale(LC_ALL, "");
         return print_hashes(shuffled(routines())), 0;
     }
-    const bool cases = wanted == "--cases";
+    const bool words = wanted == "--words", cases = words || wanted == "--cases";
     std::vector<Routine> selected;
     std::ranges::copy_if(routines(), std::back_inserter(selected), [&](const Routine& routine) {
         return (cases ? routine_name : wanted) == routine.name || wanted == routine.family;
     });
-    if (!selected.empty()) return cases ? print_cases(selected[0]) : print_hashes(selected), 0;
+    if (!selected.empty()) {
+        if (!cases) return print_hashes(selected), 0;
+        return words ? write_words(selected[0]) : print_cases(selected[0]), 0;
+    }
     std::fprintf(stderr, "no exported routine and no family is called %s\n", argv[argc - 1]);
     return 2;
 } catch (const std::exception& error) {

@@ -112,6 +112,12 @@ def _compared(operand, value, tolerance, several):
     return f"all(abs(a - b) <= {tolerance!r} for a, b in zip({got}.flat, {value!r}))", "True"
 
 
+def _folded(statement):
+    """A statement of an example; it may be broken where it has blanks within brackets."""
+    return textwrap.wrap(statement, WIDTH - 4, initial_indent=">>> ", subsequent_indent="...     ",
+                         break_long_words=False, break_on_hyphens=False)
+
+
 def example_lines(routine, family):
     example = next(iter(routine.examples), None)
     if not example:
@@ -119,12 +125,12 @@ def example_lines(routine, family):
     inputs, outputs = operands(routine)
     names = sorted({routine.name} | {selector(o.arg) for o in inputs if o.arg.values and not o.axes})
     yield f">>> from quorvel.{family} import {', '.join(names)}"
-    yield f">>> result = {call(routine, example)}"
+    yield from _folded(f"result = {call(routine, example)}")
     for operand in outputs:
         if name_of(operand.arg) in example.gives:
             value, tolerance = example.gives[name_of(operand.arg)], example.within[name_of(operand.arg)]
             text, answer = _compared(operand, value, tolerance, len(outputs) > 1)
-            yield f">>> {text}"
+            yield from _folded(text)
             yield answer
     yield ""
     yield from wrapped(f"({example.source})")

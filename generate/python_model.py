@@ -10,8 +10,9 @@ from array_header import columns
 from array_kernels import has_kernel
 from cpp_types import bounds, camel, taken_from_lists
 
-# Replaced by a function of polygons that is written by hand: quorvel/polygon.py
-BY_HAND = {"clip"}
+# Functions of polygons are written by hand: quorvel/geometry/polygon.py. Of two routines there is the ufunc beside.
+BY_HAND = {"clip", "overlap", "overlap_alias"}
+WITHOUT_UFUNC = {"clip"}
 
 
 @dataclass(frozen=True)
@@ -35,7 +36,11 @@ class Operand:
 
 
 def is_offered(routine):
-    return has_kernel(routine) and routine.name not in BY_HAND
+    return has_kernel(routine) and routine.name not in WITHOUT_UFUNC
+
+
+def is_documented(routine):
+    return is_offered(routine) and routine.name not in BY_HAND
 
 
 def given_counts(routine):

@@ -4,7 +4,7 @@ all of them, and what is known of each routine at run time."""
 import textwrap
 
 from python_docs import TYPES, docstring, wrapped
-from python_model import class_name, is_offered, operands, selector, signature
+from python_model import class_name, is_documented, is_offered, operands, selector, signature
 
 EDIT = "# Produced from the catalogue of routines (catalogue/); do not edit."
 
@@ -14,7 +14,7 @@ def _quoted(text):
 
 
 def _kept(family):
-    return [routine for routine in family.routines if is_offered(routine)]
+    return [routine for routine in family.routines if is_documented(routine)]
 
 
 def _selectors_of(routines):
@@ -145,7 +145,8 @@ def _described(family, routine):
 
 
 def _catalogue(families):
-    routines = "".join(_described(family, routine) for family in families for routine in _kept(family))
+    routines = "".join(_described(family, routine) for family in families for routine in family.routines
+                       if is_offered(routine))
     return (f'"""What is known of each routine at run time."""\n\n{EDIT}\n\n'
             "from collections import namedtuple\n\nINF = float(\"inf\")\n\n"
             'A = Argument = namedtuple("Argument", "name dtype unit meaning range selector axes")\n'

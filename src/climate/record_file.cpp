@@ -67,11 +67,16 @@ bool write_in_full(const char* name, char* text) noexcept {
     return true;
 }
 
+bool is_regular(int file) noexcept {
+    // fstat would ask for a C library of 2021, which the Python package would then need too.
+    struct statx status;
+    return statx(file, "", AT_EMPTY_PATH, STATX_TYPE, &status) == 0 && S_ISREG(status.stx_mode);
+}
+
 std::intptr_t open_regular(const char* name) noexcept {
     // Without O_NONBLOCK the opening of a named pipe waits for a writer.
     const int file = open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    struct stat status;
-    if (file < 0 || (fstat(file, &status) == 0 && S_ISREG(status.st_mode))) return file;
+    if (file < 0 || is_regular(file)) return file;
     close(file);
     return -1;
 }

@@ -99,6 +99,11 @@ PyObject* dispatch(const Function& function, PyObject* const* arguments, PyObjec
                                  out, where);
 }
 
+bool is_about_arguments() {
+    return PyErr_ExceptionMatches(PyExc_TypeError) || PyErr_ExceptionMatches(PyExc_ValueError) ||
+           PyErr_ExceptionMatches(PyExc_OverflowError);
+}
+
 }  // namespace
 
 PyObject* call(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
@@ -117,9 +122,7 @@ PyObject* call(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
     if (!std::all_of(arguments, arguments + routine.inputs, is_plain))
         return dispatch(*function, arguments, out, where);
     PyObject* result = call_ufunc(*function, arguments, out, where);
-    if (result != nullptr ||
-        !(PyErr_ExceptionMatches(PyExc_TypeError) || PyErr_ExceptionMatches(PyExc_ValueError)))
-        return result;
+    if (result != nullptr || !is_about_arguments()) return result;
     PyErr_Clear();  // again, for an error in the package's words
     return dispatch(*function, arguments, out, where);
 }

@@ -31,7 +31,7 @@ def dispatch(name, ufunc, args, out, where):
         result = ufunc(*args, **options)
     except RangeError:
         raise
-    except (TypeError, ValueError) as error:
+    except (TypeError, ValueError, OverflowError) as error:
         raise _explained(name, routine, args, error) from None
     return _labelled.named(result, routine) if "pandas" in kinds else result
 
@@ -39,9 +39,8 @@ def dispatch(name, ufunc, args, out, where):
 def _kind(value):
     """The library of labelled arrays or tables that the value belongs to."""
     root = type(value).__module__.partition(".")[0]
-    if root == "pandas" and not hasattr(value, "ndim"):
-        return None
-    return root if root in ("xarray", "dask", "pandas") and hasattr(value, "dtype" if root == "dask" else "shape") else None
+    marks = {"xarray": "dims", "dask": "chunks", "pandas": "index"}  # of arrays and tables, not of other things there
+    return root if root in marks and hasattr(value, marks[root]) else None
 
 
 def _no_options(name, out, where, kind):
@@ -64,6 +63,8 @@ def _number_of(value, argument):
 def _explained(name, routine, args, error):
     """The error with the argument that it is about, as far as that can be told."""
     for value, argument in zip(args, routine.inputs):
+        if isinstance(value, int) and not -2**63 <= value < 2**63:
+            return ValueError(f"{name}: {argument.name}: {value} is beyond all that is valid")
         dtype = np.asarray(value).dtype if not hasattr(value, "dtype") else value.dtype
         wide = "int64" if argument.dtype == "int32" else "float64"
         if not np.can_cast(dtype, wide, "safe"):

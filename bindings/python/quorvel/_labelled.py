@@ -16,11 +16,8 @@ class Applied:
         self.__name__ = name
 
     def __call__(self, *args):
-        ufunc = _core.ufuncs[self.name]
-        if self.policy == "ignore":
-            return ufunc(*args)
         with errstate(range=self.policy):
-            return ufunc(*args)
+            return _core.ufuncs[self.name](*args)
 
     def __dask_tokenize__(self):
         return ("quorvel", _core.version(), self.name, self.policy)
@@ -43,7 +40,10 @@ def of_dask(name, routine, args, _=None):
     from dask.array import apply_gufunc
 
     dtypes = _dtypes(routine)
+    fixed = {str(axis): axis for output in routine.outputs for axis in output.axes if isinstance(axis, int)}
+    given = {str(axis) for argument in routine.inputs for axis in argument.axes}
     results = apply_gufunc(Applied(name), _signature(routine), *args, allow_rechunk=True,
+                           output_sizes={axis: extent for axis, extent in fixed.items() if axis not in given},
                            output_dtypes=dtypes if len(dtypes) > 1 else dtypes[0])
     return _returned(results, routine)
 
@@ -87,11 +87,19 @@ def of_xarray(name, routine, args, _=None):
     )
     several = results if isinstance(results, tuple) else (results,)
     for result, output in zip(several, routine.outputs):
-        for array in result.data_vars.values() if isinstance(result, xarray.Dataset) else [result]:
-            array.attrs.update({"units": output.unit, "long_name": output.meaning} if output.unit else {"long_name": output.meaning})
-        if not isinstance(result, xarray.Dataset):
-            result.name = output.name
+        _describe(result, output)
     return _returned(several, routine)
+
+
+def _describe(result, output):
+    attributes = {"units": output.unit} if output.unit else {}
+    attributes["long_name"] = output.meaning
+    if hasattr(result, "data_vars"):
+        for name in result.data_vars:
+            result.variables[name].attrs.update(attributes)
+    else:
+        result.attrs.update(attributes)
+        result.name = output.name
 
 
 def _axes(operand):

@@ -238,7 +238,14 @@ def locate_band(fraction, month, frequencies, *, out=None):
     Examples
     --------
     >>> from quorvel.climate import locate_band
-    >>> result = locate_band(fraction=0.25, month=6, frequencies=[[0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1], [0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2], [0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3], [0.4, 0.4, 0.4, 0.4, 0.4, 0.4, 0.4, 0.4, 0.4, 0.4, 0.4, 0.4], [0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5], [0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6], [0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7], [0.8, 0.8, 0.8, 0.8, 0.8, 0.8, 0.8, 0.8, 0.8, 0.8, 0.8, 0.8], [0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9], [1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1]])
+    >>> result = locate_band(fraction=0.25, month=6, frequencies=[[0.1, 0.1, 0.1, 0.1, 0.1, 0.1,
+    ...     0.1, 0.1, 0.1, 0.1, 0.1, 0.1], [0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2, 0.2,
+    ...     0.2], [0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3, 0.3], [0.4, 0.4, 0.4, 0.4,
+    ...     0.4, 0.4, 0.4, 0.4, 0.4, 0.4, 0.4, 0.4], [0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5,
+    ...     0.5, 0.5, 0.5], [0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6, 0.6], [0.7, 0.7,
+    ...     0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7, 0.7], [0.8, 0.8, 0.8, 0.8, 0.8, 0.8, 0.8,
+    ...     0.8, 0.8, 0.8, 0.8, 0.8], [0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9, 0.9],
+    ...     [1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1]])
     >>> bool(abs(result.lower_band - 2) <= 1e-06)
     True
     >>> bool(abs(result.upper_band - 3) <= 1e-06)
@@ -369,7 +376,8 @@ def interpolate_band_rows(base_row, lower_band, upper_band, month, band_weight, 
     Examples
     --------
     >>> from quorvel.climate import interpolate_band_rows
-    >>> result = interpolate_band_rows(base_row=2, lower_band=10, upper_band=10, month=1, band_weight=0)
+    >>> result = interpolate_band_rows(base_row=2, lower_band=10, upper_band=10, month=1,
+    ...     band_weight=0)
     >>> bool(result == 1)
     True
 
@@ -719,7 +727,8 @@ def daily_temperature(hour, highest_temperature, lowest_temperature, hour_of_hig
     Examples
     --------
     >>> from quorvel.climate import daily_temperature
-    >>> result = daily_temperature(hour=14, highest_temperature=25, lowest_temperature=15, hour_of_highest=14, hour_of_lowest=4)
+    >>> result = daily_temperature(hour=14, highest_temperature=25, lowest_temperature=15,
+    ...     hour_of_highest=14, hour_of_lowest=4)
     >>> bool(abs(result - 25) <= 0.0001)
     True
 
@@ -776,7 +785,8 @@ def daily_value(hour, mean, amplitude, first_hour, second_hour, amplitude_factor
     Examples
     --------
     >>> from quorvel.climate import daily_value
-    >>> result = daily_value(hour=15, mean=20, amplitude=5, first_hour=3, second_hour=15, amplitude_factor=-1)
+    >>> result = daily_value(hour=15, mean=20, amplitude=5, first_hour=3, second_hour=15,
+    ...     amplitude_factor=-1)
     >>> bool(abs(result - 25) <= 0.0001)
     True
 
@@ -1053,7 +1063,9 @@ def muneer_slope(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_hori
     Examples
     --------
     >>> from quorvel.climate import muneer_slope
-    >>> result = muneer_slope(solar_altitude=0.8, solar_azimuth=3, surface_azimuth=0, tilt=0, beam_horizontal=300, diffuse_horizontal=150, extraterrestrial_horizontal=980.6, ground_reflectance=0.2)
+    >>> result = muneer_slope(solar_altitude=0.8, solar_azimuth=3, surface_azimuth=0, tilt=0,
+    ...     beam_horizontal=300, diffuse_horizontal=150, extraterrestrial_horizontal=980.6,
+    ...     ground_reflectance=0.2)
     >>> bool(abs(result.surface_beam - 300) <= 0.01)
     True
     >>> bool(abs(result.surface_diffuse - 150) <= 0.01)
@@ -1126,7 +1138,8 @@ def perez_diffuse(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, inc
     Examples
     --------
     >>> from quorvel.climate import perez_diffuse
-    >>> result = perez_diffuse(solar_altitude=0.8, tilt=0, beam_horizontal=300, diffuse_horizontal=150, incidence=0.7707963, extraterrestrial_normal=1367)
+    >>> result = perez_diffuse(solar_altitude=0.8, tilt=0, beam_horizontal=300,
+    ...     diffuse_horizontal=150, incidence=0.7707963, extraterrestrial_normal=1367)
     >>> bool(abs(result - 150) <= 0.01)
     True
 
@@ -1240,7 +1253,8 @@ def diffuse_tilt_factor(day, solar_altitude, beam_horizontal, tilt, sky_model, *
     Examples
     --------
     >>> from quorvel.climate import SkyModel, diffuse_tilt_factor
-    >>> result = diffuse_tilt_factor(day=100, solar_altitude=0.8, beam_horizontal=300, tilt=0, sky_model=SkyModel.northern_europe)
+    >>> result = diffuse_tilt_factor(day=100, solar_altitude=0.8, beam_horizontal=300, tilt=0,
+    ...     sky_model=SkyModel.northern_europe)
     >>> bool(abs(result - 1) <= 1e-06)
     True
 
@@ -1310,7 +1324,8 @@ def slope_diffuse(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, bea
     Examples
     --------
     >>> from quorvel.climate import SkyModel, slope_diffuse
-    >>> result = slope_diffuse(day=100, solar_altitude=0.8, solar_azimuth=3, surface_azimuth=0, tilt=0, beam_horizontal=300, diffuse_horizontal=150, sky_model=SkyModel.southern_europe)
+    >>> result = slope_diffuse(day=100, solar_altitude=0.8, solar_azimuth=3, surface_azimuth=0,
+    ...     tilt=0, beam_horizontal=300, diffuse_horizontal=150, sky_model=SkyModel.southern_europe)
     >>> bool(abs(result - 150) <= 0.01)
     True
 
@@ -1361,7 +1376,8 @@ def sol_air_temperature(base_temperature, surface_coefficient, absorptance, irra
     Examples
     --------
     >>> from quorvel.climate import sol_air_temperature
-    >>> result = sol_air_temperature(base_temperature=20, surface_coefficient=25, absorptance=1, irradiance=500, long_wave_loss=100)
+    >>> result = sol_air_temperature(base_temperature=20, surface_coefficient=25, absorptance=1,
+    ...     irradiance=500, long_wave_loss=100)
     >>> bool(abs(result - 36) <= 1e-05)
     True
 
@@ -1534,7 +1550,8 @@ def almanac_position(time_kind, year, month, day_of_month, clock_time, latitude,
     Examples
     --------
     >>> from quorvel.climate import TimeKind, almanac_position
-    >>> result = almanac_position(time_kind=TimeKind.zone, year=2003, month=10, day_of_month=17, clock_time=12.508333, latitude=0.6936371, longitude=1.8357129, zone_meridian=1.8325957)
+    >>> result = almanac_position(time_kind=TimeKind.zone, year=2003, month=10, day_of_month=17,
+    ...     clock_time=12.508333, latitude=0.6936371, longitude=1.8357129, zone_meridian=1.8325957)
     >>> bool(abs(result.solar_altitude - 0.695898) <= 0.00035)
     True
     >>> bool(abs(result.solar_azimuth - 3.391877) <= 0.00035)
@@ -1733,7 +1750,8 @@ def surface_angles(solar_altitude, solar_azimuth, surface_azimuth, tilt, *, out=
     Examples
     --------
     >>> from quorvel.climate import surface_angles
-    >>> result = surface_angles(solar_altitude=0.7853982, solar_azimuth=3.1415927, surface_azimuth=3.1415927, tilt=1.5707963)
+    >>> result = surface_angles(solar_altitude=0.7853982, solar_azimuth=3.1415927,
+    ...     surface_azimuth=3.1415927, tilt=1.5707963)
     >>> bool(abs(result.incidence - 0.785398) <= 0.001)
     True
     >>> bool(abs(result.vertical_shadow_angle - 0.785398) <= 0.001)
@@ -1810,7 +1828,9 @@ def surface_irradiance(solar_altitude, solar_azimuth, surface_azimuth, tilt, dir
     Examples
     --------
     >>> from quorvel.climate import surface_irradiance
-    >>> result = surface_irradiance(solar_altitude=0.5235988, solar_azimuth=3.14159, surface_azimuth=0, tilt=0, direct_normal=800, diffuse_horizontal=100, ground_reflectance=0, beam_factor=1, diffuse_factor=1)
+    >>> result = surface_irradiance(solar_altitude=0.5235988, solar_azimuth=3.14159,
+    ...     surface_azimuth=0, tilt=0, direct_normal=800, diffuse_horizontal=100,
+    ...     ground_reflectance=0, beam_factor=1, diffuse_factor=1)
     >>> bool(abs(result.surface_beam - 400) <= 0.1)
     True
 
@@ -1876,7 +1896,9 @@ def surface_irradiance_and_incidence(solar_altitude, solar_azimuth, surface_azim
     Examples
     --------
     >>> from quorvel.climate import surface_irradiance_and_incidence
-    >>> result = surface_irradiance_and_incidence(solar_altitude=0.5235988, solar_azimuth=3.1415927, surface_azimuth=3.1415927, tilt=1.5707963, direct_normal=800, diffuse_horizontal=100, ground_reflectance=0.2, beam_factor=1, diffuse_factor=1)
+    >>> result = surface_irradiance_and_incidence(solar_altitude=0.5235988, solar_azimuth=3.1415927,
+    ...     surface_azimuth=3.1415927, tilt=1.5707963, direct_normal=800, diffuse_horizontal=100,
+    ...     ground_reflectance=0.2, beam_factor=1, diffuse_factor=1)
     >>> bool(abs(result.surface_beam - 692.82) <= 0.1)
     True
     >>> bool(abs(result.ground_reflected - 50) <= 0.1)

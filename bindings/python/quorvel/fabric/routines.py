@@ -222,7 +222,9 @@ def cyclic_response(thickness, conductivity, density, specific_heat, inside_resi
     Examples
     --------
     >>> from quorvel.fabric import ElementKind, cyclic_response
-    >>> result = cyclic_response(thickness=[0.105], conductivity=[0.84], density=[1700], specific_heat=[800], inside_resistance=0.12, outside_resistance=0.06, harmonic=1, element_kind=ElementKind.between)
+    >>> result = cyclic_response(thickness=[0.105], conductivity=[0.84], density=[1700],
+    ...     specific_heat=[800], inside_resistance=0.12, outside_resistance=0.06, harmonic=1,
+    ...     element_kind=ElementKind.between)
     >>> bool(abs(result.admittance - 4.2) <= 0.12)
     True
     >>> bool(abs(result.admittance_lead - 1) <= 0.51)
@@ -334,7 +336,8 @@ def air_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, *, out
     Examples
     --------
     >>> from quorvel.fabric import air_cavity_resistance
-    >>> result = air_cavity_resistance(tilt=3.1415927, cavity_width=0.05, emissivity_1=0.9, emissivity_2=0.9)
+    >>> result = air_cavity_resistance(tilt=3.1415927, cavity_width=0.05, emissivity_1=0.9,
+    ...     emissivity_2=0.9)
     >>> bool(abs(result - 0.21) <= 0.006)
     True
 
@@ -395,7 +398,9 @@ def gas_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, densit
     Examples
     --------
     >>> from quorvel.fabric import gas_cavity_resistance
-    >>> result = gas_cavity_resistance(tilt=3.1415927, cavity_width=0.016, emissivity_1=0.837, emissivity_2=0.837, density=1.699, conductivity=0.01684, specific_heat=519, viscosity=2.164e-05)
+    >>> result = gas_cavity_resistance(tilt=3.1415927, cavity_width=0.016, emissivity_1=0.837,
+    ...     emissivity_2=0.837, density=1.699, conductivity=0.01684, specific_heat=519,
+    ...     viscosity=2.164e-05)
     >>> bool(abs(result - 0.2102) <= 0.0005)
     True
 
@@ -523,8 +528,11 @@ def condensation_profile(thickness, conductivity, vapour_resistivity, inside_res
     Examples
     --------
     >>> from quorvel.fabric import condensation_profile
-    >>> result = condensation_profile(thickness=[0.1], conductivity=[0.04], vapour_resistivity=[50], inside_resistance=0.13, outside_resistance=0.04, inside_temperature=20, outside_temperature=0, inside_humidity=50, outside_humidity=80)
-    >>> all(abs(a - b) <= 0.0002 for a, b in zip(result.interface_temperature.flat, [19.0262, 0.2996]))
+    >>> result = condensation_profile(thickness=[0.1], conductivity=[0.04], vapour_resistivity=[50],
+    ...     inside_resistance=0.13, outside_resistance=0.04, inside_temperature=20,
+    ...     outside_temperature=0, inside_humidity=50, outside_humidity=80)
+    >>> all(abs(a - b) <= 0.0002 for a, b in zip(result.interface_temperature.flat, [19.0262,
+    ...     0.2996]))
     True
     >>> all(abs(a - b) <= 5 for a, b in zip(result.interface_vapour_pressure.flat, [1169.7, 489]))
     True
@@ -578,7 +586,8 @@ def condenses_within_layer(warm_temperature, cold_temperature, warm_vapour_press
     Examples
     --------
     >>> from quorvel.fabric import condenses_within_layer
-    >>> result = condenses_within_layer(warm_temperature=20, cold_temperature=0, warm_vapour_pressure=1400, cold_vapour_pressure=1000)
+    >>> result = condenses_within_layer(warm_temperature=20, cold_temperature=0,
+    ...     warm_vapour_pressure=1400, cold_vapour_pressure=1000)
     >>> bool(result == 1)
     True
 
@@ -644,7 +653,8 @@ def element_property(element_records, record_number, item, *, out=None):
     Examples
     --------
     >>> from quorvel.fabric import element_property
-    >>> result = element_property(element_records=[[101, 100, 0.04, 0, 0, 0, 0, 0, 0, 0]], record_number=1, item=2)
+    >>> result = element_property(element_records=[[101, 100, 0.04, 0, 0, 0, 0, 0, 0, 0]],
+    ...     record_number=1, item=2)
     >>> bool(result == 100)
     True
 
@@ -698,7 +708,8 @@ def natural_convection_coefficient(temperature_difference, characteristic_length
     Examples
     --------
     >>> from quorvel.fabric import HeatFlowDirection, natural_convection_coefficient
-    >>> result = natural_convection_coefficient(temperature_difference=4, characteristic_length=2.5, heat_flow_direction=HeatFlowDirection.horizontal)
+    >>> result = natural_convection_coefficient(temperature_difference=4, characteristic_length=2.5,
+    ...     heat_flow_direction=HeatFlowDirection.horizontal)
     >>> bool(abs(result - 2.0691) <= 0.001)
     True
 
@@ -750,7 +761,8 @@ def pack_two_fractions(packing, packed_number, fraction_1, fraction_2, *, out=No
     Examples
     --------
     >>> from quorvel.fabric import Packing, pack_two_fractions
-    >>> result = pack_two_fractions(packing=Packing.pack, packed_number=0, fraction_1=0.25, fraction_2=0.4)
+    >>> result = pack_two_fractions(packing=Packing.pack, packed_number=0, fraction_1=0.25,
+    ...     fraction_2=0.4)
     >>> bool(abs(result.packed_number - 40.25) <= 1e-05)
     True
 
@@ -817,7 +829,8 @@ def pack_three_fractions(packing, packed_number, fraction_1, fraction_2, fractio
     Examples
     --------
     >>> from quorvel.fabric import Packing, pack_three_fractions
-    >>> result = pack_three_fractions(packing=Packing.pack, packed_number=0, fraction_1=0.25, fraction_2=0.4, fraction_3=0.07)
+    >>> result = pack_three_fractions(packing=Packing.pack, packed_number=0, fraction_1=0.25,
+    ...     fraction_2=0.4, fraction_3=0.07)
     >>> bool(abs(result.packed_number - 740.25) <= 0.0001)
     True
 
@@ -871,7 +884,8 @@ def pack_three_fractions_third_first(packing, packed_number, fraction_3, fractio
     Examples
     --------
     >>> from quorvel.fabric import Packing, pack_three_fractions_third_first
-    >>> result = pack_three_fractions_third_first(packing=Packing.unpack, packed_number=740.25, fraction_3=0, fraction_1=0, fraction_2=0)
+    >>> result = pack_three_fractions_third_first(packing=Packing.unpack, packed_number=740.25,
+    ...     fraction_3=0, fraction_1=0, fraction_2=0)
     >>> bool(abs(result.fraction_3 - 0.07) <= 1e-06)
     True
     >>> bool(abs(result.fraction_1 - 0.25) <= 1e-06)
@@ -938,7 +952,8 @@ def pack_pane(packing, packed_number, absorptance, reflectance_1, reflectance_2,
     Examples
     --------
     >>> from quorvel.fabric import Packing, pack_pane
-    >>> result = pack_pane(packing=Packing.pack, packed_number=0, absorptance=0.1, reflectance_1=0.2, reflectance_2=0.3)
+    >>> result = pack_pane(packing=Packing.pack, packed_number=0, absorptance=0.1,
+    ...     reflectance_1=0.2, reflectance_2=0.3)
     >>> bool(abs(result.packed_number - 6070.1) <= 0.001)
     True
 
@@ -992,7 +1007,8 @@ def surface_resistance(surface, tilt, exposure, *, out=None, where=True):
     Examples
     --------
     >>> from quorvel.fabric import Exposure, Surface, surface_resistance
-    >>> result = surface_resistance(surface=Surface.inside, tilt=1.5707963, exposure=Exposure.normal)
+    >>> result = surface_resistance(surface=Surface.inside, tilt=1.5707963,
+    ...     exposure=Exposure.normal)
     >>> bool(abs(result - 0.12) <= 0.0055)
     True
 
@@ -1046,7 +1062,8 @@ def surface_resistance_at_emissivity(surface, tilt, exposure, emissivity, *, out
     Examples
     --------
     >>> from quorvel.fabric import Exposure, Surface, surface_resistance_at_emissivity
-    >>> result = surface_resistance_at_emissivity(surface=Surface.inside, tilt=1.5707963, exposure=Exposure.normal, emissivity=0.9)
+    >>> result = surface_resistance_at_emissivity(surface=Surface.inside, tilt=1.5707963,
+    ...     exposure=Exposure.normal, emissivity=0.9)
     >>> bool(abs(result - 0.12) <= 0.005)
     True
 
@@ -1096,7 +1113,8 @@ def u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2,
     Examples
     --------
     >>> from quorvel.fabric import u_value
-    >>> result = u_value(thickness=[0.1, 0.1], conductivity=[0.04, 1], surface_resistance_1=0.13, surface_resistance_2=0.04)
+    >>> result = u_value(thickness=[0.1, 0.1], conductivity=[0.04, 1], surface_resistance_1=0.13,
+    ...     surface_resistance_2=0.04)
     >>> bool(abs(result - 0.361011) <= 1e-06)
     True
 
@@ -1238,7 +1256,10 @@ def window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_
     Examples
     --------
     >>> from quorvel.fabric import Exposure, PaneKind, Surface, window_parameters
-    >>> result = window_parameters(panes=1, pane_kind_1=PaneKind.closing, emissivity_1=0.9, pane_kind_2=PaneKind.closing, emissivity_2=0.9, pane_kind_3=PaneKind.closing, emissivity_3=0.9, cavity_width_1=0.012, cavity_width_2=0.012, outer_surface=Surface.outside, exposure=Exposure.normal, tilt=1.5707963)
+    >>> result = window_parameters(panes=1, pane_kind_1=PaneKind.closing, emissivity_1=0.9,
+    ...     pane_kind_2=PaneKind.closing, emissivity_2=0.9, pane_kind_3=PaneKind.closing,
+    ...     emissivity_3=0.9, cavity_width_1=0.012, cavity_width_2=0.012,
+    ...     outer_surface=Surface.outside, exposure=Exposure.normal, tilt=1.5707963)
     >>> bool(abs(result.admittance - 5.6) <= 0.15)
     True
     >>> bool(result.admittance_lead == 0)

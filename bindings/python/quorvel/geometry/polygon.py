@@ -70,7 +70,10 @@ def clip(a, b):
 
 
 def overlap(a, b):
-    """The pieces of the overlap of two polygons in plan: `clip(a, b).overlap`, or a list of these."""
+    """The pieces of the overlap of two polygons in plan: `clip(a, b).overlap`, or a list of these.
+
+    `ufuncs.overlap` has the routine GEOVER of quorvel.h, in single precision.
+    """
     clipped = clip(a, b)
     return clipped.overlap if isinstance(clipped, Clipped) else [each.overlap for each in clipped]
 
@@ -123,7 +126,7 @@ def orientation(polygon):
     --------
     >>> from quorvel.geometry import orientation
     >>> wall = orientation([(0, 0, 0), (0, 0, 1), (1, 0, 1), (1, 0, 0)])
-    >>> float(wall.tilt), float(wall.back_azimuth)
+    >>> round(float(wall.tilt), 3), round(float(wall.back_azimuth), 3)
     (90.0, 180.0)
     """
     if not _is_collection(polygon):

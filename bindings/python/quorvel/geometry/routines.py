@@ -9,8 +9,6 @@ from ..selectors import Enclosed
 
 __all__ = [
     "Enclosed",
-    "Overlap",
-    "OverlapAlias",
     "CountEnclosed",
     "BoundaryCrossing",
     "ParallelSides",
@@ -18,8 +16,6 @@ __all__ = [
     "LocalCoordinates",
     "SurfaceAxes",
     "PolygonOrientation",
-    "overlap",
-    "overlap_alias",
     "collinearity",
     "count_enclosed",
     "boundary_crossing",
@@ -56,8 +52,6 @@ __all__ = [
     "length_in_double",
 ]
 
-_overlap = functions["overlap"]
-_overlap_alias = functions["overlap_alias"]
 _collinearity = functions["collinearity"]
 _count_enclosed = functions["count_enclosed"]
 _boundary_crossing = functions["boundary_crossing"]
@@ -93,24 +87,6 @@ _cross_product_in_double = functions["cross_product_in_double"]
 _length = functions["length"]
 _length_in_double = functions["length_in_double"]
 
-
-Overlap = namedtuple("Overlap", "piece_x piece_y piece_vertices area")
-Overlap.__doc__ = """What overlap returns.
-
-    piece_x: x of the vertices of the pieces, a column each; 0 beyond them [m]
-    piece_y: y of the vertices of the pieces [m]
-    piece_vertices: number of vertices of each piece, 0 beyond the last
-    area: area of the overlap [m²]
-"""
-
-OverlapAlias = namedtuple("OverlapAlias", "piece_x piece_y piece_vertices area")
-OverlapAlias.__doc__ = """What overlap_alias returns.
-
-    piece_x: x of the vertices of the pieces, a column each; 0 beyond them [m]
-    piece_y: y of the vertices of the pieces [m]
-    piece_vertices: number of vertices of each piece, 0 beyond the last
-    area: area of the overlap [m²]
-"""
 
 CountEnclosed = namedtuple("CountEnclosed", "enclosed enclosed_points")
 CountEnclosed.__doc__ = """What count_enclosed returns.
@@ -162,126 +138,6 @@ PolygonOrientation.__doc__ = """What polygon_orientation returns.
     tilt: angle between the normal and the vertical [°]
     back_azimuth: azimuth opposite to the normal [°]
 """
-
-def overlap(x_1, y_1, x_2, y_2, *, out=None):
-    """Pieces and area of the overlap of two simple polygons in plan.
-
-    Parameters
-    ----------
-    x_1 : array_like of float, shape (..., vertices_1)
-        X of polygon 1 [m].
-    y_1 : array_like of float, shape (..., vertices_1)
-        Y of polygon 1 [m].
-    x_2 : array_like of float, shape (..., vertices_2)
-        X of polygon 2 [m].
-    y_2 : array_like of float, shape (..., vertices_2)
-        Y of polygon 2 [m].
-    out : tuple of ndarray, optional
-        Where to put the results, as for any NumPy ufunc.
-
-    Returns
-    -------
-    Overlap
-        A named tuple of:
-
-    piece_x : float32, shape (..., 5, 25)
-        X of the vertices of the pieces, a column each; 0 beyond them [m].
-    piece_y : float32, shape (..., 5, 25)
-        Y of the vertices of the pieces [m].
-    piece_vertices : int32, shape (..., 5)
-        Number of vertices of each piece, 0 beyond the last.
-    area : float32
-        Area of the overlap [m²].
-
-    Notes
-    -----
-    The overlap of HOHOLEDP with polygon 2 as A and polygon 1 as B, and with its accuracy. The
-    pieces run in the sense of polygon 2.
-
-    A coordinate nearer to 0 than 1e-4 is taken as 0.
-
-    The outputs are all 0 where the polygons do not overlap, and where HOHOLEDP fails: a polygon
-    that crosses itself, more than 10 crossings, more than 50 vertices and crossings in all.
-    Likewise for more than 5 pieces, or more than 24 vertices in one. Of pairs of real polygons 0.75
-    % exceed one of these capacities.
-
-    The outputs are also 0 where polygon 1 lies in polygon 2 and the two have 42 vertices or more
-    together: what is left of polygon 2 around it does not fit. Where polygon 2 lies in polygon 1
-    they may have 50, as anywhere else.
-
-    Each element has the bits of GEOVER in quorvel.h.
-
-    References
-    ----------
-    As HOHOLEDP.
-
-    Examples
-    --------
-    >>> from quorvel.geometry import overlap
-    >>> result = overlap(x_1=[0, 0, 2, 2], y_1=[0, 2, 2, 0], x_2=[1, 1, 3, 3], y_2=[1, 3, 3, 1])
-    >>> all(abs(a - b) <= 0 for a, b in zip(result.piece_vertices.flat, [4, 0, 0, 0, 0]))
-    True
-    >>> bool(abs(result.area - 1) <= 0.002)
-    True
-
-    (two squares of 2 m, one shifted by 1 m both ways)
-    """
-    return Overlap._make(_overlap(x_1, y_1, x_2, y_2, out, True))
-
-
-def overlap_alias(x_1, y_1, x_2, y_2, *, out=None):
-    """The same as GEOVER.
-
-    Parameters
-    ----------
-    x_1 : array_like of float, shape (..., vertices_1)
-        X of polygon 1 [m].
-    y_1 : array_like of float, shape (..., vertices_1)
-        Y of polygon 1 [m].
-    x_2 : array_like of float, shape (..., vertices_2)
-        X of polygon 2 [m].
-    y_2 : array_like of float, shape (..., vertices_2)
-        Y of polygon 2 [m].
-    out : tuple of ndarray, optional
-        Where to put the results, as for any NumPy ufunc.
-
-    Returns
-    -------
-    OverlapAlias
-        A named tuple of:
-
-    piece_x : float32, shape (..., 5, 25)
-        X of the vertices of the pieces, a column each; 0 beyond them [m].
-    piece_y : float32, shape (..., 5, 25)
-        Y of the vertices of the pieces [m].
-    piece_vertices : int32, shape (..., 5)
-        Number of vertices of each piece, 0 beyond the last.
-    area : float32
-        Area of the overlap [m²].
-
-    Notes
-    -----
-    As GEOVER, in all.
-
-    Each element has the bits of GEHOLE in quorvel.h.
-
-    References
-    ----------
-    As HOHOLEDP.
-
-    Examples
-    --------
-    >>> from quorvel.geometry import overlap_alias
-    >>> result = overlap_alias(x_1=[0, 0, 2, 2], y_1=[0, 2, 2, 0], x_2=[1, 1, 3, 3], y_2=[1, 3, 3, 1])
-    >>> all(abs(a - b) <= 0 for a, b in zip(result.piece_vertices.flat, [4, 0, 0, 0, 0]))
-    True
-    >>> bool(abs(result.area - 1) <= 0.002)
-    True
-
-    (two squares of 2 m, one shifted by 1 m both ways)
-    """
-    return OverlapAlias._make(_overlap_alias(x_1, y_1, x_2, y_2, out, True))
-
 
 def collinearity(x, y, *, out=None):
     """Whether points in plan lie on one straight line.
@@ -378,7 +234,8 @@ def count_enclosed(x, y, point_x, point_y, enclosed, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import count_enclosed
-    >>> result = count_enclosed(x=[0, 0, 1, 1], y=[0, 1, 1, 0], point_x=[0.5, 2], point_y=[0.5, 2], enclosed=[0, 0])
+    >>> result = count_enclosed(x=[0, 0, 1, 1], y=[0, 1, 1, 0], point_x=[0.5, 2], point_y=[0.5, 2],
+    ...     enclosed=[0, 0])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.enclosed.flat, [1, 0]))
     True
     >>> bool(result.enclosed_points == 1)
@@ -438,7 +295,8 @@ def boundary_crossing(segment_start, segment_end, x, y, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import boundary_crossing
-    >>> result = boundary_crossing(segment_start=[0.5, 0.5], segment_end=[2, 0.5], x=[0, 0, 1, 1], y=[0, 1, 1, 0])
+    >>> result = boundary_crossing(segment_start=[0.5, 0.5], segment_end=[2, 0.5], x=[0, 0, 1, 1],
+    ...     y=[0, 1, 1, 0])
     >>> all(abs(a - b) <= 1e-06 for a, b in zip(result.crossing_point.flat, [1, 0.5]))
     True
     >>> bool(abs(result.crossing_code - 4) <= 1e-06)
@@ -487,7 +345,8 @@ def inside(point, polygon, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import inside
-    >>> result = inside(point=[0.5, 0.5, 0], polygon=[[0, 0, 0], [0, 1, 0], [1, 1, 0], [1, 0, 0], [0, 0, 0]])
+    >>> result = inside(point=[0.5, 0.5, 0], polygon=[[0, 0, 0], [0, 1, 0], [1, 1, 0], [1, 0, 0],
+    ...     [0, 0, 0]])
     >>> bool(result == 1)
     True
 
@@ -527,7 +386,8 @@ def parallel_planes(triangle_1, triangle_2, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import parallel_planes
-    >>> result = parallel_planes(triangle_1=[[0, 0, 0], [1, 0, 0], [0, 1, 0]], triangle_2=[[0, 0, 1], [1, 0, 1], [0, 1, 1]])
+    >>> result = parallel_planes(triangle_1=[[0, 0, 0], [1, 0, 0], [0, 1, 0]], triangle_2=[[0, 0,
+    ...     1], [1, 0, 1], [0, 1, 1]])
     >>> bool(result)
     True
 
@@ -576,7 +436,8 @@ def parallel_sides(triangle_1, triangle_2, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import parallel_sides
-    >>> result = parallel_sides(triangle_1=[[0, 0, 0], [1, 0, 0], [0, 1, 0]], triangle_2=[[0, 0, 1], [0, 1, 1], [1, 1, 1]])
+    >>> result = parallel_sides(triangle_1=[[0, 0, 0], [1, 0, 0], [0, 1, 0]], triangle_2=[[0, 0, 1],
+    ...     [0, 1, 1], [1, 1, 1]])
     >>> bool(result.result)
     True
     >>> bool(result.side_1 == 1)
@@ -720,10 +581,13 @@ def local_coordinates(quadrilateral_1, quadrilateral_2, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import local_coordinates
-    >>> result = local_coordinates(quadrilateral_1=[[1, 1, 0], [3, 1, 0], [3, 3, 0], [1, 3, 0]], quadrilateral_2=[[1, 1, 5], [3, 1, 5], [3, 3, 5], [1, 3, 5]])
-    >>> all(abs(a - b) <= 1e-12 for a, b in zip(result.local_1.flat, [0, 0, 0, 2, 0, 0, 2, 2, 0, 0, 2, 0]))
+    >>> result = local_coordinates(quadrilateral_1=[[1, 1, 0], [3, 1, 0], [3, 3, 0], [1, 3, 0]],
+    ...     quadrilateral_2=[[1, 1, 5], [3, 1, 5], [3, 3, 5], [1, 3, 5]])
+    >>> all(abs(a - b) <= 1e-12 for a, b in zip(result.local_1.flat, [0, 0, 0, 2, 0, 0, 2, 2, 0, 0,
+    ...     2, 0]))
     True
-    >>> all(abs(a - b) <= 1e-12 for a, b in zip(result.local_2.flat, [0, 0, 5, 2, 0, 5, 2, 2, 5, 0, 2, 5]))
+    >>> all(abs(a - b) <= 1e-12 for a, b in zip(result.local_2.flat, [0, 0, 5, 2, 0, 5, 2, 2, 5, 0,
+    ...     2, 5]))
     True
 
     (squares of 2 m, one 5 m above the other)
@@ -763,7 +627,8 @@ def to_local(corners, x_axis, y_axis, z_axis, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import to_local
-    >>> result = to_local(corners=[[1, 2, 3], [0, 0, 0], [4, 5, 6], [1, 0, 0]], x_axis=[0, 1, 0], y_axis=[0, 0, 1], z_axis=[1, 0, 0])
+    >>> result = to_local(corners=[[1, 2, 3], [0, 0, 0], [4, 5, 6], [1, 0, 0]], x_axis=[0, 1, 0],
+    ...     y_axis=[0, 0, 1], z_axis=[1, 0, 0])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.flat, [2, 3, 1, 0, 0, 0, 5, 6, 4, 0, 0, 1]))
     True
 
@@ -809,7 +674,8 @@ def meeting_point(line_1_start, line_1_end, line_2_start, line_2_end, *, out=Non
     Examples
     --------
     >>> from quorvel.geometry import meeting_point
-    >>> result = meeting_point(line_1_start=[0, 0], line_1_end=[1, 1], line_2_start=[0, 2], line_2_end=[2, 0])
+    >>> result = meeting_point(line_1_start=[0, 0], line_1_end=[1, 1], line_2_start=[0, 2],
+    ...     line_2_end=[2, 0])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.flat, [1, 1]))
     True
 
@@ -855,7 +721,8 @@ def crossing_point(segment_1_start, segment_1_end, segment_2_start, segment_2_en
     Examples
     --------
     >>> from quorvel.geometry import crossing_point
-    >>> result = crossing_point(segment_1_start=[0, 0], segment_1_end=[2, 2], segment_2_start=[0, 2], segment_2_end=[2, 0])
+    >>> result = crossing_point(segment_1_start=[0, 0], segment_1_end=[2, 2], segment_2_start=[0,
+    ...     2], segment_2_end=[2, 0])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.flat, [1, 1]))
     True
 
@@ -1163,7 +1030,8 @@ def surface_axes(surface_azimuth, tilt, *, out=None):
     --------
     >>> from quorvel.geometry import surface_axes
     >>> result = surface_axes(surface_azimuth=0, tilt=1.5707963)
-    >>> all(abs(a - b) <= 1e-06 for a, b in zip(result.rotation_matrix.flat, [-1, 0, 0, 0, 0, 1, 0, 1, 0]))
+    >>> all(abs(a - b) <= 1e-06 for a, b in zip(result.rotation_matrix.flat, [-1, 0, 0, 0, 0, 1, 0,
+    ...     1, 0]))
     True
 
     (a wall that faces north: local x to the west, y up, z to the north)
@@ -1199,7 +1067,8 @@ def local_to_global(local_vector, rotation_matrix, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import local_to_global
-    >>> result = local_to_global(local_vector=[1, 2, 3], rotation_matrix=[[0, 1, 0], [-1, 0, 0], [0, 0, 1]])
+    >>> result = local_to_global(local_vector=[1, 2, 3], rotation_matrix=[[0, 1, 0], [-1, 0, 0], [0,
+    ...     0, 1]])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.flat, [-2, 1, 3]))
     True
 
@@ -1236,7 +1105,8 @@ def global_to_local(global_vector, rotation_matrix, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import global_to_local
-    >>> result = global_to_local(global_vector=[-2, 1, 3], rotation_matrix=[[0, 1, 0], [-1, 0, 0], [0, 0, 1]])
+    >>> result = global_to_local(global_vector=[-2, 1, 3], rotation_matrix=[[0, 1, 0], [-1, 0, 0],
+    ...     [0, 0, 1]])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.flat, [1, 2, 3]))
     True
 
@@ -1474,7 +1344,8 @@ def projection(plane_point, plane_normal, point, direction, *, out=None):
     Examples
     --------
     >>> from quorvel.geometry import projection
-    >>> result = projection(plane_point=[0, 0, 0], plane_normal=[0, 0, 1], point=[0, 0, 5], direction=[1, 0, -1])
+    >>> result = projection(plane_point=[0, 0, 0], plane_normal=[0, 0, 1], point=[0, 0, 5],
+    ...     direction=[1, 0, -1])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.flat, [5, 0, 0]))
     True
 
@@ -1526,7 +1397,8 @@ def forward_projection(plane_point, plane_normal, point, direction, *, out=None)
     Examples
     --------
     >>> from quorvel.geometry import forward_projection
-    >>> result = forward_projection(plane_point=[0, 0, 0], plane_normal=[0, 0, 1], point=[0, 0, 5], direction=[1, 0, -1])
+    >>> result = forward_projection(plane_point=[0, 0, 0], plane_normal=[0, 0, 1], point=[0, 0, 5],
+    ...     direction=[1, 0, -1])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.flat, [5, 0, 0]))
     True
 
@@ -1578,7 +1450,8 @@ def forward_projection_or_start(plane_point, plane_normal, point, direction, *, 
     Examples
     --------
     >>> from quorvel.geometry import forward_projection_or_start
-    >>> result = forward_projection_or_start(plane_point=[0, 0, 0], plane_normal=[0, 0, 1], point=[0, 0, 5], direction=[-1, 0, 1])
+    >>> result = forward_projection_or_start(plane_point=[0, 0, 0], plane_normal=[0, 0, 1],
+    ...     point=[0, 0, 5], direction=[-1, 0, 1])
     >>> all(abs(a - b) <= 0 for a, b in zip(result.flat, [0, 0, 5]))
     True
 

@@ -6,22 +6,6 @@ from numpy.typing import ArrayLike, NDArray
 
 from ..selectors import Enclosed as Enclosed
 
-class Overlap(NamedTuple):
-    piece_x: Any
-    piece_y: Any
-    piece_vertices: Any
-    area: Any
-
-def overlap(x_1: ArrayLike, y_1: ArrayLike, x_2: ArrayLike, y_2: ArrayLike, *, out: tuple[NDArray[Any] | None, ...] | None = ...) -> Overlap: ...
-
-class OverlapAlias(NamedTuple):
-    piece_x: Any
-    piece_y: Any
-    piece_vertices: Any
-    area: Any
-
-def overlap_alias(x_1: ArrayLike, y_1: ArrayLike, x_2: ArrayLike, y_2: ArrayLike, *, out: tuple[NDArray[Any] | None, ...] | None = ...) -> OverlapAlias: ...
-
 def collinearity(x: ArrayLike, y: ArrayLike, *, out: NDArray[Any] | None = ...) -> Any: ...
 
 class CountEnclosed(NamedTuple):

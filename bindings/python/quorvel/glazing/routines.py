@@ -487,7 +487,8 @@ def traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, 
     Examples
     --------
     >>> from quorvel.glazing import traced_layers
-    >>> result = traced_layers(layer_transmittances=[0.5, 0.5], layer_absorptances=[0.3, 0.3], layer_reflectances=[0.2, 0.2])
+    >>> result = traced_layers(layer_transmittances=[0.5, 0.5], layer_absorptances=[0.3, 0.3],
+    ...     layer_reflectances=[0.2, 0.2])
     >>> bool(abs(result.transmittance - 0.260417) <= 1e-06)
     True
     >>> bool(abs(result.reflectance - 0.252083) <= 1e-06)
@@ -701,7 +702,8 @@ def surface_reflectance(incidence, refraction_angle, refractive_index, *, out=No
     Examples
     --------
     >>> from quorvel.glazing import surface_reflectance
-    >>> result = surface_reflectance(incidence=1.0471976, refraction_angle=0.6035, refractive_index=1.526)
+    >>> result = surface_reflectance(incidence=1.0471976, refraction_angle=0.6035,
+    ...     refractive_index=1.526)
     >>> bool(abs(result.parallel_reflectance - 0.001) <= 0.0005)
     True
     >>> bool(abs(result.perpendicular_reflectance - 0.185) <= 0.0005)
@@ -969,7 +971,8 @@ def pane_temperatures(inside_temperature, outside_temperature, panes, absorbed_1
     Examples
     --------
     >>> from quorvel.glazing import pane_temperatures
-    >>> result = pane_temperatures(inside_temperature=20, outside_temperature=0, panes=1, absorbed_1=100, absorbed_2=0, absorbed_3=0, absorbed_4=0, absorbed_5=0)
+    >>> result = pane_temperatures(inside_temperature=20, outside_temperature=0, panes=1,
+    ...     absorbed_1=100, absorbed_2=0, absorbed_3=0, absorbed_4=0, absorbed_5=0)
     >>> bool(abs(result.pane_temperature_1 - 10.67) <= 0.1)
     True
 
@@ -1036,7 +1039,8 @@ def unit_direct(shortwave_shading_coefficient, longwave_shading_coefficient, inc
     Examples
     --------
     >>> from quorvel.glazing import unit_direct
-    >>> result = unit_direct(shortwave_shading_coefficient=0.5, longwave_shading_coefficient=0.1, incidence=0)
+    >>> result = unit_direct(shortwave_shading_coefficient=0.5, longwave_shading_coefficient=0.1,
+    ...     incidence=0)
     >>> bool(abs(result.transmittance - 0.435) <= 0.0002)
     True
     >>> bool(abs(result.absorptance - 0.261) <= 0.0002)
@@ -1156,7 +1160,8 @@ def unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficie
     Examples
     --------
     >>> from quorvel.glazing import unit_direct_shares
-    >>> result = unit_direct_shares(shortwave_shading_coefficient=0.5, longwave_shading_coefficient=0.1, incidence=0, panes=2)
+    >>> result = unit_direct_shares(shortwave_shading_coefficient=0.5,
+    ...     longwave_shading_coefficient=0.1, incidence=0, panes=2)
     >>> bool(abs(result.transmittance - 0.435) <= 0.0002)
     True
     >>> all(abs(a - b) <= 0.0002 for a, b in zip(result.pane_shares.flat, [0.1216, 0.1824]))
@@ -1213,7 +1218,8 @@ def unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coeffici
     Examples
     --------
     >>> from quorvel.glazing import unit_diffuse_shares
-    >>> result = unit_diffuse_shares(shortwave_shading_coefficient=0.5, longwave_shading_coefficient=0.1, panes=2)
+    >>> result = unit_diffuse_shares(shortwave_shading_coefficient=0.5,
+    ...     longwave_shading_coefficient=0.1, panes=2)
     >>> bool(abs(result.transmittance - 0.3616) <= 0.0006)
     True
     >>> all(abs(a - b) <= 0.0006 for a, b in zip(result.pane_shares.flat, [0.151, 0.2264]))
@@ -1274,7 +1280,8 @@ def unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coeff
     Examples
     --------
     >>> from quorvel.glazing import Radiation, unit_shares
-    >>> result = unit_shares(radiation=Radiation.direct, shortwave_shading_coefficient=0.5, longwave_shading_coefficient=0.1, incidence=0, panes=2)
+    >>> result = unit_shares(radiation=Radiation.direct, shortwave_shading_coefficient=0.5,
+    ...     longwave_shading_coefficient=0.1, incidence=0, panes=2)
     >>> bool(abs(result.transmittance - 0.435) <= 0.0002)
     True
     >>> all(abs(a - b) <= 0.0002 for a, b in zip(result.pane_shares.flat, [0.1216, 0.1824]))
@@ -1347,7 +1354,8 @@ def slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorp
     Examples
     --------
     >>> from quorvel.glazing import slat_direct
-    >>> result = slat_direct(slat_spacing=1, slat_width=1, slat_angle=45, profile_angle=-0.785398, slat_absorptance=0.5)
+    >>> result = slat_direct(slat_spacing=1, slat_width=1, slat_angle=45, profile_angle=-0.785398,
+    ...     slat_absorptance=0.5)
     >>> bool(result.transmittance == 1)
     True
     >>> bool(result.absorptance == 0)
@@ -1420,7 +1428,8 @@ def two_faced_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, s
     Examples
     --------
     >>> from quorvel.glazing import two_faced_slat_direct
-    >>> result = two_faced_slat_direct(slat_spacing=1, slat_width=1, slat_angle=0, profile_angle=0.4636476, struck_absorptance=1, opposite_absorptance=1)
+    >>> result = two_faced_slat_direct(slat_spacing=1, slat_width=1, slat_angle=0,
+    ...     profile_angle=0.4636476, struck_absorptance=1, opposite_absorptance=1)
     >>> bool(abs(result.transmittance - 0.5) <= 1e-06)
     True
     >>> bool(abs(result.absorptance - 0.5) <= 1e-06)
@@ -1488,7 +1497,8 @@ def open_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, open_s
     Examples
     --------
     >>> from quorvel.glazing import open_slat_direct
-    >>> result = open_slat_direct(slat_spacing=1, slat_width=1, slat_angle=0, profile_angle=0.4636476, open_share=0.2, struck_absorptance=1, opposite_absorptance=1)
+    >>> result = open_slat_direct(slat_spacing=1, slat_width=1, slat_angle=0,
+    ...     profile_angle=0.4636476, open_share=0.2, struck_absorptance=1, opposite_absorptance=1)
     >>> bool(abs(result.transmittance - 0.6) <= 1e-06)
     True
     >>> bool(abs(result.absorptance - 0.4) <= 1e-06)
@@ -1624,7 +1634,8 @@ def two_faced_slat_diffuse(slat_spacing, slat_width, slat_angle, struck_absorpta
     Examples
     --------
     >>> from quorvel.glazing import two_faced_slat_diffuse
-    >>> result = two_faced_slat_diffuse(slat_spacing=1, slat_width=1, slat_angle=0, struck_absorptance=1, opposite_absorptance=1)
+    >>> result = two_faced_slat_diffuse(slat_spacing=1, slat_width=1, slat_angle=0,
+    ...     struck_absorptance=1, opposite_absorptance=1)
     >>> bool(abs(result.sky_transmittance - 0.414) <= 0.006)
     True
     >>> bool(abs(result.ground_transmittance - 0.414) <= 0.006)
@@ -1690,7 +1701,8 @@ def open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_a
     Examples
     --------
     >>> from quorvel.glazing import open_slat_diffuse
-    >>> result = open_slat_diffuse(slat_spacing=1, slat_width=1, slat_angle=0, open_share=0.2, struck_absorptance=1, opposite_absorptance=1)
+    >>> result = open_slat_diffuse(slat_spacing=1, slat_width=1, slat_angle=0, open_share=0.2,
+    ...     struck_absorptance=1, opposite_absorptance=1)
     >>> bool(abs(result.sky_transmittance - 0.531) <= 0.006)
     True
     >>> bool(abs(result.ground_transmittance - 0.531) <= 0.006)

@@ -328,7 +328,8 @@ def moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychromete
     Examples
     --------
     >>> from quorvel.psychro import Psychrometer, moisture_content_from_psychrometer
-    >>> result = moisture_content_from_psychrometer(dry_bulb=25, wet_bulb=25, pressure=101325, psychrometer=Psychrometer.sling)
+    >>> result = moisture_content_from_psychrometer(dry_bulb=25, wet_bulb=25, pressure=101325,
+    ...     psychrometer=Psychrometer.sling)
     >>> bool(abs(result - 0.020173) <= 8.1e-05)
     True
 
@@ -432,7 +433,8 @@ def specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychromet
     Examples
     --------
     >>> from quorvel.psychro import Psychrometer, specific_enthalpy_from_psychrometer
-    >>> result = specific_enthalpy_from_psychrometer(dry_bulb=25, wet_bulb=25, pressure=101325, psychrometer=Psychrometer.sling)
+    >>> result = specific_enthalpy_from_psychrometer(dry_bulb=25, wet_bulb=25, pressure=101325,
+    ...     psychrometer=Psychrometer.sling)
     >>> bool(abs(result - 76.504) <= 0.22)
     True
 
@@ -607,7 +609,9 @@ def pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moist
     Examples
     --------
     >>> from quorvel.psychro import pool_evaporation
-    >>> result = pool_evaporation(water_area=250, wetted_area=50, water_temperature=28, dry_bulb=30, moisture_content=0.012, reference_temperature=22, bathers=0, reference_coefficient=4, pressure=101325)
+    >>> result = pool_evaporation(water_area=250, wetted_area=50, water_temperature=28, dry_bulb=30,
+    ...     moisture_content=0.012, reference_temperature=22, bathers=0, reference_coefficient=4,
+    ...     pressure=101325)
     >>> bool(abs(result.evaporation_rate - 2.46e-05) <= 4e-07)
     True
     >>> bool(abs(result.latent_load - 18080) <= 300)
@@ -687,7 +691,9 @@ def pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, d
     Examples
     --------
     >>> from quorvel.psychro import pool_evaporation_from_wet_bulb
-    >>> result = pool_evaporation_from_wet_bulb(water_area=250, wetted_area=50, water_temperature=28, dry_bulb=30, wet_bulb=22, reference_temperature=22, bathers=0, reference_coefficient=4, pressure=101325)
+    >>> result = pool_evaporation_from_wet_bulb(water_area=250, wetted_area=50,
+    ...     water_temperature=28, dry_bulb=30, wet_bulb=22, reference_temperature=22, bathers=0,
+    ...     reference_coefficient=4, pressure=101325)
     >>> bool(abs(result.evaporation_rate - 2.044e-05) <= 4e-07)
     True
     >>> bool(abs(result.latent_load - 15025) <= 300)
@@ -839,7 +845,8 @@ def vapour_pressure_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer
     Examples
     --------
     >>> from quorvel.psychro import Psychrometer, vapour_pressure_from_psychrometer
-    >>> result = vapour_pressure_from_psychrometer(dry_bulb=25, wet_bulb=20, pressure=101325, psychrometer=Psychrometer.sling)
+    >>> result = vapour_pressure_from_psychrometer(dry_bulb=25, wet_bulb=20, pressure=101325,
+    ...     psychrometer=Psychrometer.sling)
     >>> bool(abs(result - 2002) <= 9)
     True
 
@@ -936,7 +943,8 @@ def psychrometer_wet_bulb(dry_bulb, relative_humidity, pressure, psychrometer, *
     Examples
     --------
     >>> from quorvel.psychro import Psychrometer, psychrometer_wet_bulb
-    >>> result = psychrometer_wet_bulb(dry_bulb=30, relative_humidity=50, pressure=101325, psychrometer=Psychrometer.sling)
+    >>> result = psychrometer_wet_bulb(dry_bulb=30, relative_humidity=50, pressure=101325,
+    ...     psychrometer=Psychrometer.sling)
     >>> bool(abs(result - 22) <= 0.2)
     True
 
@@ -994,7 +1002,8 @@ def wet_bulb_from_percentage_saturation(dry_bulb, percentage_saturation, pressur
     Examples
     --------
     >>> from quorvel.psychro import Psychrometer, wet_bulb_from_percentage_saturation
-    >>> result = wet_bulb_from_percentage_saturation(dry_bulb=30, percentage_saturation=50, pressure=101325, psychrometer=Psychrometer.sling)
+    >>> result = wet_bulb_from_percentage_saturation(dry_bulb=30, percentage_saturation=50,
+    ...     pressure=101325, psychrometer=Psychrometer.sling)
     >>> bool(abs(result - 22.28) <= 0.05)
     True
 
@@ -1050,7 +1059,8 @@ def wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychro
     Examples
     --------
     >>> from quorvel.psychro import Psychrometer, wet_bulb_from_moisture_content
-    >>> result = wet_bulb_from_moisture_content(dry_bulb=30, moisture_content=0.013666, pressure=101325, psychrometer=Psychrometer.sling)
+    >>> result = wet_bulb_from_moisture_content(dry_bulb=30, moisture_content=0.013666,
+    ...     pressure=101325, psychrometer=Psychrometer.sling)
     >>> bool(abs(result - 22.28) <= 0.05)
     True
 

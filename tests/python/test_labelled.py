@@ -1,0 +1,106 @@
+"""Tables, labelled arrays and arrays in chunks keep their kind, and get the bits of plain arrays."""
+
+import subprocess
+import sys
+
+import numpy as np
+import pytest
+import quorvel
+from quorvel import fabric, geometry, glazing, psychro
+
+pandas = pytest.importorskip("pandas")
+xarray = pytest.importorskip("xarray")
+dask = pytest.importorskip("dask.array")
+
+T = np.linspace(-20, 40, 12)
+LAYERS = np.linspace(0.01, 0.3, 12).reshape(4, 3)
+
+
+def same(labelled, plain):
+    np.testing.assert_array_equal(np.asarray(labelled), plain)
+
+
+def test_pandas():
+    index = pandas.date_range("2005-01-01", periods=12, freq="h")
+    table = pandas.DataFrame({"t": T, "rh": 50.0}, index=index)
+    pressure = psychro.vapour_pressure(table["t"], table["rh"])
+    assert isinstance(pressure, pandas.Series) and pressure.index.equals(index)
+    assert pressure.name == "vapour_pressure" and pressure.dtype == np.float32
+    same(pressure, psychro.vapour_pressure(T, 50.0))
+    shuffled = table["rh"].sample(frac=1, random_state=1)  # Series go together by their index
+    same(psychro.vapour_pressure(table["t"], shuffled), pressure)
+    assert psychro.vapour_pressure(table, 50).columns.tolist() == ["t", "rh"]
+    several = glazing.unit_direct_shares(0.5, 0.1, table["rh"] / 100, 2)
+    assert all(isinstance(each, (pandas.Series, pandas.DataFrame)) for each in several)
+    walls = pandas.DataFrame(LAYERS, index=list("abcd"))
+    same(fabric.u_value(walls, [0.1, 0.2, 0.3], 0.13, 0.04), fabric.u_value(LAYERS, [0.1, 0.2, 0.3], 0.13, 0.04))
+    assert fabric.u_value(walls, [0.1, 0.2, 0.3], 0.13, 0.04).index.tolist() == list("abcd")
+
+
+@pytest.mark.parametrize("chunks", [None, {"time": 5}])
+def test_xarray(chunks):
+    t = xarray.DataArray(T, dims="time", coords={"time": pandas.date_range("2005-01-01", periods=12, freq="h")})
+    rh = xarray.DataArray([30.0, 60.0], dims="case", coords={"case": ["dry", "moist"]})
+    t = t.chunk(chunks) if chunks else t
+    pressure = psychro.vapour_pressure(t, rh)
+    assert pressure.dims == ("time", "case") and (pressure.chunks is not None) == bool(chunks)
+    assert pressure.name == "vapour_pressure" and pressure.attrs == {"units": "Pa", "long_name": "vapour pressure"}
+    assert pressure.sel(case="moist").case == "moist"
+    same(pressure, psychro.vapour_pressure(T[:, None], [30, 60]))
+    several = geometry.surface_axes(t / 40, 0.5)
+    same(several.rotation_matrix, geometry.surface_axes(T / 40, 0.5).rotation_matrix)
+    assert several.rotation_matrix.dims[0] == "time"
+
+
+@pytest.mark.parametrize("chunks", [None, {"layer": 1, "wall": 3}])
+def test_xarray_of_layers(chunks):
+    thickness = xarray.DataArray(LAYERS, dims=("wall", "layer"), coords={"wall": list("abcd")})
+    thickness = thickness.chunk(chunks) if chunks else thickness
+    u = fabric.u_value(thickness, [0.1, 0.2, 0.3], 0.13, xarray.DataArray([0.04, 0.13], dims="side"))
+    assert set(u.dims) == {"wall", "side"} and u.attrs["units"] == "W/m²K"
+    same(u.transpose("wall", "side"), fabric.u_value(LAYERS[:, None], [0.1, 0.2, 0.3], 0.13, [0.04, 0.13]))
+
+
+def test_data_set():
+    data = xarray.Dataset({"roof": ("time", T), "wall": ("time", T + 1)})
+    pressure = psychro.saturation_pressure(data)
+    assert isinstance(pressure, xarray.Dataset) and pressure.wall.attrs["units"] == "Pa"
+    same(pressure.wall, psychro.saturation_pressure(T + 1))
+
+
+def test_dask():
+    t = dask.from_array(T, chunks=5)
+    pressure = psychro.vapour_pressure(t, 50)
+    assert isinstance(pressure, dask.Array) and pressure.chunks == ((5, 5, 2),) and pressure.dtype == np.float32
+    same(pressure.compute(scheduler="threads"), psychro.vapour_pressure(T, 50))
+    several = glazing.unit_direct_shares(0.5, 0.1, t / 100, 2)
+    same(several.pane_shares.compute(), glazing.unit_direct_shares(0.5, 0.1, T / 100, 2).pane_shares)
+    walls = dask.from_array(LAYERS, chunks=(2, 1))
+    same(fabric.u_value(walls, walls, 0.13, 0.04).compute(), fabric.u_value(LAYERS, LAYERS, 0.13, 0.04))
+
+
+def test_policy_of_the_caller_holds_where_chunks_are_computed():
+    with quorvel.errstate(range="nan"):
+        lazy = psychro.vapour_pressure(dask.from_array(T, chunks=5), 101)
+    assert np.isnan(lazy.compute(scheduler="threads")).all()
+    lazy = psychro.vapour_pressure(dask.from_array(T, chunks=5), 101)
+    with quorvel.errstate(range="nan"):
+        assert np.isfinite(lazy.compute(scheduler="threads")).all()
+
+
+def test_worker_processes_give_the_same_bits():
+    distributed = pytest.importorskip("distributed")
+    with distributed.LocalCluster(n_workers=2, threads_per_worker=1, processes=True, dashboard_address=None) as cluster:
+        with distributed.Client(cluster):
+            same(psychro.vapour_pressure(dask.from_array(T, chunks=3), 50).compute(), psychro.vapour_pressure(T, 50))
+
+
+def test_options_are_refused():
+    with pytest.raises(TypeError, match="out and where do not go with arrays of xarray"):
+        psychro.vapour_pressure(xarray.DataArray(T), 50, out=np.empty(12, np.float32))
+
+
+def test_nothing_is_imported_that_is_not_used():
+    known = "import sys, quorvel; quorvel.psychro.vapour_pressure(20, [50]); "
+    code = known + "print([name for name in ('pandas', 'xarray', 'dask', 'scipy') if name in sys.modules])"
+    assert subprocess.run([sys.executable, "-c", code], capture_output=True, text=True, check=True).stdout.strip() == "[]"

@@ -1,0 +1,101 @@
+"""The package as a whole: examples, documentation, types, and that it can be imported and sent to others."""
+
+import copy
+import doctest
+import importlib
+import inspect
+import pickle
+import pkgutil
+import subprocess
+import sys
+
+import numpy as np
+import pytest
+import quorvel
+from conftest import DOCUMENTED, ROOT, function
+from python_model import operands
+
+MODULES = ["quorvel", *(
+    name for _, name, _ in pkgutil.walk_packages(quorvel.__path__, "quorvel.")
+    if not name.startswith(("quorvel._core", "quorvel.study")))]
+
+
+def shaped(values, operand, counts):
+    if not operand.axes:
+        return values
+    shape = [counts.get(extent, extent) for extent in operand.axes]
+    return np.reshape(values[:np.prod(shape)], shape)
+
+
+@pytest.mark.parametrize("name", DOCUMENTED)
+def test_examples_of_the_catalogue(name):
+    _, routine = DOCUMENTED[name]
+    inputs, outputs = operands(routine)
+    for example in routine.examples:
+        given = {o.field: shaped(example.given[o.arg.name], o, example.given) for o in inputs}
+        results = function(name)(**given)
+        for operand, result in zip(outputs, results if len(outputs) > 1 else [results]):
+            wanted = example.gives.get(getattr(operand.arg, "name", "result"))
+            if wanted is not None:
+                tolerance = example.within[getattr(operand.arg, "name", "result")]
+                got = np.ravel(result)[:np.size(wanted)].astype(float)
+                wanted = np.not_equal(wanted, 0) if operand.kind == "Logical" else wanted
+                np.testing.assert_allclose(got, np.ravel(wanted), rtol=1e-6, atol=tolerance, err_msg=str(example))
+
+
+@pytest.mark.parametrize("name", MODULES)
+def test_doctests(name):
+    failed, tried = doctest.testmod(importlib.import_module(name), optionflags=doctest.NORMALIZE_WHITESPACE)
+    assert failed == 0
+    assert tried or not name.endswith(".routines")
+
+
+@pytest.mark.parametrize("name", DOCUMENTED)
+def test_documentation(name):
+    documented = function(name)
+    text = inspect.getdoc(documented)
+    for parameter in inspect.signature(documented).parameters:
+        assert f"\n{parameter} : " in text
+    for section in ("Parameters", "Returns", "References"):
+        assert f"\n{section}\n{'-' * len(section)}\n" in text
+    assert max(map(len, text.splitlines())) <= 100
+
+
+def test_pickling_and_copying():
+    for each in (quorvel.psychro.vapour_pressure, quorvel.psychro.Psychrometer.sling,
+                 quorvel.geometry.facing(np.eye(3), 1.0)):
+        assert pickle.loads(pickle.dumps(each)) == each
+    assert copy.deepcopy(quorvel.psychro.vapour_pressure) is quorvel.psychro.vapour_pressure
+
+
+def test_types(tmp_path):
+    """Stubs agree with what they describe, and a program that uses them is accepted, a wrong one not."""
+    pytest.importorskip("mypy")
+    program = tmp_path / "program.py"
+    good = """
+import numpy as np
+from numpy.typing import NDArray
+from quorvel import fabric, geometry, psychro
+one: np.float32 = psychro.vapour_pressure(20.0, 50)
+many: NDArray[np.float32] = psychro.vapour_pressure(np.linspace(0, 1), [40, 50])
+u = fabric.u_value([0.1, 0.2], [0.3, 0.4], 0.13, 0.04)
+kind = psychro.vapour_pressure_from_psychrometer(25, 20, 101325, psychro.Psychrometer.sling)
+tilt = geometry.facing(np.eye(3), 1.0).tilt
+"""
+    families = [f"quorvel.{family}.routines" for family, _ in DOCUMENTED.values()]
+    checked = subprocess.run([sys.executable, "-m", "mypy.stubtest", *dict.fromkeys(families), "--ignore-missing-stub"],
+                             capture_output=True, text=True)
+    assert checked.returncode == 0, checked.stdout + checked.stderr
+    for text, accepted in ((good, True), (good + "text: str = psychro.vapour_pressure(20.0, 50)\n", False),
+                           (good + "psychro.vapour_pressure(20.0)\n", False)):
+        program.write_text(text)
+        checked = subprocess.run([sys.executable, "-m", "mypy", "--strict", program], capture_output=True, text=True)
+        assert (checked.returncode == 0) == accepted, checked.stdout + checked.stderr
+
+
+def test_readme():
+    """What the README shows is true: its lines run, and give what it says."""
+    text = (ROOT / "bindings/python/README.md").read_text(encoding="utf-8")
+    assert "pip install ." in text
+    values = quorvel.psychro.vapour_pressure(20, [40, 50, 60])
+    np.testing.assert_allclose(values, [934.2, 1167.8, 1401.3], atol=0.05)
