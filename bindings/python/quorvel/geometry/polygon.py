@@ -95,6 +95,7 @@ def overlap_area(a, b):
     areas = np.empty(max(len(first), len(second)))
     one_each = [polygons[:1] if _is_same(polygons) else polygons for polygons in (first, second)]
     _core.overlap_areas(*_flat(one_each[0]), *_flat(one_each[1]), areas)
+    areas[[not (_is_finite(left) and _is_finite(right)) for left, right in zip(first, second)]] = np.nan
     return areas if _is_collection(a) or _is_collection(b) else areas[0]
 
 
@@ -167,7 +168,14 @@ def _area(points):
     return 0.5 * np.linalg.norm(np.cross(sides[:-1], sides[1:]).sum(axis=0))
 
 
+def _is_finite(points):
+    return bool(np.isfinite(points).all())
+
+
 def _clip(a, b):
+    for points, name in ((a, "a"), (b, "b")):
+        if not _is_finite(points):
+            raise ClippingError(f"clip: {name} has coordinates that are not numbers")
     fault, difference, both = _core.clip(a, b)
     if fault:
         raise ClippingError(f"clip: {fault}")
