@@ -1,0 +1,20 @@
+# A Debian package of the Python package: cpack -G DEB in the build folder.
+if(NOT QUORVEL_PYTHON OR SKBUILD)
+    return()
+endif()
+set(CPACK_GENERATOR DEB)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL python)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_PACKAGE_CONTACT "Quorvel maintainers <maintainers@quorvel.invalid>")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_PACKAGE_SECTION python)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-quorvel)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "python3 (>= 3.11), python3-numpy (>= 1:1.24)")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "python3-pandas, python3-xarray, python3-dask, python3-matplotlib")
+set(CPACK_COMPONENT_PYTHON_DESCRIPTION "Building physics and building services for Python
+ Moist air, walls, glazing and blinds, sun and sky, polygons: for numbers,
+ arrays, tables and labelled arrays, the same bits on every machine.")
+include(CPack)
