@@ -11,7 +11,8 @@
  * either.
  *
  * Each element gets the bits that the routine of quorvel.h gives for it, whatever the processor. An
- * output that the routine leaves as it was is not a number (an Integer: 0), or as it was given.
+ * output that the routine leaves as it was is not a number (an Integer: 0), or as it was given. Where
+ * no name in brackets says otherwise, quorvel.h has no such routine.
  *
  * The functions return QUORVEL_OK, or what is wrong, found before anything is written; quorvel_message
  * says it in words. An output may stand where an input of its element stands (not where that is an
@@ -65,7 +66,7 @@ typedef struct quorvel_argument {
 
 typedef struct quorvel_routine {
     const char *name;          /* readable, as in quorvel_NAME */
-    const char *exported_name; /* in quorvel.h */
+    const char *exported_name; /* in quorvel.h; null where only this library has the routine */
     const char *family;
     int32_t inputs, outputs;
     int32_t elementwise;       /* 0 for those that only quorvel.h has */
@@ -240,6 +241,25 @@ QUORVEL_ARRAYS_API int32_t quorvel_percentage_saturation(
     float *result, ptrdiff_t result_stride);
 
 /*
+ * quorvel_specific_enthalpy: Specific enthalpy of moist air.
+ * Given:
+ *     dry_bulb          float  °C     -50 .. 100  dry-bulb temperature
+ *     moisture_content  float  kg/kg  0 .. 0.1    moisture content, water vapour per dry air
+ * Result:
+ *     kJ/kg  specific enthalpy, by mass of dry air
+ * Formula: h = ha(t) + g hv(t), by dry_air_enthalpy and water_vapour_enthalpy
+ * Notes:
+ *     - Per kilogram of dry air, from dry air and liquid water at 0 °C.
+ *     - All moisture counts as vapour: the moisture content is not limited to that of saturated
+ *       air.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_specific_enthalpy(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *moisture_content, ptrdiff_t moisture_content_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
  * quorvel_specific_enthalpy_from_psychrometer (PSHWET): Specific enthalpy of moist air from the
  *     reading of a wet-and-dry-bulb psychrometer.
  * Given:
@@ -393,6 +413,23 @@ QUORVEL_ARRAYS_API int32_t quorvel_vapour_pressure(
     size_t count,
     const float *dry_bulb, ptrdiff_t dry_bulb_stride,
     const float *relative_humidity, ptrdiff_t relative_humidity_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_relative_humidity: Relative humidity of air with a vapour pressure.
+ * Given:
+ *     dry_bulb         float  °C  -100 .. 200  dry-bulb temperature
+ *     vapour_pressure  float  Pa  from 0       vapour pressure
+ * Result:
+ *     %  relative humidity
+ * Formula: rh = 100 pv / ps(t)
+ * Notes:
+ *     - Not limited: supersaturated air gives more than 100.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_relative_humidity(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
     float *result, ptrdiff_t result_stride);
 
 /*

@@ -201,6 +201,35 @@ inline void percentage_saturation(const Input<float>& dry_bulb,
         detail::returned("result", result));
 }
 
+/// Specific enthalpy of moist air.
+///
+/// Formula: h = ha(t) + g hv(t), by dry_air_enthalpy and water_vapour_enthalpy
+///
+/// @note Per kilogram of dry air, from dry air and liquid water at 0 °C.
+///
+/// @note All moisture counts as vapour: the moisture content is not limited to that of saturated
+/// air.
+///
+/// @param dry_bulb  °C, -50 .. 100: dry-bulb temperature
+/// @param moisture_content  kg/kg, 0 .. 0.1: moisture content, water vapour per dry air
+/// @return kJ/kg: specific enthalpy, by mass of dry air
+/// Source: Sum over dry air and vapour, as for mixtures of ideal gases: ASHRAE Handbook
+///     Fundamentals 2017, chapter 1.
+inline float specific_enthalpy(float dry_bulb, float moisture_content) {
+    float out = detail::none<float>;
+    quorvel_specific_enthalpy(1, &dry_bulb, 0, &moisture_content, 0, &out, 0);
+    return out;
+}
+
+/// specific_enthalpy for whole arrays.
+inline void specific_enthalpy(const Input<float>& dry_bulb, const Input<float>& moisture_content,
+        std::span<float> result) {
+    detail::call_arrays("specific_enthalpy", quorvel_specific_enthalpy,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("moisture_content", moisture_content),
+        detail::returned("result", result));
+}
+
 /// Specific enthalpy of moist air from the reading of a wet-and-dry-bulb psychrometer.
 ///
 /// Formula: h = PSHDRY(t) + g PSHVAP(t), g = PSGS(t, twb, p)
@@ -510,6 +539,32 @@ inline void vapour_pressure(const Input<float>& dry_bulb, const Input<float>& re
     detail::call_arrays("vapour_pressure", quorvel_vapour_pressure,
         detail::given("dry_bulb", dry_bulb),
         detail::given("relative_humidity", relative_humidity),
+        detail::returned("result", result));
+}
+
+/// Relative humidity of air with a vapour pressure.
+///
+/// Formula: rh = 100 pv / ps(t)
+///
+/// @note Not limited: supersaturated air gives more than 100.
+///
+/// @param dry_bulb  °C, -100 .. 200: dry-bulb temperature
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @return %: relative humidity
+/// Source: Definition of relative humidity, the ratio of vapour pressures, with
+///     saturation_pressure.
+inline float relative_humidity(float dry_bulb, float vapour_pressure) {
+    float out = detail::none<float>;
+    quorvel_relative_humidity(1, &dry_bulb, 0, &vapour_pressure, 0, &out, 0);
+    return out;
+}
+
+/// relative_humidity for whole arrays.
+inline void relative_humidity(const Input<float>& dry_bulb, const Input<float>& vapour_pressure,
+        std::span<float> result) {
+    detail::call_arrays("relative_humidity", quorvel_relative_humidity,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("vapour_pressure", vapour_pressure),
         detail::returned("result", result));
 }
 

@@ -23,6 +23,12 @@ R vapour_pressure(R t, R rh) noexcept {
     return saturation_pressure(t) * limited(rh, 0.0f, 100.0f) / 100.0f;
 }
 
+// In %, of air with vapour pressure pv.
+template <class R>
+R relative_humidity(R t, R pv) noexcept {
+    return pv * 100.0f / saturation_pressure(t);
+}
+
 // Type of psychrometer
 inline constexpr Integer sling = 1;
 

@@ -78,6 +78,16 @@ ROUTINES = {
          A('percentage_saturation', 'float32', '%', 'percentage saturation', (0, 100), '', ()),
         ),
     ),
+    "specific_enthalpy": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-50, 100), '', ()),
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+        ),
+        (
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy, by mass of dry air', (-10, 460), '', ()),
+        ),
+    ),
     "specific_enthalpy_from_psychrometer": R(
         "psychro", 'PSHWET', '',
         (
@@ -168,6 +178,16 @@ ROUTINES = {
         ),
         (
          A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+        ),
+    ),
+    "relative_humidity": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+        ),
+        (
+         A('relative_humidity', 'float32', '%', 'relative humidity', (0, 100), '', ()),
         ),
     ),
     "vapour_pressure_from_psychrometer": R(

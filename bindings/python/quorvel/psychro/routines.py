@@ -18,6 +18,7 @@ __all__ = [
     "latent_heat",
     "moisture_content_from_psychrometer",
     "percentage_saturation",
+    "specific_enthalpy",
     "specific_enthalpy_from_psychrometer",
     "specific_volume",
     "saturation_temperature_from_enthalpy",
@@ -25,6 +26,7 @@ __all__ = [
     "pool_evaporation_from_wet_bulb",
     "saturation_pressure",
     "vapour_pressure",
+    "relative_humidity",
     "vapour_pressure_from_psychrometer",
     "weighted_temperature",
     "psychrometer_wet_bulb",
@@ -39,6 +41,7 @@ _water_vapour_specific_heat = functions["water_vapour_specific_heat"]
 _latent_heat = functions["latent_heat"]
 _moisture_content_from_psychrometer = functions["moisture_content_from_psychrometer"]
 _percentage_saturation = functions["percentage_saturation"]
+_specific_enthalpy = functions["specific_enthalpy"]
 _specific_enthalpy_from_psychrometer = functions["specific_enthalpy_from_psychrometer"]
 _specific_volume = functions["specific_volume"]
 _saturation_temperature_from_enthalpy = functions["saturation_temperature_from_enthalpy"]
@@ -46,6 +49,7 @@ _pool_evaporation = functions["pool_evaporation"]
 _pool_evaporation_from_wet_bulb = functions["pool_evaporation_from_wet_bulb"]
 _saturation_pressure = functions["saturation_pressure"]
 _vapour_pressure = functions["vapour_pressure"]
+_relative_humidity = functions["relative_humidity"]
 _vapour_pressure_from_psychrometer = functions["vapour_pressure_from_psychrometer"]
 _weighted_temperature = functions["weighted_temperature"]
 _psychrometer_wet_bulb = functions["psychrometer_wet_bulb"]
@@ -385,6 +389,50 @@ def percentage_saturation(dry_bulb, moisture_content, pressure, *, out=None, whe
     (ASHRAE Handbook Fundamentals 2017, chapter 1, table 2: saturated air)
     """
     return _percentage_saturation(dry_bulb, moisture_content, pressure, out, where)
+
+
+def specific_enthalpy(dry_bulb, moisture_content, *, out=None, where=True):
+    """Specific enthalpy of moist air.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -50 to 100.
+    moisture_content : array_like of float
+        Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    enthalpy : float32
+        Specific enthalpy, by mass of dry air [kJ/kg].
+
+    Notes
+    -----
+    Formula: h = ha(t) + g hv(t), by dry_air_enthalpy and water_vapour_enthalpy
+
+    Per kilogram of dry air, from dry air and liquid water at 0 °C.
+
+    All moisture counts as vapour: the moisture content is not limited to that of saturated air.
+
+    References
+    ----------
+    Sum over dry air and vapour, as for mixtures of ideal gases: ASHRAE Handbook Fundamentals 2017,
+    chapter 1.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import specific_enthalpy
+    >>> result = specific_enthalpy(dry_bulb=25, moisture_content=0.020173)
+    >>> bool(abs(result - 76.504) <= 0.15)
+    True
+
+    (ASHRAE Handbook Fundamentals 2017, chapter 1, table 2: saturated air)
+    """
+    return _specific_enthalpy(dry_bulb, moisture_content, out, where)
 
 
 def specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, *, out=None, where=True):
@@ -796,6 +844,47 @@ def vapour_pressure(dry_bulb, relative_humidity, *, out=None, where=True):
     (half of saturation)
     """
     return _vapour_pressure(dry_bulb, relative_humidity, out, where)
+
+
+def relative_humidity(dry_bulb, vapour_pressure, *, out=None, where=True):
+    """Relative humidity of air with a vapour pressure.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -100 to 200.
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    relative_humidity : float32
+        Relative humidity [%].
+
+    Notes
+    -----
+    Formula: rh = 100 pv / ps(t)
+
+    Not limited: supersaturated air gives more than 100.
+
+    References
+    ----------
+    Definition of relative humidity, the ratio of vapour pressures, with saturation_pressure.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import relative_humidity
+    >>> result = relative_humidity(dry_bulb=20, vapour_pressure=1169.65)
+    >>> bool(abs(result - 50) <= 0.2)
+    True
+
+    (2339.3 Pa at saturation: Wagner and Pruss, 2002)
+    """
+    return _relative_humidity(dry_bulb, vapour_pressure, out, where)
 
 
 def vapour_pressure_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, *, out=None, where=True):
