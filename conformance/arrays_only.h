@@ -1,5 +1,5 @@
-// The routines that the array library alone has, called as those by reference are; what they are held
-// to is the formula over one number, compiled here.
+// The routines that the array library alone has, called as those by reference are; what they are
+// held to is the formula over one number, compiled here.
 #pragma once
 
 #include "conformance/routine_table.h"
