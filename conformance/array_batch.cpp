@@ -83,7 +83,9 @@ void ArrayBatch::keep_counts(ArgumentSet& arguments) {
 }
 
 void ArrayBatch::draw(const Oddness& oddness, Random& random) {
-    const auto function = reinterpret_cast<Address>(host::routine_address(routine_.name));
+    const bool exported = array_routine_->exported_name != nullptr;
+    const Address function =
+        exported ? reinterpret_cast<Address>(host::routine_address(routine_.name)) : nullptr;
     ArgumentSet arguments(routine_);
     for (std::size_t i = 0; i < elements_; ++i) {
         const double kind = random.unit();

@@ -1,10 +1,12 @@
-// Holds the array library to the routines by reference, at every level that this processor has:
+// Holds the array library to the routines by reference, or to the formula where there is none, at
+// every level that this processor has:
 //     quorvel_array_bits [ELEMENTS [ROUTINE...]]
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 #include "conformance/array_batch.h"
+#include "conformance/arrays_only.h"
 #include "quorvel/library.h"
 
 using namespace quorvel;
@@ -49,12 +51,13 @@ int main(int argc, char** argv) {
     host::load_library();
     const std::size_t elements = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 5000;
     int differing = 0, compared = 0;
-    for (const Routine& routine : routines()) {
-        if (!quorvel_find_routine(routine.name)->elementwise) continue;
-        if (!asked_for(routine.name, argc, argv)) continue;
-        differing += differing_batches(routine, elements);
-        ++compared;
-    }
+    for (const auto* const table : {&routines(), &arrays_only()})
+        for (const Routine& routine : *table) {
+            if (!quorvel_find_routine(routine.name)->elementwise) continue;
+            if (!asked_for(routine.name, argc, argv)) continue;
+            differing += differing_batches(routine, elements);
+            ++compared;
+        }
     std::printf("%d routines, %zu elements of each kind, levels:", compared, elements);
     for (const char* level : levels)
         if (quorvel_choose_level(level)) std::printf(" %s", level);

@@ -4,7 +4,7 @@ import re
 
 from array_kernels import has_kernel, inputs, outputs
 from catalogue import C_TYPES
-from header import WIDTH, paragraph, rows
+from header import WIDTH, about, paragraph, rows
 
 PREAMBLE = """\
 /*
@@ -20,7 +20,8 @@ PREAMBLE = """\
  * either.
  *
  * Each element gets the bits that the routine of quorvel.h gives for it, whatever the processor. An
- * output that the routine leaves as it was is not a number (an Integer: 0), or as it was given.
+ * output that the routine leaves as it was is not a number (an Integer: 0), or as it was given. Where
+ * no name in brackets says otherwise, quorvel.h has no such routine.
  *
  * The functions return QUORVEL_OK, or what is wrong, found before anything is written; quorvel_message
  * says it in words. An output may stand where an input of its element stands (not where that is an
@@ -74,7 +75,7 @@ typedef struct quorvel_argument {
 
 typedef struct quorvel_routine {
     const char *name;          /* readable, as in quorvel_NAME */
-    const char *exported_name; /* in quorvel.h */
+    const char *exported_name; /* in quorvel.h; null where only this library has the routine */
     const char *family;
     int32_t inputs, outputs;
     int32_t elementwise;       /* 0 for those that only quorvel.h has */
@@ -184,13 +185,16 @@ def _parameters(routine):
 def _comment(routine):
     given = inputs(routine)
     returned = [arg for arg in routine.args if arg.dir != "in"]
-    lines = paragraph(f"quorvel_{routine.name} ({routine.export}): {routine.summary}", "", "    ")
+    exported = f" ({routine.export})" if routine.export else ""
+    lines = paragraph(f"quorvel_{routine.name}{exported}: {routine.summary}", "", "    ")
     if given:
         lines += ["Given:", *rows(given, returned=False)]
     if routine.result:
         lines += ["Result:", *paragraph(routine.result.meaning, f"    {routine.result.unit}  ".rstrip() + "  ", "        ")]
     if returned:
         lines += ["Returned:", *rows(returned, returned=True)]
+    if not routine.export:
+        lines += about(routine)
     return "\n".join(["/*", *(f" * {line}".rstrip() for line in lines), " */"])
 
 
@@ -238,9 +242,10 @@ def _arguments(routine):
 
 def _listed(family, routine):
     arguments = f"arguments::{routine.name}" if has_kernel(routine) else "nullptr"
+    exported = f'"{routine.export}"' if routine.export else "nullptr"
     known = has_kernel(routine)
     counts = f"{len(inputs(routine)) * known}, {len(outputs(routine)) * known}, {int(known)}, {int(known and not routine.entry)}"
-    return f'    {{"{routine.name}", "{routine.export}", "{family.family}", {counts}, {arguments}}},\n'
+    return f'    {{"{routine.name}", {exported}, "{family.family}", {counts}, {arguments}}},\n'
 
 
 def definitions(families):

@@ -11,7 +11,7 @@ from checks import C_TYPES
 from examples import example
 from place import CatalogueError, read
 
-__all__ = ["C_TYPES", "CatalogueError", "Argument", "Family", "Result", "Routine", "load"]
+__all__ = ["C_TYPES", "CatalogueError", "Argument", "Family", "Result", "Routine", "by_reference", "load"]
 
 DESCRIBED = {"is": checks.is_text, **quantity_file.KINDS}
 ARGUMENT = {
@@ -66,11 +66,11 @@ class Result:
 
 @dataclass(frozen=True)
 class Routine:
-    export: str
     name: str
     summary: str
     source: str
     topic: str
+    export: str = ""  # none where there is no call by reference
     args: tuple = ()
     result: Result | None = None
     notes: tuple = ()
@@ -88,6 +88,11 @@ class Family:
     family: str
     title: str
     routines: tuple
+
+
+def by_reference(families):
+    """What the interface by reference has: the routines with an exported name."""
+    return [replace(family, routines=tuple(filter(lambda routine: routine.export, family.routines))) for family in families]
 
 
 def _described(kind, table, quantities, place, **defaults):
@@ -151,11 +156,15 @@ def _result(table, quantities, place):
 
 
 def _routine(table, quantities, topic, place):
-    checks.check_keys(table, ROUTINE, ["export", "name", "summary", "source"], place)
-    place.require(re.fullmatch(r"[A-Z][A-Z0-9]{3,8}", table["export"]), "not an exported name", "export =")
+    checks.check_keys(table, ROUTINE, ["name", "summary", "source"], place)
+    exported = table.get("export")
+    place.require(not exported or re.fullmatch(r"[A-Z][A-Z0-9]{3,8}", exported), "not an exported name", "export =")
     place.require(re.fullmatch(r"[a-z][a-z0-9_]*", table["name"]), "not a lower-case identifier", "name =")
     args = _arguments(table.get("args", []), quantities, place)
     result = _result(table["result"], quantities, place) if "result" in table else None
+    by_hand = next((f"{key} =" for key in ("state", "entry") if key in table), "")
+    elementwise = not by_hand and all(arg.type != "Text" for arg in args)
+    place.require(exported or elementwise, "without an exported name a routine is a formula for each element", by_hand)
     plain = {**table, "args": args, "result": result, "examples": (), "topic": topic}
     routine = Routine(**{**plain, "notes": tuple(table.get("notes", ()))})
     entries = enumerate(table.get("examples", []))
@@ -181,7 +190,7 @@ def load(folder):
         routines = []
         for path in sorted((folder / name).glob("*.toml")):
             for routine, where in _topic(path, quantities):
-                for own in (routine.export, f"{name}::{routine.name}"):
+                for own in filter(None, (routine.export, f"{name}::{routine.name}")):
                     where.require(own not in seen, f"{own} is described twice", own.split(":")[-1])
                     seen.add(own)
                 used.update(arg.quantity for arg in routine.args)

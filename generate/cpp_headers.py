@@ -92,7 +92,8 @@ def _about(routine):
     if len(results) == 1:
         lines += _lines(f"@return {_described(results[0], returned=True)}", rest="///     ")
     lines += _counted(routine)
-    return [*lines, *_lines(f"Source: {routine.source}", rest="///     "), f"/// ({routine.export} of quorvel.h)"]
+    lines += _lines(f"Source: {routine.source}", rest="///     ")
+    return [*lines, f"/// ({routine.export} of quorvel.h)"] if routine.export else lines
 
 
 def _about_arrays(routine):

@@ -61,15 +61,26 @@ def _prepared(arg, place):
     return [f"{place(arg)} = {arg.name};"] if arg.dir == "inout" else []
 
 
+def _call_by_reference(routine, place):
+    call = f"{routine.export}({', '.join(_passed(arg, place) for arg in routine.args)})"
+    logical = routine.result and routine.result.logical
+    return f"{call} != 0" if logical else call
+
+
+def _call_of_arrays(routine, place):
+    """Of one element, where there is no call by reference: nothing of it can be refused."""
+    addresses = [_address(arg, arg.name) for arg in inputs(routine)]
+    addresses += [_address(arg, place(arg)) for arg in outputs(routine)]
+    return f"quorvel_{routine.name}({', '.join(['1', *(f'{address}, 0' for address in addresses)])})"
+
+
 def _body(routine):
     results = outputs(routine)
     returned = [arg for arg in routine.args if arg.dir != "in"]
     place = (lambda arg: f"out.{name_of(arg)}") if len(results) > 1 else (lambda _: "out")
-    call = f"{routine.export}({', '.join(_passed(arg, place) for arg in routine.args)})"
-    if routine.result and routine.result.logical:
-        call += " != 0"
+    call = _call_by_reference(routine, place) if routine.export else _call_of_arrays(routine, place)
     yield from _count_checks(routine)
-    if not returned:
+    if routine.export and not returned:
         yield f"return {call};"
         return
     if len(results) > 1:
@@ -78,7 +89,7 @@ def _body(routine):
         yield _declared(results[0], "out", "")
     for arg in returned:
         yield from _prepared(arg, place)
-    yield f"{place(routine.result)} = {call};" if routine.result else f"{call};"
+    yield f"{place(routine.result)} = {call};" if routine.export and routine.result else f"{call};"
     yield "return out;"
 
 

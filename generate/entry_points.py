@@ -8,6 +8,7 @@ entry points of both kinds, so that those that do not fit the catalogue do not c
 from pathlib import Path
 
 import declarations
+from catalogue import by_reference
 
 TYPES = {"Real": "Real", "DoubleReal": "DoubleReal", "Integer": "Integer"}
 
@@ -50,11 +51,11 @@ def _statements(family, routine):
         *[f"return {result.format('result')};"] * bool(routine.result),
     ]
 
-def _definition(family, routine):
+def definition(family, routine, name):
     result = TYPES[routine.result.type] if routine.result else "void"
     parameters = ", ".join(_parameter(arg) for arg in routine.args)
     body = "".join(f"    {statement}\n" for statement in _statements(family, routine))
-    return f"\n{result} {routine.export}({parameters}) {{\n{body}}}\n"
+    return f"\n{result} {name}({parameters}) {{\n{body}}}\n"
 
 def _text(family, routines):
     made = [routine for routine in routines if not routine.entry]
@@ -64,12 +65,12 @@ def _text(family, routines):
     headers = (formulas, "entry/entry.h", f"entry/{formulas}")
     head = "".join(f'#include "{name}"\n' for name in headers)
     using = "\nusing namespace quorvel;\nusing namespace quorvel::entry;\n"
-    return head + using + "".join(_definition(family, routine) for routine in made)
+    return head + using + "".join(definition(family, routine, routine.export) for routine in made)
 
 def files(families):
     """The texts of the files by their names: source and header of each topic."""
     texts = {}
-    for family in families:
+    for family in by_reference(families):
         for topic in dict.fromkeys(routine.topic for routine in family.routines):
             routines = [routine for routine in family.routines if routine.topic == topic]
             texts[Path(family.family) / f"{topic}.cpp"] = _text(family, routines)

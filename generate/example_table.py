@@ -1,5 +1,7 @@
 """examples.inc: every example of the catalogue as C++ data, in the types of conformance/examples.h."""
 
+from catalogue import by_reference
+
 
 def _text(text):
     return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
@@ -27,5 +29,5 @@ def _example(routine, example):
 def render(families):
     return "".join(
         _example(routine, example)
-        for family in families for routine in family.routines for example in routine.examples
+        for family in by_reference(families) for routine in family.routines for example in routine.examples
     )

@@ -50,7 +50,7 @@ def _count(arg, given):
 def _given(routine, table, place):
     args = {arg.name: arg for arg in routine.args if arg.dir != "out"}
     for name in table:
-        place.require(name in args, f"{name} is not given to {routine.export}", name)
+        place.require(name in args, f"{name} is not given to {routine.export or routine.name}", name)
     for name, arg in args.items():
         place.require(name in table or arg.ignored, f"{name} is not given")
     given = {name: _values(args[name], value, place) for name, value in table.items()}
@@ -67,7 +67,7 @@ def _gives(routine, table, given, place):
         outputs["result"] = routine.result
     place.require(table, "nothing is expected")
     for name, value in table.items():
-        place.require(name in outputs, f"{name} is not returned by {routine.export}", name)
+        place.require(name in outputs, f"{name} is not returned by {routine.export or routine.name}", name)
         if outputs[name].shape:
             fits = isinstance(value, list) and len(value) <= _count(outputs[name], given)
             place.require(fits, f"{name} has not as many elements", name)

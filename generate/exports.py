@@ -1,10 +1,11 @@
 """Lists of names: the export lists for ELF and Windows, and the names as C++ macro calls."""
 
 import array_header
+from catalogue import by_reference
 
 
-def _names(families):
-    return sorted(routine.export for family in families for routine in family.routines)
+def exported_names(families):
+    return sorted(routine.export for family in by_reference(families) for routine in family.routines)
 
 
 def _version_script(names):
@@ -18,11 +19,11 @@ def _module_definition(library, names):
 
 
 def version_script(families):
-    return _version_script(_names(families))
+    return _version_script(exported_names(families))
 
 
 def module_definition(families):
-    return _module_definition("quorvel", _names(families))
+    return _module_definition("quorvel", exported_names(families))
 
 
 def array_version_script(families):
@@ -34,4 +35,4 @@ def array_module_definition(families):
 
 
 def macro_calls(families):
-    return "".join(f"QUORVEL_ROUTINE({name})\n" for name in _names(families))
+    return "".join(f"QUORVEL_ROUTINE({name})\n" for name in exported_names(families))

@@ -3,7 +3,7 @@
 import math
 import textwrap
 
-from catalogue import C_TYPES
+from catalogue import C_TYPES, by_reference
 from declarations import CLOSING, OPENING, WIDTH, prototype, result_type
 
 PREAMBLE = """\
@@ -95,6 +95,16 @@ def _example(routine):
     return [line] if len(line) <= WIDTH - 3 else []
 
 
+def about(routine):
+    """Formula and notes."""
+    lines = paragraph(f"Formula: {routine.formula}", "", "    ") if routine.formula else []
+    if routine.notes:
+        lines.append("Notes:")
+        for note in routine.notes:
+            lines += paragraph(note, "    - ", "      ")
+    return lines
+
+
 def comment(routine):
     """The routine's block, always in one order: purpose, given, returned, formula, notes, example, source."""
     lines = paragraph(f"{routine.export} ({routine.name}): {routine.summary}", "", "    ")
@@ -108,20 +118,14 @@ def comment(routine):
         value = f"{result_type(routine)}  {routine.result.unit}".rstrip()
         meaning = routine.result.meaning + "; 1e20 for none" * routine.result.none
         lines += ["Result:", *paragraph(meaning, f"    {value}  ", "        ")]
-    if routine.formula:
-        lines += paragraph(f"Formula: {routine.formula}", "", "    ")
-    if routine.notes:
-        lines.append("Notes:")
-        for note in routine.notes:
-            lines += paragraph(note, "    - ", "      ")
-    lines += _example(routine)
+    lines += [*about(routine), *_example(routine)]
     lines += paragraph(f"Source: {routine.source}", "", "    ")
     return "\n".join(["/*", *(f" * {line}".rstrip() for line in lines), " */"])
 
 
 def render(families):
     parts = [PREAMBLE, OPENING]
-    for family in families:
+    for family in by_reference(families):
         parts.append(f"\n/* ---- {family.title} {'-' * (WIDTH - 12 - len(family.title))} */\n")
         parts += [f"\n{comment(routine)}\n{prototype(routine)}\n" for routine in family.routines]
     return "".join(parts) + CLOSING + POSTAMBLE

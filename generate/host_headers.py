@@ -3,6 +3,7 @@ so that a new routine leaves alone what has no use for it."""
 
 from pathlib import Path
 
+from catalogue import by_reference
 from declarations import result_type, with_parameters
 
 
@@ -19,4 +20,4 @@ def _header(family):
 
 def files(families):
     """The texts of the headers by their names."""
-    return {Path(f"{family.family}.h"): _header(family) for family in families}
+    return {Path(f"{family.family}.h"): _header(family) for family in by_reference(families)}

@@ -2,6 +2,7 @@
 called, and the order of what it takes."""
 
 import array_header
+from catalogue import by_reference
 
 
 def _argument(arg):
@@ -15,5 +16,5 @@ def line(routine):
 
 
 def render(families):
-    lines = [line(routine) for family in families for routine in family.routines]
+    lines = [line(routine) for family in by_reference(families) for routine in family.routines]
     return "".join(f"{text}\n" for text in sorted(lines) + sorted(array_header.prototypes(families)))

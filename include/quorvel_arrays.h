@@ -11,7 +11,8 @@
  * either.
  *
  * Each element gets the bits that the routine of quorvel.h gives for it, whatever the processor. An
- * output that the routine leaves as it was is not a number (an Integer: 0), or as it was given.
+ * output that the routine leaves as it was is not a number (an Integer: 0), or as it was given. Where
+ * no name in brackets says otherwise, quorvel.h has no such routine.
  *
  * The functions return QUORVEL_OK, or what is wrong, found before anything is written; quorvel_message
  * says it in words. An output may stand where an input of its element stands (not where that is an
@@ -65,7 +66,7 @@ typedef struct quorvel_argument {
 
 typedef struct quorvel_routine {
     const char *name;          /* readable, as in quorvel_NAME */
-    const char *exported_name; /* in quorvel.h */
+    const char *exported_name; /* in quorvel.h; null where only this library has the routine */
     const char *family;
     int32_t inputs, outputs;
     int32_t elementwise;       /* 0 for those that only quorvel.h has */
@@ -203,6 +204,348 @@ QUORVEL_ARRAYS_API int32_t quorvel_latent_heat(
     float *result, ptrdiff_t result_stride);
 
 /*
+ * quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity: Dry bulb of air with a vapour
+ *     pressure and relative humidity.
+ * Given:
+ *     vapour_pressure    float  Pa  from 0    vapour pressure
+ *     relative_humidity  float  %   0 .. 100  relative humidity
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: rh / 100 ps(t) = pv
+ * Notes:
+ *     - Found from -200 to 400 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - Relative humidity is limited to 0 to 100 %, not rejected; 0 % gives not a number.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity(
+    size_t count,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
+    const float *relative_humidity, ptrdiff_t relative_humidity_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation: Dry bulb of air with a vapour
+ *     pressure and percentage saturation.
+ * Given:
+ *     vapour_pressure        float  Pa  from 0           vapour pressure
+ *     percentage_saturation  float  %   0 .. 100         percentage saturation
+ *     pressure               float  Pa  50000 .. 110000  atmospheric pressure
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: percentage / 100 gs(t, p) = moisture_content(t, pv, p)
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - Up to where water boils at the atmospheric pressure. The percentage is not limited.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation(
+    size_t count,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
+    const float *percentage_saturation, ptrdiff_t percentage_saturation_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_moisture_content_and_relative_humidity: Dry bulb of air with a moisture
+ *     content and relative humidity.
+ * Given:
+ *     moisture_content   float  kg/kg  0 .. 0.1         moisture content, water vapour per dry air
+ *     relative_humidity  float  %      0 .. 100         relative humidity
+ *     pressure           float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: rh / 100 ps(t) = vapour_pressure_from_moisture_content(t, g, p)
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - Relative humidity is limited to 0 to 100 %, not rejected; 0 % gives not a number.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_moisture_content_and_relative_humidity(
+    size_t count,
+    const float *moisture_content, ptrdiff_t moisture_content_stride,
+    const float *relative_humidity, ptrdiff_t relative_humidity_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_moisture_content_and_percentage_saturation: Dry bulb of air with a moisture
+ *     content and percentage saturation.
+ * Given:
+ *     moisture_content       float  kg/kg  0 .. 0.1         moisture content, water vapour per dry
+ *                                                           air
+ *     percentage_saturation  float  %      0 .. 100         percentage saturation
+ *     pressure               float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: percentage / 100 gs(t, p) = g
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - Up to where water boils at the atmospheric pressure. The percentage is not limited.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_moisture_content_and_percentage_saturation(
+    size_t count,
+    const float *moisture_content, ptrdiff_t moisture_content_stride,
+    const float *percentage_saturation, ptrdiff_t percentage_saturation_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_enthalpy_and_moisture_content: Dry bulb of air with a specific enthalpy and
+ *     moisture content.
+ * Given:
+ *     enthalpy          float  kJ/kg  -10 .. 460  specific enthalpy, by mass of dry air
+ *     moisture_content  float  kg/kg  0 .. 0.1    moisture content, water vapour per dry air
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: ha(t) + g hv(t) = h
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - The enthalpies hold from -50 to 100 °C.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_enthalpy_and_moisture_content(
+    size_t count,
+    const float *enthalpy, ptrdiff_t enthalpy_stride,
+    const float *moisture_content, ptrdiff_t moisture_content_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_enthalpy_and_vapour_pressure: Dry bulb of air with a specific enthalpy and
+ *     vapour pressure.
+ * Given:
+ *     enthalpy         float  kJ/kg  -10 .. 460       specific enthalpy, by mass of dry air
+ *     vapour_pressure  float  Pa     from 0           vapour pressure
+ *     pressure         float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: moisture_content_from_enthalpy(t, h) = moisture_content(t, pv, p)
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - The enthalpies hold from -50 to 100 °C.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_enthalpy_and_vapour_pressure(
+    size_t count,
+    const float *enthalpy, ptrdiff_t enthalpy_stride,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_enthalpy_and_relative_humidity: Dry bulb of air with a specific enthalpy
+ *     and relative humidity.
+ * Given:
+ *     enthalpy           float  kJ/kg  -10 .. 460       specific enthalpy, by mass of dry air
+ *     relative_humidity  float  %      0 .. 100         relative humidity
+ *     pressure           float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: moisture_content_from_enthalpy(t, h) = moisture_content(t, rh / 100 ps(t), p)
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - The enthalpies hold from -50 to 100 °C.
+ *     - Relative humidity is limited to 0 to 100 %, not rejected.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_enthalpy_and_relative_humidity(
+    size_t count,
+    const float *enthalpy, ptrdiff_t enthalpy_stride,
+    const float *relative_humidity, ptrdiff_t relative_humidity_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_enthalpy_and_percentage_saturation: Dry bulb of air with a specific
+ *     enthalpy and percentage saturation.
+ * Given:
+ *     enthalpy               float  kJ/kg  -10 .. 460       specific enthalpy, by mass of dry air
+ *     percentage_saturation  float  %      0 .. 100         percentage saturation
+ *     pressure               float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: moisture_content_from_enthalpy(t, h) = percentage / 100 gs(t, p)
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - The enthalpies hold from -50 to 100 °C.
+ *     - Up to where water boils at the atmospheric pressure. The percentage is not limited.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_enthalpy_and_percentage_saturation(
+    size_t count,
+    const float *enthalpy, ptrdiff_t enthalpy_stride,
+    const float *percentage_saturation, ptrdiff_t percentage_saturation_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_wet_bulb_and_vapour_pressure: Dry bulb of air with a wet bulb and vapour
+ *     pressure.
+ * Given:
+ *     wet_bulb         float    °C  -100 .. 200      wet-bulb temperature
+ *     vapour_pressure  float    Pa  from 0           vapour pressure
+ *     pressure         float    Pa  50000 .. 110000  atmospheric pressure
+ *     psychrometer     int32_t      selector         psychrometer type: 1 sling (aspirated), 2
+ *                                                    screen (naturally ventilated)
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: t = twb + (ps(twb) - pv) / (A p)
+ * Notes:
+ *     - A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_wet_bulb_and_vapour_pressure(
+    size_t count,
+    const float *wet_bulb, ptrdiff_t wet_bulb_stride,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    const int32_t *psychrometer, ptrdiff_t psychrometer_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_wet_bulb_and_moisture_content: Dry bulb of air with a wet bulb and moisture
+ *     content.
+ * Given:
+ *     wet_bulb          float    °C     -100 .. 200      wet-bulb temperature
+ *     moisture_content  float    kg/kg  0 .. 0.1         moisture content, water vapour per dry air
+ *     pressure          float    Pa     50000 .. 110000  atmospheric pressure
+ *     psychrometer      int32_t         selector         psychrometer type: 1 sling (aspirated), 2
+ *                                                        screen (naturally ventilated)
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: vapour_pressure_from_psychrometer(t, twb, p) = vapour_pressure_from_moisture_content(t,
+ *     g, p)
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_wet_bulb_and_moisture_content(
+    size_t count,
+    const float *wet_bulb, ptrdiff_t wet_bulb_stride,
+    const float *moisture_content, ptrdiff_t moisture_content_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    const int32_t *psychrometer, ptrdiff_t psychrometer_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_wet_bulb_and_relative_humidity: Dry bulb of air with a wet bulb and
+ *     relative humidity.
+ * Given:
+ *     wet_bulb           float    °C  -100 .. 200      wet-bulb temperature
+ *     relative_humidity  float    %   0 .. 100         relative humidity
+ *     pressure           float    Pa  50000 .. 110000  atmospheric pressure
+ *     psychrometer       int32_t      selector         psychrometer type: 1 sling (aspirated), 2
+ *                                                      screen (naturally ventilated)
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: vapour_pressure_from_psychrometer(t, twb, p) = rh / 100 ps(t)
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - Relative humidity is limited to 0 to 100 %, not rejected.
+ *     - A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_wet_bulb_and_relative_humidity(
+    size_t count,
+    const float *wet_bulb, ptrdiff_t wet_bulb_stride,
+    const float *relative_humidity, ptrdiff_t relative_humidity_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    const int32_t *psychrometer, ptrdiff_t psychrometer_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_wet_bulb_and_percentage_saturation: Dry bulb of air with a wet bulb and
+ *     percentage saturation.
+ * Given:
+ *     wet_bulb               float    °C  -100 .. 200      wet-bulb temperature
+ *     percentage_saturation  float    %   0 .. 100         percentage saturation
+ *     pressure               float    Pa  50000 .. 110000  atmospheric pressure
+ *     psychrometer           int32_t      selector         psychrometer type: 1 sling (aspirated),
+ *                                                          2 screen (naturally ventilated)
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: moisture_content_from_psychrometer(t, twb, p) = percentage / 100 gs(t, p)
+ * Notes:
+ *     - Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+ *       is not a number.
+ *     - Up to where water boils at the atmospheric pressure. The percentage is not limited.
+ *     - A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_wet_bulb_and_percentage_saturation(
+    size_t count,
+    const float *wet_bulb, ptrdiff_t wet_bulb_stride,
+    const float *percentage_saturation, ptrdiff_t percentage_saturation_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    const int32_t *psychrometer, ptrdiff_t psychrometer_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_dry_bulb_from_wet_bulb_and_enthalpy: Dry bulb of air with a wet bulb and specific
+ *     enthalpy.
+ * Given:
+ *     wet_bulb      float    °C     -100 .. 200      wet-bulb temperature
+ *     enthalpy      float    kJ/kg  -10 .. 460       specific enthalpy, by mass of dry air
+ *     pressure      float    Pa     50000 .. 110000  atmospheric pressure
+ *     psychrometer  int32_t         selector         psychrometer type: 1 sling (aspirated), 2
+ *                                                    screen (naturally ventilated)
+ * Result:
+ *     °C  dry-bulb temperature
+ * Formula: specific_enthalpy_from_psychrometer(t, twb, p) = h
+ * Notes:
+ *     - Badly conditioned, since the enthalpy hardly changes along a wet bulb: 0.01 kJ/kg of
+ *       enthalpy can be 0.25 K of dry bulb. For wet bulbs from -50 to 55 °C, above which the
+ *       enthalpy turns.
+ *     - An enthalpy that no air of that wet bulb has, between saturated and dry, gives not a
+ *       number; 1 K beyond saturation is allowed for, and gives the wet bulb.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dry_bulb_from_wet_bulb_and_enthalpy(
+    size_t count,
+    const float *wet_bulb, ptrdiff_t wet_bulb_stride,
+    const float *enthalpy, ptrdiff_t enthalpy_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    const int32_t *psychrometer, ptrdiff_t psychrometer_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_adiabatic_mixing: Two streams of moist air that become one, without heat from outside.
+ * Given:
+ *     first_air_flow           float  kg/s   from 0       mass flow of dry air in the first stream,
+ *                                                         or its share in any unit
+ *     first_dry_bulb           float  °C     -100 .. 200  dry-bulb temperature of the first stream
+ *     first_moisture_content   float  kg/kg  0 .. 0.1     moisture content of the first stream
+ *     second_air_flow          float  kg/s   from 0       mass flow of dry air in the second
+ *                                                         stream, in the same unit
+ *     second_dry_bulb          float  °C     -100 .. 200  dry-bulb temperature of the second stream
+ *     second_moisture_content  float  kg/kg  0 .. 0.1     moisture content of the second stream
+ * Returned:
+ *     dry_bulb          float  °C       dry-bulb temperature of the mixture
+ *     moisture_content  float  kg/kg    moisture content of the mixture
+ *     enthalpy          float  kJ/kg    specific enthalpy of the mixture, by mass of dry air
+ * Formula: g = (m1 g1 + m2 g2) / (m1 + m2), h likewise; t from h and g
+ * Notes:
+ *     - All moisture counts as vapour: percentage_saturation says whether the mixture is above
+ *       saturation and would form fog.
+ *     - The enthalpies hold from -50 to 100 °C. Where no dry bulb from -100 to 200 °C belongs to
+ *       the mixture, it is not a number; nor is anything without flow.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_adiabatic_mixing(
+    size_t count,
+    const float *first_air_flow, ptrdiff_t first_air_flow_stride,
+    const float *first_dry_bulb, ptrdiff_t first_dry_bulb_stride,
+    const float *first_moisture_content, ptrdiff_t first_moisture_content_stride,
+    const float *second_air_flow, ptrdiff_t second_air_flow_stride,
+    const float *second_dry_bulb, ptrdiff_t second_dry_bulb_stride,
+    const float *second_moisture_content, ptrdiff_t second_moisture_content_stride,
+    float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    float *moisture_content, ptrdiff_t moisture_content_stride,
+    float *enthalpy, ptrdiff_t enthalpy_stride);
+
+/*
  * quorvel_moisture_content_from_psychrometer (PSGS): Moisture content of air from the reading of a
  *     wet-and-dry-bulb psychrometer.
  * Given:
@@ -223,6 +566,104 @@ QUORVEL_ARRAYS_API int32_t quorvel_moisture_content_from_psychrometer(
     float *result, ptrdiff_t result_stride);
 
 /*
+ * quorvel_moisture_content: Moisture content of air with a vapour pressure.
+ * Given:
+ *     dry_bulb         float  °C  -100 .. 200      dry-bulb temperature
+ *     vapour_pressure  float  Pa  from 0           vapour pressure
+ *     pressure         float  Pa  50000 .. 110000  atmospheric pressure
+ * Result:
+ *     kg/kg  moisture content, water vapour per dry air
+ * Formula: g = 0.62197 f pv / (p - f pv)
+ * Notes:
+ *     - Enhancement factor f of moisture_content_from_psychrometer, at the dry bulb.
+ *     - Not limited: neither to saturation, nor to vapour pressures below the atmospheric.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_moisture_content(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_vapour_pressure_from_moisture_content: Vapour pressure of air with a moisture content,
+ *     the inverse of moisture_content.
+ * Given:
+ *     dry_bulb          float  °C     -100 .. 200      dry-bulb temperature
+ *     moisture_content  float  kg/kg  0 .. 0.1         moisture content, water vapour per dry air
+ *     pressure          float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     Pa  vapour pressure
+ * Formula: pv = p g / (f (0.62197 + g))
+ * Notes:
+ *     - Not limited to saturation.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_vapour_pressure_from_moisture_content(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *moisture_content, ptrdiff_t moisture_content_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_moisture_content_from_percentage_saturation: Moisture content of air with a percentage
+ *     saturation, the inverse of percentage_saturation.
+ * Given:
+ *     dry_bulb               float  °C  -100 .. 200      dry-bulb temperature
+ *     percentage_saturation  float  %   0 .. 100         percentage saturation
+ *     pressure               float  Pa  50000 .. 110000  atmospheric pressure
+ * Result:
+ *     kg/kg  moisture content, water vapour per dry air
+ * Formula: g = percentage / 100 gs(t, p)
+ * Notes:
+ *     - Not limited. From boiling on, where the saturation pressure is above the atmospheric, it
+ *       means nothing.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_moisture_content_from_percentage_saturation(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *percentage_saturation, ptrdiff_t percentage_saturation_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_moisture_content_from_enthalpy: Moisture content of air with a specific enthalpy, the
+ *     inverse of specific_enthalpy.
+ * Given:
+ *     dry_bulb  float  °C     -50 .. 100  dry-bulb temperature
+ *     enthalpy  float  kJ/kg  -10 .. 460  specific enthalpy, by mass of dry air
+ * Result:
+ *     kg/kg  moisture content, water vapour per dry air
+ * Formula: g = (h - ha(t)) / hv(t)
+ * Notes:
+ *     - Not limited: negative where dry air alone has more, and neither to saturation.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_moisture_content_from_enthalpy(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *enthalpy, ptrdiff_t enthalpy_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_moist_air_density: Density of moist air.
+ * Given:
+ *     dry_bulb          float  °C     -100 .. 200      dry-bulb temperature
+ *     moisture_content  float  kg/kg  0 .. 0.1         moisture content, water vapour per dry air
+ *     pressure          float  Pa     50000 .. 110000  atmospheric pressure
+ * Result:
+ *     kg/m³  density of the moist air
+ * Formula: (1 + g) / v, by specific_volume
+ * Notes:
+ *     - A moisture content above saturation counts as saturation.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_moist_air_density(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *moisture_content, ptrdiff_t moisture_content_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
  * quorvel_percentage_saturation (PSPCST): Percentage saturation: moisture content by that of
  *     saturated air at the same temperature and pressure.
  * Given:
@@ -237,6 +678,25 @@ QUORVEL_ARRAYS_API int32_t quorvel_percentage_saturation(
     const float *dry_bulb, ptrdiff_t dry_bulb_stride,
     const float *moisture_content, ptrdiff_t moisture_content_stride,
     const float *pressure, ptrdiff_t pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_specific_enthalpy: Specific enthalpy of moist air.
+ * Given:
+ *     dry_bulb          float  °C     -50 .. 100  dry-bulb temperature
+ *     moisture_content  float  kg/kg  0 .. 0.1    moisture content, water vapour per dry air
+ * Result:
+ *     kJ/kg  specific enthalpy, by mass of dry air
+ * Formula: h = ha(t) + g hv(t), by dry_air_enthalpy and water_vapour_enthalpy
+ * Notes:
+ *     - Per kilogram of dry air, from dry air and liquid water at 0 °C.
+ *     - All moisture counts as vapour: the moisture content is not limited to that of saturated
+ *       air.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_specific_enthalpy(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *moisture_content, ptrdiff_t moisture_content_stride,
     float *result, ptrdiff_t result_stride);
 
 /*
@@ -381,6 +841,28 @@ QUORVEL_ARRAYS_API int32_t quorvel_saturation_pressure(
     float *result, ptrdiff_t result_stride);
 
 /*
+ * quorvel_dew_point: Dew point of air with a vapour pressure, the inverse of the saturation
+ *     pressure; below 0 °C the frost point.
+ * Given:
+ *     vapour_pressure  float  Pa  from 0  vapour pressure
+ * Result:
+ *     °C  dew-point temperature, of frost below 0 °C
+ * Formula: ps(dew_point) = pv
+ * Notes:
+ *     - Solved in double precision; saturation_pressure, in single precision, returns the vapour
+ *       pressure to 0.002 %, and dew_point the temperature that was given to it to 0.001 K up to
+ *       100 °C.
+ *     - The vapour pressures between ice and water at 0 °C, 610.30 to 610.34 Pa, give 0 °C to
+ *       0.0001 K.
+ *     - Found from -200 to 400 °C. A pressure of 0 or less, or beyond those of this range, gives
+ *       not a number.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_dew_point(
+    size_t count,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
  * quorvel_vapour_pressure (PSVP): Vapour pressure of air at a dry-bulb temperature and relative
  *     humidity.
  * Given:
@@ -393,6 +875,23 @@ QUORVEL_ARRAYS_API int32_t quorvel_vapour_pressure(
     size_t count,
     const float *dry_bulb, ptrdiff_t dry_bulb_stride,
     const float *relative_humidity, ptrdiff_t relative_humidity_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_relative_humidity: Relative humidity of air with a vapour pressure.
+ * Given:
+ *     dry_bulb         float  °C  -100 .. 200  dry-bulb temperature
+ *     vapour_pressure  float  Pa  from 0       vapour pressure
+ * Result:
+ *     %  relative humidity
+ * Formula: rh = 100 pv / ps(t)
+ * Notes:
+ *     - Not limited: supersaturated air gives more than 100.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_relative_humidity(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
     float *result, ptrdiff_t result_stride);
 
 /*
@@ -485,6 +984,34 @@ QUORVEL_ARRAYS_API int32_t quorvel_wet_bulb_from_moisture_content(
     size_t count,
     const float *dry_bulb, ptrdiff_t dry_bulb_stride,
     const float *moisture_content, ptrdiff_t moisture_content_stride,
+    const float *pressure, ptrdiff_t pressure_stride,
+    const int32_t *psychrometer, ptrdiff_t psychrometer_stride,
+    float *result, ptrdiff_t result_stride);
+
+/*
+ * quorvel_wet_bulb: Wet-bulb temperature that a psychrometer reads in air with a vapour pressure.
+ * Given:
+ *     dry_bulb         float    °C  -100 .. 200      dry-bulb temperature
+ *     vapour_pressure  float    Pa  from 0           vapour pressure
+ *     pressure         float    Pa  50000 .. 110000  atmospheric pressure
+ *     psychrometer     int32_t      selector         psychrometer type: 1 sling (aspirated), 2
+ *                                                    screen (naturally ventilated)
+ * Result:
+ *     °C  wet-bulb temperature
+ * Formula: ps(twb) - A p (t - twb) = pv
+ * Notes:
+ *     - The exact solution, in double precision; vapour_pressure_from_psychrometer gives the vapour
+ *       pressure back to 0.002 % of saturation.
+ *     - About 0 °C an iced wet bulb and one that is not can belong to the same air: that which is
+ *       not iced is found.
+ *     - At saturation or above the result is the dry bulb. A vapour pressure too far below 0 gives
+ *       not a number.
+ *     - A psychrometer type below 1 counts as 1, above 2 as 2.
+ */
+QUORVEL_ARRAYS_API int32_t quorvel_wet_bulb(
+    size_t count,
+    const float *dry_bulb, ptrdiff_t dry_bulb_stride,
+    const float *vapour_pressure, ptrdiff_t vapour_pressure_stride,
     const float *pressure, ptrdiff_t pressure_stride,
     const int32_t *psychrometer, ptrdiff_t psychrometer_stride,
     float *result, ptrdiff_t result_stride);

@@ -26,6 +26,7 @@ FAULTS = [
     (QUANTITIES, "range = [50000, 110000]", "range = [110000, 50000]", "range must not be [110000, 50000]"),
     (TOPIC, 'export = "PSVAP"', 'export = "PSVP"', "PSVP is described twice"),
     (TOPIC, 'export = "PSVAP"', 'export = "psvap"', "not an exported name"),
+    (TOPIC, 'export = "PSVAP"', 'state = "an open file"', "without an exported name a routine is a formula for each element"),
     (TOPIC, CHOICE, '{ is = "hygrometer" }', "there is no quantity hygrometer"),
     (TOPIC, CHOICE, '{ is = "psychrometer", name = "unit" }', "unit is a reserved word of Pascal"),
     (TOPIC, CHOICE, '{ is = "psychrometer", name = "pressure" }', "pressure stands twice"),

@@ -91,7 +91,7 @@ class EitherLibrary(unittest.TestCase):
 
 class Exports(unittest.TestCase):
     def test_exactly_the_catalogue(self):
-        self.assertEqual(exports(LIBRARY), {routine.export for routine in ROUTINES})
+        self.assertEqual(exports(LIBRARY), {routine.export for routine in ROUTINES if routine.export})
 
     def test_arrays_of_the_catalogue_and_what_their_header_declares(self):
         header = (ROOT / "include" / "quorvel_arrays.h").read_text(encoding="utf-8")

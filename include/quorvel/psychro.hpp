@@ -129,6 +129,533 @@ inline void latent_heat(const Input<float>& temperature, std::span<float> result
         detail::returned("result", result));
 }
 
+/// Dry bulb of air with a vapour pressure and relative humidity.
+///
+/// Formula: rh / 100 ps(t) = pv
+///
+/// @note Found from -200 to 400 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note Relative humidity is limited to 0 to 100 %, not rejected; 0 % gives not a number.
+///
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @param relative_humidity  %, 0 .. 100: relative humidity
+/// @return °C: dry-bulb temperature
+/// Source: The dew point of saturated air of that temperature, by dew_point.
+inline float dry_bulb_from_vapour_pressure_and_relative_humidity(float vapour_pressure,
+        float relative_humidity) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity(1, &vapour_pressure, 0,
+        &relative_humidity, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_vapour_pressure_and_relative_humidity for whole arrays.
+inline void dry_bulb_from_vapour_pressure_and_relative_humidity(const Input<float>& vapour_pressure,
+        const Input<float>& relative_humidity, std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_vapour_pressure_and_relative_humidity",
+        quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity,
+        detail::given("vapour_pressure", vapour_pressure),
+        detail::given("relative_humidity", relative_humidity),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a vapour pressure and percentage saturation.
+///
+/// Formula: percentage / 100 gs(t, p) = moisture_content(t, pv, p)
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note Up to where water boils at the atmospheric pressure. The percentage is not limited.
+///
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @param percentage_saturation  %, 0 .. 100: percentage saturation
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_vapour_pressure_and_percentage_saturation(float vapour_pressure,
+        float percentage_saturation, float pressure) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation(1, &vapour_pressure, 0,
+        &percentage_saturation, 0, &pressure, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_vapour_pressure_and_percentage_saturation for whole arrays.
+inline void dry_bulb_from_vapour_pressure_and_percentage_saturation(const Input<float>& vapour_pressure,
+        const Input<float>& percentage_saturation, const Input<float>& pressure,
+        std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_vapour_pressure_and_percentage_saturation",
+        quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation,
+        detail::given("vapour_pressure", vapour_pressure),
+        detail::given("percentage_saturation", percentage_saturation),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a moisture content and relative humidity.
+///
+/// Formula: rh / 100 ps(t) = vapour_pressure_from_moisture_content(t, g, p)
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note Relative humidity is limited to 0 to 100 %, not rejected; 0 % gives not a number.
+///
+/// @param moisture_content  kg/kg, 0 .. 0.1: moisture content, water vapour per dry air
+/// @param relative_humidity  %, 0 .. 100: relative humidity
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_moisture_content_and_relative_humidity(float moisture_content,
+        float relative_humidity, float pressure) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_moisture_content_and_relative_humidity(1, &moisture_content, 0,
+        &relative_humidity, 0, &pressure, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_moisture_content_and_relative_humidity for whole arrays.
+inline void dry_bulb_from_moisture_content_and_relative_humidity(const Input<float>& moisture_content,
+        const Input<float>& relative_humidity, const Input<float>& pressure,
+        std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_moisture_content_and_relative_humidity",
+        quorvel_dry_bulb_from_moisture_content_and_relative_humidity,
+        detail::given("moisture_content", moisture_content),
+        detail::given("relative_humidity", relative_humidity),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a moisture content and percentage saturation.
+///
+/// Formula: percentage / 100 gs(t, p) = g
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note Up to where water boils at the atmospheric pressure. The percentage is not limited.
+///
+/// @param moisture_content  kg/kg, 0 .. 0.1: moisture content, water vapour per dry air
+/// @param percentage_saturation  %, 0 .. 100: percentage saturation
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_moisture_content_and_percentage_saturation(float moisture_content,
+        float percentage_saturation, float pressure) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_moisture_content_and_percentage_saturation(1, &moisture_content, 0,
+        &percentage_saturation, 0, &pressure, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_moisture_content_and_percentage_saturation for whole arrays.
+inline void dry_bulb_from_moisture_content_and_percentage_saturation(const Input<float>& moisture_content,
+        const Input<float>& percentage_saturation, const Input<float>& pressure,
+        std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_moisture_content_and_percentage_saturation",
+        quorvel_dry_bulb_from_moisture_content_and_percentage_saturation,
+        detail::given("moisture_content", moisture_content),
+        detail::given("percentage_saturation", percentage_saturation),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a specific enthalpy and moisture content.
+///
+/// Formula: ha(t) + g hv(t) = h
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note The enthalpies hold from -50 to 100 °C.
+///
+/// @param enthalpy  kJ/kg, -10 .. 460: specific enthalpy, by mass of dry air
+/// @param moisture_content  kg/kg, 0 .. 0.1: moisture content, water vapour per dry air
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_enthalpy_and_moisture_content(float enthalpy, float moisture_content) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_enthalpy_and_moisture_content(1, &enthalpy, 0, &moisture_content, 0, &out,
+        0);
+    return out;
+}
+
+/// dry_bulb_from_enthalpy_and_moisture_content for whole arrays.
+inline void dry_bulb_from_enthalpy_and_moisture_content(const Input<float>& enthalpy,
+        const Input<float>& moisture_content, std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_enthalpy_and_moisture_content",
+        quorvel_dry_bulb_from_enthalpy_and_moisture_content,
+        detail::given("enthalpy", enthalpy),
+        detail::given("moisture_content", moisture_content),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a specific enthalpy and vapour pressure.
+///
+/// Formula: moisture_content_from_enthalpy(t, h) = moisture_content(t, pv, p)
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note The enthalpies hold from -50 to 100 °C.
+///
+/// @param enthalpy  kJ/kg, -10 .. 460: specific enthalpy, by mass of dry air
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_enthalpy_and_vapour_pressure(float enthalpy, float vapour_pressure,
+        float pressure) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_enthalpy_and_vapour_pressure(1, &enthalpy, 0, &vapour_pressure, 0,
+        &pressure, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_enthalpy_and_vapour_pressure for whole arrays.
+inline void dry_bulb_from_enthalpy_and_vapour_pressure(const Input<float>& enthalpy,
+        const Input<float>& vapour_pressure, const Input<float>& pressure,
+        std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_enthalpy_and_vapour_pressure",
+        quorvel_dry_bulb_from_enthalpy_and_vapour_pressure,
+        detail::given("enthalpy", enthalpy),
+        detail::given("vapour_pressure", vapour_pressure),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a specific enthalpy and relative humidity.
+///
+/// Formula: moisture_content_from_enthalpy(t, h) = moisture_content(t, rh / 100 ps(t), p)
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note The enthalpies hold from -50 to 100 °C.
+///
+/// @note Relative humidity is limited to 0 to 100 %, not rejected.
+///
+/// @param enthalpy  kJ/kg, -10 .. 460: specific enthalpy, by mass of dry air
+/// @param relative_humidity  %, 0 .. 100: relative humidity
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_enthalpy_and_relative_humidity(float enthalpy, float relative_humidity,
+        float pressure) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_enthalpy_and_relative_humidity(1, &enthalpy, 0, &relative_humidity, 0,
+        &pressure, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_enthalpy_and_relative_humidity for whole arrays.
+inline void dry_bulb_from_enthalpy_and_relative_humidity(const Input<float>& enthalpy,
+        const Input<float>& relative_humidity, const Input<float>& pressure,
+        std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_enthalpy_and_relative_humidity",
+        quorvel_dry_bulb_from_enthalpy_and_relative_humidity,
+        detail::given("enthalpy", enthalpy),
+        detail::given("relative_humidity", relative_humidity),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a specific enthalpy and percentage saturation.
+///
+/// Formula: moisture_content_from_enthalpy(t, h) = percentage / 100 gs(t, p)
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note The enthalpies hold from -50 to 100 °C.
+///
+/// @note Up to where water boils at the atmospheric pressure. The percentage is not limited.
+///
+/// @param enthalpy  kJ/kg, -10 .. 460: specific enthalpy, by mass of dry air
+/// @param percentage_saturation  %, 0 .. 100: percentage saturation
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_enthalpy_and_percentage_saturation(float enthalpy,
+        float percentage_saturation, float pressure) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_enthalpy_and_percentage_saturation(1, &enthalpy, 0,
+        &percentage_saturation, 0, &pressure, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_enthalpy_and_percentage_saturation for whole arrays.
+inline void dry_bulb_from_enthalpy_and_percentage_saturation(const Input<float>& enthalpy,
+        const Input<float>& percentage_saturation, const Input<float>& pressure,
+        std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_enthalpy_and_percentage_saturation",
+        quorvel_dry_bulb_from_enthalpy_and_percentage_saturation,
+        detail::given("enthalpy", enthalpy),
+        detail::given("percentage_saturation", percentage_saturation),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a wet bulb and vapour pressure.
+///
+/// Formula: t = twb + (ps(twb) - pv) / (A p)
+///
+/// @note A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+///
+/// @note A psychrometer type below 1 counts as 1, above 2 as 2.
+///
+/// @param wet_bulb  °C, -100 .. 200: wet-bulb temperature
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @param psychrometer  psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated)
+/// @return °C: dry-bulb temperature
+/// Source: Psychrometer equation of vapour_pressure_from_psychrometer, solved for the dry bulb.
+inline float dry_bulb_from_wet_bulb_and_vapour_pressure(float wet_bulb, float vapour_pressure,
+        float pressure, std::int32_t psychrometer) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_wet_bulb_and_vapour_pressure(1, &wet_bulb, 0, &vapour_pressure, 0,
+        &pressure, 0, &psychrometer, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_wet_bulb_and_vapour_pressure for whole arrays.
+inline void dry_bulb_from_wet_bulb_and_vapour_pressure(const Input<float>& wet_bulb,
+        const Input<float>& vapour_pressure, const Input<float>& pressure,
+        const Input<std::int32_t>& psychrometer, std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_wet_bulb_and_vapour_pressure",
+        quorvel_dry_bulb_from_wet_bulb_and_vapour_pressure,
+        detail::given("wet_bulb", wet_bulb),
+        detail::given("vapour_pressure", vapour_pressure),
+        detail::given("pressure", pressure),
+        detail::given("psychrometer", psychrometer),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a wet bulb and moisture content.
+///
+/// Formula: vapour_pressure_from_psychrometer(t, twb, p) = vapour_pressure_from_moisture_content(t,
+/// g, p)
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+///
+/// @note A psychrometer type below 1 counts as 1, above 2 as 2.
+///
+/// @param wet_bulb  °C, -100 .. 200: wet-bulb temperature
+/// @param moisture_content  kg/kg, 0 .. 0.1: moisture content, water vapour per dry air
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @param psychrometer  psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated)
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_wet_bulb_and_moisture_content(float wet_bulb, float moisture_content,
+        float pressure, std::int32_t psychrometer) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_wet_bulb_and_moisture_content(1, &wet_bulb, 0, &moisture_content, 0,
+        &pressure, 0, &psychrometer, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_wet_bulb_and_moisture_content for whole arrays.
+inline void dry_bulb_from_wet_bulb_and_moisture_content(const Input<float>& wet_bulb,
+        const Input<float>& moisture_content, const Input<float>& pressure,
+        const Input<std::int32_t>& psychrometer, std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_wet_bulb_and_moisture_content",
+        quorvel_dry_bulb_from_wet_bulb_and_moisture_content,
+        detail::given("wet_bulb", wet_bulb),
+        detail::given("moisture_content", moisture_content),
+        detail::given("pressure", pressure),
+        detail::given("psychrometer", psychrometer),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a wet bulb and relative humidity.
+///
+/// Formula: vapour_pressure_from_psychrometer(t, twb, p) = rh / 100 ps(t)
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note Relative humidity is limited to 0 to 100 %, not rejected.
+///
+/// @note A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+///
+/// @note A psychrometer type below 1 counts as 1, above 2 as 2.
+///
+/// @param wet_bulb  °C, -100 .. 200: wet-bulb temperature
+/// @param relative_humidity  %, 0 .. 100: relative humidity
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @param psychrometer  psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated)
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_wet_bulb_and_relative_humidity(float wet_bulb, float relative_humidity,
+        float pressure, std::int32_t psychrometer) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_wet_bulb_and_relative_humidity(1, &wet_bulb, 0, &relative_humidity, 0,
+        &pressure, 0, &psychrometer, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_wet_bulb_and_relative_humidity for whole arrays.
+inline void dry_bulb_from_wet_bulb_and_relative_humidity(const Input<float>& wet_bulb,
+        const Input<float>& relative_humidity, const Input<float>& pressure,
+        const Input<std::int32_t>& psychrometer, std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_wet_bulb_and_relative_humidity",
+        quorvel_dry_bulb_from_wet_bulb_and_relative_humidity,
+        detail::given("wet_bulb", wet_bulb),
+        detail::given("relative_humidity", relative_humidity),
+        detail::given("pressure", pressure),
+        detail::given("psychrometer", psychrometer),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a wet bulb and percentage saturation.
+///
+/// Formula: moisture_content_from_psychrometer(t, twb, p) = percentage / 100 gs(t, p)
+///
+/// @note Found from -100 to 200 °C; where there is none, as for arguments out of range, the result
+/// is not a number.
+///
+/// @note Up to where water boils at the atmospheric pressure. The percentage is not limited.
+///
+/// @note A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+///
+/// @note A psychrometer type below 1 counts as 1, above 2 as 2.
+///
+/// @param wet_bulb  °C, -100 .. 200: wet-bulb temperature
+/// @param percentage_saturation  %, 0 .. 100: percentage saturation
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @param psychrometer  psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated)
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_wet_bulb_and_percentage_saturation(float wet_bulb,
+        float percentage_saturation, float pressure, std::int32_t psychrometer) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_wet_bulb_and_percentage_saturation(1, &wet_bulb, 0,
+        &percentage_saturation, 0, &pressure, 0, &psychrometer, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_wet_bulb_and_percentage_saturation for whole arrays.
+inline void dry_bulb_from_wet_bulb_and_percentage_saturation(const Input<float>& wet_bulb,
+        const Input<float>& percentage_saturation, const Input<float>& pressure,
+        const Input<std::int32_t>& psychrometer, std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_wet_bulb_and_percentage_saturation",
+        quorvel_dry_bulb_from_wet_bulb_and_percentage_saturation,
+        detail::given("wet_bulb", wet_bulb),
+        detail::given("percentage_saturation", percentage_saturation),
+        detail::given("pressure", pressure),
+        detail::given("psychrometer", psychrometer),
+        detail::returned("result", result));
+}
+
+/// Dry bulb of air with a wet bulb and specific enthalpy.
+///
+/// Formula: specific_enthalpy_from_psychrometer(t, twb, p) = h
+///
+/// @note Badly conditioned, since the enthalpy hardly changes along a wet bulb: 0.01 kJ/kg of
+/// enthalpy can be 0.25 K of dry bulb. For wet bulbs from -50 to 55 °C, above which the enthalpy
+/// turns.
+///
+/// @note An enthalpy that no air of that wet bulb has, between saturated and dry, gives not a
+/// number; 1 K beyond saturation is allowed for, and gives the wet bulb.
+///
+/// @note A psychrometer type below 1 counts as 1, above 2 as 2.
+///
+/// @param wet_bulb  °C, -100 .. 200: wet-bulb temperature
+/// @param enthalpy  kJ/kg, -10 .. 460: specific enthalpy, by mass of dry air
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @param psychrometer  psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated)
+/// @return °C: dry-bulb temperature
+/// Source: Newton's method in double precision on the equations of the routines named.
+inline float dry_bulb_from_wet_bulb_and_enthalpy(float wet_bulb, float enthalpy, float pressure,
+        std::int32_t psychrometer) {
+    float out = detail::none<float>;
+    quorvel_dry_bulb_from_wet_bulb_and_enthalpy(1, &wet_bulb, 0, &enthalpy, 0, &pressure, 0,
+        &psychrometer, 0, &out, 0);
+    return out;
+}
+
+/// dry_bulb_from_wet_bulb_and_enthalpy for whole arrays.
+inline void dry_bulb_from_wet_bulb_and_enthalpy(const Input<float>& wet_bulb,
+        const Input<float>& enthalpy, const Input<float>& pressure,
+        const Input<std::int32_t>& psychrometer, std::span<float> result) {
+    detail::call_arrays("dry_bulb_from_wet_bulb_and_enthalpy",
+        quorvel_dry_bulb_from_wet_bulb_and_enthalpy,
+        detail::given("wet_bulb", wet_bulb),
+        detail::given("enthalpy", enthalpy),
+        detail::given("pressure", pressure),
+        detail::given("psychrometer", psychrometer),
+        detail::returned("result", result));
+}
+
+/// What adiabatic_mixing returns.
+struct AdiabaticMixing {
+    /// °C: dry-bulb temperature of the mixture
+    float dry_bulb = detail::none<float>;
+    /// kg/kg: moisture content of the mixture
+    float moisture_content = detail::none<float>;
+    /// kJ/kg: specific enthalpy of the mixture, by mass of dry air
+    float enthalpy = detail::none<float>;
+};
+
+/// Arrays for what adiabatic_mixing returns.
+struct AdiabaticMixingArrays {
+    std::span<float> dry_bulb;
+    std::span<float> moisture_content;
+    std::span<float> enthalpy;
+};
+
+/// Two streams of moist air that become one, without heat from outside.
+///
+/// Formula: g = (m1 g1 + m2 g2) / (m1 + m2), h likewise; t from h and g
+///
+/// @note All moisture counts as vapour: percentage_saturation says whether the mixture is above
+/// saturation and would form fog.
+///
+/// @note The enthalpies hold from -50 to 100 °C. Where no dry bulb from -100 to 200 °C belongs to
+/// the mixture, it is not a number; nor is anything without flow.
+///
+/// @param first_air_flow  kg/s, from 0: mass flow of dry air in the first stream, or its share in
+///     any unit
+/// @param first_dry_bulb  °C, -100 .. 200: dry-bulb temperature of the first stream
+/// @param first_moisture_content  kg/kg, 0 .. 0.1: moisture content of the first stream
+/// @param second_air_flow  kg/s, from 0: mass flow of dry air in the second stream, in the same
+///     unit
+/// @param second_dry_bulb  °C, -100 .. 200: dry-bulb temperature of the second stream
+/// @param second_moisture_content  kg/kg, 0 .. 0.1: moisture content of the second stream
+/// Source: Balances of enthalpy, water and dry air: ASHRAE Handbook Fundamentals 2017, chapter 1,
+///     adiabatic mixing of two moist airstreams.
+inline AdiabaticMixing adiabatic_mixing(float first_air_flow, float first_dry_bulb,
+        float first_moisture_content, float second_air_flow, float second_dry_bulb,
+        float second_moisture_content) {
+    AdiabaticMixing out;
+    quorvel_adiabatic_mixing(1, &first_air_flow, 0, &first_dry_bulb, 0, &first_moisture_content, 0,
+        &second_air_flow, 0, &second_dry_bulb, 0, &second_moisture_content, 0, &out.dry_bulb, 0,
+        &out.moisture_content, 0, &out.enthalpy, 0);
+    return out;
+}
+
+/// adiabatic_mixing for whole arrays.
+inline void adiabatic_mixing(const Input<float>& first_air_flow, const Input<float>& first_dry_bulb,
+        const Input<float>& first_moisture_content, const Input<float>& second_air_flow,
+        const Input<float>& second_dry_bulb, const Input<float>& second_moisture_content,
+        const AdiabaticMixingArrays& out) {
+    detail::call_arrays("adiabatic_mixing", quorvel_adiabatic_mixing,
+        detail::given("first_air_flow", first_air_flow),
+        detail::given("first_dry_bulb", first_dry_bulb),
+        detail::given("first_moisture_content", first_moisture_content),
+        detail::given("second_air_flow", second_air_flow),
+        detail::given("second_dry_bulb", second_dry_bulb),
+        detail::given("second_moisture_content", second_moisture_content),
+        detail::returned("dry_bulb", out.dry_bulb),
+        detail::returned("moisture_content", out.moisture_content),
+        detail::returned("enthalpy", out.enthalpy));
+}
+
 /// Moisture content of air from the reading of a wet-and-dry-bulb psychrometer.
 ///
 /// Formula: g = 0.62197 f pv / (p - f pv)
@@ -170,6 +697,151 @@ inline void moisture_content_from_psychrometer(const Input<float>& dry_bulb,
         detail::returned("result", result));
 }
 
+/// Moisture content of air with a vapour pressure.
+///
+/// Formula: g = 0.62197 f pv / (p - f pv)
+///
+/// @note Enhancement factor f of moisture_content_from_psychrometer, at the dry bulb.
+///
+/// @note Not limited: neither to saturation, nor to vapour pressures below the atmospheric.
+///
+/// @param dry_bulb  °C, -100 .. 200: dry-bulb temperature
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return kg/kg: moisture content, water vapour per dry air
+/// Source: Definition for a mixture of ideal gases, ASHRAE Handbook Fundamentals 2017, chapter 1,
+///     with the enhancement factor of moisture_content_from_psychrometer.
+inline float moisture_content(float dry_bulb, float vapour_pressure, float pressure) {
+    float out = detail::none<float>;
+    quorvel_moisture_content(1, &dry_bulb, 0, &vapour_pressure, 0, &pressure, 0, &out, 0);
+    return out;
+}
+
+/// moisture_content for whole arrays.
+inline void moisture_content(const Input<float>& dry_bulb, const Input<float>& vapour_pressure,
+        const Input<float>& pressure, std::span<float> result) {
+    detail::call_arrays("moisture_content", quorvel_moisture_content,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("vapour_pressure", vapour_pressure),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Vapour pressure of air with a moisture content, the inverse of moisture_content.
+///
+/// Formula: pv = p g / (f (0.62197 + g))
+///
+/// @note Not limited to saturation.
+///
+/// @param dry_bulb  °C, -100 .. 200: dry-bulb temperature
+/// @param moisture_content  kg/kg, 0 .. 0.1: moisture content, water vapour per dry air
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return Pa: vapour pressure
+/// Source: As moisture_content.
+inline float vapour_pressure_from_moisture_content(float dry_bulb, float moisture_content,
+        float pressure) {
+    float out = detail::none<float>;
+    quorvel_vapour_pressure_from_moisture_content(1, &dry_bulb, 0, &moisture_content, 0, &pressure,
+        0, &out, 0);
+    return out;
+}
+
+/// vapour_pressure_from_moisture_content for whole arrays.
+inline void vapour_pressure_from_moisture_content(const Input<float>& dry_bulb,
+        const Input<float>& moisture_content, const Input<float>& pressure,
+        std::span<float> result) {
+    detail::call_arrays("vapour_pressure_from_moisture_content",
+        quorvel_vapour_pressure_from_moisture_content,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("moisture_content", moisture_content),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Moisture content of air with a percentage saturation, the inverse of percentage_saturation.
+///
+/// Formula: g = percentage / 100 gs(t, p)
+///
+/// @note Not limited. From boiling on, where the saturation pressure is above the atmospheric, it
+/// means nothing.
+///
+/// @param dry_bulb  °C, -100 .. 200: dry-bulb temperature
+/// @param percentage_saturation  %, 0 .. 100: percentage saturation
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return kg/kg: moisture content, water vapour per dry air
+/// Source: Definition, with the saturation moisture content of moisture_content_from_psychrometer.
+inline float moisture_content_from_percentage_saturation(float dry_bulb,
+        float percentage_saturation, float pressure) {
+    float out = detail::none<float>;
+    quorvel_moisture_content_from_percentage_saturation(1, &dry_bulb, 0, &percentage_saturation, 0,
+        &pressure, 0, &out, 0);
+    return out;
+}
+
+/// moisture_content_from_percentage_saturation for whole arrays.
+inline void moisture_content_from_percentage_saturation(const Input<float>& dry_bulb,
+        const Input<float>& percentage_saturation, const Input<float>& pressure,
+        std::span<float> result) {
+    detail::call_arrays("moisture_content_from_percentage_saturation",
+        quorvel_moisture_content_from_percentage_saturation,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("percentage_saturation", percentage_saturation),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Moisture content of air with a specific enthalpy, the inverse of specific_enthalpy.
+///
+/// Formula: g = (h - ha(t)) / hv(t)
+///
+/// @note Not limited: negative where dry air alone has more, and neither to saturation.
+///
+/// @param dry_bulb  °C, -50 .. 100: dry-bulb temperature
+/// @param enthalpy  kJ/kg, -10 .. 460: specific enthalpy, by mass of dry air
+/// @return kg/kg: moisture content, water vapour per dry air
+/// Source: As specific_enthalpy.
+inline float moisture_content_from_enthalpy(float dry_bulb, float enthalpy) {
+    float out = detail::none<float>;
+    quorvel_moisture_content_from_enthalpy(1, &dry_bulb, 0, &enthalpy, 0, &out, 0);
+    return out;
+}
+
+/// moisture_content_from_enthalpy for whole arrays.
+inline void moisture_content_from_enthalpy(const Input<float>& dry_bulb,
+        const Input<float>& enthalpy, std::span<float> result) {
+    detail::call_arrays("moisture_content_from_enthalpy", quorvel_moisture_content_from_enthalpy,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("enthalpy", enthalpy),
+        detail::returned("result", result));
+}
+
+/// Density of moist air.
+///
+/// Formula: (1 + g) / v, by specific_volume
+///
+/// @note A moisture content above saturation counts as saturation.
+///
+/// @param dry_bulb  °C, -100 .. 200: dry-bulb temperature
+/// @param moisture_content  kg/kg, 0 .. 0.1: moisture content, water vapour per dry air
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @return kg/m³: density of the moist air
+/// Source: Definition: ASHRAE Handbook Fundamentals 2017, chapter 1.
+inline float moist_air_density(float dry_bulb, float moisture_content, float pressure) {
+    float out = detail::none<float>;
+    quorvel_moist_air_density(1, &dry_bulb, 0, &moisture_content, 0, &pressure, 0, &out, 0);
+    return out;
+}
+
+/// moist_air_density for whole arrays.
+inline void moist_air_density(const Input<float>& dry_bulb, const Input<float>& moisture_content,
+        const Input<float>& pressure, std::span<float> result) {
+    detail::call_arrays("moist_air_density", quorvel_moist_air_density,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("moisture_content", moisture_content),
+        detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
 /// Percentage saturation: moisture content by that of saturated air at the same temperature and
 /// pressure.
 ///
@@ -198,6 +870,35 @@ inline void percentage_saturation(const Input<float>& dry_bulb,
         detail::given("dry_bulb", dry_bulb),
         detail::given("moisture_content", moisture_content),
         detail::given("pressure", pressure),
+        detail::returned("result", result));
+}
+
+/// Specific enthalpy of moist air.
+///
+/// Formula: h = ha(t) + g hv(t), by dry_air_enthalpy and water_vapour_enthalpy
+///
+/// @note Per kilogram of dry air, from dry air and liquid water at 0 °C.
+///
+/// @note All moisture counts as vapour: the moisture content is not limited to that of saturated
+/// air.
+///
+/// @param dry_bulb  °C, -50 .. 100: dry-bulb temperature
+/// @param moisture_content  kg/kg, 0 .. 0.1: moisture content, water vapour per dry air
+/// @return kJ/kg: specific enthalpy, by mass of dry air
+/// Source: Sum over dry air and vapour, as for mixtures of ideal gases: ASHRAE Handbook
+///     Fundamentals 2017, chapter 1.
+inline float specific_enthalpy(float dry_bulb, float moisture_content) {
+    float out = detail::none<float>;
+    quorvel_specific_enthalpy(1, &dry_bulb, 0, &moisture_content, 0, &out, 0);
+    return out;
+}
+
+/// specific_enthalpy for whole arrays.
+inline void specific_enthalpy(const Input<float>& dry_bulb, const Input<float>& moisture_content,
+        std::span<float> result) {
+    detail::call_arrays("specific_enthalpy", quorvel_specific_enthalpy,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("moisture_content", moisture_content),
         detail::returned("result", result));
 }
 
@@ -489,6 +1190,37 @@ inline void saturation_pressure(const Input<float>& temperature, std::span<float
         detail::returned("result", result));
 }
 
+/// Dew point of air with a vapour pressure, the inverse of the saturation pressure; below 0 °C the
+/// frost point.
+///
+/// Formula: ps(dew_point) = pv
+///
+/// @note Solved in double precision; saturation_pressure, in single precision, returns the vapour
+/// pressure to 0.002 %, and dew_point the temperature that was given to it to 0.001 K up to 100 °C.
+///
+/// @note The vapour pressures between ice and water at 0 °C, 610.30 to 610.34 Pa, give 0 °C to
+/// 0.0001 K.
+///
+/// @note Found from -200 to 400 °C. A pressure of 0 or less, or beyond those of this range, gives
+/// not a number.
+///
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @return °C: dew-point temperature, of frost below 0 °C
+/// Source: Saturation pressure of saturation_pressure (National Engineering Laboratory, Steam
+///     Tables 1964), solved by Newton's method.
+inline float dew_point(float vapour_pressure) {
+    float out = detail::none<float>;
+    quorvel_dew_point(1, &vapour_pressure, 0, &out, 0);
+    return out;
+}
+
+/// dew_point for whole arrays.
+inline void dew_point(const Input<float>& vapour_pressure, std::span<float> result) {
+    detail::call_arrays("dew_point", quorvel_dew_point,
+        detail::given("vapour_pressure", vapour_pressure),
+        detail::returned("result", result));
+}
+
 /// Vapour pressure of air at a dry-bulb temperature and relative humidity.
 ///
 /// Formula: pv = rh / 100 ps(t)
@@ -510,6 +1242,32 @@ inline void vapour_pressure(const Input<float>& dry_bulb, const Input<float>& re
     detail::call_arrays("vapour_pressure", quorvel_vapour_pressure,
         detail::given("dry_bulb", dry_bulb),
         detail::given("relative_humidity", relative_humidity),
+        detail::returned("result", result));
+}
+
+/// Relative humidity of air with a vapour pressure.
+///
+/// Formula: rh = 100 pv / ps(t)
+///
+/// @note Not limited: supersaturated air gives more than 100.
+///
+/// @param dry_bulb  °C, -100 .. 200: dry-bulb temperature
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @return %: relative humidity
+/// Source: Definition of relative humidity, the ratio of vapour pressures, with
+///     saturation_pressure.
+inline float relative_humidity(float dry_bulb, float vapour_pressure) {
+    float out = detail::none<float>;
+    quorvel_relative_humidity(1, &dry_bulb, 0, &vapour_pressure, 0, &out, 0);
+    return out;
+}
+
+/// relative_humidity for whole arrays.
+inline void relative_humidity(const Input<float>& dry_bulb, const Input<float>& vapour_pressure,
+        std::span<float> result) {
+    detail::call_arrays("relative_humidity", quorvel_relative_humidity,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("vapour_pressure", vapour_pressure),
         detail::returned("result", result));
 }
 
@@ -692,6 +1450,46 @@ inline void wet_bulb_from_moisture_content(const Input<float>& dry_bulb,
     detail::call_arrays("wet_bulb_from_moisture_content", quorvel_wet_bulb_from_moisture_content,
         detail::given("dry_bulb", dry_bulb),
         detail::given("moisture_content", moisture_content),
+        detail::given("pressure", pressure),
+        detail::given("psychrometer", psychrometer),
+        detail::returned("result", result));
+}
+
+/// Wet-bulb temperature that a psychrometer reads in air with a vapour pressure.
+///
+/// Formula: ps(twb) - A p (t - twb) = pv
+///
+/// @note The exact solution, in double precision; vapour_pressure_from_psychrometer gives the
+/// vapour pressure back to 0.002 % of saturation.
+///
+/// @note About 0 °C an iced wet bulb and one that is not can belong to the same air: that which is
+/// not iced is found.
+///
+/// @note At saturation or above the result is the dry bulb. A vapour pressure too far below 0 gives
+/// not a number.
+///
+/// @note A psychrometer type below 1 counts as 1, above 2 as 2.
+///
+/// @param dry_bulb  °C, -100 .. 200: dry-bulb temperature
+/// @param vapour_pressure  Pa, from 0: vapour pressure
+/// @param pressure  Pa, 50000 .. 110000: atmospheric pressure
+/// @param psychrometer  psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated)
+/// @return °C: wet-bulb temperature
+/// Source: Psychrometer equation of vapour_pressure_from_psychrometer, solved by Newton's method.
+inline float wet_bulb(float dry_bulb, float vapour_pressure, float pressure,
+        std::int32_t psychrometer) {
+    float out = detail::none<float>;
+    quorvel_wet_bulb(1, &dry_bulb, 0, &vapour_pressure, 0, &pressure, 0, &psychrometer, 0, &out, 0);
+    return out;
+}
+
+/// wet_bulb for whole arrays.
+inline void wet_bulb(const Input<float>& dry_bulb, const Input<float>& vapour_pressure,
+        const Input<float>& pressure, const Input<std::int32_t>& psychrometer,
+        std::span<float> result) {
+    detail::call_arrays("wet_bulb", quorvel_wet_bulb,
+        detail::given("dry_bulb", dry_bulb),
+        detail::given("vapour_pressure", vapour_pressure),
         detail::given("pressure", pressure),
         detail::given("psychrometer", psychrometer),
         detail::returned("result", result));

@@ -50,9 +50,9 @@ std::int32_t call(std::size_t number, std::size_t count, void* const* at,
 }  // namespace
 
 const quorvel_routine* quorvel_find_routine(const char* name) {
+    const auto is = [&](const char* known) { return known && std::strcmp(known, name) == 0; };
     for (const quorvel_routine& routine : routines)
-        if (std::strcmp(routine.name, name) == 0 || std::strcmp(routine.exported_name, name) == 0)
-            return &routine;
+        if (is(routine.name) || is(routine.exported_name)) return &routine;
     return nullptr;
 }
 

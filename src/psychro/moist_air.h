@@ -35,6 +35,9 @@ class MoistAir {
         return molar_mass_ratio * f * pv / (p_ - f * pv);
     }
 
+    // The inverse.
+    R vapour_pressure(R f, R g) const noexcept { return p_ * g / (f * (molar_mass_ratio + g)); }
+
     R saturation_content(R t) const noexcept {
         return moisture_content(enhancement(t), saturation_pressure(t));
     }
@@ -58,6 +61,23 @@ R moisture_content_from_psychrometer(R t, R twb, R p, IntegerOf<R> type) noexcep
 }
 
 template <class R>
+R moisture_content(R t, R pv, R p) noexcept {
+    const MoistAir<R> air(p);
+    return air.moisture_content(air.enhancement(t), pv);
+}
+
+template <class R>
+R moisture_content_from_percentage_saturation(R t, R saturation, R p) noexcept {
+    return saturation * MoistAir<R>(p).saturation_content(t) / 100.0f;
+}
+
+template <class R>
+R vapour_pressure_from_moisture_content(R t, R g, R p) noexcept {
+    const MoistAir<R> air(p);
+    return air.vapour_pressure(air.enhancement(t), g);
+}
+
+template <class R>
 R percentage_saturation(R t, R g, R p) noexcept {
     return g * 100.0f / MoistAir<R>(p).saturation_content(t);
 }
@@ -65,6 +85,11 @@ R percentage_saturation(R t, R g, R p) noexcept {
 template <class R>
 R specific_enthalpy(R t, R g) noexcept {
     return dry_air_enthalpy(t) + g * water_vapour_enthalpy(t);
+}
+
+template <class R>
+R moisture_content_from_enthalpy(R t, R h) noexcept {
+    return (h - dry_air_enthalpy(t)) / water_vapour_enthalpy(t);
 }
 
 template <class R>
@@ -97,6 +122,13 @@ R specific_volume(R t, R g, R p) noexcept {
     const R B = (((0.0004353f - 2.1418e-6f * t) * t - 0.082785f) * t + 4.542f) / 10000.0f;
     const R C = (1.45f - 0.0097f * t + 0.32f * (hundreds * hundreds)) / 1000.0f;
     return ideal - xv * xv * vapour_virial(t) - xa * (B * xa + 2.0f * C * xv);
+}
+
+// Of the mixture, kg/m³; what is above saturation neither takes room nor weighs.
+template <class R>
+R moist_air_density(R t, R g, R p) noexcept {
+    const R content = lesser(g, MoistAir<R>(p).saturation_content(t));
+    return (1.0f + content) / specific_volume(t, g, p);
 }
 
 // Temperature at which saturated air has the specific enthalpy h, by a search that climbs by 10 K

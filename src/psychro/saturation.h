@@ -2,25 +2,54 @@
 #pragma once
 
 #include "base/numeric.h"
-#include "math/math.h"
+#include "base/root.h"
+#include "math/with_slope.h"
 
 namespace quorvel::psychro {
 
-// Over water from 0 °C up, over ice below. One last-bit difference in log10 becomes more than a
-// hundred in the result, so every intermediate stays single and in the written order.
+// The common logarithm of the saturation pressure, over water from 0 °C up, over ice below. One
+// last-bit difference in log10 becomes more than a hundred in the pressure, so every intermediate
+// stays single, of a single number, and in the written order.
 template <class R>
-inline R saturation_pressure(R t) noexcept {
+inline R saturation_exponent(R t) noexcept {
     const R T = t + zero_celsius;
-    return math::exp10(either(
+    return either(
         t >= 0.0f,
         [&] { return 0.0024804f * T + 33.59051f - 3142.31f / T - 8.2f * math::log10(T); },
-        [&] { return 12.538099f - 2663.91f / T; }));
+        [&] { return 12.538099f - 2663.91f / T; });
+}
+
+template <class R>
+inline R saturation_pressure(R t) noexcept {
+    return math::exp10(saturation_exponent(t));
+}
+
+// A number type for searches, in which what is solved for has the slope 1.
+template <class R>
+using Unknown = WithSlope<DoubleOf<R>>;
+
+// Where vapour pressure pv saturates air. In double precision, free of the steps that the
+// saturation pressure makes in single.
+template <class R>
+R dew_point(R pv) noexcept {
+    using D = DoubleOf<R>;
+    const Unknown<R> exponent = math::log10(Unknown<R>(to_double(pv)));
+    const auto excess = [&](Unknown<R> t) { return saturation_exponent(t) - exponent; };
+    const D over_ice =
+        D(2664.0) / (D(12.54) - exponent.value) - D(273.15);  // near enough for water
+    return to_real(root(D(-200.0), D(400.0), over_ice, excess));
 }
 
 // At dry-bulb t and relative humidity rh, %, which is limited to 0..100.
 template <class R>
 R vapour_pressure(R t, R rh) noexcept {
     return saturation_pressure(t) * limited(rh, 0.0f, 100.0f) / 100.0f;
+}
+
+// In %, of air with vapour pressure pv.
+template <class R>
+R relative_humidity(R t, R pv) noexcept {
+    return pv * 100.0f / saturation_pressure(t);
 }
 
 // Type of psychrometer

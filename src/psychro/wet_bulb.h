@@ -52,7 +52,7 @@ class MoistAirAt {
     // not between dry and saturated, or at pressures whose products overflow.
     WetBulbForecast<R> forecast(R target) const noexcept {
         const R p = air_.pressure();
-        const R pv = p * target / (enhancement_ * (molar_mass_ratio + target));
+        const R pv = air_.vapour_pressure(enhancement_, target);
         WetBulbForecast<R> forecast(t_, saturation_pressure_, pv, slope_);
         const R saturated = saturation_content();
         const MaskOf<R> holds = is_ordinary(t_) & (p > 0.0f) & (p < 1e9f) & (saturated < 5.0f) &
@@ -257,6 +257,26 @@ R wet_bulb_from_moisture_content(R t, R g, R p, IntegerOf<R> type) noexcept {
         }
         return select(searched, twb, without_search);
     }
+}
+
+// Of air with vapour pressure pv, the exact solution, in double precision. Where a bulb with liquid
+// water and an iced one both belong to the air it is the liquid one.
+template <class R>
+R wet_bulb(R t, R pv, R p, IntegerOf<R> type) noexcept {
+    using D = DoubleOf<R>;
+    const PsychrometerSlope<R> slope = psychrometer_slope<R>(p, type);
+    const auto excess = [&](Unknown<R> twb, R Ap) {
+        const Unknown<R> depression = Unknown<R>(to_double(t)) - twb;
+        return saturation_pressure(twb) - Unknown<R>(to_double(Ap)) * depression -
+               Unknown<R>(to_double(pv));
+    };
+    const MaskOf<R> saturated = excess(Unknown<R>(to_double(t)), slope.wet).value <= D(0.0);
+    const MaskOf<R> liquid = excess(Unknown<R>(D(0.0)), slope.wet).value <= D(0.0);
+    const R Ap = select(liquid, slope.wet, slope.iced);
+    const D low = select(liquid, D(0.0), D(-200.0));
+    const D high = to_double(select(liquid, t, lesser(t, R(0.0f))));
+    const D found = root(low, high, high, [&](Unknown<R> twb) { return excess(twb, Ap); });
+    return select(saturated, t, to_real(found));
 }
 
 }  // namespace quorvel::psychro

@@ -55,6 +55,168 @@ ROUTINES = {
          A('enthalpy', 'float32', 'kJ/kg', 'latent heat', (-10, 460), '', ()),
         ),
     ),
+    "dry_bulb_from_vapour_pressure_and_relative_humidity": R(
+        "psychro", '', '',
+        (
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+         A('relative_humidity', 'float32', '%', 'relative humidity', (0, 100), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_vapour_pressure_and_percentage_saturation": R(
+        "psychro", '', '',
+        (
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+         A('percentage_saturation', 'float32', '%', 'percentage saturation', (0, 100), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_moisture_content_and_relative_humidity": R(
+        "psychro", '', '',
+        (
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+         A('relative_humidity', 'float32', '%', 'relative humidity', (0, 100), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_moisture_content_and_percentage_saturation": R(
+        "psychro", '', '',
+        (
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+         A('percentage_saturation', 'float32', '%', 'percentage saturation', (0, 100), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_enthalpy_and_moisture_content": R(
+        "psychro", '', '',
+        (
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy, by mass of dry air', (-10, 460), '', ()),
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_enthalpy_and_vapour_pressure": R(
+        "psychro", '', '',
+        (
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy, by mass of dry air', (-10, 460), '', ()),
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_enthalpy_and_relative_humidity": R(
+        "psychro", '', '',
+        (
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy, by mass of dry air', (-10, 460), '', ()),
+         A('relative_humidity', 'float32', '%', 'relative humidity', (0, 100), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_enthalpy_and_percentage_saturation": R(
+        "psychro", '', '',
+        (
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy, by mass of dry air', (-10, 460), '', ()),
+         A('percentage_saturation', 'float32', '%', 'percentage saturation', (0, 100), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_wet_bulb_and_vapour_pressure": R(
+        "psychro", '', '',
+        (
+         A('wet_bulb', 'float32', '°C', 'wet-bulb temperature', (-100, 200), '', ()),
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+         A('psychrometer', 'int32', '', 'psychrometer type', (1, 2), 'Psychrometer', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_wet_bulb_and_moisture_content": R(
+        "psychro", '', '',
+        (
+         A('wet_bulb', 'float32', '°C', 'wet-bulb temperature', (-100, 200), '', ()),
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+         A('psychrometer', 'int32', '', 'psychrometer type', (1, 2), 'Psychrometer', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_wet_bulb_and_relative_humidity": R(
+        "psychro", '', '',
+        (
+         A('wet_bulb', 'float32', '°C', 'wet-bulb temperature', (-100, 200), '', ()),
+         A('relative_humidity', 'float32', '%', 'relative humidity', (0, 100), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+         A('psychrometer', 'int32', '', 'psychrometer type', (1, 2), 'Psychrometer', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_wet_bulb_and_percentage_saturation": R(
+        "psychro", '', '',
+        (
+         A('wet_bulb', 'float32', '°C', 'wet-bulb temperature', (-100, 200), '', ()),
+         A('percentage_saturation', 'float32', '%', 'percentage saturation', (0, 100), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+         A('psychrometer', 'int32', '', 'psychrometer type', (1, 2), 'Psychrometer', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "dry_bulb_from_wet_bulb_and_enthalpy": R(
+        "psychro", '', '',
+        (
+         A('wet_bulb', 'float32', '°C', 'wet-bulb temperature', (-100, 200), '', ()),
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy, by mass of dry air', (-10, 460), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+         A('psychrometer', 'int32', '', 'psychrometer type', (1, 2), 'Psychrometer', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "adiabatic_mixing": R(
+        "psychro", '', '',
+        (
+         A('first_air_flow', 'float32', 'kg/s', 'mass flow of dry air in the first stream, or its share in any unit', (0, INF), '', ()),
+         A('first_dry_bulb', 'float32', '°C', 'dry-bulb temperature of the first stream', (-100, 200), '', ()),
+         A('first_moisture_content', 'float32', 'kg/kg', 'moisture content of the first stream', (0, 0.1), '', ()),
+         A('second_air_flow', 'float32', 'kg/s', 'mass flow of dry air in the second stream, in the same unit', (0, INF), '', ()),
+         A('second_dry_bulb', 'float32', '°C', 'dry-bulb temperature of the second stream', (-100, 200), '', ()),
+         A('second_moisture_content', 'float32', 'kg/kg', 'moisture content of the second stream', (0, 0.1), '', ()),
+        ),
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature of the mixture', (-100, 200), '', ()),
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content of the mixture', (0, 0.1), '', ()),
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy of the mixture, by mass of dry air', (-10, 460), '', ()),
+        ),
+    ),
     "moisture_content_from_psychrometer": R(
         "psychro", 'PSGS', '',
         (
@@ -67,6 +229,60 @@ ROUTINES = {
          A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
         ),
     ),
+    "moisture_content": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+        ),
+    ),
+    "vapour_pressure_from_moisture_content": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+        ),
+    ),
+    "moisture_content_from_percentage_saturation": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+         A('percentage_saturation', 'float32', '%', 'percentage saturation', (0, 100), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+        ),
+    ),
+    "moisture_content_from_enthalpy": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-50, 100), '', ()),
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy, by mass of dry air', (-10, 460), '', ()),
+        ),
+        (
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+        ),
+    ),
+    "moist_air_density": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+        ),
+        (
+         A('moist_air_density', 'float32', 'kg/m³', 'density of the moist air', (), '', ()),
+        ),
+    ),
     "percentage_saturation": R(
         "psychro", 'PSPCST', '',
         (
@@ -76,6 +292,16 @@ ROUTINES = {
         ),
         (
          A('percentage_saturation', 'float32', '%', 'percentage saturation', (0, 100), '', ()),
+        ),
+    ),
+    "specific_enthalpy": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-50, 100), '', ()),
+         A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+        ),
+        (
+         A('enthalpy', 'float32', 'kJ/kg', 'specific enthalpy, by mass of dry air', (-10, 460), '', ()),
         ),
     ),
     "specific_enthalpy_from_psychrometer": R(
@@ -160,6 +386,15 @@ ROUTINES = {
          A('saturation_pressure', 'float32', 'Pa', 'saturation vapour pressure', (), '', ()),
         ),
     ),
+    "dew_point": R(
+        "psychro", '', '',
+        (
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+        ),
+        (
+         A('dew_point', 'float32', '°C', 'dew-point temperature, of frost below 0 °C', (-100, 200), '', ()),
+        ),
+    ),
     "vapour_pressure": R(
         "psychro", 'PSVP', '',
         (
@@ -168,6 +403,16 @@ ROUTINES = {
         ),
         (
          A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+        ),
+    ),
+    "relative_humidity": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
+        ),
+        (
+         A('relative_humidity', 'float32', '%', 'relative humidity', (0, 100), '', ()),
         ),
     ),
     "vapour_pressure_from_psychrometer": R(
@@ -221,6 +466,18 @@ ROUTINES = {
         (
          A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
          A('moisture_content', 'float32', 'kg/kg', 'moisture content, water vapour per dry air', (0, 0.1), '', ()),
+         A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
+         A('psychrometer', 'int32', '', 'psychrometer type', (1, 2), 'Psychrometer', ()),
+        ),
+        (
+         A('wet_bulb', 'float32', '°C', 'wet-bulb temperature', (-100, 200), '', ()),
+        ),
+    ),
+    "wet_bulb": R(
+        "psychro", '', '',
+        (
+         A('dry_bulb', 'float32', '°C', 'dry-bulb temperature', (-100, 200), '', ()),
+         A('vapour_pressure', 'float32', 'Pa', 'vapour pressure', (0, INF), '', ()),
          A('pressure', 'float32', 'Pa', 'atmospheric pressure', (50000, 110000), '', ()),
          A('psychrometer', 'int32', '', 'psychrometer type', (1, 2), 'Psychrometer', ()),
         ),

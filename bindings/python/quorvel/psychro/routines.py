@@ -9,6 +9,7 @@ from ..selectors import Psychrometer
 
 __all__ = [
     "Psychrometer",
+    "AdiabaticMixing",
     "PoolEvaporation",
     "PoolEvaporationFromWetBulb",
     "dry_air_enthalpy",
@@ -16,20 +17,43 @@ __all__ = [
     "dry_air_specific_heat",
     "water_vapour_specific_heat",
     "latent_heat",
+    "dry_bulb_from_vapour_pressure_and_relative_humidity",
+    "dry_bulb_from_vapour_pressure_and_percentage_saturation",
+    "dry_bulb_from_moisture_content_and_relative_humidity",
+    "dry_bulb_from_moisture_content_and_percentage_saturation",
+    "dry_bulb_from_enthalpy_and_moisture_content",
+    "dry_bulb_from_enthalpy_and_vapour_pressure",
+    "dry_bulb_from_enthalpy_and_relative_humidity",
+    "dry_bulb_from_enthalpy_and_percentage_saturation",
+    "dry_bulb_from_wet_bulb_and_vapour_pressure",
+    "dry_bulb_from_wet_bulb_and_moisture_content",
+    "dry_bulb_from_wet_bulb_and_relative_humidity",
+    "dry_bulb_from_wet_bulb_and_percentage_saturation",
+    "dry_bulb_from_wet_bulb_and_enthalpy",
+    "adiabatic_mixing",
     "moisture_content_from_psychrometer",
+    "moisture_content",
+    "vapour_pressure_from_moisture_content",
+    "moisture_content_from_percentage_saturation",
+    "moisture_content_from_enthalpy",
+    "moist_air_density",
     "percentage_saturation",
+    "specific_enthalpy",
     "specific_enthalpy_from_psychrometer",
     "specific_volume",
     "saturation_temperature_from_enthalpy",
     "pool_evaporation",
     "pool_evaporation_from_wet_bulb",
     "saturation_pressure",
+    "dew_point",
     "vapour_pressure",
+    "relative_humidity",
     "vapour_pressure_from_psychrometer",
     "weighted_temperature",
     "psychrometer_wet_bulb",
     "wet_bulb_from_percentage_saturation",
     "wet_bulb_from_moisture_content",
+    "wet_bulb",
 ]
 
 _dry_air_enthalpy = functions["dry_air_enthalpy"]
@@ -37,21 +61,52 @@ _water_vapour_enthalpy = functions["water_vapour_enthalpy"]
 _dry_air_specific_heat = functions["dry_air_specific_heat"]
 _water_vapour_specific_heat = functions["water_vapour_specific_heat"]
 _latent_heat = functions["latent_heat"]
+_dry_bulb_from_vapour_pressure_and_relative_humidity = functions["dry_bulb_from_vapour_pressure_and_relative_humidity"]
+_dry_bulb_from_vapour_pressure_and_percentage_saturation = functions["dry_bulb_from_vapour_pressure_and_percentage_saturation"]
+_dry_bulb_from_moisture_content_and_relative_humidity = functions["dry_bulb_from_moisture_content_and_relative_humidity"]
+_dry_bulb_from_moisture_content_and_percentage_saturation = functions["dry_bulb_from_moisture_content_and_percentage_saturation"]
+_dry_bulb_from_enthalpy_and_moisture_content = functions["dry_bulb_from_enthalpy_and_moisture_content"]
+_dry_bulb_from_enthalpy_and_vapour_pressure = functions["dry_bulb_from_enthalpy_and_vapour_pressure"]
+_dry_bulb_from_enthalpy_and_relative_humidity = functions["dry_bulb_from_enthalpy_and_relative_humidity"]
+_dry_bulb_from_enthalpy_and_percentage_saturation = functions["dry_bulb_from_enthalpy_and_percentage_saturation"]
+_dry_bulb_from_wet_bulb_and_vapour_pressure = functions["dry_bulb_from_wet_bulb_and_vapour_pressure"]
+_dry_bulb_from_wet_bulb_and_moisture_content = functions["dry_bulb_from_wet_bulb_and_moisture_content"]
+_dry_bulb_from_wet_bulb_and_relative_humidity = functions["dry_bulb_from_wet_bulb_and_relative_humidity"]
+_dry_bulb_from_wet_bulb_and_percentage_saturation = functions["dry_bulb_from_wet_bulb_and_percentage_saturation"]
+_dry_bulb_from_wet_bulb_and_enthalpy = functions["dry_bulb_from_wet_bulb_and_enthalpy"]
+_adiabatic_mixing = functions["adiabatic_mixing"]
 _moisture_content_from_psychrometer = functions["moisture_content_from_psychrometer"]
+_moisture_content = functions["moisture_content"]
+_vapour_pressure_from_moisture_content = functions["vapour_pressure_from_moisture_content"]
+_moisture_content_from_percentage_saturation = functions["moisture_content_from_percentage_saturation"]
+_moisture_content_from_enthalpy = functions["moisture_content_from_enthalpy"]
+_moist_air_density = functions["moist_air_density"]
 _percentage_saturation = functions["percentage_saturation"]
+_specific_enthalpy = functions["specific_enthalpy"]
 _specific_enthalpy_from_psychrometer = functions["specific_enthalpy_from_psychrometer"]
 _specific_volume = functions["specific_volume"]
 _saturation_temperature_from_enthalpy = functions["saturation_temperature_from_enthalpy"]
 _pool_evaporation = functions["pool_evaporation"]
 _pool_evaporation_from_wet_bulb = functions["pool_evaporation_from_wet_bulb"]
 _saturation_pressure = functions["saturation_pressure"]
+_dew_point = functions["dew_point"]
 _vapour_pressure = functions["vapour_pressure"]
+_relative_humidity = functions["relative_humidity"]
 _vapour_pressure_from_psychrometer = functions["vapour_pressure_from_psychrometer"]
 _weighted_temperature = functions["weighted_temperature"]
 _psychrometer_wet_bulb = functions["psychrometer_wet_bulb"]
 _wet_bulb_from_percentage_saturation = functions["wet_bulb_from_percentage_saturation"]
 _wet_bulb_from_moisture_content = functions["wet_bulb_from_moisture_content"]
+_wet_bulb = functions["wet_bulb"]
 
+
+AdiabaticMixing = namedtuple("AdiabaticMixing", "dry_bulb moisture_content enthalpy")
+AdiabaticMixing.__doc__ = """What adiabatic_mixing returns.
+
+    dry_bulb: dry-bulb temperature of the mixture [°C]
+    moisture_content: moisture content of the mixture [kg/kg]
+    enthalpy: specific enthalpy of the mixture, by mass of dry air [kJ/kg]
+"""
 
 PoolEvaporation = namedtuple("PoolEvaporation", "evaporation_rate latent_load convective_load reference_load")
 PoolEvaporation.__doc__ = """What pool_evaporation returns.
@@ -280,6 +335,719 @@ def latent_heat(temperature, *, out=None, where=True):
     return _latent_heat(temperature, out, where)
 
 
+def dry_bulb_from_vapour_pressure_and_relative_humidity(vapour_pressure, relative_humidity, *, out=None, where=True):
+    """Dry bulb of air with a vapour pressure and relative humidity.
+
+    Parameters
+    ----------
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    relative_humidity : array_like of float
+        Relative humidity [%]; valid 0 to 100.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: rh / 100 ps(t) = pv
+
+    Found from -200 to 400 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    Relative humidity is limited to 0 to 100 %, not rejected; 0 % gives not a number.
+
+    References
+    ----------
+    The dew point of saturated air of that temperature, by dew_point.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dry_bulb_from_vapour_pressure_and_relative_humidity
+    >>> result = dry_bulb_from_vapour_pressure_and_relative_humidity(vapour_pressure=1584.95,
+    ...     relative_humidity=50)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv), h = 1.006 t +
+    g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_vapour_pressure_and_relative_humidity(vapour_pressure, relative_humidity, out, where)
+
+
+def dry_bulb_from_vapour_pressure_and_percentage_saturation(vapour_pressure, percentage_saturation, pressure, *, out=None, where=True):
+    """Dry bulb of air with a vapour pressure and percentage saturation.
+
+    Parameters
+    ----------
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    percentage_saturation : array_like of float
+        Percentage saturation [%]; valid 0 to 100.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: percentage / 100 gs(t, p) = moisture_content(t, pv, p)
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    Up to where water boils at the atmospheric pressure. The percentage is not limited.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dry_bulb_from_vapour_pressure_and_percentage_saturation
+    >>> result = dry_bulb_from_vapour_pressure_and_percentage_saturation(vapour_pressure=1584.95,
+    ...     percentage_saturation=49.22, pressure=101325)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv), h = 1.006 t +
+    g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_vapour_pressure_and_percentage_saturation(vapour_pressure, percentage_saturation, pressure, out, where)
+
+
+def dry_bulb_from_moisture_content_and_relative_humidity(moisture_content, relative_humidity, pressure, *, out=None, where=True):
+    """Dry bulb of air with a moisture content and relative humidity.
+
+    Parameters
+    ----------
+    moisture_content : array_like of float
+        Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
+    relative_humidity : array_like of float
+        Relative humidity [%]; valid 0 to 100.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: rh / 100 ps(t) = vapour_pressure_from_moisture_content(t, g, p)
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    Relative humidity is limited to 0 to 100 %, not rejected; 0 % gives not a number.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dry_bulb_from_moisture_content_and_relative_humidity
+    >>> result = dry_bulb_from_moisture_content_and_relative_humidity(moisture_content=0.009929,
+    ...     relative_humidity=50, pressure=101325)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv), h = 1.006 t +
+    g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_moisture_content_and_relative_humidity(moisture_content, relative_humidity, pressure, out, where)
+
+
+def dry_bulb_from_moisture_content_and_percentage_saturation(moisture_content, percentage_saturation, pressure, *, out=None, where=True):
+    """Dry bulb of air with a moisture content and percentage saturation.
+
+    Parameters
+    ----------
+    moisture_content : array_like of float
+        Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
+    percentage_saturation : array_like of float
+        Percentage saturation [%]; valid 0 to 100.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: percentage / 100 gs(t, p) = g
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    Up to where water boils at the atmospheric pressure. The percentage is not limited.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dry_bulb_from_moisture_content_and_percentage_saturation
+    >>> result = dry_bulb_from_moisture_content_and_percentage_saturation(moisture_content=0.009929,
+    ...     percentage_saturation=49.22, pressure=101325)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv), h = 1.006 t +
+    g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_moisture_content_and_percentage_saturation(moisture_content, percentage_saturation, pressure, out, where)
+
+
+def dry_bulb_from_enthalpy_and_moisture_content(enthalpy, moisture_content, *, out=None, where=True):
+    """Dry bulb of air with a specific enthalpy and moisture content.
+
+    Parameters
+    ----------
+    enthalpy : array_like of float
+        Specific enthalpy, by mass of dry air [kJ/kg]; valid -10 to 460.
+    moisture_content : array_like of float
+        Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: ha(t) + g hv(t) = h
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    The enthalpies hold from -50 to 100 °C.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dry_bulb_from_enthalpy_and_moisture_content
+    >>> result = dry_bulb_from_enthalpy_and_moisture_content(enthalpy=50.44,
+    ...     moisture_content=0.009929)
+    >>> bool(abs(result - 25) <= 0.1)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv), h = 1.006 t +
+    g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_enthalpy_and_moisture_content(enthalpy, moisture_content, out, where)
+
+
+def dry_bulb_from_enthalpy_and_vapour_pressure(enthalpy, vapour_pressure, pressure, *, out=None, where=True):
+    """Dry bulb of air with a specific enthalpy and vapour pressure.
+
+    Parameters
+    ----------
+    enthalpy : array_like of float
+        Specific enthalpy, by mass of dry air [kJ/kg]; valid -10 to 460.
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: moisture_content_from_enthalpy(t, h) = moisture_content(t, pv, p)
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    The enthalpies hold from -50 to 100 °C.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dry_bulb_from_enthalpy_and_vapour_pressure
+    >>> result = dry_bulb_from_enthalpy_and_vapour_pressure(enthalpy=50.44, vapour_pressure=1584.95,
+    ...     pressure=101325)
+    >>> bool(abs(result - 25) <= 0.1)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv), h = 1.006 t +
+    g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_enthalpy_and_vapour_pressure(enthalpy, vapour_pressure, pressure, out, where)
+
+
+def dry_bulb_from_enthalpy_and_relative_humidity(enthalpy, relative_humidity, pressure, *, out=None, where=True):
+    """Dry bulb of air with a specific enthalpy and relative humidity.
+
+    Parameters
+    ----------
+    enthalpy : array_like of float
+        Specific enthalpy, by mass of dry air [kJ/kg]; valid -10 to 460.
+    relative_humidity : array_like of float
+        Relative humidity [%]; valid 0 to 100.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: moisture_content_from_enthalpy(t, h) = moisture_content(t, rh / 100 ps(t), p)
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    The enthalpies hold from -50 to 100 °C.
+
+    Relative humidity is limited to 0 to 100 %, not rejected.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dry_bulb_from_enthalpy_and_relative_humidity
+    >>> result = dry_bulb_from_enthalpy_and_relative_humidity(enthalpy=50.44, relative_humidity=50,
+    ...     pressure=101325)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv), h = 1.006 t +
+    g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_enthalpy_and_relative_humidity(enthalpy, relative_humidity, pressure, out, where)
+
+
+def dry_bulb_from_enthalpy_and_percentage_saturation(enthalpy, percentage_saturation, pressure, *, out=None, where=True):
+    """Dry bulb of air with a specific enthalpy and percentage saturation.
+
+    Parameters
+    ----------
+    enthalpy : array_like of float
+        Specific enthalpy, by mass of dry air [kJ/kg]; valid -10 to 460.
+    percentage_saturation : array_like of float
+        Percentage saturation [%]; valid 0 to 100.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: moisture_content_from_enthalpy(t, h) = percentage / 100 gs(t, p)
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    The enthalpies hold from -50 to 100 °C.
+
+    Up to where water boils at the atmospheric pressure. The percentage is not limited.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dry_bulb_from_enthalpy_and_percentage_saturation
+    >>> result = dry_bulb_from_enthalpy_and_percentage_saturation(enthalpy=50.44,
+    ...     percentage_saturation=49.22, pressure=101325)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv), h = 1.006 t +
+    g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_enthalpy_and_percentage_saturation(enthalpy, percentage_saturation, pressure, out, where)
+
+
+def dry_bulb_from_wet_bulb_and_vapour_pressure(wet_bulb, vapour_pressure, pressure, psychrometer, *, out=None, where=True):
+    """Dry bulb of air with a wet bulb and vapour pressure.
+
+    Parameters
+    ----------
+    wet_bulb : array_like of float
+        Wet-bulb temperature [°C]; valid -100 to 200.
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    psychrometer : Psychrometer or array_like of int
+        Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: t = twb + (ps(twb) - pv) / (A p)
+
+    A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+
+    A psychrometer type below 1 counts as 1, above 2 as 2.
+
+    References
+    ----------
+    Psychrometer equation of vapour_pressure_from_psychrometer, solved for the dry bulb.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import Psychrometer, dry_bulb_from_wet_bulb_and_vapour_pressure
+    >>> result = dry_bulb_from_wet_bulb_and_vapour_pressure(wet_bulb=17.96, vapour_pressure=1584.95,
+    ...     pressure=101325, psychrometer=Psychrometer.sling)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv); 2059.7 Pa at
+    the wet bulb less 0.000666 p (25 - 17.96); h = 1.006 t + g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_wet_bulb_and_vapour_pressure(wet_bulb, vapour_pressure, pressure, psychrometer, out, where)
+
+
+def dry_bulb_from_wet_bulb_and_moisture_content(wet_bulb, moisture_content, pressure, psychrometer, *, out=None, where=True):
+    """Dry bulb of air with a wet bulb and moisture content.
+
+    Parameters
+    ----------
+    wet_bulb : array_like of float
+        Wet-bulb temperature [°C]; valid -100 to 200.
+    moisture_content : array_like of float
+        Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    psychrometer : Psychrometer or array_like of int
+        Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: vapour_pressure_from_psychrometer(t, twb, p) = vapour_pressure_from_moisture_content(t,
+    g, p)
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+
+    A psychrometer type below 1 counts as 1, above 2 as 2.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import Psychrometer, dry_bulb_from_wet_bulb_and_moisture_content
+    >>> result = dry_bulb_from_wet_bulb_and_moisture_content(wet_bulb=17.96,
+    ...     moisture_content=0.009929, pressure=101325, psychrometer=Psychrometer.sling)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv); 2059.7 Pa at
+    the wet bulb less 0.000666 p (25 - 17.96); h = 1.006 t + g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_wet_bulb_and_moisture_content(wet_bulb, moisture_content, pressure, psychrometer, out, where)
+
+
+def dry_bulb_from_wet_bulb_and_relative_humidity(wet_bulb, relative_humidity, pressure, psychrometer, *, out=None, where=True):
+    """Dry bulb of air with a wet bulb and relative humidity.
+
+    Parameters
+    ----------
+    wet_bulb : array_like of float
+        Wet-bulb temperature [°C]; valid -100 to 200.
+    relative_humidity : array_like of float
+        Relative humidity [%]; valid 0 to 100.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    psychrometer : Psychrometer or array_like of int
+        Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: vapour_pressure_from_psychrometer(t, twb, p) = rh / 100 ps(t)
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    Relative humidity is limited to 0 to 100 %, not rejected.
+
+    A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+
+    A psychrometer type below 1 counts as 1, above 2 as 2.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import Psychrometer, dry_bulb_from_wet_bulb_and_relative_humidity
+    >>> result = dry_bulb_from_wet_bulb_and_relative_humidity(wet_bulb=17.96, relative_humidity=50,
+    ...     pressure=101325, psychrometer=Psychrometer.sling)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv); 2059.7 Pa at
+    the wet bulb less 0.000666 p (25 - 17.96); h = 1.006 t + g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_wet_bulb_and_relative_humidity(wet_bulb, relative_humidity, pressure, psychrometer, out, where)
+
+
+def dry_bulb_from_wet_bulb_and_percentage_saturation(wet_bulb, percentage_saturation, pressure, psychrometer, *, out=None, where=True):
+    """Dry bulb of air with a wet bulb and percentage saturation.
+
+    Parameters
+    ----------
+    wet_bulb : array_like of float
+        Wet-bulb temperature [°C]; valid -100 to 200.
+    percentage_saturation : array_like of float
+        Percentage saturation [%]; valid 0 to 100.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    psychrometer : Psychrometer or array_like of int
+        Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: moisture_content_from_psychrometer(t, twb, p) = percentage / 100 gs(t, p)
+
+    Found from -100 to 200 °C; where there is none, as for arguments out of range, the result is not
+    a number.
+
+    Up to where water boils at the atmospheric pressure. The percentage is not limited.
+
+    A dry bulb below the wet bulb counts as saturation: the wet bulb is the result.
+
+    A psychrometer type below 1 counts as 1, above 2 as 2.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import Psychrometer, dry_bulb_from_wet_bulb_and_percentage_saturation
+    >>> result = dry_bulb_from_wet_bulb_and_percentage_saturation(wet_bulb=17.96,
+    ...     percentage_saturation=49.22, pressure=101325, psychrometer=Psychrometer.sling)
+    >>> bool(abs(result - 25) <= 0.15)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv); 2059.7 Pa at
+    the wet bulb less 0.000666 p (25 - 17.96); h = 1.006 t + g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_wet_bulb_and_percentage_saturation(wet_bulb, percentage_saturation, pressure, psychrometer, out, where)
+
+
+def dry_bulb_from_wet_bulb_and_enthalpy(wet_bulb, enthalpy, pressure, psychrometer, *, out=None, where=True):
+    """Dry bulb of air with a wet bulb and specific enthalpy.
+
+    Parameters
+    ----------
+    wet_bulb : array_like of float
+        Wet-bulb temperature [°C]; valid -100 to 200.
+    enthalpy : array_like of float
+        Specific enthalpy, by mass of dry air [kJ/kg]; valid -10 to 460.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    psychrometer : Psychrometer or array_like of int
+        Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dry_bulb : float32
+        Dry-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: specific_enthalpy_from_psychrometer(t, twb, p) = h
+
+    Badly conditioned, since the enthalpy hardly changes along a wet bulb: 0.01 kJ/kg of enthalpy
+    can be 0.25 K of dry bulb. For wet bulbs from -50 to 55 °C, above which the enthalpy turns.
+
+    An enthalpy that no air of that wet bulb has, between saturated and dry, gives not a number; 1 K
+    beyond saturation is allowed for, and gives the wet bulb.
+
+    A psychrometer type below 1 counts as 1, above 2 as 2.
+
+    References
+    ----------
+    Newton's method in double precision on the equations of the routines named.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import Psychrometer, dry_bulb_from_wet_bulb_and_enthalpy
+    >>> result = dry_bulb_from_wet_bulb_and_enthalpy(wet_bulb=17.96, enthalpy=50.44,
+    ...     pressure=101325, psychrometer=Psychrometer.sling)
+    >>> bool(abs(result - 25) <= 1.5)
+    True
+
+    (air of 25 °C and 50 %: pv = 3169.9 / 2 Pa, g = 0.622 1.0045 pv / (p - 1.0045 pv); 2059.7 Pa at
+    the wet bulb less 0.000666 p (25 - 17.96); h = 1.006 t + g (2501 + 1.86 t))
+    """
+    return _dry_bulb_from_wet_bulb_and_enthalpy(wet_bulb, enthalpy, pressure, psychrometer, out, where)
+
+
+def adiabatic_mixing(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb, second_moisture_content, *, out=None, where=True):
+    """Two streams of moist air that become one, without heat from outside.
+
+    Parameters
+    ----------
+    first_air_flow : array_like of float
+        Mass flow of dry air in the first stream, or its share in any unit [kg/s]; valid from 0.
+    first_dry_bulb : array_like of float
+        Dry-bulb temperature of the first stream [°C]; valid -100 to 200.
+    first_moisture_content : array_like of float
+        Moisture content of the first stream [kg/kg]; valid 0 to 0.1.
+    second_air_flow : array_like of float
+        Mass flow of dry air in the second stream, in the same unit [kg/s]; valid from 0.
+    second_dry_bulb : array_like of float
+        Dry-bulb temperature of the second stream [°C]; valid -100 to 200.
+    second_moisture_content : array_like of float
+        Moisture content of the second stream [kg/kg]; valid 0 to 0.1.
+    out : tuple of ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    AdiabaticMixing
+        A named tuple of:
+
+    dry_bulb : float32
+        Dry-bulb temperature of the mixture [°C].
+    moisture_content : float32
+        Moisture content of the mixture [kg/kg].
+    enthalpy : float32
+        Specific enthalpy of the mixture, by mass of dry air [kJ/kg].
+
+    Notes
+    -----
+    Formula: g = (m1 g1 + m2 g2) / (m1 + m2), h likewise; t from h and g
+
+    All moisture counts as vapour: percentage_saturation says whether the mixture is above
+    saturation and would form fog.
+
+    The enthalpies hold from -50 to 100 °C. Where no dry bulb from -100 to 200 °C belongs to the
+    mixture, it is not a number; nor is anything without flow.
+
+    References
+    ----------
+    Balances of enthalpy, water and dry air: ASHRAE Handbook Fundamentals 2017, chapter 1, adiabatic
+    mixing of two moist airstreams.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import adiabatic_mixing
+    >>> result = adiabatic_mixing(first_air_flow=2.535, first_dry_bulb=4,
+    ...     first_moisture_content=0.00357, second_air_flow=7.284, second_dry_bulb=25,
+    ...     second_moisture_content=0.00993)
+    >>> bool(abs(result.dry_bulb - 19.5) <= 0.15)
+    True
+    >>> bool(abs(result.moisture_content - 0.00829) <= 1e-05)
+    True
+
+    (ASHRAE Handbook Fundamentals 2017, chapter 1, example of mixed outdoor and recirculated air,
+    dry bulb from the chart; balance of water)
+    """
+    return AdiabaticMixing._make(_adiabatic_mixing(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb, second_moisture_content, out, where))
+
+
 def moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, *, out=None, where=True):
     """Moisture content of air from the reading of a wet-and-dry-bulb psychrometer.
 
@@ -338,6 +1106,225 @@ def moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychromete
     return _moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, out, where)
 
 
+def moisture_content(dry_bulb, vapour_pressure, pressure, *, out=None, where=True):
+    """Moisture content of air with a vapour pressure.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -100 to 200.
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    moisture_content : float32
+        Moisture content, water vapour per dry air [kg/kg].
+
+    Notes
+    -----
+    Formula: g = 0.62197 f pv / (p - f pv)
+
+    Enhancement factor f of moisture_content_from_psychrometer, at the dry bulb.
+
+    Not limited: neither to saturation, nor to vapour pressures below the atmospheric.
+
+    References
+    ----------
+    Definition for a mixture of ideal gases, ASHRAE Handbook Fundamentals 2017, chapter 1, with the
+    enhancement factor of moisture_content_from_psychrometer.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import moisture_content
+    >>> result = moisture_content(dry_bulb=25, vapour_pressure=1584.95, pressure=101325)
+    >>> bool(abs(result - 0.009929) <= 1e-05)
+    True
+
+    (0.622 1.0045 pv / (p - 1.0045 pv))
+    """
+    return _moisture_content(dry_bulb, vapour_pressure, pressure, out, where)
+
+
+def vapour_pressure_from_moisture_content(dry_bulb, moisture_content, pressure, *, out=None, where=True):
+    """Vapour pressure of air with a moisture content, the inverse of moisture_content.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -100 to 200.
+    moisture_content : array_like of float
+        Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    vapour_pressure : float32
+        Vapour pressure [Pa].
+
+    Notes
+    -----
+    Formula: pv = p g / (f (0.62197 + g))
+
+    Not limited to saturation.
+
+    References
+    ----------
+    As moisture_content.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import vapour_pressure_from_moisture_content
+    >>> result = vapour_pressure_from_moisture_content(dry_bulb=25, moisture_content=0.020173,
+    ...     pressure=101325)
+    >>> bool(abs(result - 3169.9) <= 10)
+    True
+
+    (ASHRAE Handbook Fundamentals 2017, chapter 1, tables 2 and 3: saturated air)
+    """
+    return _vapour_pressure_from_moisture_content(dry_bulb, moisture_content, pressure, out, where)
+
+
+def moisture_content_from_percentage_saturation(dry_bulb, percentage_saturation, pressure, *, out=None, where=True):
+    """Moisture content of air with a percentage saturation, the inverse of percentage_saturation.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -100 to 200.
+    percentage_saturation : array_like of float
+        Percentage saturation [%]; valid 0 to 100.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    moisture_content : float32
+        Moisture content, water vapour per dry air [kg/kg].
+
+    Notes
+    -----
+    Formula: g = percentage / 100 gs(t, p)
+
+    Not limited. From boiling on, where the saturation pressure is above the atmospheric, it means
+    nothing.
+
+    References
+    ----------
+    Definition, with the saturation moisture content of moisture_content_from_psychrometer.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import moisture_content_from_percentage_saturation
+    >>> result = moisture_content_from_percentage_saturation(dry_bulb=25, percentage_saturation=50,
+    ...     pressure=101325)
+    >>> bool(abs(result - 0.0100865) <= 4e-05)
+    True
+
+    (half of ASHRAE Handbook Fundamentals 2017, chapter 1, table 2)
+    """
+    return _moisture_content_from_percentage_saturation(dry_bulb, percentage_saturation, pressure, out, where)
+
+
+def moisture_content_from_enthalpy(dry_bulb, enthalpy, *, out=None, where=True):
+    """Moisture content of air with a specific enthalpy, the inverse of specific_enthalpy.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -50 to 100.
+    enthalpy : array_like of float
+        Specific enthalpy, by mass of dry air [kJ/kg]; valid -10 to 460.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    moisture_content : float32
+        Moisture content, water vapour per dry air [kg/kg].
+
+    Notes
+    -----
+    Formula: g = (h - ha(t)) / hv(t)
+
+    Not limited: negative where dry air alone has more, and neither to saturation.
+
+    References
+    ----------
+    As specific_enthalpy.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import moisture_content_from_enthalpy
+    >>> result = moisture_content_from_enthalpy(dry_bulb=25, enthalpy=76.504)
+    >>> bool(abs(result - 0.020173) <= 6e-05)
+    True
+
+    (ASHRAE Handbook Fundamentals 2017, chapter 1, table 2: saturated air)
+    """
+    return _moisture_content_from_enthalpy(dry_bulb, enthalpy, out, where)
+
+
+def moist_air_density(dry_bulb, moisture_content, pressure, *, out=None, where=True):
+    """Density of moist air.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -100 to 200.
+    moisture_content : array_like of float
+        Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    moist_air_density : float32
+        Density of the moist air [kg/m³].
+
+    Notes
+    -----
+    Formula: (1 + g) / v, by specific_volume
+
+    A moisture content above saturation counts as saturation.
+
+    References
+    ----------
+    Definition: ASHRAE Handbook Fundamentals 2017, chapter 1.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import moist_air_density
+    >>> result = moist_air_density(dry_bulb=25, moisture_content=0.020173, pressure=101325)
+    >>> bool(abs(result - 1.1699) <= 0.0014)
+    True
+
+    (1.020173 / 0.872 m³/kg: ASHRAE Handbook Fundamentals 2017, chapter 1, table 2)
+    """
+    return _moist_air_density(dry_bulb, moisture_content, pressure, out, where)
+
+
 def percentage_saturation(dry_bulb, moisture_content, pressure, *, out=None, where=True):
     """Percentage saturation: moisture content by that of saturated air at the same temperature and
     pressure.
@@ -385,6 +1372,50 @@ def percentage_saturation(dry_bulb, moisture_content, pressure, *, out=None, whe
     (ASHRAE Handbook Fundamentals 2017, chapter 1, table 2: saturated air)
     """
     return _percentage_saturation(dry_bulb, moisture_content, pressure, out, where)
+
+
+def specific_enthalpy(dry_bulb, moisture_content, *, out=None, where=True):
+    """Specific enthalpy of moist air.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -50 to 100.
+    moisture_content : array_like of float
+        Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    enthalpy : float32
+        Specific enthalpy, by mass of dry air [kJ/kg].
+
+    Notes
+    -----
+    Formula: h = ha(t) + g hv(t), by dry_air_enthalpy and water_vapour_enthalpy
+
+    Per kilogram of dry air, from dry air and liquid water at 0 °C.
+
+    All moisture counts as vapour: the moisture content is not limited to that of saturated air.
+
+    References
+    ----------
+    Sum over dry air and vapour, as for mixtures of ideal gases: ASHRAE Handbook Fundamentals 2017,
+    chapter 1.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import specific_enthalpy
+    >>> result = specific_enthalpy(dry_bulb=25, moisture_content=0.020173)
+    >>> bool(abs(result - 76.504) <= 0.15)
+    True
+
+    (ASHRAE Handbook Fundamentals 2017, chapter 1, table 2: saturated air)
+    """
+    return _specific_enthalpy(dry_bulb, moisture_content, out, where)
 
 
 def specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, *, out=None, where=True):
@@ -755,6 +1786,53 @@ def saturation_pressure(temperature, *, out=None, where=True):
     return _saturation_pressure(temperature, out, where)
 
 
+def dew_point(vapour_pressure, *, out=None, where=True):
+    """Dew point of air with a vapour pressure, the inverse of the saturation pressure; below 0 °C the
+    frost point.
+
+    Parameters
+    ----------
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    dew_point : float32
+        Dew-point temperature, of frost below 0 °C [°C].
+
+    Notes
+    -----
+    Formula: ps(dew_point) = pv
+
+    Solved in double precision; saturation_pressure, in single precision, returns the vapour
+    pressure to 0.002 %, and dew_point the temperature that was given to it to 0.001 K up to 100 °C.
+
+    The vapour pressures between ice and water at 0 °C, 610.30 to 610.34 Pa, give 0 °C to 0.0001 K.
+
+    Found from -200 to 400 °C. A pressure of 0 or less, or beyond those of this range, gives not a
+    number.
+
+    References
+    ----------
+    Saturation pressure of saturation_pressure (National Engineering Laboratory, Steam Tables 1964),
+    solved by Newton's method.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import dew_point
+    >>> result = dew_point(vapour_pressure=2339.3)
+    >>> bool(abs(result - 20) <= 0.05)
+    True
+
+    (water: Wagner and Pruss, 2002)
+    """
+    return _dew_point(vapour_pressure, out, where)
+
+
 def vapour_pressure(dry_bulb, relative_humidity, *, out=None, where=True):
     """Vapour pressure of air at a dry-bulb temperature and relative humidity.
 
@@ -796,6 +1874,47 @@ def vapour_pressure(dry_bulb, relative_humidity, *, out=None, where=True):
     (half of saturation)
     """
     return _vapour_pressure(dry_bulb, relative_humidity, out, where)
+
+
+def relative_humidity(dry_bulb, vapour_pressure, *, out=None, where=True):
+    """Relative humidity of air with a vapour pressure.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -100 to 200.
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    relative_humidity : float32
+        Relative humidity [%].
+
+    Notes
+    -----
+    Formula: rh = 100 pv / ps(t)
+
+    Not limited: supersaturated air gives more than 100.
+
+    References
+    ----------
+    Definition of relative humidity, the ratio of vapour pressures, with saturation_pressure.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import relative_humidity
+    >>> result = relative_humidity(dry_bulb=20, vapour_pressure=1169.65)
+    >>> bool(abs(result - 50) <= 0.2)
+    True
+
+    (2339.3 Pa at saturation: Wagner and Pruss, 2002)
+    """
+    return _relative_humidity(dry_bulb, vapour_pressure, out, where)
 
 
 def vapour_pressure_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, *, out=None, where=True):
@@ -1067,3 +2186,58 @@ def wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychro
     (2168 Pa of that moisture content = 2690 - 0.000666 p (30 - 22.28))
     """
     return _wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychrometer, out, where)
+
+
+def wet_bulb(dry_bulb, vapour_pressure, pressure, psychrometer, *, out=None, where=True):
+    """Wet-bulb temperature that a psychrometer reads in air with a vapour pressure.
+
+    Parameters
+    ----------
+    dry_bulb : array_like of float
+        Dry-bulb temperature [°C]; valid -100 to 200.
+    vapour_pressure : array_like of float
+        Vapour pressure [Pa]; valid from 0.
+    pressure : array_like of float
+        Atmospheric pressure [Pa]; valid 50000 to 110000.
+    psychrometer : Psychrometer or array_like of int
+        Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
+    out : ndarray, optional
+        Where to put the results, as for any NumPy ufunc.
+    where : array_like of bool, optional
+        Which elements to work out, as for any NumPy ufunc.
+
+    Returns
+    -------
+    wet_bulb : float32
+        Wet-bulb temperature [°C].
+
+    Notes
+    -----
+    Formula: ps(twb) - A p (t - twb) = pv
+
+    The exact solution, in double precision; vapour_pressure_from_psychrometer gives the vapour
+    pressure back to 0.002 % of saturation.
+
+    About 0 °C an iced wet bulb and one that is not can belong to the same air: that which is not
+    iced is found.
+
+    At saturation or above the result is the dry bulb. A vapour pressure too far below 0 gives not a
+    number.
+
+    A psychrometer type below 1 counts as 1, above 2 as 2.
+
+    References
+    ----------
+    Psychrometer equation of vapour_pressure_from_psychrometer, solved by Newton's method.
+
+    Examples
+    --------
+    >>> from quorvel.psychro import Psychrometer, wet_bulb
+    >>> result = wet_bulb(dry_bulb=25, vapour_pressure=1584.95, pressure=101325,
+    ...     psychrometer=Psychrometer.sling)
+    >>> bool(abs(result - 17.96) <= 0.04)
+    True
+
+    (2059.7 Pa at 17.96 °C (Wagner and Pruss, 2002) less 0.000666 p (25 - 17.96))
+    """
+    return _wet_bulb(dry_bulb, vapour_pressure, pressure, psychrometer, out, where)

@@ -1,0 +1,5 @@
+#include "conformance/arrays_only.h"
+
+#include "entry/entry.h"
+
+#include "arrays_only.inc"
