@@ -114,7 +114,7 @@ def state(*, p=101325.0, psychrometer="sling", **known):
     >>> from quorvel import psychro
     >>> air = psychro.state(t=25, rh=50)
     >>> print(f"{air.moisture_content:.4f} kg/kg, {air.enthalpy:.1f} kJ/kg, {air.wet_bulb:.1f} °C, {air.dew_point:.1f} °C")
-    0.0100 kg/kg, 50.5 kJ/kg, 18.0 °C, 13.8 °C
+    0.0099 kg/kg, 50.4 kJ/kg, 18.0 °C, 13.9 °C
     """
     given = {name: known[name] for name in NAMES if known.get(name) is not None}
     _check(given, known)
