@@ -46,7 +46,7 @@ def _function(family, routine):
     given = ", ".join([operand.field for operand in inputs] + ["out", "True" if signature(routine) else "where"])
     call = f"_{routine.name}({given})"
     if len(outputs) > 1:
-        call = f"{class_name(routine)}._make({call})"
+        call = f"_new({class_name(routine)}, {call})"
     text = textwrap.indent(_quoted(docstring(routine, family.family)), "    ")
     return (f"\n\ndef {routine.name}({_parameters(routine)}):\n"
             f'    """{text.lstrip()}\n    """\n    return {call}\n')
@@ -61,6 +61,7 @@ def _module(family):
     lines += ["from collections import namedtuple", ""] if several else []
     lines += ["from .._core import functions"]
     lines += [f"from ..selectors import {', '.join(selectors)}"] if selectors else []
+    lines += ["", "_new = tuple.__new__  # a third of the time of _make"] if several else []
     lines += ["", "__all__ = [", *(f'    "{name}",' for name in names), "]", ""]
     lines += [f'_{routine.name} = functions["{routine.name}"]' for routine in routines]
     lines += ["".join(map(_class, several))]

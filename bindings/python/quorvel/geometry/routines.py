@@ -7,6 +7,8 @@ from collections import namedtuple
 from .._core import functions
 from ..selectors import Enclosed
 
+_new = tuple.__new__  # a third of the time of _make
+
 __all__ = [
     "Enclosed",
     "CountEnclosed",
@@ -243,7 +245,7 @@ def count_enclosed(x, y, point_x, point_y, enclosed, *, out=None):
 
     (centre of a square, and a point outside of it)
     """
-    return CountEnclosed._make(_count_enclosed(x, y, point_x, point_y, enclosed, out, True))
+    return _new(CountEnclosed, _count_enclosed(x, y, point_x, point_y, enclosed, out, True))
 
 
 def boundary_crossing(segment_start, segment_end, x, y, *, out=None):
@@ -304,7 +306,7 @@ def boundary_crossing(segment_start, segment_end, x, y, *, out=None):
 
     (out of a unit square to the east, over its last edge but one)
     """
-    return BoundaryCrossing._make(_boundary_crossing(segment_start, segment_end, x, y, out, True))
+    return _new(BoundaryCrossing, _boundary_crossing(segment_start, segment_end, x, y, out, True))
 
 
 def inside(point, polygon, *, out=None):
@@ -447,7 +449,7 @@ def parallel_sides(triangle_1, triangle_2, *, out=None):
 
     (side 1 of one and side 2 of the other run east)
     """
-    return ParallelSides._make(_parallel_sides(triangle_1, triangle_2, out, True))
+    return _new(ParallelSides, _parallel_sides(triangle_1, triangle_2, out, True))
 
 
 def rectangular(quadrilateral, *, out=None):
@@ -537,7 +539,7 @@ def facing(triangle, azimuth, *, out=None):
 
     (a wall that faces south, clockwise from outside)
     """
-    return Facing._make(_facing(triangle, azimuth, out, True))
+    return _new(Facing, _facing(triangle, azimuth, out, True))
 
 
 def local_coordinates(quadrilateral_1, quadrilateral_2, *, out=None):
@@ -592,7 +594,7 @@ def local_coordinates(quadrilateral_1, quadrilateral_2, *, out=None):
 
     (squares of 2 m, one 5 m above the other)
     """
-    return LocalCoordinates._make(_local_coordinates(quadrilateral_1, quadrilateral_2, out, True))
+    return _new(LocalCoordinates, _local_coordinates(quadrilateral_1, quadrilateral_2, out, True))
 
 
 def to_local(corners, x_axis, y_axis, z_axis, *, out=None):
@@ -1036,7 +1038,7 @@ def surface_axes(surface_azimuth, tilt, *, out=None):
 
     (a wall that faces north: local x to the west, y up, z to the north)
     """
-    return SurfaceAxes._make(_surface_axes(surface_azimuth, tilt, out, True))
+    return _new(SurfaceAxes, _surface_axes(surface_azimuth, tilt, out, True))
 
 
 def local_to_global(local_vector, rotation_matrix, *, out=None):
@@ -1303,7 +1305,7 @@ def polygon_orientation(polygon, *, out=None):
 
     (a wall that faces south, clockwise from outside)
     """
-    return PolygonOrientation._make(_polygon_orientation(polygon, out, True))
+    return _new(PolygonOrientation, _polygon_orientation(polygon, out, True))
 
 
 def projection(plane_point, plane_normal, point, direction, *, out=None):

@@ -7,6 +7,8 @@ from collections import namedtuple
 from .._core import functions
 from ..selectors import Psychrometer
 
+_new = tuple.__new__  # a third of the time of _make
+
 __all__ = [
     "Psychrometer",
     "AdiabaticMixing",
@@ -1045,7 +1047,7 @@ def adiabatic_mixing(first_air_flow, first_dry_bulb, first_moisture_content, sec
     (ASHRAE Handbook Fundamentals 2017, chapter 1, example of mixed outdoor and recirculated air,
     dry bulb from the chart; balance of water)
     """
-    return AdiabaticMixing._make(_adiabatic_mixing(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb, second_moisture_content, out, where))
+    return _new(AdiabaticMixing, _adiabatic_mixing(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb, second_moisture_content, out, where))
 
 
 def moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, *, out=None, where=True):
@@ -1655,7 +1657,7 @@ def pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moist
     ((-0.059 + 0.000079 (3783 - 1915)) / 3600; 1915 Pa is that moisture content; heat flows as in
     TPPOOL2)
     """
-    return PoolEvaporation._make(_pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, reference_temperature, bathers, reference_coefficient, pressure, out, where))
+    return _new(PoolEvaporation, _pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, reference_temperature, bathers, reference_coefficient, pressure, out, where))
 
 
 def pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, reference_temperature, bathers, reference_coefficient, pressure, *, out=None, where=True):
@@ -1737,7 +1739,7 @@ def pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, d
     ((-0.059 + 0.000079 (3783 - 2645 + 540)) / 3600; 2.45 MJ/kg from 300 m²; 10 (28 - 30) and 4 (28
     - 22) W from 1 m²)
     """
-    return PoolEvaporationFromWetBulb._make(_pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, reference_temperature, bathers, reference_coefficient, pressure, out, where))
+    return _new(PoolEvaporationFromWetBulb, _pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, reference_temperature, bathers, reference_coefficient, pressure, out, where))
 
 
 def saturation_pressure(temperature, *, out=None, where=True):
