@@ -8,7 +8,7 @@
 #include <string>
 
 #include "math/math.h"
-#include "pack_doubles.h"
+#include "pack_loops.h"
 
 namespace {
 
@@ -30,7 +30,7 @@ void scalar(benchmark::State& state, const Array& x, F f) {
     set_time_per_element(state);
 }
 
-void array(benchmark::State& state, const Array& x, pack_doubles::Unary evaluate) {
+void array(benchmark::State& state, const Array& x, pack_loops::DoubleUnary evaluate) {
     Array result;
     for (auto _ : state) {
         evaluate(x.data(), result.data(), kCount);
@@ -52,9 +52,9 @@ bool add(const std::string& function, double low, double high, Platform platform
     };
     add_scalar("/platform", platform);
     add_scalar("/scalar", ours);
-    for (const auto& level : pack_doubles::levels())
-        for (std::size_t i = 0; i < pack_doubles::kFunctions; ++i)
-            if (const auto& [its_name, evaluate] = level.functions[i]; its_name == function)
+    for (const auto& level : pack_loops::levels())
+        for (std::size_t i = 0; i < pack_loops::kDoubles; ++i)
+            if (const auto& [its_name, evaluate] = level.doubles[i]; its_name == function)
                 benchmark::RegisterBenchmark(
                     (name + "/pack_" + level.name).c_str(),
                     [x, run = evaluate](benchmark::State& s) { array(s, *x, run); });

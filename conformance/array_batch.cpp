@@ -5,29 +5,14 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "conformance/array_argument.h"
 #include "conformance/canonical.h"
 #include "quorvel/library.h"
 
 namespace quorvel::conformance {
 namespace {
 
-constexpr unsigned char background = 0xC5;
-constexpr std::uint32_t untouched = 0xC5C5C5C5u;
-
-// Of the argument that an array argument is; -1 for the value of a function.
-int reference_of(const Routine& routine, const std::string& name) {
-    const std::string given = name.starts_with("new_") ? name.substr(4) : name;
-    for (std::size_t i = 0; i < routine.arguments.size(); ++i)
-        if (routine.arguments[i].name == given || routine.arguments[i].name == name)
-            return static_cast<int>(i);
-    return -1;
-}
-
-// What arrays hold where the call by reference leaves an output as it was.
-std::uint32_t none(Type type, std::size_t word) {
-    if (type == Type::Integer) return 0;
-    return type == Type::Real ? 0x7fc00000u : (word & 1 ? 0x7ff80000u : 0u);
-}
+constexpr unsigned char background = untouched & 0xff;
 
 }  // namespace
 
@@ -40,7 +25,7 @@ ArrayBatch::ArrayBatch(const Routine& routine, std::size_t elements, const Oddne
 
 ArrayBatch::Column ArrayBatch::column(const quorvel_argument& argument, bool output,
                                       Random& random) const {
-    Column c{&argument, reference_of(routine_, argument.name), Type::Real, 0, 0, {}, 0, {}};
+    Column c{&argument, reference_of(routine_, argument), Type::Real, 0, 0, {}, 0, {}};
     const ArgumentSet arguments(routine_);
     if (c.reference < 0) {
         c.type = routine_.result;
@@ -132,8 +117,7 @@ std::string ArrayBatch::compared(Column& output) {
         for (std::size_t j = 0; j < words_in(output, i); ++j) {
             const std::uint32_t w = canonical(output.type, want.data(), j),
                                 g = canonical(output.type, got.data(), j);
-            const bool left = w == untouched && g == none(output.type, j);
-            if (w == g || left) continue;
+            if (w == g || is_left(output.type, j, w, g)) continue;
             char text[200];
             std::snprintf(text, sizeof text, "%s of element %zu of %zu: word %zu is %08x, not %08x",
                           output.argument->name, i, elements_, j, got[j], want[j]);

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Hold the corpus hashes of one or more builds of the library against the committed ones.
 
-    check_hashes.py [--write] [--family NAME] [--apart] HASHES PROGRAM [LIBRARY ...]
+    check_hashes.py [--write] [--family NAME | --arrays] [--apart] HASHES PROGRAM [LIBRARY ...]
 
 PROGRAM is the corpus program (with its emulator in front, if any). Without LIBRARY it runs on the
 library it finds itself; with libraries, on each in turn. A build that differs from the committed
@@ -66,6 +66,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--write", action="store_true", help="write HASHES anew (say why in the changelog)")
     parser.add_argument("--family", help="only the routines of one family, in their own order")
+    parser.add_argument("--arrays", action="store_true", help="only the routines that PROGRAM has, in its order")
     parser.add_argument("--apart", action="store_true", help="run the routines side by side and in one order only")
     parser.add_argument("hashes", type=Path)
     parser.add_argument("program", type=shlex.split)
@@ -77,8 +78,8 @@ def main():
         options.hashes.write_text("".join(f"{line}\n" for line in sorted(run(options.program, libraries[0]))))
         return
     committed = options.hashes.read_text().splitlines()
-    if options.family:
-        lines = run(options.program, libraries[0], options.family)
+    if options.family or options.arrays:
+        lines = run(options.program, libraries[0], *([options.family] if options.family else []))
         known = {line.split()[0] for line in committed}
         differing = [line.split()[0] for line in lines if line not in committed]
         for label, names in {
@@ -88,7 +89,7 @@ def main():
         }.items():
             if names:
                 print(f"{label}:", *names)
-        sys.exit(bool(differing))
+        sys.exit(bool(differing) or not lines)
     failed = False
     for library in libraries:
         label = library or " ".join(options.program)

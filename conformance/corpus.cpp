@@ -36,30 +36,41 @@ void each_argument(const Routine& routine, const ArgumentSet& arguments, Directi
     }
 }
 
+void each_result(const Routine& routine, const Case& made,
+                 const std::function<void(std::uint32_t)>& use) {
+    if (routine.result != Type::None)
+        for (std::size_t j = 0; j < size_of(routine.result) / 4; ++j)
+            use(canonical(routine.result, made.result, j));
+    each_argument(routine, made.arguments, Direction::In, use);
+}
+
 }  // namespace
 
-void run_corpus(const Routine& routine, const std::function<void(std::uint32_t)>& given,
-                const std::function<void(std::uint32_t)>& left) {
-    open_example();
+void call_by_reference(const Routine& routine, std::span<Case> cases) {
     const auto function = reinterpret_cast<Address>(host::routine_address(routine.name));
+    for (Case& one : cases) routine.call(function, one.arguments.addresses(), one.result);
+}
+
+void run_corpus(const Routine& routine, const std::function<void(std::uint32_t)>& given,
+                const std::function<void(std::uint32_t)>& left, const Caller& caller) {
+    open_example();
     Random random(seed_of(routine));
-    ArgumentSet arguments(routine);
-    for (int i = 0; i < corpus_cases; ++i) {
-        arguments.draw_any(random);
-        each_argument(routine, arguments, Direction::Out, given);
-        std::uint32_t result[2] = {};
-        routine.call(function, arguments.addresses(), result);
-        if (routine.result != Type::None)
-            for (std::size_t j = 0; j < size_of(routine.result) / 4; ++j)
-                left(canonical(routine.result, result, j));
-        each_argument(routine, arguments, Direction::In, left);
+    std::vector<Case> cases;
+    for (int i = 0; i < caller.at_once; ++i) cases.push_back({ArgumentSet(routine)});
+    for (int done = 0; done < corpus_cases; done += caller.at_once) {
+        for (Case& one : cases) {
+            one.arguments.draw_any(random);
+            each_argument(routine, one.arguments, Direction::Out, given);
+        }
+        caller.call(routine, cases);
+        for (const Case& one : cases) each_result(routine, one, left);
     }
 }
 
-std::string corpus_hash(const Routine& routine) {
+std::string corpus_hash(const Routine& routine, const Caller& caller) {
     Hash hash;
     run_corpus(
-        routine, [](std::uint32_t) {}, [&](std::uint32_t word) { hash.add(word); });
+        routine, [](std::uint32_t) {}, [&](std::uint32_t word) { hash.add(word); }, caller);
     char digits[17];
     std::snprintf(digits, sizeof digits, "%016" PRIx64, hash.value());
     return digits;

@@ -9,7 +9,6 @@
 namespace quorvel::conformance {
 namespace {
 
-constexpr std::uint32_t untouched = 0xC5C5C5C5u;
 // Integers that are no counts go this far beyond their range, unless they are wild.
 constexpr int slightly = 2;
 

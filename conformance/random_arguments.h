@@ -33,6 +33,9 @@ class Random {
 // The file that texts name, unless they are meant to name none; see climate_file.h.
 inline constexpr std::string_view example_file = "example.climate";
 
+// Each word of an output before the call.
+inline constexpr std::uint32_t untouched = 0xC5C5C5C5u;
+
 // The storage of one call: one block of bytes per argument, large enough for any count that is
 // drawn: as many beyond either end of what it is drawn from as `beyond`.
 class ArgumentSet {
@@ -42,7 +45,7 @@ class ArgumentSet {
     ArgumentSet(const ArgumentSet&) = delete;
 
     // Draws new arguments: all within their bounds, or some of them also on edges and wild bit
-    // patterns. Outputs are filled with a pattern that shows what a call has left alone.
+    // patterns. Outputs are `untouched`, which shows what a call has left alone.
     void draw_valid(Random& random);
     void draw_any(Random& random);
     // Puts extreme values in place of those of some arguments: not a number, infinite, subnormal,

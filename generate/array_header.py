@@ -38,7 +38,7 @@ PREAMBLE = """\
 #if defined(QUORVEL_ARRAYS_STATIC)
 #define QUORVEL_ARRAYS_API
 #elif defined(_WIN32) && defined(QUORVEL_ARRAYS_BUILDING)
-#define QUORVEL_ARRAYS_API __declspec(dllexport)
+#define QUORVEL_ARRAYS_API /* exported by a list: a library that contains this one exports other names */
 #elif defined(_WIN32)
 #define QUORVEL_ARRAYS_API __declspec(dllimport)
 #else

@@ -11,7 +11,7 @@ OPENING = """\
 #if defined(QUORVEL_STATIC)
 #define QUORVEL_API
 #elif defined(_WIN32) && defined(QUORVEL_BUILDING)
-#define QUORVEL_API __declspec(dllexport)
+#define QUORVEL_API /* exported by a list: a library that contains this one exports other names */
 #elif defined(_WIN32)
 #define QUORVEL_API __declspec(dllimport)
 #else

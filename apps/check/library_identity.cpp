@@ -19,6 +19,8 @@ namespace quorvel::check {
 namespace {
 
 #ifdef _WIN32
+constexpr const char* array_library_name = "quorvel_arrays.dll";
+
 std::string file_of(void* address) {
     HMODULE module = nullptr;
     char name[4096];
@@ -30,6 +32,8 @@ std::string file_of(void* address) {
     return name;
 }
 #else
+constexpr const char* array_library_name = "libquorvel_arrays.so";
+
 std::string file_of(void* address) {
     Dl_info info;
     if (!dladdr(address, &info))
@@ -52,6 +56,15 @@ std::string version_in(const std::string& file) {
 LibraryIdentity loaded_library() {
     const std::string file = file_of(host::routine_address("PSSVP"));
     return {file, version_in(file)};
+}
+
+ArrayLibrary array_library_beside(const LibraryIdentity& library) {
+    const auto path = std::filesystem::path(library.file).replace_filename(array_library_name);
+    const std::string file = path.string();
+    if (!std::filesystem::exists(path)) return {{file, ""}, false, ""};
+    using Level = const char* (*)();
+    const auto level = reinterpret_cast<Level>(host::address_in(file.c_str(), "quorvel_level"));
+    return {{file, version_in(file)}, true, level ? level() : ""};
 }
 
 std::vector<std::string> missing_routines() {

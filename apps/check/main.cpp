@@ -1,5 +1,6 @@
 // quorvel-check: whether the library on this machine is the right one and gives the right results.
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <iostream>
 
 #include "check/arithmetic.h"
@@ -43,14 +44,24 @@ std::string first_of(const std::vector<std::string>& all, const std::string& sep
     return text;
 }
 
-void report_library(Report& report) {
-    const auto [file, version] = check::loaded_library();
+std::string fault_of_version(const std::string& version) {
+    if (version == QUORVEL_VERSION) return "";
+    return (version.empty() ? "unknown" : version) + ", and this program checks " + QUORVEL_VERSION;
+}
+
+void report_library(Report& report, const check::LibraryIdentity& library) {
     std::cout << "Quorvel on this machine\n";
-    report.line("library", file);
-    report.verdict("version", version,
-                   version == QUORVEL_VERSION ? ""
-                                              : (version.empty() ? "unknown" : version) +
-                                                    ", and this program checks " + QUORVEL_VERSION);
+    report.line("library", library.file);
+    report.verdict("version", library.version, fault_of_version(library.version));
+}
+
+// Hosts need not have it.
+void report_arrays(Report& report, const check::LibraryIdentity& library) {
+    const auto [arrays, there, level] = check::array_library_beside(library);
+    const std::string name = std::filesystem::path(arrays.file).filename().string();
+    if (!there) return report.line("arrays", "no " + name + " beside the library");
+    report.verdict("arrays", name + " beside the library, instructions: " + level,
+                   level.empty() ? name + " cannot be loaded" : fault_of_version(arrays.version));
 }
 
 // False if any is missing.
@@ -89,9 +100,11 @@ void report_bits(Report& report) {
 bool check_installation(bool quick) {
     host::load_library();
     Report report;
-    report_library(report);
+    const check::LibraryIdentity library = check::loaded_library();
+    report_library(report, library);
     const bool complete = report_routines(report);
     report_arithmetic(report);
+    report_arrays(report, library);
     if (complete) report_values(report);
     if (complete && !quick) report_bits(report);
     std::cout << (report.right() ? "All is right.\n" : "Do not rely on its results here.\n");
@@ -113,7 +126,9 @@ int main(int argc, char** argv) {
                      "Leave out the comparison of bits, which takes some seconds");
         app.footer(
             "The library, quorvel.dll or libquorvel.so, is looked for beside the program, or is "
-            "the\nfile that the environment variable QUORVEL_LIBRARY names.\n"
+            "the\nfile that the environment variable QUORVEL_LIBRARY names. Of the array library "
+            "beside it\n"
+            "the version is checked, and the level of instructions told that it uses here.\n"
             "Exit status: 0 all is right, 1 something is not, 2 bad command line.");
         if (host::parse(app, argc, argv)) right = check_installation(quick);
     });

@@ -14,6 +14,9 @@ inline constexpr Real finest_step = 0.005f;
 // Above some 15 700 °C saturation pressure overflows, and below absolute zero its formula does: no
 // search that ends goes further than this, K.
 inline constexpr int widest_search = 20000;
+// A pack waits so long for its slowest; what is still searched for then, in odd air, single numbers
+// search for anew.
+inline constexpr int longest_wait = 300;
 
 // Where the forecasts' error bounds hold; near 0 °C as well, since ps rises from ice to water.
 template <class R>
@@ -104,8 +107,15 @@ class PsychrometerReading {
     R Ap_, pv_;
 };
 
+// What a search has reached, and where it goes on.
 template <class R>
-R searched_wet_bulb(const PsychrometerReading<R>& air) noexcept requires is_single<R> {
+struct Searched {
+    R value;
+    MaskOf<R> unfinished;
+};
+
+template <class R>
+Searched<R> searched_wet_bulb(const PsychrometerReading<R>& air) noexcept requires is_single<R> {
     const auto& forecast = air.forecast;
     R tw = air.t;
     R tn = air.t;
@@ -128,24 +138,21 @@ R searched_wet_bulb(const PsychrometerReading<R>& air) noexcept requires is_sing
             break;  // not a number
         }
     }
-    return tn;
+    return {tn, false};
 }
 
 // A pack goes all steps that its forecasts decide before it asks for a trial of those in doubt.
 template <class R>
-R searched_wet_bulb(const PsychrometerReading<R>& air) noexcept {
+Searched<R> searched_wet_bulb(const PsychrometerReading<R>& air) noexcept {
     R tw = air.t;
     R tn = air.t;
     R step(1.0f);
-    IntegerOf<R> steps(0);
     MaskOf<R> searching(true);
     const auto move = [&](MaskOf<R> sinks, MaskOf<R> rises) {
         tw = select(sinks, tw - step, select(rises, tw + step, tw));
         step = select(rises, step * air.tenth, step);
-        steps = select(sinks | rises, steps + 1, steps);
-        searching = searching & (steps < widest_search);
     };
-    while (any(searching)) {
+    for (int i = 0; i < longest_wait && any(searching); ++i) {
         const MaskOf<R> sinks = searching & air.forecast.above(tw);
         const MaskOf<R> rises = searching & air.forecast.below(tw);
         if (any(sinks | rises)) {
@@ -156,14 +163,14 @@ R searched_wet_bulb(const PsychrometerReading<R>& air) noexcept {
         searching = searching & !(absolute(tw - tn) < air.tenth) & (tw == tw) & (tn == tn);
         move(searching & (tw > tn), searching & (tw <= tn));
     }
-    return tn;
+    return {tn, searching};
 }
 
 // What a psychrometer reads at relative humidity rh, %, to 0.1 K.
 template <class R>
 R psychrometer_wet_bulb(R t, R rh, R p, IntegerOf<R> type) noexcept {
-    const R tn = searched_wet_bulb(PsychrometerReading<R>(t, rh, p, type));
-    return select(t < tn, t, tn);
+    const auto [tn, unfinished] = searched_wet_bulb(PsychrometerReading<R>(t, rh, p, type));
+    return replaced(unfinished, select(t < tn, t, tn), psychrometer_wet_bulb<Real>, t, rh, p, type);
 }
 
 // At percentage saturation with the enhancement factor, to 0.01 K, rounded up.
@@ -189,13 +196,12 @@ R wet_bulb_from_percentage_saturation(R t, R saturation, R p, IntegerOf<R> type)
             step /= 10.0f;
             if (step < finest_step) return twb;
         }
+        return twb;
     } else {
-        IntegerOf<R> steps(0);
         MaskOf<R> searching(true), trying(false);  // trying: where twb waits for a trial
-        while (any(searching)) {
+        for (int i = 0; i < longest_wait && any(searching); ++i) {
             const MaskOf<R> stepping = searching & !trying;
             twb = select(stepping, twb - step, twb);
-            steps = select(stepping, steps + 1, steps);
             const MaskOf<R> moister = stepping & forecast.above(twb);
             MaskOf<R> drier = stepping & forecast.below(twb);
             trying = trying | (stepping & !(moister | drier));
@@ -207,11 +213,11 @@ R wet_bulb_from_percentage_saturation(R t, R saturation, R p, IntegerOf<R> type)
             }
             twb = select(drier, twb + step, twb);
             step = select(drier, step / 10.0f, step);
-            searching =
-                searching & !(drier & (step < finest_step)) & (trying | (steps < widest_search));
+            searching = searching & !(drier & (step < finest_step));
         }
+        return replaced(searching, twb, wet_bulb_from_percentage_saturation<Real>, t, saturation, p,
+                        type);
     }
-    return twb;
 }
 
 // At moisture content g, kg/kg, with the enhancement factor, to 0.005 K.
@@ -239,15 +245,13 @@ R wet_bulb_from_moisture_content(R t, R g, R p, IntegerOf<R> type) noexcept {
         return twb;
     } else {
         const MaskOf<R> searched = searching;
-        IntegerOf<R> steps(0);
         const auto move = [&](MaskOf<R> decided, MaskOf<R> drier) {
             twb = select(drier, twb + step, twb);
             step = select(drier, step / 10.0f, step);
             twb = select(decided, twb - step, twb);
-            steps = select(decided, steps + 1, steps);
-            searching = searching & !(step < finest_step) & (steps < widest_search / 5);
+            searching = searching & !(step < finest_step);
         };
-        while (any(searching)) {
+        for (int i = 0; i < longest_wait && any(searching); ++i) {
             const MaskOf<R> drier = searching & forecast.below(twb);
             const MaskOf<R> decided = drier | (searching & forecast.above(twb));
             if (any(decided))
@@ -255,7 +259,8 @@ R wet_bulb_from_moisture_content(R t, R g, R p, IntegerOf<R> type) noexcept {
             else
                 move(searching, searching & (air.moisture_content(twb) < g));
         }
-        return select(searched, twb, without_search);
+        return replaced(searching, select(searched, twb, without_search),
+                        wet_bulb_from_moisture_content<Real>, t, g, p, type);
     }
 }
 

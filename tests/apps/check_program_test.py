@@ -47,6 +47,24 @@ class Check(unittest.TestCase):
         self.assertEqual(findings["routines"], f"{ROUTINES} are there")
         self.assertRegex(findings["values"], r"^\d\d+ published examples are met$")
 
+    def test_array_library(self):
+        def finding(**settings):
+            return self.report(0, "--quick", **settings)["arrays"]
+
+        beside = r"\w+\.(dll|so) beside the library, instructions: "
+        self.assertRegex(finding(), beside + r"(scalar|v[234])$")
+        self.assertRegex(finding(environment={"QUORVEL_LEVEL": "scalar"}), beside + "scalar$")
+        name = finding().split()[0]
+        alone = self.altered(b"", b"")  # a copy elsewhere
+        self.assertEqual(finding(**alone), f"no {name} beside the library")
+        content = (LIBRARY.parent / name).read_bytes()
+        mark = b"@(#) Quorvel " + VERSION.encode()
+        other = content.replace(mark, mark[:-len(VERSION)] + b"9" * len(VERSION))
+        for arrays, fault in [(b"no library", f"{name} cannot be loaded"),
+                              (other, f"{'9' * len(VERSION)}, and this program checks {VERSION}")]:
+            files = alone["files"] | {name: arrays}
+            self.assertEqual(self.faults("--quick", **(alone | {"files": files})), {"arrays": "WRONG: " + fault})
+
     @unittest.skipIf(os.environ["SANITIZED"], "takes minutes under the sanitizers")
     def test_bits(self):
         bits = f"{ROUTINES} routines give the bits they must, in {ROUTINES * 100000} calls"

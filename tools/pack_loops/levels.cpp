@@ -1,8 +1,10 @@
+#include "arrays/processor.h"
 #include "pack_loops.h"
 
-#define QUORVEL_LEVEL(level)                               \
-    namespace quorvel_##level {                            \
-        extern const pack_loops::Functions pack_functions; \
+#define QUORVEL_LEVEL(level)                                    \
+    namespace quorvel_##level {                                 \
+        extern const pack_loops::Functions pack_functions;      \
+        extern const pack_loops::DoubleFunction pack_doubles[]; \
     }
 QUORVEL_LEVEL(v2)
 QUORVEL_LEVEL(v3)
@@ -12,14 +14,11 @@ QUORVEL_LEVEL(v4)
 namespace pack_loops {
 
 std::span<const Level> levels() {
-    static constexpr Level all[] = {{"v2", &quorvel_v2::pack_functions},
-                                    {"v3", &quorvel_v3::pack_functions},
-                                    {"v4", &quorvel_v4::pack_functions}};
-    const bool v2 = __builtin_cpu_supports("sse4.2");
-    const bool v3 = v2 && __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma");
-    const bool v4 = v3 && __builtin_cpu_supports("avx512dq") &&
-                    __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512bw");
-    return std::span(all).first(v4 ? 3 : v3 ? 2 : v2 ? 1 : 0);
+    using namespace quorvel::arrays;
+    static constexpr Level all[] = {{"v2", &quorvel_v2::pack_functions, quorvel_v2::pack_doubles},
+                                    {"v3", &quorvel_v3::pack_functions, quorvel_v3::pack_doubles},
+                                    {"v4", &quorvel_v4::pack_functions, quorvel_v4::pack_doubles}};
+    return std::span(all).first(supports_v4() ? 3 : supports_v3() ? 2 : supports_v2() ? 1 : 0);
 }
 
 }  // namespace pack_loops

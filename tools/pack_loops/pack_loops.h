@@ -1,4 +1,5 @@
-// The elementary functions of packs over arrays, compiled for each level of x86-64.
+// The elementary functions of packs, in single and double precision, over arrays, compiled for each
+// level of x86-64.
 #pragma once
 
 #include <cstddef>
@@ -19,9 +20,20 @@ struct Functions {
     Unary sincos_sum, saturation_pressure;  // for the benchmark
 };
 
+using DoubleUnary = void (*)(const double* x, double* result, std::size_t count);
+
+struct DoubleFunction {
+    const char* name;
+    DoubleUnary evaluate;
+};
+
+// Every level has these, in this order.
+constexpr std::size_t kDoubles = 11;
+
 struct Level {
     const char* name;
     const Functions* functions;
+    const DoubleFunction* doubles;
 };
 
 // Those that this machine can run, the lowest first

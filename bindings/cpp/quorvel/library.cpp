@@ -48,4 +48,9 @@ void* routine_address(const char* name) {
     return address;
 }
 
+void* address_in(const char* file, const char* name) {
+    void* const other = open(file);
+    return other ? find(other, name) : nullptr;
+}
+
 }  // namespace quorvel::host

@@ -27,6 +27,9 @@ void load_library();
 // Address of an exported routine; throws std::runtime_error when the library does not export it.
 void* routine_address(const char* name);
 
+// Address of what another library exports, by its file; null if it cannot be loaded or lacks it.
+void* address_in(const char* file, const char* name);
+
 // One argument of a call: an input by value or by address, an output by variable or by address.
 template <class Pointer>
 class Argument {

@@ -1,8 +1,5 @@
-// Compiled once for each level, with another name for the namespace quorvel each time. Nothing
-// outside it may be anything but inlined: the linker would keep one level's code for all.
-#include "pack_loops.h"
-
 #include "base/contract.h"
+#include "for_each.h"
 #include "pack/math.h"
 #include "psychro/saturation.h"
 
@@ -15,20 +12,14 @@ namespace {
 using pack::Reals;
 
 template <class F>
-void for_each(F f, const float* x, float* result, std::size_t count) {
-    for (std::size_t i = 0; i < count; i += pack::width)
-        pack::store(f(pack::load<Reals>(x + i)), result + i);
-}
-
-template <class F>
 void for_each_pair(F f, const float* x, const float* y, float* result, std::size_t count) {
     for (std::size_t i = 0; i < count; i += pack::width)
         pack::store(f(pack::load<Reals>(x + i), pack::load<Reals>(y + i)), result + i);
 }
 
-#define QUORVEL_UNARY(expression)                                            \
-    [](const float* values, float* result, std::size_t count) {              \
-        for_each([](Reals x) { return expression; }, values, result, count); \
+#define QUORVEL_UNARY(expression)                                                   \
+    [](const float* values, float* result, std::size_t count) {                     \
+        for_each<Reals>([](Reals x) { return expression; }, values, result, count); \
     }
 #define QUORVEL_BINARY(expression)                                                                \
     [](const float* first, const float* second, float* result, std::size_t count) {               \

@@ -13,14 +13,14 @@
 #include <vector>
 
 #include "math/math.h"
-#include "pack_doubles.h"
+#include "pack_loops.h"
 
 namespace {
 
 namespace own = quorvel::math;
 
 using Scalar = double (*)(double);
-constexpr Scalar kScalar[pack_doubles::kFunctions] = {
+constexpr Scalar kScalar[pack_loops::kDoubles] = {
     own::sin,  own::cos,  own::sin, own::cos, own::tan,  own::asin,
     own::acos, own::atan, own::exp, own::log, own::sqrt,
 };
@@ -53,9 +53,9 @@ bool same(double a, double b) {
     return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) || (a != a && b != b);
 }
 
-std::uint64_t differences(const pack_doubles::Level& level, std::size_t function,
+std::uint64_t differences(const pack_loops::Level& level, std::size_t function,
                           const std::vector<double>& x) {
-    const auto& [name, evaluate] = level.functions[function];
+    const auto& [name, evaluate] = level.doubles[function];
     std::vector<double> results(x.size());
     evaluate(x.data(), results.data(), x.size());
     std::uint64_t count = 0;
@@ -73,16 +73,15 @@ std::uint64_t differences(const pack_doubles::Level& level, std::size_t function
 
 int main(int argc, char** argv) {
     std::size_t count = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 2'000'000;
-    count -= count % pack_doubles::kCountUnit;
+    count -= count % pack_loops::kCountUnit;
     std::mt19937_64 random(1);
     std::vector<double> x(count);
     for (double& value : x) value = argument(random);
     std::uint64_t total = 0;
-    for (const pack_doubles::Level& level : pack_doubles::levels())
-        for (std::size_t f = 0; f < pack_doubles::kFunctions; ++f)
-            total += differences(level, f, x);
+    for (const pack_loops::Level& level : pack_loops::levels())
+        for (std::size_t f = 0; f < pack_loops::kDoubles; ++f) total += differences(level, f, x);
     std::printf("%zu levels, %zu functions, %zu arguments: %llu differences\n",
-                pack_doubles::levels().size(), pack_doubles::kFunctions, count,
+                pack_loops::levels().size(), pack_loops::kDoubles, count,
                 static_cast<unsigned long long>(total));
     return total == 0 ? 0 : 1;
 }
