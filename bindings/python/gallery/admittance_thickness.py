@@ -6,9 +6,9 @@
 # `cyclic_response` works out three materials at 120 thicknesses in one call, for the daily cycle, between the surface
 # resistances of an outer wall that `surface_resistance` gives.
 #
-# **The picture** shows both factors and how late the wave arrives. Check: a very thick wall is a half-space, whose
-# admittance is |1 / (Rsi + 1 / (b √(iω)))| with b = √(λρc): 6.1 W/m²K for dense concrete. Beyond some 15 cm the room
-# notices nothing more, while the damping goes on.
+# **The picture** shows admittance, decrement factor and how late the wave arrives, for three materials. Check: a very
+# thick wall is a half-space, whose admittance is |1 / (Rsi + 1 / (b √(iω)))| with b = √(λρc): 6.1 W/m²K for dense
+# concrete. Beyond some 15 cm the room notices nothing more, while the damping goes on.
 
 # %%
 import matplotlib.pyplot as plt

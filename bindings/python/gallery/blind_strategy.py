@@ -58,10 +58,10 @@ figure.colorbar(shown, ax=left, label="irradiance on the façade [W/m²]", pad=0
 style.months_along(left)
 left.set(ylim=(3, 21), yticks=range(3, 22, 3), xlabel="month", ylabel="hour of the day [h]",
          title=f"In colour: blind down, above {THRESHOLD} W/m²; grey: other daylight")
-for values, name, colour, height in ((energy_share, "energy transmitted,\nof that without", style.ORANGE, 72),
+for values, name, colour, height in ((energy_share, "energy transmitted,\nof that without", style.ORANGE, 67),
                                      (closed_share, "daylight hours with\nthe blind down", style.BLUE, 24)):
     right.plot(thresholds, values, color=colour)
-    style.label(right, 330, height, name, colour, (0, 0))
+    style.label(right, 380, height, name, colour, (0, 0))
 right.axvline(THRESHOLD, color=style.RED, linewidth=0.8)
 right.set(xlim=(0, 800), ylim=(0, 100), xlabel="threshold [W/m²]", ylabel="share of the year [%]", title="West window")
 plt.show()

@@ -17,7 +17,7 @@ import numpy as np
 import style
 
 from quorvel.fabric import condensation_profile, surface_resistance, total_vapour_resistance
-from quorvel.psychro import saturation_pressure, vapour_pressure
+from quorvel.psychro import vapour_pressure
 
 # From the room outwards: gypsum board, polythene sheet, mineral wool, old plaster, brick.
 THICKNESS = np.array([0.0125, 0, 0.060, 0.015, 0.220])  # m, 0 a membrane

@@ -48,7 +48,7 @@ clear, coated = unit(CLEAR, CLEAR), unit(COATED, CLEAR)
 single = np.reshape(glass_direct(*CLEAR, np.radians(INCIDENCE)), (2, 3, -1)).mean(axis=0)
 g = {"single, clear": single[0] + inward(single[1]), "double, clear": clear[0] + clear[1],
      "double, solar control": coated[0] + coated[1]}
-normal_transmittance, normal_g = float(clear[0][0]), float(g["double, clear"][0])
+normal_transmittance = float(clear[0][0])
 
 # %%
 figure, (left, right) = plt.subplots(1, 2, figsize=(8, 3.9))

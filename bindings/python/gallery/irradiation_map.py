@@ -14,7 +14,7 @@
 # %%
 import matplotlib.pyplot as plt
 import numpy as np
-import style
+import style  # noqa: F401  sets the look
 import weather_year
 
 from quorvel.climate import eccentricity_factor, perez_diffuse, read_epw, surface_irradiance_and_incidence
@@ -45,7 +45,7 @@ lines = axes.contour(orientation, tilt, annual.T / annual.max(), levels=[0.5, 0.
                      linewidths=0.7)
 axes.clabel(lines, fmt=lambda share: f"{100 * share:.0f} %", fontsize=8)
 axes.plot(orientation[best_facing], tilt[best_tilt], "o", color="black", markersize=4)
-text = f"best: {annual.max():.0f} kWh/m²\nat {tilt[best_tilt]}°, {100 * (annual.max() / level - 1):.0f} % above level"
+text = f"{annual.max():.0f} kWh/m²\nat {tilt[best_tilt]}°:\n{100 * (annual.max() / level - 1):.0f} % above level"
 axes.annotate(text, (orientation[best_facing], tilt[best_tilt]), xytext=(0, -8), textcoords="offset points",
               ha="center", va="top")
 figure.colorbar(filled, label="irradiation [kWh/m² a]", pad=0.02)

@@ -52,7 +52,8 @@ def page():
     """docs/gallery.md, of titles and the sentences that say what the pictures show."""
     lines = ["# Gallery", "",
              "Questions of practice, each worked out by a short script of `bindings/python/gallery/` with the Python",
-             "package and Matplotlib. `python make.py notebooks FOLDER` there makes notebooks of them."]
+             "package and Matplotlib. `python make.py notebooks FOLDER` there makes notebooks of them. Where a year of",
+             "weather is needed it is synthetic, of no real place; any EPW file does instead."]
     for script in SCRIPTS:
         text = next(cells(script))[1]
         title, shows = text.splitlines()[0][2:], " ".join(PICTURE.search(text)[1].split())
@@ -62,7 +63,7 @@ def page():
 
 
 def make_pages(docs):
-    """Pictures of 64 colours, which keeps the page light."""
+    """Pictures of 256 colours, which keeps the page light."""
     import matplotlib
 
     matplotlib.use("Agg")
@@ -76,7 +77,7 @@ def make_pages(docs):
         drawn = io.BytesIO()
         runpy.run_path(str(script))["figure"].savefig(drawn, dpi=110)
         plt.close("all")
-        picture = Image.open(drawn).convert("RGB").quantize(64, dither=Image.Dither.NONE)
+        picture = Image.open(drawn).convert("RGB").quantize(256, Image.Quantize.MAXCOVERAGE, dither=Image.Dither.NONE)
         picture.save(images / f"{script.stem}.png", optimize=True)
     (Path(docs) / "gallery.md").write_text(page(), encoding="utf-8")
 

@@ -20,7 +20,7 @@ def label(axes, x, y, text, colour="black", shift=(4, 0), **options):
     """Text beside the point (x, y), by a shift in points, on a white ground so that lines do not cross it."""
     options = {"va": "center", "ha": "left" if shift[0] >= 0 else "right"} | options
     return axes.annotate(text, (x, y), xytext=shift, textcoords="offset points", color=colour, annotation_clip=False,
-                         bbox={"facecolor": "white", "edgecolor": "none", "alpha": 0.75, "pad": 0.5}, **options)
+                         bbox={"facecolor": "white", "edgecolor": "none", "pad": 0.5}, **options)
 
 
 def months_along(axes):

@@ -6,8 +6,8 @@
 # in stereographic projection, in which a direction lies tan(zenith angle / 2) from the centre, so that angles are
 # true; the rim is the horizon. Hours are solar time; no refraction.
 #
-# **The picture** has a line for the 21st of each month and one for each hour. Check: at noon of the longest day the
-# sun stands 90° - latitude + 23.4° high, of the shortest 90° - latitude - 23.4°: 61.9° and 15.1° in London.
+# **The picture** has a line for about the 21st of each month and one for each hour. Check: at noon of the longest day
+# the sun stands 90° - latitude + 23.4° high, of the shortest 90° - latitude - 23.4°: 61.9° and 15.1° in London.
 
 # %%
 import matplotlib.pyplot as plt
