@@ -137,7 +137,6 @@ def finite(axes):
     return np.isfinite(axes.dataLim.bounds).all() and all(np.isfinite(np.ma.compressed(each)).any() for each in shaded)
 
 
-@pytest.mark.filterwarnings("error")
 @pytest.mark.parametrize("script", SCRIPTS)
 def test_script(script, run):
     result = run(script)
