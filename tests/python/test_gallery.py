@@ -1,4 +1,4 @@
-"""The scripts of the gallery: each runs without a warning, draws what it says, and gets a number that is known otherwise."""
+"""The gallery: each script runs without a warning, draws what it says, and gets a number that is known otherwise."""
 
 import csv
 import importlib.util
@@ -105,7 +105,8 @@ KNOWN = {
     "night_cooling": lambda r: (r["difference"][r["usable"] & r["in_summer"]].sum(), cooling_potential(r), 0.002),
     "pool_evaporation": lambda r: (r["usual"], [pool(0), pool(60)], 0.02),
     "psychrometric_chart": lambda r: (r["coil_load"], coil_load(), 0.01),
-    "site_plan": lambda r: ([r["in_strip"], sum(r["house_areas"])], [4 * 28 * math.hypot(0.25, 1), 15 * 12 + 8 * 4], 1e-4),
+    "site_plan": lambda r: (
+        [r["in_strip"], sum(r["house_areas"])], [4 * 28 * math.hypot(0.25, 1), 15 * 12 + 8 * 4], 1e-4),
     "sun_path": lambda r: (r["noon_altitude"], [38.5 + declination(day) for day in r["DATES"].values()], 0.02),
     "window_shading": lambda r: (r["first_clear_day"], next(
         day for day in range(1, 99) if 38.5 + declination(day) > math.degrees(math.atan(5.6 / 13))), 0.03),
