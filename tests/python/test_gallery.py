@@ -1,4 +1,4 @@
-"""The scripts of the gallery: each runs without a warning, draws what it says, and gets a number that is known otherwise."""
+"""The gallery: each script runs without a warning, draws what it says, and gets a number that is known otherwise."""
 
 import csv
 import importlib.util
@@ -73,14 +73,15 @@ def rows(result):
         return list(csv.reader(file))[8:]
 
 
-def usable_hours(result):
-    """From May to September, hour by hour, the cosine of the building written out."""
-    count = 0
+def cooling_potential(result):
+    """Kelvin hours from May to September, hour by hour, the cosine of the building written out."""
+    total = 0
     for row in (each for each in rows(result) if 5 <= int(each[1]) <= 9):
         hour, t, humidity = float(row[3]) - 0.5, float(row[6]), float(row[8])
         building = 24.5 + 2.5 * math.cos(math.pi * (hour - 19) / 12)
-        count += (hour > 19 or hour < 7) and building - t >= 3 and humidity / 100 * magnus(t) <= 0.5 * magnus(26)
-    return count
+        if (hour > 19 or hour < 7) and building - t >= 3 and humidity / 100 * magnus(t) <= 0.5 * magnus(26):
+            total += building - t
+    return total
 
 
 def pool(bathers):
@@ -101,10 +102,11 @@ KNOWN = {
     "insulation_thickness": lambda r: (
         r["wool_for_030"], 36 * (1 / 0.30 - (0.182 + 0.015 / 0.57 + 0.22 / 0.75 + 0.01)), 0.01),
     "irradiation_map": lambda r: (r["level"], sum(float(row[13]) for row in rows(r)) / 1000, 0.001),
-    "night_cooling": lambda r: ((r["usable"] & r["in_summer"]).sum(), usable_hours(r), 0.002),
+    "night_cooling": lambda r: (r["difference"][r["usable"] & r["in_summer"]].sum(), cooling_potential(r), 0.002),
     "pool_evaporation": lambda r: (r["usual"], [pool(0), pool(60)], 0.02),
     "psychrometric_chart": lambda r: (r["coil_load"], coil_load(), 0.01),
-    "site_plan": lambda r: ([r["in_strip"], sum(r["house_areas"])], [4 * 28 * math.hypot(0.25, 1), 15 * 12 + 8 * 4], 1e-4),
+    "site_plan": lambda r: (
+        [r["in_strip"], sum(r["house_areas"])], [4 * 28 * math.hypot(0.25, 1), 15 * 12 + 8 * 4], 1e-4),
     "sun_path": lambda r: (r["noon_altitude"], [38.5 + declination(day) for day in r["DATES"].values()], 0.02),
     "window_shading": lambda r: (r["first_clear_day"], next(
         day for day in range(1, 99) if 38.5 + declination(day) > math.degrees(math.atan(5.6 / 13))), 0.03),
