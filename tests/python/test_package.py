@@ -75,12 +75,18 @@ def test_types(tmp_path):
     good = """
 import numpy as np
 from numpy.typing import NDArray
-from quorvel import fabric, geometry, psychro
+import quorvel
+from quorvel import climate, fabric, geometry, psychro
 one: np.float32 = psychro.vapour_pressure(20.0, 50)
 many: NDArray[np.float32] = psychro.vapour_pressure(np.linspace(0, 1), [40, 50])
 u = fabric.u_value([0.1, 0.2], [0.3, 0.4], 0.13, 0.04)
 kind = psychro.vapour_pressure_from_psychrometer(25, 20, 101325, psychro.Psychrometer.sling)
 tilt = geometry.facing(np.eye(3), 1.0).tilt
+with quorvel.errstate(range="warn"):
+    enthalpy = psychro.mixed(psychro.state(t=20, rh=50), psychro.state(t=10, rh=50)).enthalpy
+weather = climate.read_epw("here.epw")
+hours: NDArray[np.float32] = weather["dry_bulb"]
+area = geometry.overlap_area([(0, 0), (0, 1), (1, 1)], [(0, 0), (0, 1), (1, 1)])
 """
     families = [f"quorvel.{family}.routines" for family, _ in DOCUMENTED.values()]
     checked = subprocess.run([sys.executable, "-m", "mypy.stubtest", *dict.fromkeys(families), "--ignore-missing-stub"],

@@ -18,6 +18,7 @@ ufuncs : the NumPy ufuncs behind the functions, for `axes=`, `casting=` and the 
 """
 
 import importlib
+from typing import TYPE_CHECKING, Any
 
 from . import _core
 from ._dispatch import dispatch as _dispatch
@@ -25,17 +26,20 @@ from .errors import RangeError, RangeWarning, errstate
 
 __all__ = ["RangeError", "RangeWarning", "choose_level", "climate", "errstate", "fabric", "geometry", "glazing",
            "level", "psychro", "selectors", "ufuncs"]
-__version__ = _core.version()
+if TYPE_CHECKING:
+    from . import climate, fabric, geometry, glazing, psychro, selectors, ufuncs
+
+__version__: str = _core.version()
 
 _core.set_dispatcher(_dispatch)
 
 
-def level():
+def level() -> str:
     """The level of instructions in use: "v2", "v3" or "v4" of x86-64, or "scalar"."""
     return _core.level()
 
 
-def choose_level(name=None):
+def choose_level(name: str | None = None) -> None:
     """Take another level of instructions from now on, the best one for None. Results do not depend on it.
 
     Raises
@@ -47,12 +51,12 @@ def choose_level(name=None):
         raise ValueError(f"level {name!r} is not supported by this processor; in use is {level()!r}")
 
 
-def __getattr__(name):
+def __getattr__(name: str) -> Any:
     # A family is loaded when it is first asked for.
     if name in __all__:
         return importlib.import_module(f".{name}", __name__)
     raise AttributeError(f"module {__name__!r} has no attribute {name!r}")
 
 
-def __dir__():
+def __dir__() -> list[str]:
     return sorted({*globals(), *__all__})

@@ -1,6 +1,8 @@
 """What is done about values outside the valid ranges."""
 
-from contextvars import ContextVar
+from collections.abc import Callable
+from contextvars import ContextVar, Token
+from typing import Any
 
 from . import _core
 
@@ -40,22 +42,22 @@ class errstate:
     [1167.7646       nan]
     """
 
-    def __init__(self, *, range):
+    def __init__(self, *, range: str) -> None:
         if range not in POLICIES:
             raise ValueError(f"range must be one of {', '.join(map(repr, POLICIES))}, not {range!r}")
         self._policy = POLICIES[range]
-        self._tokens = []
+        self._tokens: list[Token[int]] = []
 
-    def __enter__(self):
+    def __enter__(self) -> "errstate":
         self._tokens.append(_policy.set(self._policy))
         _core.count_errstates(1)
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, *_: object) -> None:
         _core.count_errstates(-1)
         _policy.reset(self._tokens.pop())
 
-    def __call__(self, function):
+    def __call__(self, function: Callable[..., Any]) -> Callable[..., Any]:
         """As a decorator."""
         from functools import wraps
 

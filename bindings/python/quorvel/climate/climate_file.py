@@ -4,6 +4,7 @@ import os
 from typing import NamedTuple
 
 import numpy as np
+from numpy.typing import NDArray
 
 from .. import _core
 
@@ -58,20 +59,20 @@ class ClimateFile:
     ...     july = stations[12].climate(month=7, percentage=97.5)
     """
 
-    def __init__(self, path):
+    def __init__(self, path: str | os.PathLike[str]) -> None:
         self.path = os.fspath(path)
         self._file = _core.open_climate_file(path)
 
-    def __getitem__(self, station):
+    def __getitem__(self, station: int) -> "Station":
         return Station(self, station)
 
-    def __enter__(self):
+    def __enter__(self) -> "ClimateFile":
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, *_: object) -> None:
         self.close()
 
-    def close(self):
+    def close(self) -> None:
         """Close the file; its stations can no longer be read."""
         self._file = None
 
@@ -90,34 +91,34 @@ class ClimateFile:
 class Station:
     """A station of a climate data file."""
 
-    def __init__(self, file, number):
+    def __init__(self, file: ClimateFile, number: int) -> None:
         self.file, self.number = file, number
 
     def __repr__(self):
         return f"{self.file!r}[{self.number}]"
 
-    def climate(self, month, *, band=0, percentage=0.0, band_set=1):
+    def climate(self, month: int, *, band: int = 0, percentage: float = 0.0, band_set: int = 1) -> StationClimate:
         """Climate of a month, 1 to 12: of a band from 1 to 10 or, for band 0, at a cumulative percentage of days.
 
         The bits of CLBNFI in quorvel.h.
         """
         return StationClimate(*self._read(_core.station_climate, band, month, band_set, percentage))
 
-    def locate_band(self, fraction, month, *, band_set=1):
+    def locate_band(self, fraction: float, month: int, *, band_set: int = 1) -> StationBand:
         """Where a cumulative fraction of days lies among the ten bands of a month. The bits of CLBNF1."""
         return StationBand(*self._read(_core.locate_station_band, band_set, fraction, month))
 
-    def interpolate_rows(self, base_row, band, month):
+    def interpolate_rows(self, base_row: int, band: StationBand, month: int) -> float:
         """Value between the rows base_row + lower_band and base_row + upper_band of a StationBand. (CLBNF2)"""
         return self._read(_core.interpolate_station_rows, base_row, band.lower_band, band.upper_band, month,
                           band.band_weight)
 
-    def row(self, row):
+    def row(self, row: int) -> NDArray[np.float32]:
         """A row from 1 to 171, a value for each month: 1 time A, 2 time B, 3 to 12 frequencies of the bands, 13
         to 82 Q1 to Q7, ten each; 82 more in set 2. An array of 12 of float32; the bits of CLBNF3."""
         return np.array(self._read(_core.station_row, row), np.float32)
 
-    def frequencies(self, band_set=1):
+    def frequencies(self, band_set: int = 1) -> NDArray[np.float32]:
         """Share of the days in each band and month, an array of shape (10, 12)."""
         first = 3 if band_set != 2 else 85
         return np.stack([self.row(first + band) for band in range(10)])

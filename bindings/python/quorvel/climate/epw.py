@@ -2,9 +2,10 @@
 
 import csv
 import os
-from typing import NamedTuple
+from typing import Any, NamedTuple
 
 import numpy as np
+from numpy.typing import NDArray
 
 __all__ = ["Column", "EPW_COLUMNS", "Weather", "read_epw"]
 
@@ -67,24 +68,24 @@ class Weather:
         self.year, self.month, self.day, self.hour = dates
         self.columns = columns
 
-    def __getitem__(self, name):
+    def __getitem__(self, name: str) -> NDArray[np.float32]:
         if name not in self.columns:
             raise KeyError(f"{name!r} is none of the columns {', '.join(self.columns)}")
         return self.columns[name]
 
-    def __len__(self):
+    def __len__(self) -> int:
         return len(self.hour)
 
     def __repr__(self):
         return f"<Weather of {self.place}: {len(self)} hours>"
 
     @property
-    def day_of_year(self):
+    def day_of_year(self) -> NDArray[np.int32]:
         """1 for 1 January, of a year without a 29 February where the file has none."""
         days = np.array([31, 29 if np.any((self.month == 2) & (self.day == 29)) else 28, *[31, 30] * 2, 31, 31, 30, 31, 30])
         return (np.concatenate(([0], np.cumsum(days)))[self.month - 1] + self.day).astype(np.int32)
 
-    def to_pandas(self):
+    def to_pandas(self) -> Any:
         """A table of pandas. Its index is the end of each hour, in a year of the calendar as long as the file's."""
         import pandas
 
@@ -94,7 +95,7 @@ class Weather:
         table.index = pandas.DatetimeIndex(index + pandas.to_timedelta(self.hour, unit="h"), name="time")
         return table
 
-    def to_xarray(self):
+    def to_xarray(self) -> Any:
         """A data set of xarray with the dimension time, units and long names."""
         data = self.to_pandas().to_xarray()
         for name, column in EPW_COLUMNS.items():
@@ -104,7 +105,7 @@ class Weather:
         return data
 
 
-def read_epw(path):
+def read_epw(path: str | os.PathLike[str]) -> Weather:
     """Read a weather file.
 
     Parameters

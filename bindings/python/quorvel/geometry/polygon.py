@@ -4,9 +4,10 @@ A polygon is an array of shape (n, 2), in plan, or (n, 3), in space, or a list t
 list of polygons, which may have different numbers of vertices, or an array of shape (m, n, 2) or (m, n, 3).
 """
 
-from typing import NamedTuple
+from typing import Any, NamedTuple
 
 import numpy as np
+from numpy.typing import ArrayLike, NDArray
 
 from .. import _core
 from . import routines
@@ -21,11 +22,11 @@ class ClippingError(ValueError):
 class Clipped(NamedTuple):
     """What clip returns: pieces, each an array of shape (n, 2)."""
 
-    difference: list
-    overlap: list
+    difference: list[NDArray[np.float64]]
+    overlap: list[NDArray[np.float64]]
 
 
-def clip(a, b):
+def clip(a: ArrayLike, b: ArrayLike) -> Any:
     """Difference A - B and overlap of two simple polygons in plan.
 
     Parameters
@@ -69,7 +70,7 @@ def clip(a, b):
     return _clip(_plan(a, "a"), _plan(b, "b"))
 
 
-def overlap(a, b):
+def overlap(a: ArrayLike, b: ArrayLike) -> Any:
     """The pieces of the overlap of two polygons in plan: `clip(a, b).overlap`, or a list of these.
 
     `ufuncs.overlap` has the routine GEOVER of quorvel.h, in single precision.
@@ -78,7 +79,7 @@ def overlap(a, b):
     return clipped.overlap if isinstance(clipped, Clipped) else [each.overlap for each in clipped]
 
 
-def overlap_area(a, b):
+def overlap_area(a: ArrayLike, b: ArrayLike) -> Any:
     """Area of the overlap of polygons in plan, in m² if they are in m.
 
     Takes what `clip` takes, and is the quickest way for many: the loop runs without Python's lock. Of a pair that
@@ -99,7 +100,7 @@ def overlap_area(a, b):
     return areas if _is_collection(a) or _is_collection(b) else areas[0]
 
 
-def area(polygon):
+def area(polygon: ArrayLike) -> Any:
     """Area of a polygon in plan or in space, or of each of a collection; positive whichever way round.
 
     In plan by the shoelace formula; in space the length of the vector area, so exact for plane polygons. In double
@@ -118,7 +119,7 @@ def area(polygon):
     return _area(_points(polygon, "polygon"))
 
 
-def orientation(polygon):
+def orientation(polygon: ArrayLike) -> routines.PolygonOrientation:
     """Area, tilt and azimuth of a plane polygon in space, or of each of a collection, as `polygon_orientation`.
 
     Polygons of a collection that have as many vertices as one another are worked out in one call.

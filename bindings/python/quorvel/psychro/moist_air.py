@@ -66,7 +66,7 @@ DRY_BULB = {
 }
 
 
-def state(*, p=101325.0, psychrometer="sling", **known):
+def state(*, p: Any = 101325.0, psychrometer: Any = "sling", **known: Any) -> State:
     """The whole state of moist air from any two of its quantities.
 
     Parameters
@@ -128,7 +128,7 @@ def state(*, p=101325.0, psychrometer="sling", **known):
     return _complete(given["t"], WITH_DRY_BULB[other](given["t"], given[other], p, psychrometer), p, psychrometer, fixed)
 
 
-def mixed(first, second, first_flow=1.0, second_flow=1.0):
+def mixed(first: State, second: State, first_flow: Any = 1.0, second_flow: Any = 1.0) -> State:
     """Two streams of air that become one, without heat from outside.
 
     Parameters
@@ -155,7 +155,7 @@ def mixed(first, second, first_flow=1.0, second_flow=1.0):
     return state(t=mixture.dry_bulb, g=mixture.moisture_content, p=first.pressure)
 
 
-def heated(air, t):
+def heated(air: State, t: Any) -> State:
     """Air brought to a dry bulb without moisture given or taken; to cool it above its dew point likewise.
 
     The heat is the difference of the enthalpies [kJ/kg of dry air].
@@ -163,7 +163,7 @@ def heated(air, t):
     return state(t=t, g=air.moisture_content, p=air.pressure)
 
 
-def cooled(air, t, coil_temperature):
+def cooled(air: State, t: Any, coil_temperature: Any) -> State:
     """Air cooled to a dry bulb by a coil whose surface is at a temperature, in the mean.
 
     Parameters
@@ -187,7 +187,7 @@ def cooled(air, t, coil_temperature):
     return state(t=t, g=air.moisture_content - condensed, p=air.pressure)
 
 
-def humidified(air, rh, by="water"):
+def humidified(air: State, rh: Any, by: str = "water") -> State:
     """Air brought to a relative humidity [%] by water, along its wet bulb, or by steam, at its dry bulb.
 
     Water of the wet bulb's temperature, finely sprayed, takes the heat that evaporates it from the air; steam near

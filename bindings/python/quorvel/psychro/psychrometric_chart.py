@@ -1,9 +1,11 @@
 """The psychrometric chart, by Matplotlib."""
 
+from typing import Any
+
 import numpy as np
 
 from . import routines as r
-from .moist_air import state
+from .moist_air import State, state
 
 __all__ = ["chart", "draw_process"]
 
@@ -11,7 +13,8 @@ _HUMIDITIES = range(10, 101, 10)
 _FAINT, _WET = "#8a8a8a", "#56B4E9"
 
 
-def chart(ax=None, *, t=(0, 40), g=(0, 0.025), p=101325.0):
+def chart(ax: Any = None, *, t: tuple[float, float] = (0, 40), g: tuple[float, float] = (0, 0.025),
+          p: float = 101325.0) -> Any:
     """Draw a psychrometric chart: moisture content over dry bulb, relative humidity and wet bulb.
 
     Parameters
@@ -50,7 +53,7 @@ def chart(ax=None, *, t=(0, 40), g=(0, 0.025), p=101325.0):
     return ax
 
 
-def draw_process(ax, *states, label=None, **style):
+def draw_process(ax: Any, *states: State, label: str | None = None, **style: Any) -> Any:
     """Draw states and the straight lines from one to the next; `label` stands beside the middle of the first.
 
     Further options are those of `ax.plot`. Returns its lines.
