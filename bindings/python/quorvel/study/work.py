@@ -1,0 +1,55 @@
+"""One chunk of a result, worked out and written by whichever worker has it."""
+
+import os
+import socket
+import time
+from functools import lru_cache
+from math import prod
+from typing import NamedTuple
+
+import numpy as np
+
+from . import model
+from .chunks import extent
+from .definition import HOURS
+
+__all__ = ["Done", "compute", "hours_at", "work"]
+
+
+class Done(NamedTuple):
+    """A chunk that is there."""
+
+    place: tuple
+    elements: int  # worked out for it; none where it was there before
+    seconds: float
+    worker: str
+
+
+def work(result, place):
+    """Work out the chunk and write it, unless it is there."""
+    begin = time.perf_counter()
+    elements = 0
+    if not result.has(place):
+        where = extent(result.study, place)
+        result.write(place, compute(result.study, hours_at(result, where[0].start), where))
+        elements = HOURS * prod(part.stop - part.start for part in where)
+    return Done(place, elements, time.perf_counter() - begin, f"{socket.gethostname()}:{os.getpid()}")
+
+
+@lru_cache(maxsize=8)
+def hours_at(result, station):
+    """The hours with radiation of a station; several chunks in a row have the same."""
+    return model.hours_of(result.weather(station))
+
+
+def compute(study, hours, where):
+    """What is kept of the part of the cube that the slices say: of one station, whose hours are given, and one tilt."""
+    _, tilts, azimuths, glazings, blinds = (
+        values[part] for values, part in zip((study.stations, study.tilts, study.azimuths, study.glazings, study.blinds), where))
+    units = [model.panes_together(unit["panes"]) for unit in glazings]
+    blinds = model.slats_and_rollers(blinds)
+    rows = []
+    for azimuth in azimuths:
+        surface = model.facade(hours, azimuth, tilts[0], study.ground_reflectance)
+        rows.append([model.reduced(q, hours.number, study.keep) for q in model.transmitted(surface, units, blinds)])
+    return {name: np.array([[[[kept[name] for kept in row] for row in rows]]]) for name in study.keep}
