@@ -52,8 +52,8 @@ def _plan(study, options):
     planned = plan(study)
     print(f"elements     {planned.elements:.4g} = {' x '.join(map(str, study.shape))} x 8760 hours"
           f" (stations, tilts, azimuths, glazings, blinds)\n"
-          f"chunks       {planned.chunks}, up to {planned.chunk_bytes / 1e6:.1f} MB of memory each\n"
-          f"output       {planned.output_bytes / 1e6:.1f} MB before compression ({', '.join(study.keep)})\n"
+          f"chunks       {planned.chunks}, up to {planned.chunk_bytes / 1e6:.3g} MB of memory each\n"
+          f"output       {planned.output_bytes / 1e6:.3g} MB before compression ({', '.join(study.keep)})\n"
           f"measured     {planned.rate:.3g} elements/s on one thread now, without writing\n"
           f"estimated    {clock(planned.seconds(options.threads))} on {options.threads} such thread(s)")
     return DONE

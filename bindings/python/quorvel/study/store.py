@@ -71,7 +71,12 @@ class Result:
         self.study = Study(**self.identity["study"])
 
     def __reduce__(self):
-        return _reopened, (self.path, json.dumps(self.identity))
+        return _reopened, (self.path, self.stamp)
+
+    @property
+    def stamp(self):
+        """The identity in few bytes, for they go with each chunk's task."""
+        return hashlib.sha256(json.dumps(self.identity, sort_keys=True).encode()).hexdigest()
 
     def weather(self, station):
         """Of the station of that number, as it was when the result was made."""
@@ -94,10 +99,11 @@ class Result:
 
 
 @lru_cache(maxsize=4)
-def _reopened(path, identity):
+def _reopened(path, stamp):
     """At a worker, once for all chunks."""
     result = Result(path)
-    _same_study(path, result.identity, json.loads(identity))
+    if result.stamp != stamp:
+        raise StudyError(f"{path} has become the result of another study")
     if result.identity["library"] != _core.version():
         raise StudyError(f"a worker has version {_core.version()} of quorvel, the result {result.identity['library']}")
     return result

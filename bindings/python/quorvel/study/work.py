@@ -47,9 +47,13 @@ def compute(study, hours, where):
     _, tilts, azimuths, glazings, blinds = (
         values[part] for values, part in zip((study.stations, study.tilts, study.azimuths, study.glazings, study.blinds), where))
     units = [model.panes_together(unit["panes"]) for unit in glazings]
-    blinds = model.slats_and_rollers(blinds)
-    rows = []
-    for azimuth in azimuths:
+    blinds_here = model.slats_and_rollers(blinds)
+    arrays = {}
+    for row, azimuth in enumerate(azimuths):
         surface = model.facade(hours, azimuth, tilts[0], study.ground_reflectance)
-        rows.append([model.reduced(q, hours.number, study.keep) for q in model.transmitted(surface, units, blinds)])
-    return {name: np.array([[[[kept[name] for kept in row] for row in rows]]]) for name in study.keep}
+        for column, q in enumerate(model.transmitted(surface, units, blinds_here)):
+            for name, values in model.reduced(q, hours.number, study.keep).items():
+                if name not in arrays:
+                    arrays[name] = np.empty((1, 1, len(azimuths), len(units), *values.shape), np.float32)
+                arrays[name][0, 0, row, column] = values
+    return arrays
