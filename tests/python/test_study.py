@@ -10,7 +10,7 @@ from pathlib import Path
 import numpy as np
 import pytest
 
-pytest.importorskip("zarr")
+pytest.importorskip("zarr", minversion="3.1.6")
 xarray = pytest.importorskip("xarray")
 
 from quorvel import climate, glazing, study  # noqa: E402
@@ -19,6 +19,7 @@ from quorvel.study.__main__ import main  # noqa: E402
 from quorvel.study.chunks import chunks  # noqa: E402
 from quorvel.study.store import Result  # noqa: E402
 
+EXAMPLE = Path(__file__).parents[2] / "bindings" / "python" / "examples" / "facade.toml"
 TEXT = """
 [output]
 keep = ["hourly", "monthly", "annual", "peak"]
@@ -71,7 +72,7 @@ def written(folder, text=TEXT):
 
 
 def epw(path, direct, diffuse, hours=8760):
-    """A weather file with the same irradiance from 10:00 to 14:00 of all days, in Greenwich, the sun 9° high or more."""
+    """A weather file with the same irradiance from 10:00 to 14:00 of all days: the sun is 9° high or more."""
     lines = ["LOCATION,Here,-,-,-,0,51.5,0,0,20"] + ["-"] * 7
     for hour in range(hours):
         month = int(np.searchsorted(sun.MONTHS, hour, "right"))
@@ -101,14 +102,15 @@ def test_cube_is_labelled_and_consistent(cube):
     hourly = cube.transmitted_hourly
     assert hourly.dims == ("station", "tilt", "azimuth", "glazing", "blind", "time")
     assert (hourly.units, cube.transmitted_annual.units) == ("W/m2", "kWh/m2")
-    assert list(cube.station.values) == ["Tromsø", "Quito"] and str(cube.time.values[0]) == "2005-01-01T00:30:00.000000000"
+    assert list(cube.station.values) == ["Tromsø", "Quito"]
+    assert cube.time.values[0] == np.datetime64("2005-01-01T00:30")
     months = hourly.astype("f8").groupby("time.month").sum() / 1000
-    np.testing.assert_allclose(cube.transmitted_monthly, months.transpose(*cube.transmitted_monthly.dims), rtol=1e-6, atol=1e-6)
+    np.testing.assert_allclose(cube.transmitted_monthly, months.transpose(..., "month"), rtol=1e-6, atol=1e-6)
     np.testing.assert_allclose(cube.transmitted_annual, months.sum("month"), rtol=1e-6)
     np.testing.assert_array_equal(cube.transmitted_peak, hourly.max("time"))
     assert float(hourly.sel(station="Tromsø", time="2005-12-21").max()) == 0  # polar night
-    at_midnight = hourly.sel(station="Tromsø", time="2005-06-21T00:30", azimuth=0, tilt=90, glazing="clear", blind="none")
-    assert float(at_midnight) > 0
+    to_the_north = hourly.sel(station="Tromsø", azimuth=0, tilt=90, glazing="clear", blind="none")
+    assert float(to_the_north.sel(time="2005-06-21T00:30")) > 0  # midnight sun
     assert (hourly.sel(blind="slats") <= hourly.sel(blind="none")).all()
 
 
@@ -194,7 +196,8 @@ def test_killed_worker_loses_nothing_and_repeats_nothing(cube, tmp_path):
 @pytest.mark.skipif(os.name == "nt", reason="signals of POSIX")
 @pytest.mark.parametrize("signal_sent, code", [(signal.SIGINT, 130), (signal.SIGKILL, -signal.SIGKILL)])
 def test_stopped_run_goes_on_with_what_is_missing(tmp_path, signal_sent, code):
-    path = written(tmp_path, TEXT.replace("azimuths = 8", "azimuths = 60").replace('"hourly", "monthly", "annual", ', ""))
+    short = TEXT.replace('"hourly", "monthly", "annual", ', "")
+    path = written(tmp_path, short.replace("azimuths = 8", "azimuths = 60"))
     command = [sys.executable, "-m", "quorvel.study", str(path), "--threads", "1"]
     process = subprocess.Popen(command, stderr=subprocess.DEVNULL)
     chunk_files = tmp_path / "facade.zarr" / "transmitted_peak"
@@ -239,9 +242,9 @@ def test_plan_computes_nothing(tmp_path, capsys):
     ("azimuths = 8", "azimuths = []", "orientations.azimuths must not be empty"),
     ("tilts = [30, 90]", "tilts = [90, 90]", "orientations.tilts has a number twice"),
     ("tilts = [30, 90]", "tilts = nan", "orientations.tilts = nan must be a number from 0 to 180"),
-    ("transmittance = 0.60", "transmittance = 0.93", "glazings[2].panes[2].transmittance = 0.93 must be a number from 0 to 0.92"),
-    ("reflectance = 0.28", "reflectance = 0.005", "panes[2].reflectance = 0.005 must be 0, which says uncoated, or from 0.01"),
-    ("reflectance = 0.28", "reflectance = 0.5", "panes[2].reflectance = 0.5 must be from 0.01 to 0.4"),
+    ("transmittance = 0.60", "transmittance = 0.93", "glazings[2].panes[2].transmittance = 0.93 must be"),
+    ("reflectance = 0.28", "reflectance = 0.005", "panes[2].reflectance = 0.005 must be 0, which says uncoated"),
+    ("reflectance = 0.28", "reflectance = 0.5", "panes[2].reflectance = 0.5 must be at most 0.4"),
     ("panes = [{ transmittance = 0.82 }]", "panes = []", "glazings[1].panes must be a list of tables"),
     ('name = "coated"', 'name = "clear"', "glazings has the name 'clear' twice"),
     ('kind = "slatted"', 'kind = "curtain"', "blinds[2].kind = 'curtain' must be one of slatted, roller, none"),
@@ -249,7 +252,7 @@ def test_plan_computes_nothing(tmp_path, capsys):
     ("absorptance = 0.3", "", "blinds[2].absorptance is missing"),
     ("latitude = -0.2", "latitude = 95", "stations[2].latitude = 95 must be a number from -90 to 90"),
     ("height = 2850", "heigth = 2850", "stations[2].heigth is not known here"),
-    ('name = "Tromsø"', 'epw = "none.epw"\nname = "Tromsø"', "stations[1].latitude is not known here; known are name, epw"),
+    ('name = "Tromsø"', 'epw = "none.epw"\nname = "Tromsø"', "stations[1].latitude is not known here; known are name"),
     ("height = 2850", 'height = 2850\n[[stations]]\nepw = "none*.epw"', "stations[3].epw = 'none*.epw' is no file"),
 ])
 def test_bad_studies_are_named(tmp_path, capsys, old, new, complaint):
@@ -270,6 +273,10 @@ def test_bad_weather_files_are_named(tmp_path, capsys, values, complaint):
     path = written(tmp_path, TEXT + EPW.format("*.epw"))
     assert main([str(path), "--plan"]) == 2
     assert f"here.epw: {complaint}" in capsys.readouterr().err
+
+
+def test_example_is_a_study():
+    assert study.read_study(EXAMPLE).shape == (3, 1, 8, 3, 3)
 
 
 def test_missing_libraries_are_named(tmp_path, monkeypatch, capsys):

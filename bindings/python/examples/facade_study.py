@@ -6,6 +6,7 @@
 import xarray
 
 cube = xarray.open_zarr("facade.zarr")
-summer = cube.transmitted_monthly.sel(month=slice(6, 8), station="Rome", tilt=90, glazing="double, low emissivity").sum("month")
-share = summer / summer.sel(blind="none")
-print(share.drop_vars(["station", "glazing", "tilt", "latitude", "longitude", "time_zone"]).to_series().unstack("blind").round(2))
+wall = cube.transmitted_monthly.sel(station="Rome", tilt=90, glazing="double, low emissivity")
+summer = wall.sel(month=slice(6, 8)).sum("month")
+share = summer / summer.sel(blind="none", drop=True)
+print(share.to_series().unstack("blind").round(2))

@@ -14,6 +14,7 @@ fabric : surface and cavity resistances, U-values, admittance, condensation
 glazing : panes, glazing units, blinds, temperatures of panes
 climate : sun, sky, radiation on tilted surfaces, design days, band climate; `ClimateFile`, `read_epw`
 geometry : vectors, planes, polygons; `clip`, `overlap`, `area` and `orientation` of polygons
+study : parametric studies of a facade, also on a Dask cluster: `python -m quorvel.study`
 ufuncs : the NumPy ufuncs behind the functions, for `axes=`, `casting=` and the like
 """
 
@@ -24,7 +25,7 @@ from ._dispatch import dispatch as _dispatch
 from .errors import RangeError, RangeWarning, errstate
 
 __all__ = ["RangeError", "RangeWarning", "choose_level", "climate", "errstate", "fabric", "geometry", "glazing",
-           "level", "psychro", "selectors", "ufuncs"]
+           "level", "psychro", "selectors", "study", "ufuncs"]
 __version__ = _core.version()
 
 _core.set_dispatcher(_dispatch)

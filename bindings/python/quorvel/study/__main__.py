@@ -31,11 +31,11 @@ def main(args=None):
 def _options(args):
     parser = argparse.ArgumentParser(prog="python -m quorvel.study", description="Run a parametric study of a facade.")
     parser.add_argument("study", help="TOML file; quorvel.study.definition describes it")
-    parser.add_argument("--result", help="Zarr group to make or to go on with (default: beside the file, ending in .zarr)")
+    parser.add_argument("--result", help="Zarr group to make or to go on with (default: the file's name with .zarr)")
     parser.add_argument("--plan", "--check", action="store_true", help="say how much and how long, without running")
     where = parser.add_mutually_exclusive_group()
     where.add_argument("--threads", type=int, default=processors(), help="threads of this machine")
-    where.add_argument("--scheduler", metavar="ADDRESS", help="of a Dask scheduler, whose workers see the result's path")
+    where.add_argument("--scheduler", metavar="ADDRESS", help="of a Dask scheduler; its workers must see the result")
     options = parser.parse_args(args)
     if options.threads < 1:
         parser.error("--threads must be 1 or more")
@@ -66,7 +66,8 @@ def _run(study, options):
     all_chunks, there = len(chunks(study)), len(result.done())
     with _executor(options) as (executor, workers):
         finished = run(result, executor, workers, Progress(there, all_chunks))
-    print(f"{options.result}: {all_chunks} chunks, {sum(done.elements > 0 for done in finished)} of them worked out now")
+    new = sum(done.elements > 0 for done in finished)
+    print(f"{options.result}: {all_chunks} chunks, {new} of them worked out now")
     return DONE
 
 

@@ -94,6 +94,7 @@ def read_study(path):
     keep = _keep(output)
     orientations = Table(table.get("orientations"), name, "orientations")
     orientations.expect("azimuths", "tilts", "ground_reflectance")
+    usual = WITH_HOURS if "hourly" in keep else WITHOUT_HOURS
     return Study(
         azimuths=_azimuths(orientations),
         tilts=orientations.numbers("tilts", 0, 180, "°", 90),
@@ -102,7 +103,7 @@ def read_study(path):
         blinds=_named([_blind(entry) for entry in table.tables("blinds")], table, "blinds"),
         stations=_named(sum(map(_stations, table.tables("stations")), []), table, "stations"),
         keep=keep,
-        chunk_elements=output.count("chunk_elements", HOURS, 1 << 32, WITH_HOURS if "hourly" in keep else WITHOUT_HOURS),
+        chunk_elements=output.count("chunk_elements", HOURS, 1 << 32, usual),
     )
 
 
@@ -143,7 +144,8 @@ def _pane(pane):
     if 0 < reflectance < 0.01:
         raise pane.error("reflectance", f"= {reflectance:g} must be 0, which says uncoated, or from 0.01 to 0.99")
     if reflectance > 1 - transmittance:
-        raise pane.error("reflectance", f"= {reflectance:g} must be from 0.01 to {1 - transmittance:g}, what is not transmitted")
+        rest = f"{1 - transmittance:g}, what is not transmitted"
+        raise pane.error("reflectance", f"= {reflectance:g} must be at most {rest}")
     return {"transmittance": transmittance, "reflectance": reflectance}
 
 
@@ -154,8 +156,8 @@ def _blind(entry):
         return {**blind, "kind": "roller", "transmittance": 1.0, "reflectance": 0.0}
     if blind["kind"] == "roller":
         entry.expect("name", "kind", "transmittance", "reflectance")
-        transmittance = entry.number("transmittance", 0, 1)
-        return {**blind, "transmittance": transmittance, "reflectance": entry.number("reflectance", 0, 1 - transmittance)}
+        blind["transmittance"] = entry.number("transmittance", 0, 1)
+        return {**blind, "reflectance": entry.number("reflectance", 0, 1 - blind["transmittance"])}
     entry.expect("name", "kind", "spacing", "width", "angle", "absorptance")
     return {**blind, "spacing": entry.number("spacing", 0.001, 1000), "width": entry.number("width", 0.001, 1000),
             "angle": entry.number("angle", -90, 90, "°"), "absorptance": entry.number("absorptance", 0, 1)}
@@ -167,7 +169,8 @@ def _stations(entry):
         entry.expect("name", "latitude", "longitude", "time_zone", "height", "epw")
         return [{"name": entry.text("name"), "latitude": entry.number("latitude", -90, 90, "°"),
                  "longitude": entry.number("longitude", -180, 180, "°"),
-                 "time_zone": entry.number("time_zone", -12, 14, "h"), "height": entry.number("height", 0, 5000, "m", 0.0)}]
+                 "time_zone": entry.number("time_zone", -12, 14, "h"),
+                 "height": entry.number("height", 0, 5000, "m", 0.0)}]
     entry.expect("name", "epw")
     pattern = Path(entry.file).parent / entry.text("epw")
     files = [os.fspath(pattern)] if pattern.is_file() else sorted(glob.glob(os.fspath(pattern)))

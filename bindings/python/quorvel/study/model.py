@@ -26,7 +26,8 @@ part of it back, again and again, which is a geometric series:
 with the reflectances of the glazing for diffuse radiation from the room's side and of the blind for what comes first.
 
 Kept are q itself ("hourly"), its greatest value ("peak") and its sums ("monthly", "annual"). To the sums each hour
-counts in whole 2^-20 W/m², cut off: integers have the same sum in any order, and NumPy's order depends on the processor.
+counts in whole 2^-20 W/m², cut off: integers have the same sum in any order, and NumPy's order depends on the
+processor.
 
 It is transmitted radiation, not the solar heat gain: what panes and blind absorb and pass on inwards, frames and
 shading by surroundings are not in it. Limits: the blind is lowered all year; slats run level along the facade; on
@@ -44,7 +45,8 @@ import numpy as np
 from .. import climate, glazing
 from .sun import MONTHS, sun
 
-__all__ = ["Blinds", "Glazing", "Hours", "facade", "hours_of", "panes_together", "reduced", "slats_and_rollers", "transmitted"]
+__all__ = ["Blinds", "Facade", "Glazing", "Hours", "facade", "hours_of", "panes_together", "reduced",
+           "slats_and_rollers", "transmitted"]
 
 VERSION = 1  # of the model: results of different ones do not go together
 SOLAR_CONSTANT = np.float32(1367)

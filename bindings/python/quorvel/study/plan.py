@@ -14,13 +14,14 @@ from .work import compute
 __all__ = ["Plan", "plan"]
 
 SAMPLE = 0.5  # seconds
+COPIES = 3  # of a chunk while it is written: the values, those in Zarr's order, those compressed
 
 
 class Plan(NamedTuple):
     elements: int
     chunks: int
     output_bytes: int  # before compression
-    chunk_bytes: int  # most memory of a worker's thread, as measured
+    chunk_bytes: int  # most memory of a worker's thread, beside the libraries themselves
     rate: float  # elements a second of one thread, as measured now, without writing
 
     def seconds(self, workers):
@@ -42,7 +43,8 @@ def plan(study):
     rows = whole[2].stop - first
     elements = HOURS * prod(study.shape)
     size = HOURS * prod(part.stop - part.start for part in sample)
-    return Plan(elements, len(chunks(study)), row * elements // size, working + 2 * row * rows, size * _rate(study, hours, sample))
+    rate = size * _rate(study, hours, sample)
+    return Plan(elements, len(chunks(study)), row * elements // size, working + COPIES * row * rows, rate)
 
 
 def _rate(study, hours, sample):

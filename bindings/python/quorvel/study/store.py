@@ -148,8 +148,8 @@ def _create(path, study, weather, identity):
             axis, length, unit, meaning = VARIABLES[name]
             further = (length,) if axis else ()
             group.create_array(
-                _variable(name), shape=(*study.shape, *further), chunks=(*chunk_shape(study), *further), dtype="float32",
-                fill_value=np.nan, dimension_names=AXES + ((axis,) if axis else ()),
+                _variable(name), shape=(*study.shape, *further), chunks=(*chunk_shape(study), *further),
+                dtype="float32", fill_value=np.nan, dimension_names=AXES + ((axis,) if axis else ()),
                 chunk_key_encoding={"name": "default", "separator": "."},
                 attributes={"units": unit, "long_name": meaning, "coordinates": "latitude longitude time_zone"})
         with warnings.catch_warnings():  # of readers that do not know consolidated metadata

@@ -38,7 +38,8 @@ class Table:
     def numbers(self, key, low, high, unit="", default=None):
         """One number or a list of different ones."""
         values = self.get(key, default)
-        values = [self._within(key, value, low, high, unit) for value in (values if isinstance(values, list) else [values])]
+        values = values if isinstance(values, list) else [values]
+        values = [self._within(key, value, low, high, unit) for value in values]
         if not values:
             raise self.error(key, "must not be empty")
         if len(set(values)) < len(values):

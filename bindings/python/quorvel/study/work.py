@@ -44,14 +44,14 @@ def hours_at(result, station):
 
 def compute(study, hours, where):
     """What is kept of the part of the cube that the slices say: of one station, whose hours are given, and one tilt."""
-    _, tilts, azimuths, glazings, blinds = (
-        values[part] for values, part in zip((study.stations, study.tilts, study.azimuths, study.glazings, study.blinds), where))
+    axes = (study.tilts, study.azimuths, study.glazings, study.blinds)
+    tilts, azimuths, glazings, blinds = (axis[part] for axis, part in zip(axes, where[1:]))
     units = [model.panes_together(unit["panes"]) for unit in glazings]
-    blinds_here = model.slats_and_rollers(blinds)
+    screens = model.slats_and_rollers(blinds)
     arrays = {}
     for row, azimuth in enumerate(azimuths):
         surface = model.facade(hours, azimuth, tilts[0], study.ground_reflectance)
-        for column, q in enumerate(model.transmitted(surface, units, blinds_here)):
+        for column, q in enumerate(model.transmitted(surface, units, screens)):
             for name, values in model.reduced(q, hours.number, study.keep).items():
                 if name not in arrays:
                     arrays[name] = np.empty((1, 1, len(azimuths), len(units), *values.shape), np.float32)
