@@ -14,6 +14,7 @@ fabric : surface and cavity resistances, U-values, admittance, condensation
 glazing : panes, glazing units, blinds, temperatures of panes
 climate : sun, sky, radiation on tilted surfaces, design days, band climate; `ClimateFile`, `read_epw`
 geometry : vectors, planes, polygons; `clip`, `overlap`, `area` and `orientation` of polygons
+study : parametric studies of a facade, also on a Dask cluster: `python -m quorvel.study`
 ufuncs : the NumPy ufuncs behind the functions, for `axes=`, `casting=` and the like
 """
 
@@ -25,9 +26,10 @@ from ._dispatch import dispatch as _dispatch
 from .errors import RangeError, RangeWarning, errstate
 
 __all__ = ["RangeError", "RangeWarning", "choose_level", "climate", "errstate", "fabric", "geometry", "glazing",
-           "level", "psychro", "selectors", "ufuncs"]
+           "level", "psychro", "selectors", "study", "ufuncs"]
+
 if TYPE_CHECKING:
-    from . import climate, fabric, geometry, glazing, psychro, selectors, ufuncs
+    from . import climate, fabric, geometry, glazing, psychro, selectors, study, ufuncs
 
 __version__: str = _core.version()
 
