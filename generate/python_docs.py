@@ -1,7 +1,9 @@
 """Docstrings of the Python package, in NumPy's form."""
 
 import math
+import re
 import textwrap
+from dataclasses import replace
 
 from array_header import name_of
 from header import number
@@ -10,6 +12,15 @@ from python_model import class_name, given_counts, operands, selector, signature
 WIDTH = 100
 
 TYPES = {"Real": "float32", "DoubleReal": "float64", "Integer": "int32", "Logical": "bool"}
+
+
+def in_python(routine, names):
+    """Its texts, with the functions of the package in place of exported names."""
+    def renamed(text):
+        return re.sub(r"\b[A-Z][A-Z0-9]{3,8}\b", lambda found: f"`{names[found[0]]}`" if found[0] in names else found[0], text)
+
+    return replace(routine, summary=renamed(routine.summary), formula=renamed(routine.formula),
+                   notes=tuple(map(renamed, routine.notes)), source=renamed(routine.source))
 
 
 def wrapped(text, indent=""):
@@ -136,7 +147,8 @@ def example_lines(routine, family):
     yield from wrapped(f"({example.source})")
 
 
-def docstring(routine, family):
+def docstring(routine, family, names):
+    routine = in_python(routine, names)
     inputs, outputs = operands(routine)
     lines = [*wrapped(routine.summary), "", "Parameters", "----------",
              *_parameters(routine, inputs, len(outputs) > 1), "", "Returns", "-------", *_returns(routine, outputs), ""]

@@ -41,31 +41,31 @@ def _class(routine):
             f'{class_name(routine)}.__doc__ = """What {routine.name} returns.\n\n{about}\n"""')
 
 
-def _function(family, routine):
+def _function(family, routine, names):
     inputs, outputs = operands(routine)
     given = ", ".join([operand.field for operand in inputs] + ["out", "True" if signature(routine) else "where"])
     call = f"_{routine.name}({given})"
     if len(outputs) > 1:
         call = f"_new({class_name(routine)}, {call})"
-    text = textwrap.indent(_quoted(docstring(routine, family.family)), "    ")
+    text = textwrap.indent(_quoted(docstring(routine, family.family, names)), "    ")
     return (f"\n\ndef {routine.name}({_parameters(routine)}):\n"
             f'    """{text.lstrip()}\n    """\n    return {call}\n')
 
 
-def _module(family):
+def _module(family, names):
     routines = _kept(family)
     several = [routine for routine in routines if len(operands(routine)[1]) > 1]
     selectors = _selectors_of(routines)
-    names = [*selectors, *map(class_name, several), *(routine.name for routine in routines)]
+    public = [*selectors, *map(class_name, several), *(routine.name for routine in routines)]
     lines = [f'"""{family.title}: the routines of the library, element by element."""', "", EDIT, ""]
     lines += ["from collections import namedtuple", ""] if several else []
     lines += ["from .._core import functions"]
     lines += [f"from ..selectors import {', '.join(selectors)}"] if selectors else []
     lines += ["", "_new = tuple.__new__  # a third of the time of _make"] if several else []
-    lines += ["", "__all__ = [", *(f'    "{name}",' for name in names), "]", ""]
+    lines += ["", "__all__ = [", *(f'    "{name}",' for name in public), "]", ""]
     lines += [f'_{routine.name} = functions["{routine.name}"]' for routine in routines]
     lines += ["".join(map(_class, several))]
-    return "\n".join(lines) + "".join(_function(family, routine) for routine in routines)
+    return "\n".join(lines) + "".join(_function(family, routine, names) for routine in routines)
 
 
 def _scalar_type(operand):
@@ -157,8 +157,9 @@ def _catalogue(families):
 
 def files(families):
     """The texts by their names."""
+    names = {routine.export: routine.name for family in families for routine in _kept(family) if routine.export}
     texts = {"selectors.py": _selectors(families), "catalogue.py": _catalogue(families)}
     for family in families:
-        texts[f"{family.family}/routines.py"] = _module(family)
+        texts[f"{family.family}/routines.py"] = _module(family, names)
         texts[f"{family.family}/routines.pyi"] = _stubs(family)
     return texts

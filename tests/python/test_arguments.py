@@ -150,8 +150,25 @@ class TestErrstate:
             assert np.isfinite(contextvars.Context().run(psychro.vapour_pressure, 20, 101))
         assert np.isfinite(elsewhere[0])
 
+    def test_goes_along_with_its_context(self):
+        with quorvel.errstate(range="nan"):
+            context = contextvars.copy_context()
+        assert np.isnan(context.run(psychro.vapour_pressure, 20, 101)) and np.isfinite(psychro.vapour_pressure(20, 101))
+
+    def test_exit_without_enter_changes_nothing(self):
+        with pytest.raises(RuntimeError, match="exit without enter"):
+            quorvel.errstate(range="nan").__exit__(None, None, None)
+        with quorvel.errstate(range="nan"):
+            assert np.isnan(psychro.vapour_pressure(20, 101))
+
     def test_decorates(self):
         assert np.isnan(quorvel.errstate(range="nan")(psychro.vapour_pressure)(20, 101))
+
+        def one_by_one():
+            yield psychro.vapour_pressure(20, 101)
+
+        with pytest.raises(TypeError, match="generator"):
+            quorvel.errstate(range="nan")(one_by_one)
 
 
 def test_no_floating_point_warnings():

@@ -97,7 +97,9 @@ def test_weather(epw):
     pytest.importorskip("pandas")
     table = weather.to_pandas()
     pressure = psychro.vapour_pressure(table["dry_bulb"], table["relative_humidity"])
-    assert pressure.index.equals(table.index) and table.index.is_monotonic_increasing and str(table.index[0])[:13] == "2005-01-01 01"
+    assert pressure.index.equals(table.index) and table.index.is_monotonic_increasing and str(table.index[0])[:13] == "2005-01-01 00"
+    assert weather.to_pandas("end").index[-1].year == 2006 and len(table.resample("MS").mean()) == 12
+    assert "dry_bulb" in weather and list(weather)[0] == "dry_bulb"
     pytest.importorskip("xarray")
     assert weather.to_xarray().dry_bulb.attrs["units"] == "°C"
 
@@ -109,6 +111,11 @@ def test_weather(epw):
     (lambda lines: [*lines[:9], lines[9].replace(",", ",x", 6), *lines[10:]], "line 10: a field is no number"),
     (lambda lines: [*lines[:9], "2005,13" + lines[9][lines[9].index(",", 5):], *lines[10:]], "line 10: month 13"),
     (lambda lines: [], "line 1"),
+    (lambda lines: lines[:7] + lines[8:], "line 8: DATA PERIODS"),
+    (lambda lines: [*lines[:9], "nan,1" + lines[9][lines[9].index(",", 5):], *lines[10:]], "line 10: year nan"),
+    (lambda lines: [*lines[:9], "2005,2,30" + lines[9][lines[9].index(",", 7):], *lines[10:]], "line 10: day 30 is not from 1 to 29"),
+    (lambda lines: [lines[0].replace(lines[0].split(",")[6], "100"), *lines[1:]], "line 1: latitude 100"),
+    (lambda lines: ["\0" + lines[0], *lines[1:], '"' + "x" * 140000], "line 1|no table"),
 ])
 def test_faults_of_weather_files(epw, tmp_path, change, words):
     path = tmp_path / "bad.epw"

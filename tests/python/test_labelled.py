@@ -6,7 +6,7 @@ import sys
 import numpy as np
 import pytest
 import quorvel
-from quorvel import fabric, geometry, glazing, psychro
+from quorvel import climate, fabric, geometry, glazing, psychro
 
 pandas = pytest.importorskip("pandas")
 xarray = pytest.importorskip("xarray")
@@ -37,6 +37,32 @@ def test_pandas():
     assert fabric.u_value(walls, [0.1, 0.2, 0.3], 0.13, 0.04).index.tolist() == list("abcd")
 
 
+def test_pandas_lists_go_together_by_their_labels():
+    walls = pandas.DataFrame(LAYERS, index=list("abcd"), columns=["out", "mid", "in"])
+    conductivity = pandas.Series([0.1, 0.2, 0.3], index=walls.columns)
+    outside = pandas.Series([0.04, 0.05, 0.06, 0.07], index=walls.index)
+    u = fabric.u_value(walls, conductivity, 0.13, outside)
+    for shuffled in (walls.iloc[::-1], walls[["in", "out", "mid"]]):
+        again = fabric.u_value(shuffled, conductivity, 0.13, outside)
+        same(again[u.index], u)
+    same(fabric.u_value(walls, conductivity.iloc[::-1], 0.13, outside.iloc[::-1]), u)
+    one_wall = fabric.u_value(walls.loc["a"], conductivity, [0.13, 0.10, 0.17], 0.04)
+    assert isinstance(one_wall, np.ndarray)  # three surfaces, not three layers
+    with pytest.raises(ValueError, match="conductivity: its labels"):
+        fabric.u_value(walls, conductivity.rename({"mid": "wool"}), 0.13, 0.04)
+
+
+def test_pandas_kinds_of_numbers():
+    missing = pandas.Series([20, None], dtype="Float64")
+    assert np.isnan(psychro.vapour_pressure(missing, 50)).tolist() == [False, True]
+    same(psychro.vapour_pressure([20, 30], pandas.Index([40, 50])), psychro.vapour_pressure([20, 30], [40, 50]))
+    days = pandas.date_range("2005-06-01", periods=3, freq="D")
+    assert climate.solar_geometry(0.9, days.day_of_year, 12).solar_altitude.shape == (3,)
+    for texts in (pandas.Series(["20", "30"]), pandas.Series(["20"], dtype="category")):
+        with pytest.raises(TypeError, match="relative_humidity: numbers are needed|dry_bulb: numbers are needed"):
+            psychro.vapour_pressure(texts, 50)
+
+
 @pytest.mark.parametrize("chunks", [None, {"time": 5}])
 def test_xarray(chunks):
     t = xarray.DataArray(T, dims="time", coords={"time": pandas.date_range("2005-01-01", periods=12, freq="h")})
@@ -61,6 +87,22 @@ def test_xarray_of_layers(chunks):
     same(u.transpose("wall", "side"), fabric.u_value(LAYERS[:, None], [0.1, 0.2, 0.3], 0.13, [0.04, 0.13]))
 
 
+def test_what_goes_with_xarray():
+    t = xarray.DataArray(T, dims="time")
+    rh = pandas.Series(np.linspace(40, 60, 12), index=pandas.RangeIndex(12, name="time"))
+    same(psychro.vapour_pressure(t, rh), psychro.vapour_pressure(T, rh.to_numpy()))
+    with pytest.raises(TypeError, match="relative_humidity: a table of pandas goes with arrays of xarray only if"):
+        psychro.vapour_pressure(t, rh.rename_axis(None))
+    same(psychro.vapour_pressure(t.variable, 50), psychro.vapour_pressure(T, 50))
+    layers = xarray.DataArray(LAYERS, dims=("wall", "layer"))
+    with pytest.raises(ValueError, match="conductivity: its last dimension is 'l' where that of thickness is 'layer'"):
+        fabric.u_value(layers, xarray.DataArray([1.0, 1, 1], dims="l"), 0.13, 0.04)
+    with pytest.raises(ValueError, match=r"thickness: an array of shape \(..., layers\) is needed"):
+        fabric.u_value(xarray.DataArray(0.1), [1.0], 0.13, 0.04)
+    profile = fabric.condensation_profile([0.1, 0.1], [0.77, 0.04], [50, 5], 0.13, 0.04, 20.0, t.chunk(time=5), 50.0, 80.0)
+    assert profile.interface_temperature.shape == (12, 21)
+
+
 def test_data_set():
     data = xarray.Dataset({"roof": ("time", T), "wall": ("time", T + 1)})
     pressure = psychro.saturation_pressure(data)
@@ -75,6 +117,10 @@ def test_dask():
     same(pressure.compute(scheduler="threads"), psychro.vapour_pressure(T, 50))
     several = glazing.unit_direct_shares(0.5, 0.1, t / 100, 2)
     same(several.pane_shares.compute(), glazing.unit_direct_shares(0.5, 0.1, T / 100, 2).pane_shares)
+    some = t[t > 0]  # of unknown size
+    same(psychro.vapour_pressure(some, some + 40).compute(), psychro.vapour_pressure(T[T > 0], T[T > 0] + 40))
+    with pytest.raises(TypeError, match="arrays of Dask do not go with those of xarray"):
+        psychro.vapour_pressure(t, xarray.DataArray(T))
     walls = dask.from_array(LAYERS, chunks=(2, 1))
     same(fabric.u_value(walls, walls, 0.13, 0.04).compute(), fabric.u_value(LAYERS, LAYERS, 0.13, 0.04))
 

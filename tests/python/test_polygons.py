@@ -61,7 +61,10 @@ def test_polygons_in_space(plan, azimuth, tilt, middle):
     (lambda: geometry.clip(SQUARE[:, :1], SQUARE), r"a: a polygon has the shape \(n, 2\), not \(4, 1\)"),
     (lambda: geometry.clip([SQUARE] * 2, [SQUARE] * 3), "a has 2 polygons and b 3"),
     (lambda: geometry.orientation(SQUARE), r"polygon: a polygon has the shape \(n, 3\)"),
-    (lambda: geometry.area("square"), "polygon|could not convert"),
+    (lambda: geometry.area("square"), "polygon: a polygon is of numbers, not of <U6"),
+    (lambda: geometry.area(None), "polygon: a polygon is of numbers, not of object"),
+    (lambda: geometry.clip([SQUARE, SQUARE[:2]], SQUARE), "pair 1: a has fewer than 3 vertices"),
+    (lambda: geometry.area(np.ma.masked_less(SQUARE, 1)), "masked"),
 ])
 def test_errors(call, words):
     with pytest.raises(ValueError, match=words):

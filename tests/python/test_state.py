@@ -50,6 +50,15 @@ def test_what_is_no_pair(given, words):
         psychro.state(**given)
 
 
+def test_what_no_air_has_does_not_come_back():
+    assert psychro.state(t=20, rh=150).relative_humidity == pytest.approx(100)
+    assert psychro.state(t=20, wb=25).wet_bulb == pytest.approx(20, abs=0.01)
+    lists = psychro.cooled(psychro.state(t=[20, 30], rh=50), [12, 14], 8)
+    assert all(each.dtype == np.float32 for each in lists)
+    screen = psychro.state(t=32, rh=40, psychrometer="screen")
+    assert psychro.humidified(screen, 90) == psychro.humidified(psychro.state(t=32, rh=40), 90)
+
+
 def test_tables_stay_tables():
     pandas = pytest.importorskip("pandas")
     table = pandas.DataFrame({"t": [20.0, 25.0], "rh": [50.0, 60.0]}, index=["a", "b"])

@@ -73,7 +73,7 @@ def written(folder, text=TEXT):
 
 def epw(path, direct, diffuse, hours=8760):
     """A weather file with the same irradiance from 10:00 to 14:00 of all days: the sun is 9° high or more."""
-    lines = ["LOCATION,Here,-,-,-,0,51.5,0,0,20"] + ["-"] * 7
+    lines = ["LOCATION,Here,-,-,-,0,51.5,0,0,20"] + ["-"] * 6 + ["DATA PERIODS"]
     for hour in range(hours):
         month = int(np.searchsorted(sun.MONTHS, hour, "right"))
         day, hour = divmod(hour - sun.MONTHS[month - 1], 24)

@@ -77,7 +77,7 @@ PyObject* choose_level(PyObject*, PyObject* name) {
 PyObject* version(PyObject*, PyObject*) { return PyUnicode_FromString(QUORVEL_VERSION); }
 
 PyMethodDef methods[] = {
-    {"count_errstates", count_errstates, METH_O, nullptr},
+    {"use_policies", use_policies, METH_NOARGS, nullptr},
     {"set_errstate_variable", set_errstate_variable, METH_O, nullptr},
     {"set_reporter", set_reporter, METH_O, nullptr},
     {"set_dispatcher", set_dispatcher, METH_O, nullptr},

@@ -6,7 +6,7 @@
 namespace quorvel::python {
 namespace {
 
-std::atomic<long> errstates = 0;
+std::atomic<bool> policies_are_used = false;
 PyObject* variable = nullptr;
 PyObject* reporter = nullptr;
 
@@ -49,8 +49,7 @@ PyObject* replace(PyObject*& old, PyObject* by) {
 }  // namespace
 
 Policy policy() noexcept {
-    if (errstates.load(std::memory_order_relaxed) == 0 || variable == nullptr)
-        return Policy::Ignore;
+    if (!policies_are_used.load(std::memory_order_relaxed)) return Policy::Ignore;
     const Interpreter held;
     const Reference value(PyObject_CallMethod(variable, "get", nullptr));
     return value ? static_cast<Policy>(PyLong_AsLong(value.get())) : Policy::Ignore;
@@ -86,8 +85,8 @@ void report(const Routine& routine, const Outside& outside, Policy policy) {
                                                outside.elements, static_cast<int>(policy)));
 }
 
-PyObject* count_errstates(PyObject*, PyObject* change) {
-    errstates += PyLong_AsLong(change);
+PyObject* use_policies(PyObject*, PyObject*) {
+    policies_are_used = true;
     Py_RETURN_NONE;
 }
 

@@ -37,8 +37,9 @@ void blank(const Operand& operand, const Values& values,
 // Warns of it or, with an exception, refuses it; with the interpreter's lock.
 void report(const Routine& routine, const Outside& outside, Policy policy);
 
-// For the package: how many contexts have a policy, where it stands, and who words what is wrong.
-PyObject* count_errstates(PyObject* module, PyObject* change);
+// For the package: that there are policies from now on, where they stand, and who words what is
+// wrong.
+PyObject* use_policies(PyObject* module, PyObject* none);
 PyObject* set_errstate_variable(PyObject* module, PyObject* variable);
 PyObject* set_reporter(PyObject* module, PyObject* reporter);
 

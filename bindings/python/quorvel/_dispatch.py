@@ -18,40 +18,49 @@ def dispatch(name, ufunc, args, out, where):
     routine = ROUTINES[name]
     args = [_number_of(value, argument) for value, argument in zip(args, routine.inputs)]
     kinds = {_kind(value) for value in args} - {None}
-    if "xarray" in kinds:
-        return _labelled.of_xarray(name, routine, args, _no_options(name, out, where, "xarray"))
-    if "dask" in kinds:
-        return _labelled.of_dask(name, routine, args, _no_options(name, out, where, "Dask"))
-    if "pandas" in kinds and routine.signature:
-        return _labelled.of_pandas(ufunc, routine, args, _no_options(name, out, where, "pandas"))
-    options = {} if where is True else {"where": where}
-    if out is not None:
-        options["out"] = out
+    if kinds & {"xarray", "dask"} and (out is not None or where is not True):
+        raise TypeError(f"{name}: out and where do not go with arrays of xarray and Dask")
+    if "dask" in kinds and len(kinds) > 1:
+        raise TypeError(f"{name}: arrays of Dask do not go with those of {' and '.join(kinds - {'dask'})}; an array of "
+                        "xarray may have a Dask array inside")
     try:
-        result = ufunc(*args, **options)
+        if "xarray" in kinds:
+            return _labelled.of_xarray(name, routine, args)
+        if "dask" in kinds:
+            return _labelled.of_dask(name, routine, args)
+        if "pandas" in kinds:
+            return _labelled.of_pandas(ufunc, routine, args, _options(out, where))
+        return ufunc(*args, **_options(out, where))
     except RangeError:
         raise
     except (TypeError, ValueError, OverflowError) as error:
         raise _explained(name, routine, args, error) from None
-    return _labelled.named(result, routine) if "pandas" in kinds else result
+
+
+def _options(out, where):
+    return {**({} if out is None else {"out": out}), **({} if where is True else {"where": where})}
 
 
 def _kind(value):
     """The library of labelled arrays or tables that the value belongs to."""
-    root = type(value).__module__.partition(".")[0]
+    root = _root(value)
     marks = {"xarray": "dims", "dask": "chunks", "pandas": "index"}  # of arrays and tables, not of other things there
     return root if root in marks and hasattr(value, marks[root]) else None
 
 
-def _no_options(name, out, where, kind):
-    if out is not None or where is not True:
-        raise TypeError(f"{name}: out and where do not go with arrays of {kind}")
+def _root(value):
+    return type(value).__module__.partition(".")[0]
 
 
 def _number_of(value, argument):
-    """A selector by its name, as its number; all else as it is."""
-    if not isinstance(value, str):
-        return value
+    """A selector by its name, as its number; an index of pandas as an array; all else as it is."""
+    if isinstance(value, str):
+        return _selected(value, argument)
+    is_index = _root(value) == "pandas" and hasattr(value, "to_numpy") and not hasattr(value, "index")
+    return value.to_numpy() if is_index else value
+
+
+def _selected(value, argument):
     if not argument.selector:
         raise TypeError(f"{argument.name}: a number is needed, not the text {value!r}")
     values = getattr(sys.modules[f"{__package__}.selectors"], argument.selector)
@@ -64,10 +73,10 @@ def _explained(name, routine, args, error):
     """The error with the argument that it is about, as far as that can be told."""
     for value, argument in zip(args, routine.inputs):
         if isinstance(value, int) and not -2**63 <= value < 2**63:
-            return ValueError(f"{name}: {argument.name}: {value} is beyond all that is valid")
-        dtype = np.asarray(value).dtype if not hasattr(value, "dtype") else value.dtype
+            return ValueError(f"{name}: {argument.name}: an integer of {value.bit_length()} bits is beyond all that is valid")
+        dtype = value.dtype if hasattr(value, "dtype") else getattr(np.asanyarray(value), "dtype")
         wide = "int64" if argument.dtype == "int32" else "float64"
-        if not np.can_cast(dtype, wide, "safe"):
+        if not isinstance(dtype, np.dtype) or not np.can_cast(dtype, wide, "safe"):
             needed = "integers are" if argument.dtype == "int32" else "numbers are"
             return TypeError(f"{name}: {argument.name}: {needed} needed, not {dtype}")
         if len(argument.axes) > np.ndim(value):

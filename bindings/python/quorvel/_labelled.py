@@ -36,10 +36,13 @@ def _returned(results, routine):
     return results if len(routine.outputs) > 1 else results[0] if isinstance(results, tuple) else results
 
 
-def of_dask(name, routine, args, _=None):
+def of_dask(name, routine, args):
     from dask.array import apply_gufunc
+    from dask.array.core import elemwise
 
     dtypes = _dtypes(routine)
+    if not routine.signature and len(dtypes) == 1:  # goes with chunks of unknown size too
+        return elemwise(Applied(name), *args, dtype=dtypes[0])
     fixed = {str(axis): axis for output in routine.outputs for axis in output.axes if isinstance(axis, int)}
     given = {str(axis) for argument in routine.inputs for axis in argument.axes}
     results = apply_gufunc(Applied(name), _signature(routine), *args, allow_rechunk=True,
@@ -48,8 +51,66 @@ def of_dask(name, routine, args, _=None):
     return _returned(results, routine)
 
 
-def named(results, routine):
-    """Series of pandas with the names of what they are."""
+def of_pandas(ufunc, routine, args, options):
+    """Series and tables. In a function of lists a table's rows are elements and its columns layers, vertices or the
+    like, as are the rows of a Series; what goes together is found by its labels."""
+    args = [_plain_numbers(value) for value in args]
+    if not routine.signature:
+        return _named(ufunc(*args, **options), routine)
+    if options:
+        raise TypeError("out does not go with tables in a function of lists")
+    labels = {"row": None, **dict.fromkeys(axis for each in routine.inputs for axis in each.axes)}
+    for value, argument in zip(args, routine.inputs):
+        for place, index in _labels(value, argument):
+            labels[place] = index if labels.get(place) is None else labels[place]
+    results = ufunc(*(_in_order(value, argument, labels) for value, argument in zip(args, routine.inputs)))
+    index = labels["row"]
+
+    def labelled(result):
+        if index is None or np.shape(result)[:1] != (len(index),) or np.ndim(result) > 2:
+            return result
+        pandas = sys.modules["pandas"]
+        return (pandas.Series if np.ndim(result) == 1 else pandas.DataFrame)(result, index=index)
+
+    return _named(tuple(map(labelled, results)) if isinstance(results, tuple) else labelled(results), routine)
+
+
+def is_table(value):
+    """Of pandas; subclasses as well."""
+    return hasattr(value, "index") and hasattr(value, "reindex") and hasattr(value, "to_numpy")
+
+
+def _plain_numbers(value):
+    """Without the types of pandas' own that stand for numbers or nothing; missing is not a number."""
+    if is_table(value) and hasattr(value, "dtype") and not isinstance(value.dtype, np.dtype):
+        if value.dtype.kind in "iufb":
+            return type(value)(value.to_numpy(dtype=float, na_value=np.nan), index=value.index, name=value.name)
+    return value
+
+
+def _labels(value, argument):
+    """Pairs of what a dimension is and its labels, of a Series or table as an argument of a function of lists."""
+    if not is_table(value):
+        return
+    dimensions = [value.index, *([value.columns] if hasattr(value, "columns") else [])]
+    places = ["row"] * (len(dimensions) - len(argument.axes)) + list(argument.axes)[-len(dimensions):]
+    yield from zip(places[-len(dimensions):], dimensions)
+
+
+def _in_order(value, argument, labels):
+    """As an array, with rows and columns in the order of the first that has them."""
+    ordered = value
+    for dimension, (place, index) in enumerate(_labels(value, argument)):
+        if not index.equals(labels[place]):
+            if index.has_duplicates or set(index) != set(labels[place]):
+                raise ValueError(f"{argument.name}: its labels {list(index)} are not those of the other "
+                                 f"{place if place != 'row' else 'table'}s, {list(labels[place])}")
+            ordered = ordered.reindex(labels[place], axis=dimension)
+    return np.asarray(ordered) if is_table(value) else value
+
+
+def _named(results, routine):
+    """Series with the names of what they are."""
     several = results if isinstance(results, tuple) else (results,)
     for result, output in zip(several, routine.outputs):
         if getattr(result, "ndim", 0) == 1 and hasattr(result, "index"):
@@ -57,31 +118,16 @@ def named(results, routine):
     return results
 
 
-def of_pandas(ufunc, routine, args, _=None):
-    """A function of lists: the tables' rows are elements, their columns layers, vertices or the like."""
-    pandas = sys.modules["pandas"]
-    labels = [value.index for value in args if isinstance(value, (pandas.Series, pandas.DataFrame))]
-    results = ufunc(*(np.asarray(value) if hasattr(value, "index") else value for value in args))
-
-    def labelled(result):
-        fits = next((index for index in labels if np.shape(result)[:1] == (len(index),)), None)
-        if fits is None or np.ndim(result) > 2:
-            return result
-        return (pandas.Series if np.ndim(result) == 1 else pandas.DataFrame)(result, index=fits)
-
-    return named(tuple(map(labelled, results)) if isinstance(results, tuple) else labelled(results), routine)
-
-
-def of_xarray(name, routine, args, _=None):
+def of_xarray(name, routine, args):
     import xarray
 
+    args = [_for_xarray(value, args, argument, xarray) for value, argument in zip(args, routine.inputs)]
     lists = _core_dimensions(routine, args)
-    chunked = any(hasattr(getattr(value, "data", None), "dask") for value in args) or \
-        any(isinstance(value, xarray.Dataset) for value in args)
+    chunked = any(hasattr(getattr(value, "data", None), "dask") or isinstance(value, xarray.Dataset) for value in args)
     results = xarray.apply_ufunc(
         Applied(name), *args,
-        input_core_dims=[_names(argument, value, lists) for argument, value in zip(routine.inputs, args)],
-        output_core_dims=[[_name(axis, lists) for axis in _axes(output)] for output in routine.outputs],
+        input_core_dims=[_names(argument, lists) for argument in routine.inputs],
+        output_core_dims=[_names(output, lists) for output in routine.outputs],
         dask="parallelized" if chunked else "forbidden", output_dtypes=_dtypes(routine),
         dask_gufunc_kwargs={"allow_rechunk": True, "output_sizes": _sizes(routine, lists)} if chunked else None,
     )
@@ -91,13 +137,28 @@ def of_xarray(name, routine, args, _=None):
     return _returned(several, routine)
 
 
+def _for_xarray(value, args, argument, xarray):
+    """Lists as arrays; a Series of pandas as an array with the dimension that its index is named after."""
+    if isinstance(value, xarray.Variable):
+        return xarray.DataArray(value)
+    if isinstance(value, (list, tuple)):
+        return np.asarray(value)
+    if not is_table(value):
+        return value
+    dimensions = {dimension for each in args for dimension in getattr(each, "dims", ())}
+    if value.ndim != 1 or value.index.name not in dimensions:
+        raise TypeError(f"{argument.name}: a table of pandas goes with arrays of xarray only if it is a Series whose index "
+                        f"has the name of one of their dimensions, {', '.join(map(str, sorted(dimensions, key=str)))}")
+    return value.to_xarray()
+
+
 def _describe(result, output):
     attributes = {"units": output.unit} if output.unit else {}
     attributes["long_name"] = output.meaning
     if hasattr(result, "data_vars"):
         for name in result.data_vars:
             result.variables[name].attrs.update(attributes)
-    else:
+    elif hasattr(result, "attrs"):
         result.attrs.update(attributes)
         result.name = output.name
 
@@ -109,11 +170,17 @@ def _axes(operand):
 
 def _core_dimensions(routine, args):
     """The labelled dimension that stands for each core dimension: the last ones of the first labelled argument."""
-    found = {}
+    found, first = {}, {}
     for argument, value in zip(routine.inputs, args):
-        axes = _axes(argument)
-        for axis, dimension in zip(axes, getattr(value, "dims", ())[-len(axes):] if axes else ()):
-            found.setdefault(axis, dimension)
+        axes, dimensions = _axes(argument), getattr(value, "dims", None)
+        if not axes or dimensions is None:
+            continue
+        if len(dimensions) < len(axes):
+            raise ValueError(f"{argument.name}: a dimension for {' and '.join(str(axis) for axis, _ in axes)} is needed")
+        for axis, dimension in zip(axes, dimensions[-len(axes):]):
+            if found.setdefault(axis, dimension) != dimension:
+                raise ValueError(f"{argument.name}: its last dimension is {dimension!r} where that of {first[axis]} is {found[axis]!r}")
+            first.setdefault(axis, argument.name)
     return found
 
 
@@ -122,8 +189,8 @@ def _name(axis, found):
     return found.get(axis, f"{extent}" if isinstance(extent, str) else f"numbers_{extent}" + f"_{again}" * bool(again))
 
 
-def _names(argument, value, found):
-    return [_name(axis, found) for axis in _axes(argument)]
+def _names(operand, found):
+    return [_name(axis, found) for axis in _axes(operand)]
 
 
 def _sizes(routine, found):

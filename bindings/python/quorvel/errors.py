@@ -31,8 +31,9 @@ class errstate:
 
     Notes
     -----
-    It holds for this thread or task, and for Dask's arrays where the function is called, wherever they are
-    computed in the end. Contexts may be nested.
+    It holds for this thread or task, and those that it starts with its context. Arrays of Dask are computed by the
+    policy of where the function was called (those of `quorvel.ufuncs`, by that of where they are computed). Contexts
+    may be nested.
 
     Examples
     --------
@@ -49,17 +50,23 @@ class errstate:
         self._tokens: list[Token[int]] = []
 
     def __enter__(self) -> "errstate":
+        _core.use_policies()
         self._tokens.append(_policy.set(self._policy))
-        _core.count_errstates(1)
         return self
 
     def __exit__(self, *_: object) -> None:
-        _core.count_errstates(-1)
+        if not self._tokens:
+            raise RuntimeError("errstate: exit without enter")
         _policy.reset(self._tokens.pop())
 
     def __call__(self, function: Callable[..., Any]) -> Callable[..., Any]:
         """As a decorator."""
+        import inspect
         from functools import wraps
+
+        if any(is_kind(function) for is_kind in (inspect.iscoroutinefunction, inspect.isgeneratorfunction,
+                                                 inspect.isasyncgenfunction)):
+            raise TypeError("errstate: use it within a coroutine or generator; as a decorator it would end too soon")
 
         @wraps(function)
         def guarded(*args, **options):
@@ -89,7 +96,17 @@ def _report(routine, argument, value, elements, policy):
     text = f"{routine}: {argument} = {value:g} is outside its valid range, {limits}{unit}{more}"
     if policy == POLICIES["raise"]:
         raise RangeError(text)
-    warnings.warn(text, RangeWarning, stacklevel=3)
+    warnings.warn(text, RangeWarning, stacklevel=_level_of_caller())
+
+
+def _level_of_caller():
+    """The first place that is neither in this package nor in a library of arrays that calls it."""
+    import sys
+
+    frame, level = sys._getframe(1), 1
+    while frame.f_back and frame.f_globals.get("__name__", "").partition(".")[0] in ("quorvel", "pandas", "xarray", "dask"):
+        frame, level = frame.f_back, level + 1
+    return level
 
 
 _policy = ContextVar("quorvel.errstate", default=POLICIES["ignore"])

@@ -66,6 +66,8 @@ class ClimateFile:
     def __getitem__(self, station: int) -> "Station":
         return Station(self, station)
 
+    __iter__ = None  # a file does not tell how many stations it has
+
     def __enter__(self) -> "ClimateFile":
         return self
 

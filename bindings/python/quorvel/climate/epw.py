@@ -1,7 +1,9 @@
 """Weather files in the EPW format: a year of hours at one place."""
 
 import csv
+import math
 import os
+from collections.abc import Iterator, KeysView
 from typing import Any, NamedTuple
 
 import numpy as np
@@ -44,6 +46,7 @@ EPW_COLUMNS = {
 }
 _FIRST = 6  # fields ahead of them
 _HEADER_LINES = 8
+_DAYS = [31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31]
 
 
 class Weather:
@@ -76,23 +79,40 @@ class Weather:
     def __len__(self) -> int:
         return len(self.hour)
 
+    def __contains__(self, name: object) -> bool:
+        return name in self.columns
+
+    def __iter__(self) -> Iterator[str]:
+        return iter(self.columns)
+
+    def keys(self) -> KeysView[str]:
+        """The names of the columns."""
+        return self.columns.keys()
+
     def __repr__(self):
         return f"<Weather of {self.place}: {len(self)} hours>"
 
     @property
     def day_of_year(self) -> NDArray[np.int32]:
-        """1 for 1 January, of a year without a 29 February where the file has none."""
-        days = np.array([31, 29 if np.any((self.month == 2) & (self.day == 29)) else 28, *[31, 30] * 2, 31, 31, 30, 31, 30])
-        return (np.concatenate(([0], np.cumsum(days)))[self.month - 1] + self.day).astype(np.int32)
+        """1 to 365, as the functions of the sun take it: 29 February counts as 28 February."""
+        before = np.concatenate(([0], np.cumsum(_DAYS)))[self.month - 1]
+        return (before + np.minimum(self.day, np.array(_DAYS)[self.month - 1])).astype(np.int32)
 
-    def to_pandas(self) -> Any:
-        """A table of pandas. Its index is the end of each hour, in a year of the calendar as long as the file's."""
+    def to_pandas(self, label: str = "start") -> Any:
+        """A table of pandas, a row an hour.
+
+        Its index is the start, middle or end of each hour by `label`, in standard time without a time zone, in a year
+        of the calendar: 2004 if there is a 29 February, else 2005.
+        """
         import pandas
 
-        year = 2004 if len(self) > 8760 else 2005
-        index = pandas.to_datetime({"year": np.full(len(self), year), "month": self.month, "day": self.day})
+        shifts = {"start": 1.0, "middle": 0.5, "end": 0.0}
+        if label not in shifts:
+            raise ValueError(f"label must be one of {', '.join(map(repr, shifts))}, not {label!r}")
+        leap = bool(np.any((self.month == 2) & (self.day == 29)))
+        index = pandas.to_datetime({"year": np.full(len(self), 2004 if leap else 2005), "month": self.month, "day": self.day})
         table = pandas.DataFrame(self.columns)
-        table.index = pandas.DatetimeIndex(index + pandas.to_timedelta(self.hour, unit="h"), name="time")
+        table.index = pandas.DatetimeIndex(index + pandas.to_timedelta(self.hour - shifts[label], unit="h"), name="time")
         return table
 
     def to_xarray(self) -> Any:
@@ -128,19 +148,20 @@ def read_epw(path: str | os.PathLike[str]) -> Weather:
     >>> from quorvel.climate import read_epw
     >>> table = read_epw("london.epw").to_pandas()    # doctest: +SKIP
     """
-    with open(path, newline="", encoding="utf-8", errors="replace") as file:
-        rows = list(csv.reader(file))
     name = os.fspath(path)
+    with open(path, newline="", encoding="utf-8-sig", errors="replace") as file:
+        try:
+            rows = list(csv.reader(file))
+        except csv.Error as error:
+            raise ValueError(f"{name}: no table of values between commas ({error})") from None
     location = _location(rows, name)
-    records = [row for row in rows[_HEADER_LINES:] if row]
+    if len(rows) < _HEADER_LINES or rows[_HEADER_LINES - 1][:1] != ["DATA PERIODS"]:
+        raise ValueError(f"{name}, line {_HEADER_LINES}: DATA PERIODS is expected, the last line of the header")
+    records = [(line, row) for line, row in enumerate(rows[_HEADER_LINES:], _HEADER_LINES + 1) if row]
     if not records:
         raise ValueError(f"{name}: there are no hours of weather")
-    numbers = np.array([_numbers(row, f"{name}, line {line}") for line, row in enumerate(records, _HEADER_LINES + 1)])
+    numbers = np.array([_numbers(row, f"{name}, line {line}") for line, row in records])
     dates = numbers[:, :4].astype(np.int32).T
-    for what, values, high in (("month", dates[1], 12), ("day", dates[2], 31), ("hour", dates[3], 24)):
-        wrong = np.flatnonzero((values < 1) | (values > high))
-        if wrong.size:
-            raise ValueError(f"{name}, line {_HEADER_LINES + 1 + wrong[0]}: {what} {values[wrong[0]]} is not from 1 to {high}")
     columns = {}
     for place, (column, known) in enumerate(EPW_COLUMNS.items(), 4):
         values = numbers[:, place]
@@ -151,10 +172,15 @@ def read_epw(path: str | os.PathLike[str]) -> Weather:
 def _location(rows, name):
     if not rows or len(rows[0]) < 10 or rows[0][0].strip().upper() != "LOCATION":
         raise ValueError(f"{name}, line 1: LOCATION with ten fields is expected")
+    place = f"{name}, line 1"
     try:
-        return (", ".join(filter(None, (rows[0][1].strip(), rows[0][3].strip()))), *map(float, rows[0][6:10]))
+        numbers = [float(field) for field in rows[0][6:10]]
     except ValueError:
-        raise ValueError(f"{name}, line 1: latitude, longitude, time zone and elevation are numbers") from None
+        raise ValueError(f"{place}: latitude, longitude, time zone and elevation are numbers") from None
+    for what, value, (low, high) in zip(("latitude", "longitude", "time zone", "elevation"), numbers,
+                                        ((-90, 90), (-180, 180), (-12, 14), (-500, 9000))):
+        _check(what, value, low, high, place)
+    return (", ".join(filter(None, (rows[0][1].strip(), rows[0][3].strip()))), *numbers)
 
 
 def _numbers(row, place):
@@ -162,6 +188,18 @@ def _numbers(row, place):
     if len(row) < needed:
         raise ValueError(f"{place}: {needed} fields are expected, not {len(row)}")
     try:
-        return [*map(float, row[:4]), *map(float, row[_FIRST:needed])]
+        dates, values = [float(field) for field in row[:4]], [float(field) for field in row[_FIRST:needed]]
     except ValueError:
         raise ValueError(f"{place}: a field is no number") from None
+    _check("year", dates[0], 0, 9999, place)
+    _check("month", dates[1], 1, 12, place)
+    _check("day", dates[2], 1, 29 if dates[1] == 2 else _DAYS[int(dates[1]) - 1], place)
+    _check("hour", dates[3], 1, 24, place)
+    if not all(map(math.isfinite, values)) or any(date % 1 for date in dates):
+        raise ValueError(f"{place}: a field is no number, or a date has a fraction")
+    return [*dates, *values]
+
+
+def _check(what, value, low, high, place):
+    if not low <= value <= high:
+        raise ValueError(f"{place}: {what} {value:g} is not from {low} to {high}")

@@ -222,7 +222,7 @@ def locate_band(fraction, month, frequencies, *, out=None):
 
     Notes
     -----
-    Fractions, where CLBAND takes a percentage.
+    Fractions, where `band_climate` takes a percentage.
 
     At or below the first band's frequency the weight is 0 or negative. Bands of equal frequency are
     skipped upwards, to band 10 at most; for a fraction equal to the frequencies of all the rest the
@@ -776,7 +776,7 @@ def daily_value(hour, mean, amplitude, first_hour, second_hour, amplitude_factor
     The order of the hours is not checked: with the second before the first, the wave that should go
     through midnight runs beyond its extreme.
 
-    Pi as in CLTAO.
+    Pi as in `daily_temperature`.
 
     Each element has the bits of CLTAOX in quorvel.h.
 
@@ -829,7 +829,7 @@ def design_irradiance(solar_altitude, site_height, sky_kind, *, out=None, where=
     diffuse_horizontal = 1.52269 + 280.358 a - 375.111 a^2 + 253.716 a^3 - 63.3311 a^4 of the clear
     sky, 0.331322 + 283.1 a + 4.42111 a^2 of the cloudy one; a = solar_altitude above 0.087
 
-    Both grow with the height by the factor of CLHIGH.
+    Both grow with the height by the factor of `height_factor`.
 
     Up to 0.087 rad both are proportional to the altitude, also below 0, where they are negative.
     The direct irradiance falls by 2 W/m² where the polynomial takes over.
@@ -964,7 +964,7 @@ def clearness_index(day, solar_altitude, global_horizontal, *, out=None, where=T
 
     Notes
     -----
-    Formula: global_horizontal / (1367 CLETAJ(day) sin(solar_altitude))
+    Formula: global_horizontal / (1367 `eccentricity_factor`(day) sin(solar_altitude))
 
     An altitude of 0 divides by zero: infinite, or not a number for an irradiance of 0.
 
@@ -973,7 +973,7 @@ def clearness_index(day, solar_altitude, global_horizontal, *, out=None, where=T
     References
     ----------
     B. Y. H. Liu and R. C. Jordan, Solar Energy 4 (1960), with a solar constant of 1367 W/m² and the
-    eccentricity of CLETAJ.
+    eccentricity of `eccentricity_factor`.
 
     Examples
     --------
@@ -1238,7 +1238,7 @@ def diffuse_tilt_factor(day, solar_altitude, beam_horizontal, tilt, sky_model, *
     -----
     Formula: cos(b / 2)^2 + a (sin(b) - b cos(b) - pi sin(b / 2)^2), b = tilt; model 0: a = 2 r /
     (pi (2 r + 3)), model 1: 0.00333 - 0.415 K - 0.6987 K^2, model 2: 0.00263 - 0.712 K - 0.6883
-    K^2; K = beam_horizontal / (1367 CLETAJ(day) sin(solar_altitude))
+    K^2; K = beam_horizontal / (1367 `eccentricity_factor`(day) sin(solar_altitude))
 
     Model 0 takes the radiance index r = 5.73 up to an altitude of 0, 1.68 for a beam below 5 W/m²
     and -0.62 otherwise; the side of the surface does not matter here.
@@ -1250,7 +1250,8 @@ def diffuse_tilt_factor(day, solar_altitude, beam_horizontal, tilt, sky_model, *
     References
     ----------
     T. Muneer, Solar radiation model for Europe, Building Services Engineering Research and
-    Technology 11 (1990), with a solar constant of 1367 W/m² and the eccentricity of CLETAJ.
+    Technology 11 (1990), with a solar constant of 1367 W/m² and the eccentricity of
+    `eccentricity_factor`.
 
     Examples
     --------
@@ -1299,11 +1300,11 @@ def slope_diffuse(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, bea
 
     Notes
     -----
-    Formula: diffuse_horizontal (f (1 - K) + K cos(i) / sin(solar_altitude)); f = CLDIFRAD, i =
-    angle of incidence
+    Formula: diffuse_horizontal (f (1 - K) + K cos(i) / sin(solar_altitude)); f =
+    `diffuse_tilt_factor`, i = angle of incidence
 
-    The factor of CLDIFRAD and a circumsolar part, weighted by the clearness of the beam. A sun
-    behind the surface has no circumsolar part, as one whose direction is not a number.
+    The factor of `diffuse_tilt_factor` and a circumsolar part, weighted by the clearness of the
+    beam. A sun behind the surface has no circumsolar part, as one whose direction is not a number.
 
     From a beam of 5 W/m² on, a sun below 0.1 rad has a form of its own, which follows the clearness
     but not the model. The result jumps there.
@@ -1313,15 +1314,15 @@ def slope_diffuse(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, bea
 
     Divides by the sine of the altitude: at 0 the result is infinite or no number.
 
-    K is that of CLDIFRAD.
+    K is that of `diffuse_tilt_factor`.
 
     Each element has the bits of CLDIFSLO in quorvel.h.
 
     References
     ----------
-    As CLDIFRAD. Low sun: the clear sky of R. C. Temps and K. L. Coulson (Solar Energy 19, 1977)
-    with the modulation by T. M. Klucher (Solar Energy 23, 1979), the beam clearness in place of his
-    factor.
+    As `diffuse_tilt_factor`. Low sun: the clear sky of R. C. Temps and K. L. Coulson (Solar Energy
+    19, 1977) with the modulation by T. M. Klucher (Solar Energy 23, 1979), the beam clearness in
+    place of his factor.
 
     Examples
     --------
@@ -1465,7 +1466,7 @@ def solar_time_correction(clock_offset, day, longitude, reference_longitude, *, 
 
     The equation of time stays within 0.7 min of the true one.
 
-    The hour is rounded to 0.2618 rad here and not in CLSNGE: deliberate.
+    The hour is rounded to 0.2618 rad here and not in `solar_geometry`: deliberate.
 
     Each element has the bits of CLTCOR in quorvel.h.
 
@@ -1597,14 +1598,14 @@ def almanac_sun_hours(year, month, day_of_month, latitude, *, out=None, where=Tr
     The centre of the sun on a level horizon without refraction, with the declination of noon at
     Greenwich.
 
-    Dates as in CLYALLOP. A latitude of 1.5707964, or its negative, is by rounding just beyond the
-    pole: midnight sun and polar night change places there.
+    Dates as in `almanac_position`. A latitude of 1.5707964, or its negative, is by rounding just
+    beyond the pole: midnight sun and polar night change places there.
 
     Each element has the bits of CLRISESET in quorvel.h.
 
     References
     ----------
-    Declination as CLYALLOP; sunrise equation.
+    Declination as `almanac_position`; sunrise equation.
 
     Examples
     --------
@@ -1842,7 +1843,7 @@ def surface_irradiance(solar_altitude, solar_azimuth, surface_azimuth, tilt, dir
 
 
 def surface_irradiance_and_incidence(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, *, out=None, where=True):
-    """Irradiance on the plane of a surface as CLSORD, and the angle of incidence.
+    """Irradiance on the plane of a surface as `surface_irradiance`, and the angle of incidence.
 
     Parameters
     ----------
@@ -1885,15 +1886,15 @@ def surface_irradiance_and_incidence(solar_altitude, solar_azimuth, surface_azim
 
     Notes
     -----
-    The irradiances are those of CLSORD, bit for bit; see there.
+    The irradiances are those of `surface_irradiance`, bit for bit; see there.
 
-    CLSNSR gives the angle of incidence behind the surface too.
+    `surface_angles` gives the angle of incidence behind the surface too.
 
     Each element has the bits of CLSOR2 in quorvel.h.
 
     References
     ----------
-    As CLSORD.
+    As `surface_irradiance`.
 
     Examples
     --------

@@ -269,8 +269,8 @@ def vertical_cavity_resistance(cavity_width, *, out=None, where=True):
     Formula: 1 / (5.14 e1 e2 / (e1 + e2 - e1 e2) + 0.025 Nu / width), at least 0.1; Nu = 0.035
     Ra^0.38, at least 1; Ra = 793.00165 width^3 / 4.4e-7
 
-    A width below 0.001 gives 0.1, where TPRCA2 and TPRCAX give 0: deliberate. Not a number stays
-    so.
+    A width below 0.001 gives 0.1, where `air_cavity_resistance` and `gas_cavity_resistance` give 0:
+    deliberate. Not a number stays so.
 
     The emissivities e1 and e2 of the faces are 0.85 and 0.86.
 
@@ -278,7 +278,7 @@ def vertical_cavity_resistance(cavity_width, *, out=None, where=True):
 
     References
     ----------
-    As TPRCA2.
+    As `air_cavity_resistance`.
 
     Examples
     --------
@@ -384,7 +384,7 @@ def gas_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, densit
     Formula: 1 / (5.14 e1 e2 / (e1 + e2 - e1 e2) + conductivity Nu / width); Nu = C Ra^n, at least
     1; Ra = 0.52 specific_heat density^2 width^3 / (viscosity conductivity)
 
-    Guards and correlation as in TPRCA2.
+    Guards and correlation as in `air_cavity_resistance`.
 
     The Rayleigh number has a factor of 0.52 m/s² for gravity times expansion times temperature
     difference, whatever the gas and its temperature.
@@ -395,7 +395,7 @@ def gas_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, densit
 
     References
     ----------
-    As TPRCA2.
+    As `air_cavity_resistance`.
 
     Examples
     --------
@@ -516,9 +516,10 @@ def condensation_profile(thickness, conductivity, vapour_resistivity, inside_res
     number.
 
     A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, as
-    in TPDAMP.
+    in `total_vapour_resistance`.
 
-    Saturation inside a layer, between its interfaces, is not looked for: see ITPCON.
+    Saturation inside a layer, between its interfaces, is not looked for: see
+    `condenses_within_layer`.
 
     Each element has the bits of TPGRAD in quorvel.h.
 
@@ -583,7 +584,7 @@ def condenses_within_layer(warm_temperature, cold_temperature, warm_vapour_press
     References
     ----------
     Straight lines of temperature and vapour pressure through a homogeneous layer, against the
-    saturation pressure of PSSVP.
+    saturation pressure of `saturation_pressure`.
 
     Examples
     --------
@@ -635,10 +636,10 @@ def element_property(element_records, record_number, item, *, out=None):
 
     Items of classes 2, 4 and 5: 12 field 6. Of class 5 with subtype 1 or 2: 21 to 23 fields 2 to 4.
 
-    Items of packed fields (TPCOLT), all classes but 3 and 6: 31 solar transmittance, 32 front and
-    33 back reflectance, 34 and 35 front and back absorptance, from field 9; 41 to 45 the same from
-    field 7; 54 and 55 the long-wave fractions of the two faces, 52 and 53 one less these, from
-    field 8.
+    Items of packed fields (`pack_three_fractions`), all classes but 3 and 6: 31 solar
+    transmittance, 32 front and 33 back reflectance, 34 and 35 front and back absorptance, from
+    field 9; 41 to 45 the same from field 7; 54 and 55 the long-wave fractions of the two faces, 52
+    and 53 one less these, from field 8.
 
     Items of every class: 71 and 72 are 1 if the list ends with a record of code 601 and 602,
     whichever valid record is asked about.
@@ -752,13 +753,14 @@ def pack_two_fractions(packing, packed_number, fraction_1, fraction_2, *, out=No
 
     Notes
     -----
-    As TPCOLT with a third fraction of 0, which is not returned: what stands above 100 is ignored.
+    As `pack_three_fractions` with a third fraction of 0, which is not returned: what stands above
+    100 is ignored.
 
     Each element has the bits of TPCOLW in quorvel.h.
 
     References
     ----------
-    As TPCOLT.
+    As `pack_three_fractions`.
 
     Examples
     --------
@@ -826,7 +828,7 @@ def pack_three_fractions(packing, packed_number, fraction_1, fraction_2, fractio
 
     References
     ----------
-    Format of the packed property numbers of element records (BELDAT).
+    Format of the packed property numbers of element records (`element_property`).
 
     Examples
     --------
@@ -842,7 +844,7 @@ def pack_three_fractions(packing, packed_number, fraction_1, fraction_2, fractio
 
 
 def pack_three_fractions_third_first(packing, packed_number, fraction_3, fraction_1, fraction_2, *, out=None, where=True):
-    """TPCOLT with its arguments in another order.
+    """`pack_three_fractions` with its arguments in another order.
 
     Parameters
     ----------
@@ -881,7 +883,7 @@ def pack_three_fractions_third_first(packing, packed_number, fraction_3, fractio
 
     References
     ----------
-    As TPCOLT.
+    As `pack_three_fractions`.
 
     Examples
     --------
@@ -937,8 +939,8 @@ def pack_pane(packing, packed_number, absorptance, reflectance_1, reflectance_2,
 
     Notes
     -----
-    Packed as TPCOLT packs the absorptance and the transmittances 1 - absorptance - reflectance of
-    the two faces. Undefined values as there.
+    Packed as `pack_three_fractions` packs the absorptance and the transmittances 1 - absorptance -
+    reflectance of the two faces. Undefined values as there.
 
     A face that neither absorbs nor reflects transmits 1.00, which is carried into the next
     position.
@@ -949,7 +951,7 @@ def pack_pane(packing, packed_number, absorptance, reflectance_1, reflectance_2,
 
     References
     ----------
-    As TPCOLT.
+    As `pack_three_fractions`.
 
     Examples
     --------
@@ -1049,17 +1051,17 @@ def surface_resistance_at_emissivity(surface, tilt, exposure, emissivity, *, out
 
     Another surface type gives 0. Another exposure counts as the nearest one.
 
-    At an emissivity of 0.9 it is TPRSUR to rounding.
+    At an emissivity of 0.9 it is `surface_resistance` to rounding.
 
     Tilt and emissivity are not tested.
 
-    a and b are those of TPRSUR.
+    a and b are those of `surface_resistance`.
 
     Each element has the bits of TPRSU2 in quorvel.h.
 
     References
     ----------
-    As TPRSUR, with black-body coefficients of 5.1 W/m²K outside and 5.7 W/m²K inside.
+    As `surface_resistance`, with black-body coefficients of 5.1 W/m²K outside and 5.7 W/m²K inside.
 
     Examples
     --------
@@ -1102,7 +1104,8 @@ def u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2,
 
     A count below 1 leaves the two surfaces alone; no array is read.
 
-    How far below 0 a thickness is makes no difference here; it does in TPDAMP and TPGRAD.
+    How far below 0 a thickness is makes no difference here; it does in `total_vapour_resistance`
+    and `condensation_profile`.
 
     A thickness that is no number gives no number.
 
@@ -1163,7 +1166,7 @@ def u_value_at_tilt_and_exposure(u_value, tilt, exposure, *, out=None, where=Tru
 
     References
     ----------
-    Surface resistances of TPRSUR, exchanged.
+    Surface resistances of `surface_resistance`, exchanged.
 
     Examples
     --------
@@ -1245,7 +1248,7 @@ def window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_
 
     Another number of panes counts as one pane, with the emissivity of pane 3 outside.
 
-    Cavities as TPRCA2: one that it rejects has no resistance.
+    Cavities as `air_cavity_resistance`: one that it rejects has no resistance.
 
     Rsi and Rso are the resistances of the inner and the outer surface.
 
@@ -1253,7 +1256,8 @@ def window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_
 
     References
     ----------
-    Surface resistances of TPRSU2 and cavities of TPRCA2 in series.
+    Surface resistances of `surface_resistance_at_emissivity` and cavities of
+    `air_cavity_resistance` in series.
 
     Examples
     --------

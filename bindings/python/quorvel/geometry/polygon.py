@@ -66,7 +66,7 @@ def clip(a: ArrayLike, b: ArrayLike) -> Any:
     (3.0, 1.0)
     """
     if _is_collection(a) or _is_collection(b):
-        return [_clip(*pair) for pair in zip(*_paired(a, b, "clip"))]
+        return [_clip(*pair, f"pair {k}: ") for k, pair in enumerate(zip(*_paired(a, b, "clip")))]
     return _clip(_plan(a, "a"), _plan(b, "b"))
 
 
@@ -145,11 +145,16 @@ def orientation(polygon: ArrayLike) -> routines.PolygonOrientation:
 def _is_collection(polygons):
     if isinstance(polygons, np.ndarray) and polygons.dtype != object:
         return polygons.ndim > 2
+    if not isinstance(polygons, (list, tuple, np.ndarray)):
+        return False
     return len(polygons) == 0 or np.ndim(polygons[0]) > 1
 
 
 def _points(polygon, name, extent=None):
-    points = np.ascontiguousarray(polygon, np.float64)
+    points = np.asarray(polygon)
+    if points.dtype.kind not in "biuf" or np.ma.isMaskedArray(polygon):
+        raise ValueError(f"{name}: a polygon is of numbers, not of {'masked values' if points.dtype.kind in 'biuf' else points.dtype}")
+    points = np.ascontiguousarray(points, np.float64)
     extents = (extent,) if extent else (2, 3)
     if points.ndim != 2 or points.shape[1] not in extents:
         shapes = " or ".join(f"(n, {each})" for each in extents)
@@ -173,13 +178,13 @@ def _is_finite(points):
     return bool(np.isfinite(points).all())
 
 
-def _clip(a, b):
+def _clip(a, b, which=""):
     for points, name in ((a, "a"), (b, "b")):
         if not _is_finite(points):
-            raise ClippingError(f"clip: {name} has coordinates that are not numbers")
+            raise ClippingError(f"clip: {which}{name} has coordinates that are not numbers")
     fault, difference, both = _core.clip(a, b)
     if fault:
-        raise ClippingError(f"clip: {fault}")
+        raise ClippingError(f"clip: {which}{fault}")
     return Clipped(*([np.frombuffer(piece).reshape(-1, 2) for piece in pieces] for pieces in (difference, both)))
 
 

@@ -220,8 +220,8 @@ def count_enclosed(x, y, point_x, point_y, enclosed, *, out=None):
 
     Notes
     -----
-    A point is enclosed when it is left of no edge, as IGEPNT sees it, or is at a vertex (to less
-    than 1e-5 in each coordinate) that comes before any such edge.
+    A point is enclosed when it is left of no edge, as `side_of_line` sees it, or is at a vertex (to
+    less than 1e-5 in each coordinate) that comes before any such edge.
 
     Points that are not numbers are left of no edge, and so enclosed.
 
@@ -276,8 +276,8 @@ def boundary_crossing(segment_start, segment_end, x, y, *, out=None):
 
     Notes
     -----
-    The edges are tried in turn, from vertex 1 to 2 on, as GECROS does; the first one that is
-    crossed away from the start ends the search. A crossing beyond 100000 is none.
+    The edges are tried in turn, from vertex 1 to 2 on, as `crossing_point` does; the first one that
+    is crossed away from the start ends the search. A crossing beyond 100000 is none.
 
     No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is
     the last outcome of the search, the start or 1e20.
@@ -292,7 +292,7 @@ def boundary_crossing(segment_start, segment_end, x, y, *, out=None):
 
     References
     ----------
-    As GECROS.
+    As `crossing_point`.
 
     Examples
     --------
@@ -329,9 +329,9 @@ def inside(point, polygon, *, out=None):
     Notes
     -----
     The first edge with whose line the point is in line (twice the area of the triangle between them
-    at most 1e-6) decides alone: 1 if the point is in the span of the edge, as GEINLN sees it, else
-    0. So a point may be found outside a polygon that is not convex because it is in line with an
-    edge.
+    at most 1e-6) decides alone: 1 if the point is in the span of the edge, as `in_span` sees it,
+    else 0. So a point may be found outside a polygon that is not convex because it is in line with
+    an edge.
 
     That the point is in the plane is not tested: over the middle of a square it is inside up to
     half the length of a side.
@@ -718,7 +718,7 @@ def crossing_point(segment_1_start, segment_1_end, segment_2_start, segment_2_en
 
     References
     ----------
-    As GEMEET.
+    As `meeting_point`.
 
     Examples
     --------
@@ -1181,7 +1181,7 @@ def signed_plan_area(x, y, *, out=None):
     -----
     Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
 
-    As GEAPOL.
+    As `plan_area`.
 
     Each element has the bits of GEAPO2 in quorvel.h.
 
@@ -1394,7 +1394,7 @@ def forward_projection(plane_point, plane_normal, point, direction, *, out=None)
 
     References
     ----------
-    As GEPROJ.
+    As `projection`.
 
     Examples
     --------
@@ -1440,14 +1440,14 @@ def forward_projection_or_start(plane_point, plane_normal, point, direction, *, 
     it: infinities or not a number. There is no other limit for parallel directions, so that the
     length of the normal does not matter.
 
-    Ahead is as in GEPROJ2, and so about 7 % of the points at site coordinates of real buildings are
-    returned as they are, although the plane lies ahead.
+    Ahead is as in `forward_projection`, and so about 7 % of the points at site coordinates of real
+    buildings are returned as they are, although the plane lies ahead.
 
     Each element has the bits of GEPROJ3 in quorvel.h.
 
     References
     ----------
-    As GEPROJ.
+    As `projection`.
 
     Examples
     --------

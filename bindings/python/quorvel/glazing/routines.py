@@ -299,9 +299,9 @@ def glass_direct(normal_transmittance, normal_reflectance, incidence, *, out=Non
     below 0 and is held at 0, so that the three add up to more than 1. At 0.92 their unpolarised sum
     is 1.0018 at normal incidence, 1.0024 at 1.5 rad and 1.011 at 1.57 rad.
 
-    For nearly opaque uncoated glass the difference in WNKL cancels: at normal incidence the
-    transmittance comes back to within 4 % from 0.02 on and 34 % from 0.005 on; below that 0.002
-    gives 0 and 0.0025 gives 0.006.
+    For nearly opaque uncoated glass the difference in `absorption_product` cancels: at normal
+    incidence the transmittance comes back to within 4 % from 0.02 on and 34 % from 0.005 on; below
+    that 0.002 gives 0 and 0.0025 gives 0.006.
 
     Uncoated, an angle beyond pi/2 is not tested, and the results mean nothing there.
 
@@ -312,8 +312,9 @@ def glass_direct(normal_transmittance, normal_reflectance, incidence, *, out=Non
 
     References
     ----------
-    Uncoated glass: WNKL, WNRANG, WNREFL, WNABEN, WNTAR in turn. Coated glass: tabulated angular
-    factors whose origin is not recorded.
+    Uncoated glass: `absorption_product`, `refraction_angle`, `surface_reflectance`,
+    `single_pass_absorption`, `slab_optics` in turn. Coated glass: tabulated angular factors whose
+    origin is not recorded.
 
     Examples
     --------
@@ -363,16 +364,16 @@ def glass_diffuse(normal_transmittance, normal_reflectance, *, out=None, where=T
 
     Notes
     -----
-    The pane is taken exactly as by WNDRGL, coated and opaque glass included.
+    The pane is taken exactly as by `glass_direct`, coated and opaque glass included.
 
-    The bits are those of WNDRGL summed over the bands.
+    The bits are those of `glass_direct` summed over the bands.
 
     Each element has the bits of WNDFGL in quorvel.h.
 
     References
     ----------
-    WNDRGL at the centres of 18 bands of 5 degrees, each weighted with the integral of 2 sin cos
-    over the band.
+    `glass_direct` at the centres of 18 bands of 5 degrees, each weighted with the integral of 2 sin
+    cos over the band.
 
     Examples
     --------
@@ -594,7 +595,7 @@ def diffuse_roller_blind(blind_transmittance, blind_reflectance, *, out=None, wh
 
     References
     ----------
-    WNDRRO, integrated as in WNDFSL.
+    `roller_blind`, integrated as in `slat_diffuse`.
 
     Examples
     --------
@@ -690,8 +691,8 @@ def surface_reflectance(incidence, refraction_angle, refractive_index, *, out=No
     incidence, r = refraction_angle
 
     Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at
-    normal incidence, ((1 - n) / (1 + n))^2 with the refractive index n. WNRANG tests the sine of
-    the angle instead; the two limits differ deliberately.
+    normal incidence, ((1 - n) / (1 + n))^2 with the refractive index n. `refraction_angle` tests
+    the sine of the angle instead; the two limits differ deliberately.
 
     The perpendicular one is written first.
 
@@ -844,9 +845,9 @@ def absorption_product(normal_transmittance, refractive_index, *, out=None, wher
     = ((refractive_index - 1) / (refractive_index + 1))^2
 
     Evaluated as written in single precision, where a difference of roots cancels for nearly opaque
-    glass: the relative error of the transmittance T, given back by WNTNOR, is up to 1.5e-5 / T^2,
-    which is 0.02 % at 0.3, 0.15 % at 0.1 and 0.6 % at 0.05; at 0.002 and less the result is
-    infinite.
+    glass: the relative error of the transmittance T, given back by `normal_transmittance`, is up to
+    1.5e-5 / T^2, which is 0.02 % at 0.3, 0.15 % at 0.1 and 0.6 % at 0.05; at 0.002 and less the
+    result is infinite.
 
     Above the transmittance of glass that absorbs nothing, 0.918 for an index of 1.52, the result is
     negative.
@@ -857,7 +858,7 @@ def absorption_product(normal_transmittance, refractive_index, *, out=None, wher
 
     References
     ----------
-    The slab of WNTAR at normal incidence, solved for the absorption.
+    The slab of `slab_optics` at normal incidence, solved for the absorption.
 
     Examples
     --------
@@ -872,7 +873,7 @@ def absorption_product(normal_transmittance, refractive_index, *, out=None, wher
 
 
 def normal_transmittance(absorption_product, normal_reflectance, *, out=None, where=True):
-    """Transmittance of a pane at normal incidence: the inverse of WNKL.
+    """Transmittance of a pane at normal incidence: the inverse of `absorption_product`.
 
     Parameters
     ----------
@@ -894,14 +895,14 @@ def normal_transmittance(absorption_product, normal_reflectance, *, out=None, wh
     -----
     Formula: (1 - r)^2 tau / (1 - r^2 tau^2); tau = exp(-absorption_product), r = normal_reflectance
 
-    The second argument is a reflectance, ((n - 1) / (n + 1))^2, where WNKL takes the refractive
-    index.
+    The second argument is a reflectance, ((n - 1) / (n + 1))^2, where `absorption_product` takes
+    the refractive index.
 
     Each element has the bits of WNTNOR in quorvel.h.
 
     References
     ----------
-    The slab of WNTAR at normal incidence.
+    The slab of `slab_optics` at normal incidence.
 
     Examples
     --------
@@ -1085,17 +1086,17 @@ def unit_diffuse(shortwave_shading_coefficient, longwave_shading_coefficient, *,
 
     Notes
     -----
-    Coefficients as in WNDRSC. If they add up to at most 1 the absorptance is 2.61 times the
+    Coefficients as in `unit_direct`. If they add up to at most 1 the absorptance is 2.61 times the
     long-wave one, otherwise that of the equivalent pane.
 
-    The absorptance is at most 0.99 - transmittance. Unlike WNDRSC, coefficients of 0 give a
+    The absorptance is at most 0.99 - transmittance. Unlike `unit_direct`, coefficients of 0 give a
     reflectance of 1.
 
     Each element has the bits of WNDFSC in quorvel.h.
 
     References
     ----------
-    WNDRSC, with the equivalent pane integrated as in WNDFGL.
+    `unit_direct`, with the equivalent pane integrated as in `glass_diffuse`.
 
     Examples
     --------
@@ -1114,8 +1115,8 @@ def unit_diffuse(shortwave_shading_coefficient, longwave_shading_coefficient, *,
 
 
 def unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, *, out=None):
-    """WNDRSC, with the remainder that is neither transmitted nor absorbed split among the panes of the
-    unit.
+    """`unit_direct`, with the remainder that is neither transmitted nor absorbed split among the panes
+    of the unit.
 
     Parameters
     ----------
@@ -1156,7 +1157,7 @@ def unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficie
 
     References
     ----------
-    WNDRSC; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not
+    `unit_direct`; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not
     recorded.
 
     Examples
@@ -1177,8 +1178,8 @@ def unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficie
 
 
 def unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coefficient, panes, *, out=None):
-    """WNDFSC, with the remainder that is neither transmitted nor absorbed split among the panes of the
-    unit.
+    """`unit_diffuse`, with the remainder that is neither transmitted nor absorbed split among the
+    panes of the unit.
 
     Parameters
     ----------
@@ -1207,7 +1208,7 @@ def unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coeffici
 
     Notes
     -----
-    The remainder is split as in WNDRSM.
+    The remainder is split as in `unit_direct_shares`.
 
     Beyond the count `panes`, what it counts is not a number.
 
@@ -1215,7 +1216,7 @@ def unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coeffici
 
     References
     ----------
-    WNDFSC, with the shares of WNDRSM.
+    `unit_diffuse`, with the shares of `unit_direct_shares`.
 
     Examples
     --------
@@ -1235,7 +1236,7 @@ def unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coeffici
 
 
 def unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, *, out=None):
-    """WNDRSM or WNDFSM, by a selector.
+    """`unit_direct_shares` or `unit_diffuse_shares`, by a selector.
 
     Parameters
     ----------
@@ -1269,7 +1270,7 @@ def unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coeff
 
     Notes
     -----
-    The remainder is split as in WNDRSM.
+    The remainder is split as in `unit_direct_shares`.
 
     Beyond the count `panes`, what it counts is not a number.
 
@@ -1277,7 +1278,7 @@ def unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coeff
 
     References
     ----------
-    WNDRSM and WNDFSM.
+    `unit_direct_shares` and `unit_diffuse_shares`.
 
     Examples
     --------
@@ -1409,7 +1410,7 @@ def two_faced_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, s
 
     Notes
     -----
-    Equal faces give the bits of WNDRSL and keep the balance.
+    Equal faces give the bits of `slat_direct` and keep the balance.
 
     Unequal faces do not: whatever is absorbed after the first reflection counts with that of the
     face struck, as if both faces absorbed like the one struck and reflected like the opposite one.
@@ -1425,7 +1426,7 @@ def two_faced_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, s
 
     References
     ----------
-    As WNDRSL.
+    As `slat_direct`.
 
     Examples
     --------
@@ -1445,7 +1446,7 @@ def two_faced_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, s
 
 
 def open_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance, opposite_absorptance, *, out=None, where=True):
-    """WNDRS2 for a blind that leaves a share of the radiation to pass untouched.
+    """`two_faced_slat_direct` for a blind that leaves a share of the radiation to pass untouched.
 
     Parameters
     ----------
@@ -1484,7 +1485,8 @@ def open_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, open_s
 
     Notes
     -----
-    Without an open share these are the bits of WNDRS2; a share that is not a number is none.
+    Without an open share these are the bits of `two_faced_slat_direct`; a share that is not a
+    number is none.
 
     A beam along the blind is transmitted by the open share and absorbed as by the face struck: the
     share does not reduce the absorptance there, and the reflectance, 1 less both, may be negative:
@@ -1494,7 +1496,7 @@ def open_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, open_s
 
     References
     ----------
-    As WNDRSL.
+    As `slat_direct`.
 
     Examples
     --------
@@ -1550,7 +1552,7 @@ def slat_diffuse(slat_spacing, slat_width, slat_angle, slat_absorptance, *, out=
 
     Notes
     -----
-    The bits are those of WNDRSL summed over the bands.
+    The bits are those of `slat_direct` summed over the bands.
 
     Slats at an angle of 5, 15, ... 85 degrees have a band within 0.01 rad of their plane, which
     passes whole.
@@ -1561,8 +1563,8 @@ def slat_diffuse(slat_spacing, slat_width, slat_angle, slat_absorptance, *, out=
 
     References
     ----------
-    WNDRSL at the centres of nine bands of 10 degrees on either side of the horizon, each weighted
-    with the integral of the cosine over the band: radiance uniform in the profile angle.
+    `slat_direct` at the centres of nine bands of 10 degrees on either side of the horizon, each
+    weighted with the integral of the cosine over the band: radiance uniform in the profile angle.
 
     Examples
     --------
@@ -1583,7 +1585,7 @@ def slat_diffuse(slat_spacing, slat_width, slat_angle, slat_absorptance, *, out=
 
 
 def two_faced_slat_diffuse(slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance, *, out=None, where=True):
-    """WNDFSL for slats with two different faces.
+    """`slat_diffuse` for slats with two different faces.
 
     Parameters
     ----------
@@ -1625,13 +1627,13 @@ def two_faced_slat_diffuse(slat_spacing, slat_width, slat_angle, struck_absorpta
     lower face for those of the ground. Beams between the horizon and the plane of the slats strike
     the other face all the same.
 
-    Unequal faces as in WNDRS2.
+    Unequal faces as in `two_faced_slat_direct`.
 
     Each element has the bits of WNDFS2 in quorvel.h.
 
     References
     ----------
-    WNDRS2, integrated as in WNDFSL.
+    `two_faced_slat_direct`, integrated as in `slat_diffuse`.
 
     Examples
     --------
@@ -1653,7 +1655,7 @@ def two_faced_slat_diffuse(slat_spacing, slat_width, slat_angle, struck_absorpta
 
 
 def open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, opposite_absorptance, *, out=None, where=True):
-    """WNDFS2 for a blind that leaves a share of the radiation to pass untouched.
+    """`two_faced_slat_diffuse` for a blind that leaves a share of the radiation to pass untouched.
 
     Parameters
     ----------
@@ -1692,13 +1694,13 @@ def open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_a
 
     Notes
     -----
-    Faces as in WNDFS2, the open share as in WNDRS3.
+    Faces as in `two_faced_slat_diffuse`, the open share as in `open_slat_direct`.
 
     Each element has the bits of WNDFS3 in quorvel.h.
 
     References
     ----------
-    WNDRS3, integrated as in WNDFSL.
+    `open_slat_direct`, integrated as in `slat_diffuse`.
 
     Examples
     --------

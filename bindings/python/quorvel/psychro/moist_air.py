@@ -2,6 +2,8 @@
 
 from typing import Any, NamedTuple
 
+import numpy as np
+
 from . import routines as r
 
 __all__ = ["State", "cooled", "heated", "humidified", "mixed", "state"]
@@ -107,7 +109,11 @@ def state(*, p: Any = 101325.0, psychrometer: Any = "sling", **known: Any) -> St
     Notes
     -----
     A dry bulb that is not given is searched for, where it cannot be solved for; the notes of the functions
-    `dry_bulb_from_…` say how closely, and what a pair gets that no air has.
+    `dry_bulb_from_…` say how closely, and what a pair gets that no air has. All is worked out from dry bulb and
+    moisture, so what is limited comes back limited: 100 % for a relative humidity of 150 %.
+
+    Wet bulb and enthalpy run nearly side by side: from the two of them, a wet bulb that is wrong by 0.1 K makes some
+    kelvins of dry bulb. The wet bulb is the reading of a psychrometer, up to 0.2 K above that of adiabatic saturation.
 
     Examples
     --------
@@ -116,16 +122,16 @@ def state(*, p: Any = 101325.0, psychrometer: Any = "sling", **known: Any) -> St
     >>> print(f"{air.moisture_content:.4f} kg/kg, {air.enthalpy:.1f} kJ/kg, {air.wet_bulb:.1f} °C, {air.dew_point:.1f} °C")
     0.0099 kg/kg, 50.4 kJ/kg, 18.0 °C, 13.9 °C
     """
-    given = {name: known[name] for name in NAMES if known.get(name) is not None}
+    given = {name: _single(known[name]) for name in NAMES if known.get(name) is not None}
     _check(given, known)
-    fixed = dict(given)
+    p = _single(p)
     if "td" in given:  # from here on a vapour pressure
         given["pv"] = r.saturation_pressure(given.pop("td"))
     given = {name: given[name] for name in NAMES if name in given}
     if "t" not in given:
         given["t"] = DRY_BULB[tuple(given)](*given.values(), p, psychrometer)
     other = next(name for name in ("pv", "g", "rh", "mu", "h", "wb") if name in given)
-    return _complete(given["t"], WITH_DRY_BULB[other](given["t"], given[other], p, psychrometer), p, psychrometer, fixed)
+    return _complete(given["t"], WITH_DRY_BULB[other](given["t"], given[other], p, psychrometer), p, psychrometer)
 
 
 def mixed(first: State, second: State, first_flow: Any = 1.0, second_flow: Any = 1.0) -> State:
@@ -134,7 +140,7 @@ def mixed(first: State, second: State, first_flow: Any = 1.0, second_flow: Any =
     Parameters
     ----------
     first, second : State
-        At the same pressure.
+        At the same pressure, which is not checked.
     first_flow, second_flow : array_like of float, optional
         Mass flows of dry air, in any unit.
 
@@ -158,7 +164,8 @@ def mixed(first: State, second: State, first_flow: Any = 1.0, second_flow: Any =
 def heated(air: State, t: Any) -> State:
     """Air brought to a dry bulb without moisture given or taken; to cool it above its dew point likewise.
 
-    The heat is the difference of the enthalpies [kJ/kg of dry air].
+    The heat is the difference of the enthalpies [kJ/kg of dry air]. Below the dew point it gives mist, of more than
+    100 %; there a coil dries the air: see `cooled`.
     """
     return state(t=t, g=air.moisture_content, p=air.pressure)
 
@@ -181,6 +188,7 @@ def cooled(air: State, t: Any, coil_temperature: Any) -> State:
         of the surface and the rest passed by. Above the air's dew point the coil stays dry.
     """
     saturated = state(t=coil_temperature, rh=100.0, p=air.pressure)
+    t, coil_temperature = _single(t), _single(coil_temperature)
     touching = (air.dry_bulb - t) / (air.dry_bulb - coil_temperature)
     surplus = air.moisture_content - saturated.moisture_content
     condensed = touching * surplus * (surplus > 0)
@@ -188,13 +196,14 @@ def cooled(air: State, t: Any, coil_temperature: Any) -> State:
 
 
 def humidified(air: State, rh: Any, by: str = "water") -> State:
-    """Air brought to a relative humidity [%] by water, along its wet bulb, or by steam, at its dry bulb.
+    """Air brought to a higher relative humidity [%] by water, along its wet bulb, or by steam, at its dry bulb.
 
     Water of the wet bulb's temperature, finely sprayed, takes the heat that evaporates it from the air; steam near
     100 °C brings its own, and changes the dry bulb by less than a kelvin, which is neglected.
     """
     if by == "water":
-        return state(wb=air.wet_bulb, rh=rh, p=air.pressure)
+        wet_bulb = r.wet_bulb(air.dry_bulb, air.vapour_pressure, air.pressure, "sling")
+        return state(wb=wet_bulb, rh=rh, p=air.pressure)
     if by == "steam":
         return state(t=air.dry_bulb, rh=rh, p=air.pressure)
     raise ValueError(f"by must be 'water' or 'steam', not {by!r}")
@@ -212,22 +221,23 @@ def _check(given, known):
         raise TypeError(f"state: {first} and {second} say the same; give a temperature, say, with one of them")
 
 
-def _complete(t, humidity, p, psychrometer, fixed):
-    """All quantities; those that were given as they were."""
+def _single(value):
+    """In single precision; a list as an array."""
+    return value.astype(np.float32) if hasattr(value, "astype") else np.asarray(value, np.float32)[()]
+
+
+def _complete(t, humidity, p, psychrometer):
+    """All quantities from dry bulb, and vapour pressure or moisture content."""
     g = humidity["g"] if "g" in humidity else r.moisture_content(t, humidity["pv"], p)
     pv = humidity["pv"] if "pv" in humidity else r.vapour_pressure_from_moisture_content(t, g, p)
-
-    def own(name, function, *args):
-        return fixed[name] if name in fixed else function(*args)
-
     return State(
         dry_bulb=t,
-        wet_bulb=own("wb", r.wet_bulb, t, pv, p, psychrometer),
-        relative_humidity=own("rh", r.relative_humidity, t, pv),
-        percentage_saturation=own("mu", r.percentage_saturation, t, g, p),
-        dew_point=own("td", r.dew_point, pv),
+        wet_bulb=r.wet_bulb(t, pv, p, psychrometer),
+        relative_humidity=r.relative_humidity(t, pv),
+        percentage_saturation=r.percentage_saturation(t, g, p),
+        dew_point=r.dew_point(pv),
         moisture_content=g,
-        enthalpy=own("h", r.specific_enthalpy, t, g),
+        enthalpy=r.specific_enthalpy(t, g),
         vapour_pressure=pv,
         specific_volume=r.specific_volume(t, g, p),
         density=r.moist_air_density(t, g, p),

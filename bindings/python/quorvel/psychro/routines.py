@@ -1092,8 +1092,8 @@ def moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychromete
 
     References
     ----------
-    Vapour pressure of PSVAP; the enhancement factor f is a quadratic in absolute temperature whose
-    coefficients are linear in pressure.
+    Vapour pressure of `vapour_pressure_from_psychrometer`; the enhancement factor f is a quadratic
+    in absolute temperature whose coefficients are linear in pressure.
 
     Examples
     --------
@@ -1362,7 +1362,7 @@ def percentage_saturation(dry_bulb, moisture_content, pressure, *, out=None, whe
 
     References
     ----------
-    Definition, with the saturation moisture content of PSGS.
+    Definition, with the saturation moisture content of `moisture_content_from_psychrometer`.
 
     Examples
     --------
@@ -1445,7 +1445,8 @@ def specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychromet
 
     Notes
     -----
-    Formula: h = PSHDRY(t) + g PSHVAP(t), g = PSGS(t, twb, p)
+    Formula: h = `dry_air_enthalpy`(t) + g `water_vapour_enthalpy`(t), g =
+    `moisture_content_from_psychrometer`(t, twb, p)
 
     A wet bulb at or above the dry bulb counts as saturation; the coefficient of an iced bulb is
     taken when the wet bulb is below 0 °C.
@@ -1461,7 +1462,8 @@ def specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychromet
 
     References
     ----------
-    Enthalpies of PSHDRY and PSHVAP, moisture content of PSGS.
+    Enthalpies of `dry_air_enthalpy` and `water_vapour_enthalpy`, moisture content of
+    `moisture_content_from_psychrometer`.
 
     Examples
     --------
@@ -1563,7 +1565,7 @@ def saturation_temperature_from_enthalpy(enthalpy, pressure, *, out=None, where=
 
     References
     ----------
-    Enthalpy of PSHWET, solved by a step-and-refine search.
+    Enthalpy of `specific_enthalpy_from_psychrometer`, solved by a step-and-refine search.
 
     Examples
     --------
@@ -1625,8 +1627,8 @@ def pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moist
     bathers, 4.17e-8 dp bathers / water_area + 3.28e-5 with them; latent_load = 2.45e6
     evaporation_rate (water_area + wetted_area)
 
-    The vapour pressure is that of a sling psychrometer at the wet bulb of PSWBLB, and good to the
-    step of that search.
+    The vapour pressure is that of a sling psychrometer at the wet bulb of
+    `wet_bulb_from_moisture_content`, and good to the step of that search.
 
     Nothing is limited: a calm pool close to equilibrium with the air has a negative rate.
 
@@ -1864,7 +1866,7 @@ def vapour_pressure(dry_bulb, relative_humidity, *, out=None, where=True):
 
     References
     ----------
-    Definition of relative humidity, with the saturation pressure of PSSVP.
+    Definition of relative humidity, with the saturation pressure of `saturation_pressure`.
 
     Examples
     --------
@@ -2045,8 +2047,8 @@ def psychrometer_wet_bulb(dry_bulb, relative_humidity, pressure, psychrometer, *
 
     Notes
     -----
-    The coefficient of an iced bulb is taken when the dry bulb is below 0 °C, where PSVAP looks at
-    the wet bulb; the asymmetry is deliberate.
+    The coefficient of an iced bulb is taken when the dry bulb is below 0 °C, where
+    `vapour_pressure_from_psychrometer` looks at the wet bulb; the asymmetry is deliberate.
 
     A stepping search that ends within 0.1 K: the result moves in small jumps with its arguments.
 
@@ -2059,7 +2061,8 @@ def psychrometer_wet_bulb(dry_bulb, relative_humidity, pressure, psychrometer, *
 
     References
     ----------
-    Psychrometer equation of PSVAP, solved by a step-and-refine search.
+    Psychrometer equation of `vapour_pressure_from_psychrometer`, solved by a step-and-refine
+    search.
 
     Examples
     --------
@@ -2117,8 +2120,8 @@ def wet_bulb_from_percentage_saturation(dry_bulb, percentage_saturation, pressur
 
     References
     ----------
-    Psychrometer equation of PSVAP with the moisture content of PSGS, solved by a step-and-refine
-    search.
+    Psychrometer equation of `vapour_pressure_from_psychrometer` with the moisture content of
+    `moisture_content_from_psychrometer`, solved by a step-and-refine search.
 
     Examples
     --------
@@ -2174,8 +2177,8 @@ def wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychro
 
     References
     ----------
-    Psychrometer equation of PSVAP with the moisture content of PSGS, solved by a step-and-refine
-    search.
+    Psychrometer equation of `vapour_pressure_from_psychrometer` with the moisture content of
+    `moisture_content_from_psychrometer`, solved by a step-and-refine search.
 
     Examples
     --------
