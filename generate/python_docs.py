@@ -6,6 +6,7 @@ import textwrap
 from dataclasses import replace
 
 from array_header import name_of
+from cpp_types import bounds, counts
 from header import number
 from python_model import class_name, given_counts, operands, selector, signature
 
@@ -83,6 +84,18 @@ def _returns(routine, outputs):
         yield from wrapped(_sentence(operand, returned=True), "    ")
 
 
+def _raises(routine):
+    """Of lists that must have so many numbers."""
+    for name, (count, lists) in counts(routine).items():
+        low, high = bounds(count)
+        if lists and (low > 0 or high < 2**31 - 1):
+            limits = f"{low} to {high}" if high < 2**31 - 1 else f"at least {low}"
+            yield from wrapped(f"Unless there are {limits} {name}.", "    ")
+    told = [name for name, (_, lists) in counts(routine).items() if len(lists) > 1]
+    for name in told:
+        yield from wrapped(f"Unless all arguments have as many {name}.", "    ")
+
+
 def _notes(routine):
     formula = [f"Formula: {routine.formula}"] if routine.formula else []
     room = [
@@ -152,6 +165,9 @@ def docstring(routine, family, names):
     inputs, outputs = operands(routine)
     lines = [*wrapped(routine.summary), "", "Parameters", "----------",
              *_parameters(routine, inputs, len(outputs) > 1), "", "Returns", "-------", *_returns(routine, outputs), ""]
+    raises = list(_raises(routine))
+    if raises:
+        lines += ["Raises", "------", "ValueError", *raises, ""]
     notes = list(_notes(routine))
     if notes:
         lines += ["Notes", "-----", *notes]

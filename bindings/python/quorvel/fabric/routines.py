@@ -181,6 +181,12 @@ def cyclic_response(thickness, conductivity, density, specific_heat, inside_resi
     u_value : float32
         U-value, as TPUVAL gives it [W/m²K]; not a number with more than 20 layers.
 
+    Raises
+    ------
+    ValueError
+        Unless there are 0 to 20 layers.
+        Unless all arguments have as many layers.
+
     Notes
     -----
     Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (u_value
@@ -429,6 +435,12 @@ def total_vapour_resistance(thickness, vapour_resistivity, *, out=None):
     vapour_resistance : float32
         Total vapour resistance [N s/kg]; not a number with more than 20 layers.
 
+    Raises
+    ------
+    ValueError
+        Unless there are 0 to 20 layers.
+        Unless all arguments have as many layers.
+
     Notes
     -----
     Formula: sum of 1e9 thickness vapour_resistivity
@@ -502,6 +514,12 @@ def condensation_profile(thickness, conductivity, vapour_resistivity, inside_res
     interface_saturation_pressure : float32, shape (..., 21)
         Saturation pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond
         element layers + 1.
+
+    Raises
+    ------
+    ValueError
+        Unless there are 0 to 20 layers.
+        Unless all arguments have as many layers.
 
     Notes
     -----
@@ -617,6 +635,11 @@ def element_property(element_records, record_number, item, *, out=None):
     -------
     property_value : float32
         The property, 1e20 if it does not exist [by item]; 1e20 where there is none.
+
+    Raises
+    ------
+    ValueError
+        Unless there are at least 1 record_count.
 
     Notes
     -----
@@ -1097,6 +1120,12 @@ def u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2,
     -------
     u_value : float32
         U-value [W/m²K]; not a number with more than 20 layers.
+
+    Raises
+    ------
+    ValueError
+        Unless there are 0 to 20 layers.
+        Unless all arguments have as many layers.
 
     Notes
     -----

@@ -159,6 +159,12 @@ def collinearity(x, y, *, out=None):
         1 on one line; otherwise the number, from 2, of the first point whose y differs from that of
         point 1.
 
+    Raises
+    ------
+    ValueError
+        Unless there are at least 1 points.
+        Unless all arguments have as many points.
+
     Notes
     -----
     The points are held against the line through the first two that differ by 1e-5 or more in both
@@ -218,6 +224,14 @@ def count_enclosed(x, y, point_x, point_y, enclosed, *, out=None):
     enclosed_points : int32
         Number of enclosed points.
 
+    Raises
+    ------
+    ValueError
+        Unless there are at least 3 vertices.
+        Unless there are at least 1 points.
+        Unless all arguments have as many vertices.
+        Unless all arguments have as many points.
+
     Notes
     -----
     A point is enclosed when it is left of no edge, as `side_of_line` sees it, or is at a vertex (to
@@ -274,6 +288,12 @@ def boundary_crossing(segment_start, segment_end, x, y, *, out=None):
     crossing_code : int32
         Number of the vertex that ends the crossed edge, or what the notes say.
 
+    Raises
+    ------
+    ValueError
+        Unless there are at least 3 vertices.
+        Unless all arguments have as many vertices.
+
     Notes
     -----
     The edges are tried in turn, from vertex 1 to 2 on, as `crossing_point` does; the first one that
@@ -325,6 +345,11 @@ def inside(point, polygon, *, out=None):
     -------
     inside : int32
         1 inside, 0 outside.
+
+    Raises
+    ------
+    ValueError
+        Unless there are at least 4 vertices.
 
     Notes
     -----
@@ -1134,6 +1159,12 @@ def plan_area(x, y, *, out=None):
     area : float32
         Area [m²].
 
+    Raises
+    ------
+    ValueError
+        Unless there are at least 3 vertices.
+        Unless all arguments have as many vertices.
+
     Notes
     -----
     Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
@@ -1177,6 +1208,12 @@ def signed_plan_area(x, y, *, out=None):
     area : float32
         Area, negative for anticlockwise vertices [m²].
 
+    Raises
+    ------
+    ValueError
+        Unless there are at least 3 vertices.
+        Unless all arguments have as many vertices.
+
     Notes
     -----
     Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
@@ -1219,6 +1256,12 @@ def area_in_space(x, y, z, *, out=None):
     -------
     area : float32
         Area [m²].
+
+    Raises
+    ------
+    ValueError
+        Unless there are at least 3 vertices.
+        Unless all arguments have as many vertices.
 
     Notes
     -----
@@ -1267,6 +1310,11 @@ def polygon_orientation(polygon, *, out=None):
         Angle between the normal and the vertical [°]; not a number with fewer than one vertex.
     back_azimuth : float32
         Azimuth opposite to the normal [°]; not a number with fewer than one vertex.
+
+    Raises
+    ------
+    ValueError
+        Unless there are at least 3 vertices.
 
     Notes
     -----

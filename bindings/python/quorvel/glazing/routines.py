@@ -411,6 +411,11 @@ def stacked_layers(layer_transmittances, layer_reflectances, *, out=None):
     reflectance : float32
         Reflectance of the stack.
 
+    Raises
+    ------
+    ValueError
+        Unless all arguments have as many layers.
+
     Notes
     -----
     A layer's reflection passes the layers above it once each way; there is no further
@@ -469,6 +474,12 @@ def traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, 
         Absorptance of the stack; not a number with more than 11 layers.
     reflectance : float32
         Reflectance of the stack; not a number with more than 11 layers.
+
+    Raises
+    ------
+    ValueError
+        Unless there are 0 to 11 layers.
+        Unless all arguments have as many layers.
 
     Notes
     -----
