@@ -127,10 +127,6 @@ PyObject* call(PyObject* self, PyObject* const* arguments, Py_ssize_t count) {
     return dispatch(*function, arguments, out, where);
 }
 
-PyObject* set_dispatcher(PyObject*, PyObject* to) {
-    Py_XDECREF(dispatcher);
-    dispatcher = Py_NewRef(to);
-    Py_RETURN_NONE;
-}
+void set_dispatcher(PyObject* of_package) { dispatcher = Py_NewRef(of_package); }
 
 }  // namespace quorvel::python

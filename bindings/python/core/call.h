@@ -15,7 +15,7 @@ struct Function {
 // call(inputs..., out, where): `self` is a capsule with the Function.
 PyObject* call(PyObject* self, PyObject* const* arguments, Py_ssize_t count);
 
-// For the package: the function that takes what is neither number nor array, or went wrong.
-PyObject* set_dispatcher(PyObject* module, PyObject* dispatcher);
+// The package's function that takes what is neither number nor array, or went wrong.
+void set_dispatcher(PyObject* dispatcher);
 
 }  // namespace quorvel::python

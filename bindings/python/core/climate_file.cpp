@@ -27,6 +27,14 @@ PyObject* open(PyObject*, PyObject* path) {
                          [](PyObject* capsule) { quorvel_climate_file_close(file_of(capsule)); });
 }
 
+// The open file, and the values that come after it; null, and an exception is set, if they do not
+// fit.
+template <class... Values>
+quorvel_climate_file* read(PyObject* arguments, const char* format, Values*... values) {
+    PyObject* capsule = nullptr;
+    return PyArg_ParseTuple(arguments, format, &capsule, values...) ? file_of(capsule) : nullptr;
+}
+
 PyObject* unreadable() {
     PyErr_SetString(PyExc_OSError, "the climate data file has no such record, or fails to be read");
     return nullptr;
@@ -40,13 +48,10 @@ PyObject* list_of(std::span<const float> values) {
 }
 
 PyObject* station_climate(PyObject*, PyObject* arguments) {
-    PyObject* capsule = nullptr;
     int station = 0, band = 0, month = 0, band_set = 0;
     float percentage = 0.0f;
-    if (!PyArg_ParseTuple(arguments, "Oiiiif", &capsule, &station, &band, &month, &band_set,
-                          &percentage))
-        return nullptr;
-    quorvel_climate_file* file = file_of(capsule);
+    quorvel_climate_file* file =
+        read(arguments, "Oiiiif", &station, &band, &month, &band_set, &percentage);
     if (file == nullptr) return nullptr;
     float values[9];
     const std::int32_t status = quorvel_climate_file_station_climate(
@@ -55,12 +60,9 @@ PyObject* station_climate(PyObject*, PyObject* arguments) {
 }
 
 PyObject* locate_station_band(PyObject*, PyObject* arguments) {
-    PyObject* capsule = nullptr;
     int station = 0, band_set = 0, month = 0;
     float fraction = 0.0f;
-    if (!PyArg_ParseTuple(arguments, "Oiifi", &capsule, &station, &band_set, &fraction, &month))
-        return nullptr;
-    quorvel_climate_file* file = file_of(capsule);
+    quorvel_climate_file* file = read(arguments, "Oiifi", &station, &band_set, &fraction, &month);
     if (file == nullptr) return nullptr;
     std::int32_t lower = 0, upper = 0;
     float weight = 0.0f;
@@ -70,13 +72,10 @@ PyObject* locate_station_band(PyObject*, PyObject* arguments) {
 }
 
 PyObject* interpolate_station_rows(PyObject*, PyObject* arguments) {
-    PyObject* capsule = nullptr;
     int station = 0, base_row = 0, lower = 0, upper = 0, month = 0;
     float weight = 0.0f, value = 0.0f;
-    if (!PyArg_ParseTuple(arguments, "Oiiiiif", &capsule, &station, &base_row, &lower, &upper,
-                          &month, &weight))
-        return nullptr;
-    quorvel_climate_file* file = file_of(capsule);
+    quorvel_climate_file* file =
+        read(arguments, "Oiiiiif", &station, &base_row, &lower, &upper, &month, &weight);
     if (file == nullptr) return nullptr;
     const std::int32_t status = quorvel_climate_file_interpolate_station_rows(
         file, station, base_row, lower, upper, month, weight, &value);
@@ -84,27 +83,12 @@ PyObject* interpolate_station_rows(PyObject*, PyObject* arguments) {
 }
 
 PyObject* station_row(PyObject*, PyObject* arguments) {
-    PyObject* capsule = nullptr;
     int station = 0, row = 0;
-    if (!PyArg_ParseTuple(arguments, "Oii", &capsule, &station, &row)) return nullptr;
-    quorvel_climate_file* file = file_of(capsule);
+    quorvel_climate_file* file = read(arguments, "Oii", &station, &row);
     if (file == nullptr) return nullptr;
     float values[12];
     return quorvel_climate_file_station_row(file, station, row, values) == QUORVEL_OK
                ? list_of(values)
-               : unreadable();
-}
-
-// All twelve months, one after the other.
-PyObject* station_records(PyObject*, PyObject* arguments) {
-    PyObject* capsule = nullptr;
-    int station = 0;
-    if (!PyArg_ParseTuple(arguments, "Oi", &capsule, &station)) return nullptr;
-    quorvel_climate_file* file = file_of(capsule);
-    if (file == nullptr) return nullptr;
-    float records[12 * 11] = {};
-    return quorvel_climate_file_station_records(file, station, 0, records) == QUORVEL_OK
-               ? list_of(records)
                : unreadable();
 }
 
@@ -114,7 +98,6 @@ PyMethodDef functions[] = {
     {"locate_station_band", locate_station_band, METH_VARARGS, nullptr},
     {"interpolate_station_rows", interpolate_station_rows, METH_VARARGS, nullptr},
     {"station_row", station_row, METH_VARARGS, nullptr},
-    {"station_records", station_records, METH_VARARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},
 };
 

@@ -11,8 +11,8 @@
 namespace quorvel::python {
 namespace {
 
-constexpr std::ptrdiff_t block_numbers =
-    512;  // of the largest operand, where elements are gathered
+// Of the largest operand in a block, where elements are gathered.
+constexpr std::ptrdiff_t block_numbers = 512;
 
 std::size_t size_of(Kind kind) noexcept {
     return kind == Kind::DoubleReal ? sizeof(double) : sizeof(float);

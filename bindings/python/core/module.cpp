@@ -1,4 +1,4 @@
-// quorvel._core: a ufunc and a function for each routine, and climate data files.
+// quorvel._core: a ufunc and a function for each routine, climate data files, and clipping.
 #include <deque>
 
 #include "call.h"
@@ -66,6 +66,21 @@ bool add_routines(PyObject* module) {
            PyModule_AddObjectRef(module, "functions", functions.get()) == 0;
 }
 
+// connect(context variable of the policy, reporter, dispatcher): what of the package is called
+// here.
+PyObject* connect(PyObject*, PyObject* arguments) {
+    PyObject *variable = nullptr, *reporter = nullptr, *dispatcher = nullptr;
+    if (!PyArg_ParseTuple(arguments, "OOO", &variable, &reporter, &dispatcher)) return nullptr;
+    set_policy(variable, reporter);
+    set_dispatcher(dispatcher);
+    Py_RETURN_NONE;
+}
+
+PyObject* begin_policies(PyObject*, PyObject*) {
+    use_policies();
+    Py_RETURN_NONE;
+}
+
 PyObject* level(PyObject*, PyObject*) { return PyUnicode_FromString(quorvel_level()); }
 
 PyObject* choose_level(PyObject*, PyObject* name) {
@@ -77,10 +92,8 @@ PyObject* choose_level(PyObject*, PyObject* name) {
 PyObject* version(PyObject*, PyObject*) { return PyUnicode_FromString(QUORVEL_VERSION); }
 
 PyMethodDef methods[] = {
-    {"use_policies", use_policies, METH_NOARGS, nullptr},
-    {"set_errstate_variable", set_errstate_variable, METH_O, nullptr},
-    {"set_reporter", set_reporter, METH_O, nullptr},
-    {"set_dispatcher", set_dispatcher, METH_O, nullptr},
+    {"connect", connect, METH_VARARGS, nullptr},
+    {"use_policies", begin_policies, METH_NOARGS, nullptr},
     {"level", level, METH_NOARGS, nullptr},
     {"version", version, METH_NOARGS, nullptr},
     {"choose_level", choose_level, METH_O, nullptr},

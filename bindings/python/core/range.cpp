@@ -40,12 +40,6 @@ void blank_as(const Values& values, std::span<const unsigned char> marks, T with
                         &with, sizeof with);
 }
 
-PyObject* replace(PyObject*& old, PyObject* by) {
-    Py_XDECREF(old);
-    old = Py_NewRef(by);
-    Py_RETURN_NONE;
-}
-
 }  // namespace
 
 Policy policy() noexcept {
@@ -85,13 +79,11 @@ void report(const Routine& routine, const Outside& outside, Policy policy) {
                                                outside.elements, static_cast<int>(policy)));
 }
 
-PyObject* use_policies(PyObject*, PyObject*) {
-    policies_are_used = true;
-    Py_RETURN_NONE;
+void set_policy(PyObject* of_package, PyObject* reporter_of_package) {
+    variable = Py_NewRef(of_package);
+    reporter = Py_NewRef(reporter_of_package);
 }
 
-PyObject* set_errstate_variable(PyObject*, PyObject* to) { return replace(variable, to); }
-
-PyObject* set_reporter(PyObject*, PyObject* to) { return replace(reporter, to); }
+void use_policies() noexcept { policies_are_used = true; }
 
 }  // namespace quorvel::python

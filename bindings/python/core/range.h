@@ -37,10 +37,10 @@ void blank(const Operand& operand, const Values& values,
 // Warns of it or, with an exception, refuses it; with the interpreter's lock.
 void report(const Routine& routine, const Outside& outside, Policy policy);
 
-// For the package: that there are policies from now on, where they stand, and who words what is
-// wrong.
-PyObject* use_policies(PyObject* module, PyObject* none);
-PyObject* set_errstate_variable(PyObject* module, PyObject* variable);
-PyObject* set_reporter(PyObject* module, PyObject* reporter);
+// The package's context variable with the policy, and its function that words what is wrong.
+void set_policy(PyObject* variable, PyObject* reporter);
+
+// That there are policies from now on: until then nobody asks for them.
+void use_policies() noexcept;
 
 }  // namespace quorvel::python

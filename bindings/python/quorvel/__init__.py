@@ -23,6 +23,8 @@ from typing import TYPE_CHECKING, Any
 
 from . import _core
 from ._dispatch import dispatch as _dispatch
+from .errors import policy as _policy
+from .errors import report as _report
 from .errors import RangeError, RangeWarning, errstate
 
 __all__ = ["RangeError", "RangeWarning", "choose_level", "climate", "errstate", "fabric", "geometry", "glazing",
@@ -33,7 +35,7 @@ if TYPE_CHECKING:
 
 __version__: str = _core.version()
 
-_core.set_dispatcher(_dispatch)
+_core.connect(_policy, _report, _dispatch)
 
 
 def level() -> str:

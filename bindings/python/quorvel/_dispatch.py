@@ -3,8 +3,6 @@
 No library of tables or labelled arrays is imported: one whose objects are given has been.
 """
 
-import sys
-
 import numpy as np
 
 from . import _labelled
@@ -61,9 +59,11 @@ def _number_of(value, argument):
 
 
 def _selected(value, argument):
+    from . import selectors
+
     if not argument.selector:
         raise TypeError(f"{argument.name}: a number is needed, not the text {value!r}")
-    values = getattr(sys.modules[f"{__package__}.selectors"], argument.selector)
+    values = getattr(selectors, argument.selector)
     if value not in values.__members__:
         raise ValueError(f"{argument.name}: {value!r} is none of {', '.join(map(repr, values.__members__))}")
     return int(values[value])

@@ -33,7 +33,7 @@ def _dtypes(routine):
 
 
 def _returned(results, routine):
-    return results if len(routine.outputs) > 1 else results[0] if isinstance(results, tuple) else results
+    return results if len(routine.outputs) > 1 or not isinstance(results, tuple) else results[0]
 
 
 def of_dask(name, routine, args):
@@ -59,12 +59,12 @@ def of_pandas(ufunc, routine, args, options):
         return _named(ufunc(*args, **options), routine)
     if options:
         raise TypeError("out does not go with tables in a function of lists")
-    labels = {"row": None, **dict.fromkeys(axis for each in routine.inputs for axis in each.axes)}
+    labels = {}  # of the first that has them
     for value, argument in zip(args, routine.inputs):
         for place, index in _labels(value, argument):
-            labels[place] = index if labels.get(place) is None else labels[place]
+            labels.setdefault(place, index)
     results = ufunc(*(_in_order(value, argument, labels) for value, argument in zip(args, routine.inputs)))
-    index = labels["row"]
+    index = labels.get("row")
 
     def labelled(result):
         if index is None or np.shape(result)[:1] != (len(index),) or np.ndim(result) > 2:
@@ -92,9 +92,8 @@ def _labels(value, argument):
     """Pairs of what a dimension is and its labels, of a Series or table as an argument of a function of lists."""
     if not is_table(value):
         return
-    dimensions = [value.index, *([value.columns] if hasattr(value, "columns") else [])]
-    places = ["row"] * (len(dimensions) - len(argument.axes)) + list(argument.axes)[-len(dimensions):]
-    yield from zip(places[-len(dimensions):], dimensions)
+    dimensions = value.axes
+    yield from zip(("row", *argument.axes)[-len(dimensions):], dimensions)
 
 
 def _in_order(value, argument, labels):
@@ -175,8 +174,6 @@ def _core_dimensions(routine, args):
         axes, dimensions = _axes(argument), getattr(value, "dims", None)
         if not axes or dimensions is None:
             continue
-        if len(dimensions) < len(axes):
-            raise ValueError(f"{argument.name}: a dimension for {' and '.join(str(axis) for axis, _ in axes)} is needed")
         for axis, dimension in zip(axes, dimensions[-len(axes):]):
             if found.setdefault(axis, dimension) != dimension:
                 raise ValueError(f"{argument.name}: its last dimension is {dimension!r} where that of {first[axis]} is {found[axis]!r}")

@@ -46,18 +46,18 @@ class errstate:
     def __init__(self, *, range: str) -> None:
         if range not in POLICIES:
             raise ValueError(f"range must be one of {', '.join(map(repr, POLICIES))}, not {range!r}")
-        self._policy = POLICIES[range]
+        self.range = range
         self._tokens: list[Token[int]] = []
 
     def __enter__(self) -> "errstate":
         _core.use_policies()
-        self._tokens.append(_policy.set(self._policy))
+        self._tokens.append(policy.set(POLICIES[self.range]))
         return self
 
     def __exit__(self, *_: object) -> None:
         if not self._tokens:
             raise RuntimeError("errstate: exit without enter")
-        _policy.reset(self._tokens.pop())
+        policy.reset(self._tokens.pop())
 
     def __call__(self, function: Callable[..., Any]) -> Callable[..., Any]:
         """As a decorator."""
@@ -70,19 +70,18 @@ class errstate:
 
         @wraps(function)
         def guarded(*args, **options):
-            with type(self)(range=current(self._policy)):
+            with type(self)(range=self.range):
                 return function(*args, **options)
 
         return guarded
 
 
-def current(policy=None):
+def current():
     """The name of this context's policy."""
-    value = _policy.get() if policy is None else policy
-    return next(name for name, number in POLICIES.items() if number == value)
+    return list(POLICIES)[policy.get()]
 
 
-def _report(routine, argument, value, elements, policy):
+def report(routine, argument, value, elements, policy):
     """Called by the inner loops; `argument` is the name in the catalogue."""
     import warnings
 
@@ -109,6 +108,4 @@ def _level_of_caller():
     return level
 
 
-_policy = ContextVar("quorvel.errstate", default=POLICIES["ignore"])
-_core.set_errstate_variable(_policy)
-_core.set_reporter(_report)
+policy = ContextVar("quorvel.errstate", default=POLICIES["ignore"])

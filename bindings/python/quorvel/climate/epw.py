@@ -46,7 +46,7 @@ EPW_COLUMNS = {
 }
 _FIRST = 6  # fields ahead of them
 _HEADER_LINES = 8
-_DAYS = [31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31]
+MONTH_DAYS = (31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31)
 
 
 class Weather:
@@ -95,8 +95,8 @@ class Weather:
     @property
     def day_of_year(self) -> NDArray[np.int32]:
         """1 to 365, as the functions of the sun take it: 29 February counts as 28 February."""
-        before = np.concatenate(([0], np.cumsum(_DAYS)))[self.month - 1]
-        return (before + np.minimum(self.day, np.array(_DAYS)[self.month - 1])).astype(np.int32)
+        before = np.concatenate(([0], np.cumsum(MONTH_DAYS)))[self.month - 1]
+        return (before + np.minimum(self.day, np.array(MONTH_DAYS)[self.month - 1])).astype(np.int32)
 
     def to_pandas(self, label: str = "start") -> Any:
         """A table of pandas, a row an hour.
@@ -193,7 +193,7 @@ def _numbers(row, place):
         raise ValueError(f"{place}: a field is no number") from None
     _check("year", dates[0], 0, 9999, place)
     _check("month", dates[1], 1, 12, place)
-    _check("day", dates[2], 1, 29 if dates[1] == 2 else _DAYS[int(dates[1]) - 1], place)
+    _check("day", dates[2], 1, 29 if dates[1] == 2 else MONTH_DAYS[int(dates[1]) - 1], place)
     _check("hour", dates[3], 1, 24, place)
     if not all(map(math.isfinite, values)) or any(date % 1 for date in dates):
         raise ValueError(f"{place}: a field is no number, or a date has a fraction")

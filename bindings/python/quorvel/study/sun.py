@@ -5,13 +5,13 @@ from typing import NamedTuple
 import numpy as np
 
 from ..climate import almanac_position
+from ..climate.epw import MONTH_DAYS as DAYS
 from ..selectors import TimeKind
 
 __all__ = ["DAYS", "MONTHS", "Place", "YEAR", "sun"]
 
 # Hours of typical years come from different years: a common one makes them comparable.
 YEAR = 2005
-DAYS = (31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31)
 MONTHS = np.concatenate(([0], np.cumsum(DAYS))) * 24  # the hours with which the months begin, and the year ends
 
 

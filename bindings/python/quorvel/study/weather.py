@@ -57,7 +57,4 @@ def _from_file(path):
         wrong = np.count_nonzero(~(values >= 0))
         if wrong:
             raise StudyError(f"{path}: {name} is missing or below 0 W/m² in {wrong} hours")
-    if not (abs(epw.latitude) <= 90 and abs(epw.longitude) <= 180 and -12 <= epw.time_zone <= 14):
-        raise StudyError(f"{path}: latitude must be from -90 to 90 °, longitude from -180 to 180 °, "
-                         "time zone from -12 to 14 h")
     return Weather(Place(epw.latitude, epw.longitude, epw.time_zone), *columns)
