@@ -3,9 +3,9 @@
 #include <map>
 #include <sstream>
 
-#include "common/progress.h"
 #include "conformance/climate_file.h"
 #include "conformance/corpus.h"
+#include "telling/progress.h"
 
 namespace quorvel::check {
 namespace {

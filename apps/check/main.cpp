@@ -6,11 +6,11 @@
 #include "check/arithmetic.h"
 #include "check/bits.h"
 #include "check/library_identity.h"
-#include "common/options.h"
-#include "common/program.h"
 #include "conformance/climate_file.h"
 #include "conformance/examples.h"
 #include "conformance/routine_table.h"
+#include "program/options.h"
+#include "program/program.h"
 #include "quorvel/library.h"
 
 namespace {

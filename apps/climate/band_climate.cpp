@@ -4,12 +4,12 @@
 #include <cmath>
 #include <functional>
 
-#include "common/angle.h"
-#include "common/calendar.h"
-#include "common/input.h"
-#include "common/sun.h"
+#include "calculation/angle.h"
+#include "calculation/calendar.h"
+#include "calculation/sun.h"
 #include "quorvel/climate.h"
 #include "quorvel/psychro.h"
+#include "reading/input.h"
 
 namespace quorvel::climatefile {
 namespace {

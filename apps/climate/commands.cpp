@@ -14,10 +14,10 @@
 #include "climate/report.h"
 #include "climate/rules.h"
 #include "climate/station_text.h"
-#include "common/input.h"
-#include "common/progress.h"
-#include "common/text.h"
 #include "quorvel/library.h"
+#include "reading/input.h"
+#include "telling/progress.h"
+#include "telling/text.h"
 
 namespace quorvel::climatefile {
 namespace {

@@ -6,8 +6,8 @@
 #include <cstring>
 #include <fstream>
 
-#include "common/input.h"
 #include "quorvel/climate.h"
+#include "reading/input.h"
 
 namespace quorvel::climatefile {
 namespace {

@@ -6,9 +6,9 @@
 #include <optional>
 #include <string_view>
 
-#include "common/calendar.h"
-#include "common/input.h"
-#include "common/text.h"
+#include "calculation/calendar.h"
+#include "reading/input.h"
+#include "telling/text.h"
 
 namespace quorvel::climatefile {
 namespace {

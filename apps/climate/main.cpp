@@ -5,8 +5,8 @@
 #include "climate/commands.h"
 #include "climate/help.h"
 #include "climate/station.h"
-#include "common/options.h"
-#include "common/program.h"
+#include "program/options.h"
+#include "program/program.h"
 
 namespace {
 

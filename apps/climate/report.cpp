@@ -1,9 +1,9 @@
 #include "climate/report.h"
 
+#include "calculation/calendar.h"
 #include "climate/rules.h"
-#include "common/calendar.h"
-#include "common/table.h"
-#include "common/text.h"
+#include "telling/table.h"
+#include "telling/text.h"
 
 namespace quorvel::climatefile {
 namespace {

@@ -3,8 +3,8 @@
 #include <charconv>
 #include <cmath>
 
-#include "common/calendar.h"
-#include "common/text.h"
+#include "calculation/calendar.h"
+#include "telling/text.h"
 
 namespace quorvel::climatefile {
 namespace {

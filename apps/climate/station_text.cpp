@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
+#include "calculation/calendar.h"
 #include "climate/rules.h"
-#include "common/calendar.h"
-#include "common/input.h"
+#include "reading/input.h"
 
 namespace quorvel::climatefile {
 namespace {

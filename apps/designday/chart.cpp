@@ -4,10 +4,11 @@
 #include <cmath>
 #include <span>
 
-#include "common/calendar.h"
-#include "common/chart.h"
-#include "common/text.h"
+#include "calculation/calendar.h"
 #include "designday/report.h"
+#include "telling/chart.h"
+#include "telling/sun.h"
+#include "telling/text.h"
 
 namespace quorvel::designday {
 namespace {

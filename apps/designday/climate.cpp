@@ -4,9 +4,9 @@
 #include <array>
 #include <fstream>
 
-#include "common/calendar.h"
-#include "common/text.h"
+#include "calculation/calendar.h"
 #include "quorvel/climate.h"
+#include "telling/text.h"
 
 namespace quorvel::designday {
 namespace {

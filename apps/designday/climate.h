@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "common/input.h"
 #include "designday/job.h"
+#include "reading/input.h"
 
 namespace quorvel::designday {
 

@@ -1,7 +1,7 @@
 #include <cmath>
 
-#include "common/text.h"
 #include "designday/report.h"
+#include "telling/text.h"
 
 namespace quorvel::designday {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "common/angle.h"
-#include "common/daily_temperature.h"
+#include "calculation/angle.h"
+#include "calculation/daily_temperature.h"
 #include "quorvel/climate.h"
 #include "quorvel/glazing.h"
 

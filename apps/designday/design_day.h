@@ -5,7 +5,8 @@
 #include <span>
 #include <vector>
 
-#include "common/sun.h"
+#include "calculation/none.h"
+#include "calculation/sun.h"
 #include "designday/glazing.h"
 #include "designday/job.h"
 

@@ -6,7 +6,7 @@
 #include <numeric>
 #include <vector>
 
-#include "common/angle.h"
+#include "calculation/angle.h"
 #include "designday/blind.h"
 #include "quorvel/glazing.h"
 

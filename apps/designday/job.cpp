@@ -3,9 +3,9 @@
 #include <cmath>
 #include <string_view>
 
-#include "common/calendar.h"
-#include "common/input.h"
+#include "calculation/calendar.h"
 #include "designday/climate.h"
+#include "reading/input.h"
 
 namespace quorvel::designday {
 namespace {

@@ -1,12 +1,12 @@
 // designday: the design day of windows, hour by hour, worked out with the Quorvel library.
 #include <iostream>
 
-#include "common/options.h"
-#include "common/program.h"
 #include "designday/chart.h"
 #include "designday/help.h"
 #include "designday/job.h"
 #include "designday/report.h"
+#include "program/options.h"
+#include "program/program.h"
 #include "quorvel/library.h"
 
 namespace {

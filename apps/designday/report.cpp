@@ -2,10 +2,11 @@
 
 #include <cmath>
 
-#include "common/angle.h"
-#include "common/calendar.h"
-#include "common/table.h"
-#include "common/text.h"
+#include "calculation/angle.h"
+#include "calculation/calendar.h"
+#include "telling/sun.h"
+#include "telling/table.h"
+#include "telling/text.h"
 
 namespace quorvel::designday {
 namespace {

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "common/angle.h"
-#include "common/chart.h"
-#include "common/text.h"
+#include "calculation/angle.h"
 #include "shade/report.h"
+#include "telling/chart.h"
+#include "telling/sun.h"
+#include "telling/text.h"
 
 namespace quorvel::shade {
 namespace {

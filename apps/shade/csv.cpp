@@ -1,5 +1,5 @@
-#include "common/text.h"
 #include "shade/report.h"
+#include "telling/text.h"
 
 namespace quorvel::shade {
 namespace {

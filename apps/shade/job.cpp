@@ -1,7 +1,7 @@
 #include "shade/job.h"
 
-#include "common/calendar.h"
-#include "common/input.h"
+#include "calculation/calendar.h"
+#include "reading/input.h"
 
 namespace quorvel::shade {
 namespace {

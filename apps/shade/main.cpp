@@ -1,8 +1,8 @@
 // shade: how much of a window the sun reaches through a day, worked out with the Quorvel library.
 #include <iostream>
 
-#include "common/options.h"
-#include "common/program.h"
+#include "program/options.h"
+#include "program/program.h"
 #include "quorvel/library.h"
 #include "shade/chart.h"
 #include "shade/help.h"

@@ -2,9 +2,10 @@
 
 #include <cmath>
 
-#include "common/angle.h"
-#include "common/calendar.h"
-#include "common/table.h"
+#include "calculation/angle.h"
+#include "calculation/calendar.h"
+#include "telling/sun.h"
+#include "telling/table.h"
 
 namespace quorvel::shade {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "common/angle.h"
+#include "calculation/angle.h"
 #include "quorvel/geometry.h"
 
 namespace quorvel::shade {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/angle.h"
+#include "calculation/angle.h"
 #include "quorvel/climate.h"
 #include "shade/sunlit.h"
 

@@ -3,7 +3,8 @@
 
 #include <vector>
 
-#include "common/sun.h"
+#include "calculation/none.h"
+#include "calculation/sun.h"
 #include "shade/scene.h"
 #include "shade/shadow.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "common/chart.h"
-#include "common/text.h"
 #include "quorvel/psychro.h"
+#include "telling/chart.h"
+#include "telling/text.h"
 #include "wall/drawing.h"
 #include "wall/report.h"
 

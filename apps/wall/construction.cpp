@@ -4,7 +4,7 @@
 #include <cmath>
 #include <tuple>
 
-#include "common/angle.h"
+#include "calculation/angle.h"
 #include "quorvel/fabric.h"
 
 namespace quorvel::wall {

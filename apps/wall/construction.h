@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "common/text.h"
+#include "telling/text.h"
 #include "wall/job.h"
 
 namespace quorvel::wall {

@@ -1,4 +1,4 @@
-#include "common/text.h"
+#include "telling/text.h"
 #include "wall/report.h"
 
 namespace quorvel::wall {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "common/chart.h"
+#include "telling/chart.h"
 #include "wall/job.h"
 
 namespace quorvel::wall {

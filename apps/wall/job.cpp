@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "common/calendar.h"
-#include "common/input.h"
+#include "calculation/calendar.h"
+#include "reading/input.h"
 
 namespace quorvel::wall {
 namespace {

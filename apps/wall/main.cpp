@@ -1,8 +1,8 @@
 // wall: heat and vapour through a construction, worked out with the Quorvel library.
 #include <iostream>
 
-#include "common/options.h"
-#include "common/program.h"
+#include "program/options.h"
+#include "program/program.h"
 #include "quorvel/library.h"
 #include "wall/chart.h"
 #include "wall/construction.h"

@@ -1,7 +1,7 @@
 #include "wall/report.h"
 
-#include "common/table.h"
-#include "common/text.h"
+#include "telling/table.h"
+#include "telling/text.h"
 
 namespace quorvel::wall {
 namespace {

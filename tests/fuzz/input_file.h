@@ -5,10 +5,10 @@
 #include <fstream>
 #include <string>
 
-#include "common/input.h"
 #include "conformance/climate_file.h"
 #include "fuzz/bytes.h"
 #include "fuzz/library.h"
+#include "reading/input.h"
 
 namespace quorvel::fuzz {
 

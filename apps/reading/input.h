@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "common/toml.h"
+#include "reading/toml.h"
 
 namespace quorvel::host {
 

@@ -1,4 +1,4 @@
-#include "common/chart.h"
+#include "telling/chart.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,8 +6,8 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "common/program.h"
-#include "common/text.h"
+#include "program/program.h"
+#include "telling/text.h"
 
 namespace quorvel::host {
 namespace {

@@ -1,4 +1,4 @@
-#include "common/input.h"
+#include "reading/input.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,7 +6,7 @@
 #include <optional>
 #include <sstream>
 
-#include "common/text.h"
+#include "telling/text.h"
 
 namespace quorvel::host {
 namespace {

@@ -1,10 +1,10 @@
-#include "common/options.h"
+#include "program/options.h"
 
 #include <CLI/CLI.hpp>
 
 #include <iostream>
 
-#include "common/input.h"
+#include "reading/input.h"
 
 namespace quorvel::host {
 namespace {

@@ -1,19 +1,9 @@
-#include "common/sun.h"
+#include "telling/sun.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "common/angle.h"
-#include "quorvel/climate.h"
-
 namespace quorvel::host {
-
-Sun sun_at(double latitude, int day_of_year, double hour) {
-    Sun sun{};
-    lib::CLSNGE(radians(latitude), day_of_year, static_cast<float>(hour), sun.declination,
-                sun.altitude, sun.azimuth, sun.sunrise, sun.sunset);
-    return sun;
-}
 
 std::string sun_times(double sunrise, double sunset, double solar_minus_clock) {
     if (sunset < sunrise) return "the sun does not rise";

@@ -1,8 +1,8 @@
-#include "common/table.h"
+#include "telling/table.h"
 
 #include <algorithm>
 
-#include "common/text.h"
+#include "telling/text.h"
 
 namespace quorvel::host {
 namespace {

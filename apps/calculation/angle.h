@@ -5,7 +5,7 @@
 #include <numbers>
 #include <string>
 
-#include "common/text.h"
+#include "telling/text.h"
 
 namespace quorvel::host {
 

@@ -1,4 +1,4 @@
-#include "common/progress.h"
+#include "telling/progress.h"
 
 #include <cstdio>
 #include <iostream>

@@ -1,10 +1,10 @@
-#include "common/program.h"
+#include "program/program.h"
 
 #include <exception>
 #include <iostream>
 #include <system_error>
 
-#include "common/input.h"
+#include "reading/input.h"
 
 #ifdef _WIN32
 #include <windows.h>

@@ -2,16 +2,16 @@
 #pragma once
 
 #include <cstddef>
-#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "calculation/none.h"
+
 namespace quorvel::host {
 
-// A quantity that does not exist, such as the sun's direction at night, and what stands for it.
-inline constexpr double none = std::numeric_limits<double>::quiet_NaN();
+// Stands for a quantity that does not exist.
 inline constexpr const char* absent = "–";
 
 // Stands for a plain zero where many of them would hide what matters.

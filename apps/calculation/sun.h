@@ -1,10 +1,5 @@
-// The sun of a day, and its hours as they are told and drawn.
+// The sun of a day.
 #pragma once
-
-#include <string>
-
-#include "common/chart.h"
-#include "common/text.h"
 
 namespace quorvel::host {
 
@@ -20,11 +15,5 @@ struct Sun {
 };
 
 Sun sun_at(double latitude, int day_of_year, double hour);  // latitude in degrees
-
-// "sunrise 03:48, sunset 20:12 solar time", by the clock too where that is known.
-std::string sun_times(double sunrise, double sunset, double solar_minus_clock = none);
-
-// The hours of daylight and one more on either side.
-Scale hours_shown(double sunrise, double sunset, double step);
 
 }  // namespace quorvel::host

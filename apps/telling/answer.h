@@ -1,0 +1,61 @@
+// What a command answers: key figures, tables, pictures and how they came about. One answer is told as text, as
+// comma-separated values, as JSON and as a report in HTML; the figures and their digits are the same in all of them.
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "telling/chart.h"
+
+namespace quorvel::host {
+
+// What a number means: the key is its name in JSON and, with the unit, in CSV (u_value, W/m²K).
+struct Quantity {
+    std::string key, name;
+    std::string unit;  // empty for a word or a pure number
+    int decimals = 0;
+    std::string group;       // common heading of neighbouring columns
+    bool rare_zero = false;  // a zero is told as ·, where many of them would hide what matters
+};
+
+// NaN is told as absent (–, an empty field, null).
+using Value = std::variant<double, std::string>;
+
+struct Figure {
+    Quantity quantity;
+    Value value;
+    std::string remark;  // behind it, in a few words
+};
+
+struct DataTable {
+    std::string key, title;
+    std::vector<Quantity> columns;
+    std::vector<std::vector<Value>> rows;
+    std::vector<std::string> remarks;  // lines below it
+    bool on_request = false;           // as text only with --tables; always in CSV, JSON and HTML
+};
+
+struct Picture {
+    std::string key, title;
+    Chart chart;
+};
+
+// A part of an answer, told in this order.
+struct Section {
+    std::string title;
+    std::vector<std::string> paragraphs;
+    std::vector<Figure> figures;
+    std::vector<DataTable> tables;
+    std::vector<Picture> pictures;
+};
+
+struct Answer {
+    std::string title, subtitle;
+    std::vector<Section> sections;     // the summary first
+    std::vector<Section> inputs;       // what was asked, for the report
+    std::vector<std::string> method;   // how it was worked out, a paragraph each
+    std::vector<std::string> warnings; // what was replaced or assumed; on standard error too
+};
+
+}  // namespace quorvel::host
