@@ -1,10 +1,11 @@
-"""quorvel/FAMILY.h: the routines of a family for hosts in C++, by value. Includes nothing of the other families,
+"""quorvel/FAMILY.h: the routines of a family for hosts in C++, by reference and by value. Includes nothing of the other families,
 so that a new routine leaves alone what has no use for it."""
 
 from pathlib import Path
 
 from catalogue import by_reference
 from declarations import result_type, with_parameters
+from host_values import functions
 
 
 def _routine(routine):
@@ -14,8 +15,10 @@ def _routine(routine):
 
 def _header(family):
     routines = "".join(f"{_routine(routine)}\n" for routine in family.routines)
-    head = '#pragma once\n\n#include <cstdint>\n\n#include "quorvel/library.h"\n'
-    return f"// {family.title}: what lib::NAME calls.\n{head}\nnamespace lib {{\n\n{routines}\n}}  // namespace lib\n"
+    includes = ["<array>", "<cstdint>", "<span>", "<string>", "<vector>", None, '"quorvel/library.h"', '"quorvel/values.h"']
+    head = "".join(f"#include {name}\n" if name else "\n" for name in includes)
+    body = f"namespace lib {{\n\nnamespace host = quorvel::host;\n\n{routines}\n{functions(family)}\n\n}}  // namespace lib\n"
+    return f"// {family.title}: what lib::NAME calls, by its exported or its readable name.\n#pragma once\n\n{head}\n{body}"
 
 
 def files(families):

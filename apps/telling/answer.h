@@ -1,5 +1,6 @@
-// What a command answers: key figures, tables, pictures and how they came about. One answer is told as text, as
-// comma-separated values, as JSON and as a report in HTML; the figures and their digits are the same in all of them.
+// What a command answers: key figures, tables, pictures and how they came about. One answer is told
+// as text, as comma-separated values, as JSON and as a report in HTML; the figures and their digits
+// are the same in all of them.
 #pragma once
 
 #include <string>
@@ -52,10 +53,10 @@ struct Section {
 
 struct Answer {
     std::string title, subtitle;
-    std::vector<Section> sections;     // the summary first
-    std::vector<Section> inputs;       // what was asked, for the report
-    std::vector<std::string> method;   // how it was worked out, a paragraph each
-    std::vector<std::string> warnings; // what was replaced or assumed; on standard error too
+    std::vector<Section> sections;      // the summary first
+    std::vector<Section> inputs;        // what was asked, for the report
+    std::vector<std::string> method;    // how it was worked out, a paragraph each
+    std::vector<std::string> warnings;  // what was replaced or assumed; on standard error too
 };
 
 }  // namespace quorvel::host
