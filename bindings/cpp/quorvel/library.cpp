@@ -1,8 +1,10 @@
 #include "quorvel/library.h"
 
 #include <cstdlib>
+#include <iterator>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -14,7 +16,7 @@ namespace quorvel::host {
 namespace {
 
 #ifdef _WIN32
-constexpr const char* default_name = "quorvel.dll";
+constexpr const char* default_names[] = {"quorvel.dll"};
 
 void* open(const char* name) { return reinterpret_cast<void*>(LoadLibraryA(name)); }
 void* find(void* library, const char* symbol) {
@@ -22,7 +24,9 @@ void* find(void* library, const char* symbol) {
 }
 std::string last_error() { return "Windows error " + std::to_string(GetLastError()); }
 #else
-constexpr const char* default_name = "libquorvel.so";
+// By its soname, which names the interface, as an installed program finds it; the other is the link
+// for compilers, and what a library copied by hand is called.
+constexpr const char* default_names[] = {"libquorvel.so.0", "libquorvel.so"};
 
 void* open(const char* name) { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
 void* find(void* library, const char* symbol) { return dlsym(library, symbol); }
@@ -34,11 +38,12 @@ void* library = nullptr;
 }  // namespace
 
 void load_library() {
-    const char* chosen = std::getenv("QUORVEL_LIBRARY");
-    const char* name = chosen ? chosen : default_name;
-    library = open(name);
-    if (!library)
-        throw std::runtime_error(std::string("cannot load ") + name + ": " + last_error());
+    const char* const chosen = std::getenv("QUORVEL_LIBRARY");
+    std::vector<const char*> names(std::begin(default_names), std::end(default_names));
+    if (chosen) names = {chosen};
+    for (const char* name : names)
+        if ((library = open(name))) return;
+    throw std::runtime_error(std::string("cannot load ") + names.back() + ": " + last_error());
 }
 
 void* routine_address(const char* name) {

@@ -1,5 +1,6 @@
-// Between a host, which reckons in double precision, and the library, most of which is single: what lib::NAME is made
-// of for values. Rounding to single precision happens here, and widening what comes back.
+// Between a host, which reckons in double precision, and the library, most of which is single: what
+// lib::NAME is made of for values. Rounding to single precision happens here, and widening what
+// comes back.
 #pragma once
 
 #include <algorithm>
@@ -23,7 +24,8 @@ inline std::size_t size(std::int32_t count) { return static_cast<std::size_t>(st
 template <class T, class Given>
 std::vector<T> stored(std::span<const Given> values) {
     std::vector<T> stored(values.size());
-    std::ranges::transform(values, stored.begin(), [](Given value) { return static_cast<T>(value); });
+    std::ranges::transform(values, stored.begin(),
+                           [](Given value) { return static_cast<T>(value); });
     return stored;
 }
 
@@ -36,14 +38,15 @@ Told told(const std::vector<T>& stored) {
 }
 
 // How many numbers the lists have, all of them as many. Throws std::invalid_argument.
-inline std::int32_t count(const char* routine, const char* name, std::int64_t low, std::int64_t high,
-                          std::initializer_list<std::size_t> sizes) {
+inline std::int32_t count(const char* routine, const char* name, std::int64_t low,
+                          std::int64_t high, std::initializer_list<std::size_t> sizes) {
     const std::size_t count = *sizes.begin();
     const std::string place = std::string(routine) + ": " + name;
-    if (std::ranges::count(sizes, count) != std::ssize(sizes)) throw std::invalid_argument(place + ": unequal lists");
+    if (std::ranges::count(sizes, count) != std::ssize(sizes))
+        throw std::invalid_argument(place + ": unequal lists");
     if (count < static_cast<std::size_t>(low) || count > static_cast<std::size_t>(high))
-        throw std::invalid_argument(place + ": " + std::to_string(count) + "; allowed " + std::to_string(low) +
-                                    " to " + std::to_string(high));
+        throw std::invalid_argument(place + ": " + std::to_string(count) + "; allowed " +
+                                    std::to_string(low) + " to " + std::to_string(high));
     return static_cast<std::int32_t>(count);
 }
 

@@ -1,0 +1,33 @@
+#!/bin/sh
+# packaging/windows.sh BUILD OUT: a zip for Windows of a cross build: libraries with import libraries, headers,
+# programs, and the declarations for languages which need no more than a file. What comes out of the zip is then
+# tried as a user would, under Wine: a C program is built with it and run, and the program checks the library.
+set -eu
+cd "$(dirname "$0")/.."
+build=$(cd "$1" && pwd)
+out=$(cd "$2" && pwd)
+version=$(sed -n 's/^project(quorvel VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+name=quorvel-$version-windows-x64
+
+rm -rf "$out/$name" "$out/$name.zip"
+cmake --install "$build" --prefix "$out/$name" >/dev/null
+cp LICENSE CHANGELOG.md README.md "$out/$name"
+for file in bindings/vba/quorvel.bas bindings/pascal/quorvel.pas bindings/fortran/quorvel.f90 bindings/csharp/Quorvel*.cs; do
+    if [ -e "$file" ]; then
+        mkdir -p "$out/$name/declarations"
+        cp "$file" "$out/$name/declarations"
+    fi
+done
+(cd "$out" && zip -q -r "$name.zip" "$name" && rm -r "$name")
+
+trial=$out/trial
+rm -rf "$trial"
+mkdir "$trial"
+python3 -m zipfile -e "$out/$name.zip" "$trial"
+cd "$trial"
+sed -n '/^```c$/,/^```$/p' "$OLDPWD/README.md" | grep -v '^```' >host.c
+x86_64-w64-mingw32-gcc-posix host.c -I"$name/include" -L"$name/lib" -lquorvel -o "$name/bin/host.exe"
+/usr/lib/wine/wine64 "$name/bin/host.exe"
+/usr/lib/wine/wine64 "$name/bin/quorvel.exe" check
+cd "$out"
+rm -r "$trial"
