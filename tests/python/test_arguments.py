@@ -91,6 +91,8 @@ def test_results():
     (lambda: psychro.vapour_pressure([1, 2], [1, 2, 3]), ValueError, "broadcast"),
     (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, 1.5), TypeError, "psychrometer: integers are needed"),
     (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, "slung"), ValueError, "psychrometer: 'slung' is none of 'sling', 'screen'"),
+    (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, ["sling", "slung"]), ValueError, "'slung' is none of"),
+    (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, ["sling", None]), TypeError, "integers are needed"),
     (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, 2**70), ValueError, "psychrometer"),
     (lambda: fabric.u_value([1, 2], [1, 2, 3], 0.1, 0.1), ValueError, "conductivity has 3 layers where thickness has 2"),
     (lambda: fabric.u_value(1, [1], 0.1, 0.1), ValueError, r"thickness: an array of shape \(..., layers\) is needed"),

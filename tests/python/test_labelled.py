@@ -37,6 +37,19 @@ def test_pandas():
     assert fabric.u_value(walls, [0.1, 0.2, 0.3], 0.13, 0.04).index.tolist() == list("abcd")
 
 
+def test_names_of_selectors_keep_their_labels():
+    kinds, numbers = ["sling", "screen"], psychro.vapour_pressure_from_psychrometer(25, 20, 101325, [1, 2])
+    series = pandas.Series(kinds, index=["a", "b"]).astype("category")
+    labelled = xarray.DataArray(kinds, dims="kind", coords={"kind": kinds})
+    for given in (kinds, np.array(kinds), series, labelled):
+        result = psychro.vapour_pressure_from_psychrometer(25, 20, 101325, given)
+        same(result, numbers)
+        assert isinstance(result, np.ndarray if given is kinds else type(given))
+    assert result.coords["kind"].values.tolist() == kinds
+    table = pandas.DataFrame([kinds], columns=["x", "y"])
+    assert psychro.vapour_pressure_from_psychrometer(25, 20, 101325, table).columns.tolist() == ["x", "y"]
+
+
 def test_pandas_lists_go_together_by_their_labels():
     walls = pandas.DataFrame(LAYERS, index=list("abcd"), columns=["out", "mid", "in"])
     conductivity = pandas.Series([0.1, 0.2, 0.3], index=walls.columns)

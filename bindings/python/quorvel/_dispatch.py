@@ -51,11 +51,27 @@ def _root(value):
 
 
 def _number_of(value, argument):
-    """A selector by its name, as its number; an index of pandas as an array; all else as it is."""
+    """Names of a selector as their numbers; an index of pandas as an array; all else as it is."""
     if isinstance(value, str):
         return _selected(value, argument)
     is_index = _root(value) == "pandas" and hasattr(value, "to_numpy") and not hasattr(value, "index")
-    return value.to_numpy() if is_index else value
+    value = value.to_numpy() if is_index else value
+    return _numbers_of(value, argument) if argument.selector else value
+
+
+def _numbers_of(value, argument):
+    """A list, an array or a labelled one of names as one of their numbers, labelled as it was."""
+    kind = _kind(value)
+    if kind == "dask" or getattr(value, "dtype", None) == np.int32:
+        return value  # Dask knows its numbers only on the workers
+    names = np.asarray(value)
+    if not names.size or not all(isinstance(name, str) for name in names.flat):
+        return value
+    numbers = np.array([_selected(str(name), argument) for name in names.flat], np.int32).reshape(names.shape)
+    if kind == "pandas":
+        rest = {"columns": value.columns} if hasattr(value, "columns") else {"name": value.name}
+        return type(value)(numbers, index=value.index, **rest)
+    return value.copy(data=numbers) if kind == "xarray" else numbers
 
 
 def _selected(value, argument):

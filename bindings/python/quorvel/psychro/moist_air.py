@@ -10,7 +10,9 @@ __all__ = ["State", "cooled", "heated", "humidified", "mixed", "state"]
 
 
 class State(NamedTuple):
-    """Moist air; single numbers, arrays, or tables and labelled arrays, as they were given."""
+    """Moist air; single numbers, arrays, or tables and labelled arrays, as they were given. As a table, with a column
+    for each quantity: `pandas.DataFrame(state._asdict())`.
+    """
 
     dry_bulb: Any
     """°C"""
