@@ -1,6 +1,6 @@
 #pragma once
 
-#include "climate/epw.h"
+#include "calculation/climate/weather.h"
 #include "climate/station.h"
 
 namespace quorvel::climatefile {

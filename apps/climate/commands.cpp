@@ -9,12 +9,12 @@
 
 #include "climate/band_climate.h"
 #include "climate/data_file.h"
-#include "climate/epw.h"
 #include "climate/output_file.h"
 #include "climate/report.h"
 #include "climate/rules.h"
 #include "climate/station_text.h"
 #include "quorvel/library.h"
+#include "reading/climate/epw.h"
 #include "reading/input.h"
 #include "telling/progress.h"
 #include "telling/text.h"

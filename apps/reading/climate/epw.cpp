@@ -1,4 +1,4 @@
-#include "climate/epw.h"
+#include "reading/climate/epw.h"
 
 #include <charconv>
 #include <cmath>

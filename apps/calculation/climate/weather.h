@@ -1,5 +1,4 @@
-// A year of hourly weather data in the EPW format: comma-separated lines, eight of them ahead of
-// the data.
+// A year of hourly weather at a place.
 #pragma once
 
 #include <array>
@@ -31,8 +30,5 @@ struct WeatherYear {
     double height;               // m above sea level
     std::vector<WeatherDay> days;
 };
-
-// Throws host::InputError at the first fault.
-WeatherYear read_epw(const std::string& path);
 
 }  // namespace quorvel::climatefile
