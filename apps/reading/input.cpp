@@ -51,9 +51,11 @@ std::string read_bytes(const std::string& path) {
 
 InputError::InputError(std::string message) : std::runtime_error(on_one_line(std::move(message))) {}
 
-InputFile::InputFile(std::string path) : path_(std::move(path)) {
+InputFile::InputFile(std::string path) : InputFile(path, read_bytes(path)) {}
+
+InputFile::InputFile(std::string name, std::string_view text) : path_(std::move(name)) {
     try {
-        table_ = toml::parse(read_bytes(path_), path_);
+        table_ = toml::parse(text, path_);
     } catch (const toml::parse_error& fault) {
         throw InputError(path_ + ':' + std::to_string(fault.source().begin.line) +
                          ": not valid TOML: " + std::string(fault.description()));
@@ -76,6 +78,12 @@ void InputTable::expect(std::initializer_list<std::string_view> required,
                          [&](auto key) { return !has(key); });
     if (missing.empty()) return;
     throw located(*table_, (path_.empty() ? "" : path_ + ": ") + "missing " + joined(missing));
+}
+
+std::vector<std::string> InputTable::keys() const {
+    std::vector<std::string> result;
+    for (const auto& [key, value] : *table_) result.emplace_back(key.str());
+    return result;
 }
 
 double InputTable::number(std::string_view key, const Range& range) const {

@@ -36,6 +36,7 @@ class InputTable {
     void expect(std::initializer_list<std::string_view> required,
                 std::initializer_list<std::string_view> optional = {}) const;
     bool has(std::string_view key) const { return table_->contains(key); }
+    std::vector<std::string> keys() const;  // sorted
 
     double number(std::string_view key, const Range& range) const;
     double number(std::string_view key, const Range& range, double otherwise) const;
@@ -70,6 +71,7 @@ class InputTable {
 class InputFile {
   public:
     explicit InputFile(std::string path);
+    InputFile(std::string name, std::string_view text);  // of a text that is no file, by a name for messages
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 
