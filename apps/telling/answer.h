@@ -11,12 +11,15 @@
 
 namespace quorvel::host {
 
+// As many decimals as the number needs, for what the user has given.
+inline constexpr int as_given = -1;
+
 // What a number means: the key is its name in JSON and, with the unit, in CSV (u_value, W/m²K).
 struct Quantity {
     std::string key, name;
-    std::string unit;  // empty for a word or a pure number
-    int decimals = 0;
-    std::string group;       // common heading of neighbouring columns
+    std::string unit = {};   // empty for a word or a pure number
+    int decimals = 0;        // told everywhere, or as_given
+    std::string group = {};  // common heading of neighbouring columns
     bool rare_zero = false;  // a zero is told as ·, where many of them would hide what matters
 };
 
@@ -26,15 +29,18 @@ using Value = std::variant<double, std::string>;
 struct Figure {
     Quantity quantity;
     Value value;
-    std::string remark;  // behind it, in a few words
+    std::string remark = {};  // behind it, in a few words
 };
 
+// Tables of one key in several sections have the same columns; they are one table in CSV, where the
+// key of their section stands in each line.
 struct DataTable {
     std::string key, title;
     std::vector<Quantity> columns;
     std::vector<std::vector<Value>> rows;
-    std::vector<std::string> remarks;  // lines below it
-    bool on_request = false;           // as text only with --tables; always in CSV, JSON and HTML
+    std::vector<std::string> remarks = {};  // lines below it
+    bool on_request = false;  // as text only with --tables; always in CSV, JSON and HTML
+    bool main = false;  // what --csv writes unless another table is asked for; else the first one
 };
 
 struct Picture {
@@ -42,21 +48,24 @@ struct Picture {
     Chart chart;
 };
 
-// A part of an answer, told in this order.
+// A part of an answer, told in this order. Keys of figures and tables are unique within sections of
+// one key: those without a key are about the whole, those of a window or a variant have its name.
 struct Section {
-    std::string title;
-    std::vector<std::string> paragraphs;
-    std::vector<Figure> figures;
-    std::vector<DataTable> tables;
-    std::vector<Picture> pictures;
+    std::string title = {}, key = {};
+    std::vector<std::string> paragraphs = {};
+    std::vector<Figure> figures = {};
+    std::vector<DataTable> tables = {};
+    std::vector<Picture> pictures = {};
 };
 
 struct Answer {
-    std::string title, subtitle;
-    std::vector<Section> sections;      // the summary first
-    std::vector<Section> inputs;        // what was asked, for the report
-    std::vector<std::string> method;    // how it was worked out, a paragraph each
-    std::vector<std::string> warnings;  // what was replaced or assumed; on standard error too
+    std::string title, subtitle = {};
+    std::vector<Section> sections = {};    // the summary first
+    std::vector<Section> inputs = {};      // what was asked, for the report
+    std::vector<std::string> method = {};  // how it was worked out, a paragraph each
+    std::vector<std::string> warnings =
+        {};              // what was replaced or assumed; on standard error too, refused by --strict
+    bool wrong = false;  // what was checked is not as it should be: exit status 1
 };
 
 }  // namespace quorvel::host

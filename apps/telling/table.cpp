@@ -19,10 +19,11 @@ std::string repeated(const char* text, std::size_t n) {
 }  // namespace
 
 Table::Table(std::vector<Column> columns) : columns_(std::move(columns)) {
-    for (const Column& column : columns_) widths_.push_back(character_count(column.title));
+    for (const Column& column : columns_)
+        widths_.push_back(std::max(character_count(column.title), character_count(column.unit)));
     for (const Group& group : groups()) {  // a long heading widens its first column
         const std::size_t heading = character_count(columns_[group.first].group) + 4;
-        const std::size_t now = width(group);
+        const std::size_t now = width_of(group);
         if (columns_[group.first].group != "" && heading > now)
             widths_[group.first] += heading - now;
     }
@@ -36,17 +37,27 @@ void Table::add(std::vector<std::string> cells) {
 
 std::string Table::text() const {
     std::string headings;
-    std::vector<std::string> titles;
+    std::vector<std::string> titles, units;
     for (const Group& group : groups())
         headings += repeated(" ", group.first == 0 ? gap : group_gap) + heading(group);
-    for (const Column& column : columns_) titles.push_back(column.title);
+    for (const Column& column : columns_) {
+        titles.push_back(column.title);
+        units.push_back(column.unit);
+    }
 
     std::string result;
-    for (const std::string& above : {headings, line(titles)})
+    for (const std::string& above : {headings, line(titles), line(units)})
         if (const auto end = above.find_last_not_of(" \n"); end != std::string::npos)
             result += above.substr(0, end + 1) + '\n';
     for (const auto& row : rows_) result += line(row);
     return result;
+}
+
+std::size_t Table::width() const {
+    std::size_t sum = 0;
+    for (const Group& group : groups())
+        sum += (group.first == 0 ? gap : group_gap) + width_of(group);
+    return sum;
 }
 
 std::vector<Table::Group> Table::groups() const {
@@ -59,7 +70,7 @@ std::vector<Table::Group> Table::groups() const {
     return result;
 }
 
-std::size_t Table::width(const Group& group) const {
+std::size_t Table::width_of(const Group& group) const {
     std::size_t sum = gap * (group.last - group.first - 1);
     for (std::size_t i = group.first; i < group.last; ++i) sum += widths_[i];
     return sum;
@@ -67,8 +78,8 @@ std::size_t Table::width(const Group& group) const {
 
 std::string Table::heading(const Group& group) const {
     const std::string& name = columns_[group.first].group;
-    if (name.empty()) return repeated(" ", width(group));
-    const std::size_t rule = width(group) - character_count(name) - 2;
+    if (name.empty()) return repeated(" ", width_of(group));
+    const std::size_t rule = width_of(group) - character_count(name) - 2;
     return repeated("─", rule / 2) + ' ' + name + ' ' + repeated("─", rule - rule / 2);
 }
 

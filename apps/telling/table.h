@@ -1,5 +1,5 @@
 // A table for reading: numbers in right-aligned columns, words in left-aligned ones, neighbours
-// with a common heading ruled together.
+// with a common heading ruled together, units below the titles.
 #pragma once
 
 #include <string>
@@ -11,6 +11,7 @@ struct Column {
     std::string group;  // common heading of neighbouring columns, empty for none
     std::string title;
     bool left = false;
+    std::string unit = {};
 };
 
 class Table {
@@ -19,6 +20,7 @@ class Table {
 
     void add(std::vector<std::string> cells);
     std::string text() const;
+    std::size_t width() const;
 
   private:
     // Neighbouring columns under one heading: [first, last).
@@ -26,7 +28,7 @@ class Table {
         std::size_t first, last;
     };
     std::vector<Group> groups() const;
-    std::size_t width(const Group& group) const;
+    std::size_t width_of(const Group& group) const;
     std::string heading(const Group& group) const;
     std::string line(const std::vector<std::string>& cells) const;
 

@@ -1,4 +1,4 @@
-#include "check/library_identity.h"
+#include "program/check/library_identity.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "check/bits.h"
+#include "program/check/bits.h"
 
 #include <map>
 #include <sstream>

@@ -1,4 +1,4 @@
-#include "check/arithmetic.h"
+#include "program/check/arithmetic.h"
 
 #ifdef __SSE__
 #include <xmmintrin.h>

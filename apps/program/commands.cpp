@@ -1,0 +1,11 @@
+#include "program/commands.h"
+
+namespace quorvel::program {
+
+std::vector<Command> commands() {
+    return {
+        check_command(),
+    };
+}
+
+}  // namespace quorvel::program

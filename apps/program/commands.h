@@ -1,0 +1,15 @@
+// The commands of the program.
+#pragma once
+
+#include <vector>
+
+#include "program/command.h"
+
+namespace quorvel::program {
+
+Command check_command();
+
+// All of them, in the order in which the help names them.
+std::vector<Command> commands();
+
+}  // namespace quorvel::program

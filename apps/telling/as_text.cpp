@@ -1,0 +1,99 @@
+#include "telling/as_text.h"
+
+#include <algorithm>
+
+#include "telling/table.h"
+#include "telling/value.h"
+
+namespace quorvel::host {
+namespace {
+
+constexpr std::size_t widest = 100;  // columns of a terminal
+
+bool holds_words(const DataTable& table, std::size_t column) {
+    return std::ranges::any_of(table.rows, [&](const auto& row) {
+        return std::holds_alternative<std::string>(row[column]);
+    });
+}
+
+using Columns = std::vector<std::size_t>;
+
+Table table_of(const DataTable& data, const Columns& columns) {
+    std::vector<Column> headings;
+    for (const std::size_t i : columns) {
+        const Quantity& quantity = data.columns[i];
+        headings.push_back({quantity.group, quantity.name, holds_words(data, i), quantity.unit});
+    }
+    Table table(std::move(headings));
+    for (const auto& row : data.rows) {
+        std::vector<std::string> cells;
+        for (const std::size_t i : columns) cells.push_back(told(data.columns[i], row[i]));
+        table.add(std::move(cells));
+    }
+    return table;
+}
+
+// As many columns beside each other as the width takes, neighbours under one heading together where
+// they can be; the first column, which says what a row is about, begins each part.
+std::vector<Columns> parts_of(const DataTable& data) {
+    std::vector<Columns> parts{{0}};
+    for (std::size_t next = 1; next < data.columns.size(); ++next) {
+        Columns& part = parts.back();
+        part.push_back(next);
+        if (part.size() <= 2 || table_of(data, part).width() <= widest) continue;
+        const auto begins = std::ranges::find_if(part, [&](std::size_t i) {
+            return i > 0 && !data.columns[i].group.empty() &&
+                   data.columns[i].group == data.columns[next].group;
+        });
+        const auto cut =
+            begins == part.end() || begins == part.begin() + 1 ? part.end() - 1 : begins;
+        Columns rest{0};
+        rest.insert(rest.end(), cut, part.end());
+        part.erase(cut, part.end());
+        parts.push_back(std::move(rest));
+    }
+    return parts;
+}
+
+// With an empty line between.
+void append(std::string& text, const std::string& block) {
+    if (!text.empty() && !block.empty()) text += '\n';
+    text += block;
+}
+
+std::string text_of(const DataTable& data) {
+    std::string text, parts;
+    if (!data.title.empty()) append(text, data.title + '\n');
+    for (const Columns& part : parts_of(data)) append(parts, table_of(data, part).text());
+    append(text, parts);
+    for (const std::string& remark : data.remarks) text += "  " + remark + '\n';
+    return text;
+}
+
+std::string text_of(const std::vector<Figure>& figures) {
+    Table table({{"", "", true}, {"", ""}, {"", "", true}});
+    for (const Figure& figure : figures) {
+        const std::string& unit = figure.quantity.unit;
+        const std::string between = unit.empty() || figure.remark.empty() ? "" : ", ";
+        table.add({figure.quantity.name, told(figure.quantity, figure.value),
+                   unit + between + figure.remark});
+    }
+    return table.text();
+}
+
+}  // namespace
+
+std::string as_text(const Answer& answer, bool all_tables) {
+    std::string text = answer.title + '\n';
+    if (!answer.subtitle.empty()) text += answer.subtitle + '\n';
+    for (const Section& section : answer.sections) {
+        append(text, section.title.empty() ? "" : section.title + '\n');
+        for (const std::string& paragraph : section.paragraphs) append(text, paragraph + '\n');
+        append(text, section.figures.empty() ? "" : text_of(section.figures));
+        for (const DataTable& table : section.tables)
+            if (all_tables || !table.on_request) append(text, text_of(table));
+    }
+    return text;
+}
+
+}  // namespace quorvel::host
