@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <fstream>
-#include <stdexcept>
 
-#include "program/program.h"
+#include "telling/gnuplot.h"
+#include "telling/output_file.h"
 #include "telling/text.h"
 
 namespace quorvel::host {
@@ -25,30 +23,28 @@ constexpr const char* axes =
     "set border 3 linecolor rgb '#8a8f98' linewidth 1\n"
     "set tics nomirror out scale 0.6 textcolor rgb '#4b5160'\n";
 
-// A text as a gnuplot string.
-std::string quoted(const std::string& text) {
-    std::string result = "'";
-    for (const char c : text) result.append(c == '\'' ? 2 : 1, c);
-    return result + '\'';
-}
-
 std::string font(const Style& style) {
     return std::string(" textcolor rgb '") + style.colour + "' font 'Arial" +
            (style.bold ? " Bold," : ",") + std::to_string(style.size) + "' ";
 }
 
-void write_file(const std::string& path, const std::string& text) {
-    std::ofstream stream(path, std::ios::binary);
-    stream << text;
-    stream.flush();
-    if (!stream) throw std::runtime_error("cannot write " + path);
+// Points of PDF and pixels of PNG are those of SVG, so that all look alike; PNG has two for each.
+std::string terminal(Format format, int width, int height) {
+    const auto size = [&](double unit, const char* name) {
+        return " size " + shortest(width * unit) + name + ',' + shortest(height * unit) + name;
+    };
+    const std::string look = " noenhanced font 'Arial,13' background rgb '#ffffff' rounded";
+    switch (format) {
+        case Format::pdf:
+            return "set terminal pdfcairo" + size(1.0 / 72, "in") + look;
+        case Format::png:
+            return "set terminal pngcairo" + size(2, "") + " fontscale 2 linewidth 2 pointscale 2" +
+                   look;
+        case Format::svg:
+            break;
+    }
+    return "set terminal svg dynamic" + size(1, "") + look;
 }
-
-// Removes the script when the picture is done, or not.
-struct TemporaryFile {
-    std::string path;
-    ~TemporaryFile() { std::remove(path.c_str()); }
-};
 
 }  // namespace
 
@@ -146,21 +142,11 @@ void Chart::plot(const std::vector<std::string>& parts) {
         commands_ += part + (&part == &parts.back() ? "\n" : ", ");
 }
 
-void Chart::write(const std::string& path) const {
-    write_file(path, "");  // gnuplot would tell of a bad path at length
-    const TemporaryFile script{path + ".gnuplot"};
-    const std::string size = std::to_string(width_) + ',' + std::to_string(height_);
-    write_file(script.path, "set terminal svg noenhanced size " + size +
-                                " dynamic font 'Arial,13' background rgb '#ffffff' rounded\n"
-                                "set output " +
-                                quoted(path) + setup + data_ + commands_);
-    const auto status = run_program("gnuplot", script.path);
-    if (status != 0) std::remove(path.c_str());
-    if (!status)
-        throw std::runtime_error(
-            "a chart needs gnuplot, which is not installed or not on the path");
-    if (*status != 0) throw std::runtime_error("gnuplot could not draw " + path);
+std::string Chart::draw(Format format) const {
+    return draw_with_gnuplot(terminal(format, width_, height_), setup + data_ + commands_, format);
 }
+
+void Chart::write(const std::string& path) const { write_file(path, draw(Format::svg)); }
 
 std::string Chart::across(double x) const { return shortest(x / width_); }
 

@@ -1,11 +1,11 @@
-// A chart of several panels, drawn by gnuplot and written as an SVG file.
+// A chart of several panels, drawn by gnuplot.
 //
 //     Chart chart(900, 600);
 //     chart.panel({60, 40, 500, 300});
 //     chart.vertical_scale(round_scale(0, 730));
 //     const std::string rows = chart.data({{8, 120}, {9, 340}});
 //     chart.plot({area(rows, 2, "#f5b041"), curve(rows, 2, colour::ink, 2.5)});
-//     chart.write("day.svg");
+//     write_file("day.svg", chart.draw(Format::svg));
 #pragma once
 
 #include <string>
@@ -17,6 +17,8 @@ namespace colour {
 inline constexpr const char* ink = "#1f2a44";   // titles, main curves
 inline constexpr const char* grey = "#6b7280";  // secondary text
 }  // namespace colour
+
+enum class Format { svg, pdf, png };
 
 // The plotting area inside the axes, in pixels from the upper left corner of the picture.
 struct Panel {
@@ -85,8 +87,14 @@ class Chart {
     // Ends the panel.
     void plot(const std::vector<std::string>& parts);
 
-    // Draws the picture. Throws std::runtime_error when gnuplot is missing or the file cannot be
-    // written.
+    // The bytes of the picture. Throws std::runtime_error when gnuplot is missing or fails, and
+    // says why.
+    std::string draw(Format format) const;
+
+    int width() const { return width_; }
+    int height() const { return height_; }
+
+    // Draws into an SVG file.
     void write(const std::string& path) const;
 
   private:

@@ -1,0 +1,86 @@
+#include "telling/gnuplot.h"
+
+#include <filesystem>
+#include <stdexcept>
+
+#include "telling/child_process.h"
+#include "telling/output_file.h"
+#include "telling/unique_name.h"
+
+namespace quorvel::host {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A folder of its own for the script and the picture, gone with this.
+class Workplace {
+  public:
+    Workplace() : folder_(fs::temp_directory_path() / ("quorvel" + unique_name())) {
+        if (!fs::create_directory(folder_))
+            throw std::runtime_error(folder_.string() + ": cannot be created");
+    }
+    ~Workplace() {
+        std::error_code ignored;
+        fs::remove_all(folder_, ignored);
+    }
+    Workplace(const Workplace&) = delete;
+    Workplace& operator=(const Workplace&) = delete;
+
+    std::string file(const char* name) const { return (folder_ / name).string(); }
+
+  private:
+    fs::path folder_;
+};
+
+// How a whole picture ends: on a full disk gnuplot leaves half of one and is content.
+bool is_whole(std::string_view picture, Format format) {
+    const auto last = picture.substr(picture.size() - std::min<std::size_t>(picture.size(), 16));
+    switch (format) {
+        case Format::svg:
+            return last.find("</svg>") != last.npos;
+        case Format::pdf:
+            return last.find("%%EOF") != last.npos;
+        case Format::png:
+            return last.find("IEND") != last.npos;
+    }
+    return false;
+}
+
+// The line that says what is wrong, among those that show where.
+std::string complaint(const std::string& errors) {
+    std::string found;
+    for (std::size_t begin = 0; begin < errors.size();) {
+        const std::size_t end = std::min(errors.find('\n', begin), errors.size());
+        const std::string line = errors.substr(begin, end - begin);
+        if (line.find_first_not_of(" ^\t\r") != line.npos) found = line;
+        begin = end + 1;
+    }
+    return found;
+}
+
+}  // namespace
+
+std::string quoted(const std::string& text) {
+    std::string result = "'";
+    for (const char c : text) result.append(c == '\'' ? 2 : 1, c);
+    return result + '\'';
+}
+
+std::string draw_with_gnuplot(const std::string& terminal, const std::string& commands,
+                              Format format) {
+    const Workplace place;
+    write_file(place.file("script"), terminal + "\nset output " + quoted(place.file("picture")) +
+                                         '\n' + commands + "\nunset multiplot\nunset output\n");
+    const auto status = run_program("gnuplot", place.file("script"), place.file("errors"));
+    if (!status)
+        throw std::runtime_error(
+            "a chart needs gnuplot, which is not installed or not on the path");
+    const std::string picture = read_file(place.file("picture"));
+    if (*status == 0 && is_whole(picture, format)) return picture;
+    std::string message = "gnuplot could not draw the picture";
+    const std::string reason = complaint(read_file(place.file("errors")));
+    if (!reason.empty()) message.append(": ").append(reason);
+    throw std::runtime_error(message);
+}
+
+}  // namespace quorvel::host
