@@ -1,9 +1,12 @@
 # Text files as string literals, for programs that carry them along; the file stays the single source.
 
-# quorvel_embed(FILE OUTPUT): writes OUTPUT, which holds the file as one string literal.
-function(quorvel_embed file output)
-    file(READ ${file} text)
-    file(CONFIGURE OUTPUT ${output} CONTENT "R\"~~(${text})~~\"\n" @ONLY)
+# quorvel_embed(FILE): its text as a string literal in FILE.inc of the generated folder, dots as underscores.
+function(quorvel_embed file)
+    file(REAL_PATH ${file} file BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
+    get_filename_component(name ${file} NAME)
+    string(REPLACE . _ name ${name})
+    file(READ ${file} content)
+    file(CONFIGURE OUTPUT ${QUORVEL_GENERATED}/${name}.inc CONTENT "R\"~~(${content})~~\"\n" @ONLY)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
 endfunction()
 

@@ -1,6 +1,7 @@
-// What becomes of the answers: the options that all commands which answer have in common.
+// What becomes of answers: the options that all commands which answer have in common.
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -15,18 +16,14 @@ namespace quorvel::program {
 struct Outputs {
     bool csv = false, json = false, tables = false, strict = false;
     std::string table, output, html;
-    std::vector<std::string> charts;  // files of pictures, by their endings
+    std::vector<std::string> pictures;  // files, whose endings say what they are
 };
 
-void add_output_options(CLI::App& app, Outputs& outputs);
+void add_output_options(CLI::App& app, Outputs& outputs, bool pictures);
 
-// The answer to an input file; the input is empty where the command takes none.
-struct Told {
-    std::string input;
-    host::Answer answer;
-};
-
-// Writes the answers, of one command, as asked. The exit status.
-int deliver(const std::string& command, const std::vector<Told>& answers, const Outputs& outputs);
+// Writes the answers of a command as asked: all files, then standard output. The exit status.
+// Throws host::InputError when what was asked for cannot be, before anything is written.
+int deliver(const std::string& command, std::span<const host::Answered> answers,
+            const Outputs& outputs);
 
 }  // namespace quorvel::program

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <iostream>
 #include <optional>
 #include <sstream>
 
@@ -10,6 +11,9 @@
 
 namespace quorvel::host {
 namespace {
+
+// Of UTF-8: no first byte of a character.
+bool is_continued(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 bool is_control(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
 
@@ -19,18 +23,48 @@ std::string on_one_line(std::string text) {
     return text;
 }
 
+// As TOML tells it from a whole number: 5.0.
+std::string shown(double value) {
+    const std::string digits = shortest(value);
+    const bool whole = digits.find_first_not_of("-0123456789") == digits.npos;
+    return whole ? digits + ".0" : digits;
+}
+
+// The beginning of a long one.
+std::string shown(const std::string& text) {
+    constexpr std::size_t longest = 60;
+    if (character_count(text) <= longest) return '"' + text + '"';
+    std::size_t end = longest;
+    while (is_continued(text[end])) --end;
+    return '"' + text.substr(0, end) + "…\"";
+}
+
 // A value as the user wrote it, near enough to be recognised.
 std::string shown(const toml::node& node) {
     if (const auto* number = node.as_integer()) return std::to_string(number->get());
-    if (const auto* number = node.as_floating_point()) return shortest(number->get());
-    if (const auto* text = node.as_string()) return '"' + text->get() + '"';
+    if (const auto* number = node.as_floating_point()) return shown(number->get());
+    if (const auto* text = node.as_string()) return shown(text->get());
     if (const auto* flag = node.as_boolean()) return flag->get() ? "true" : "false";
     if (const auto* list = node.as_array()) return "list of " + std::to_string(list->size());
     return node.is_table() ? "table" : "date or time";
 }
 
+// "1 to 6", or "only 1".
+std::string from_to(const std::string& low, const std::string& high) {
+    return low == high ? "only " + low : low + " to " + high;
+}
+
+template <class Integer>
+std::string from_to(Integer low, Integer high) {
+    return from_to(std::to_string(low), std::to_string(high));
+}
+
 std::string told(const Range& range) {
-    return shortest(range.low) + " to " + shortest(range.high) + ' ' + range.unit;
+    return from_to(shortest(range.low), shortest(range.high)) + ' ' + range.unit;
+}
+
+std::string counted(std::size_t n, const std::string& what) {
+    return std::to_string(n) + ' ' + what + (n == 1 ? "" : "s");
 }
 
 std::optional<double> number_within(const toml::node& node, const Range& range) {
@@ -39,19 +73,31 @@ std::optional<double> number_within(const toml::node& node, const Range& range) 
     return std::nullopt;
 }
 
-std::string read_bytes(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    std::ostringstream bytes;
-    if (stream && stream.peek() != std::ifstream::traits_type::eof()) bytes << stream.rdbuf();
-    if (!stream.is_open() || stream.bad()) throw InputError(path + ": cannot be read");
-    return bytes.str();
-}
-
 }  // namespace
 
 InputError::InputError(std::string message) : std::runtime_error(on_one_line(std::move(message))) {}
 
-InputFile::InputFile(std::string path) : InputFile(path, read_bytes(path)) {}
+InputError InputError::all(const std::vector<std::string>& messages) {
+    Lines lines;
+    for (const std::string& message : messages) {
+        if (!lines.text.empty()) lines.text += '\n';
+        lines.text += on_one_line(message);
+    }
+    return InputError(lines);
+}
+
+std::string read_bytes(const std::string& path) {
+    std::ifstream file;
+    if (path != "-") file.open(path, std::ios::binary);
+    std::istream& stream = path == "-" ? std::cin : file;
+    std::ostringstream bytes;
+    if (stream && stream.peek() != std::istream::traits_type::eof()) bytes << stream.rdbuf();
+    if ((path != "-" && !file.is_open()) || stream.bad())
+        throw InputError(told_path(path) + ": cannot be read");
+    return bytes.str();
+}
+
+InputFile::InputFile(const std::string& path) : InputFile(told_path(path), read_bytes(path)) {}
 
 InputFile::InputFile(std::string name, std::string_view text) : path_(std::move(name)) {
     try {
@@ -99,7 +145,7 @@ std::vector<double> InputTable::numbers(std::string_view key, std::size_t count,
                                         const Range& range) const {
     const auto* list = node(key).as_array();
     if (!list) return std::vector<double>(count, number(key, range));
-    if (list->size() != count) throw not_allowed(key, std::to_string(count) + " numbers");
+    if (list->size() != count) throw not_allowed(key, counted(count, "number"));
     std::vector<double> result;
     for (const toml::node& entry : *list) {
         const auto value = number_within(entry, range);
@@ -114,7 +160,7 @@ std::vector<double> InputTable::numbers(std::string_view key, std::size_t count,
 int InputTable::integer(std::string_view key, int low, int high) const {
     const auto* value = node(key).as_integer();
     if (value && value->get() >= low && value->get() <= high) return static_cast<int>(value->get());
-    throw not_allowed(key, "whole numbers " + std::to_string(low) + " to " + std::to_string(high));
+    throw not_allowed_whole(key, "whole numbers " + from_to(low, high));
 }
 
 std::string InputTable::text(std::string_view key, std::size_t longest) const {
@@ -135,8 +181,7 @@ int InputTable::choice(std::string_view key, std::span<const std::string_view> n
         const auto found = std::ranges::find(names, std::string_view(name->get()));
         if (found != names.end()) return first + static_cast<int>(found - names.begin());
     }
-    throw not_allowed(
-        key, joined(names) + ", or " + std::to_string(first) + " to " + std::to_string(last));
+    throw not_allowed_whole(key, joined(names) + ", or " + from_to(first, last));
 }
 
 InputTable InputTable::table(std::string_view key) const {
@@ -148,9 +193,12 @@ std::vector<InputTable> InputTable::tables(std::string_view key, std::size_t low
                                            std::size_t high) const {
     const auto* list = node(key).as_array();
     const auto is_table = [](const toml::node& entry) { return entry.is_table(); };
-    if (!list || list->size() < low || list->size() > high || !std::ranges::all_of(*list, is_table))
-        throw not_allowed(key,
-                          std::to_string(low) + " to " + std::to_string(high) + " tables of keys");
+    if (!list || list->size() < low || list->size() > high ||
+        !std::ranges::all_of(*list, is_table)) {
+        const std::string heading = "[[" + path_of(key) + "]]";
+        throw not_allowed(key, from_to(low, high) + (high == 1 ? " table" : " tables") +
+                                   " of keys, headed " + heading);
+    }
     std::vector<InputTable> result;
     for (const toml::node& entry : *list) {
         const std::string number = std::to_string(result.size() + 1);
@@ -166,6 +214,12 @@ InputError InputTable::error(std::string_view key, std::string_view message) con
 
 InputError InputTable::not_allowed(std::string_view key, std::string_view allowed) const {
     return error(key, "value " + shown(node(key)) + "; allowed " + std::string(allowed));
+}
+
+InputError InputTable::not_allowed_whole(std::string_view key, std::string_view allowed) const {
+    if (!node(key).is_floating_point()) return not_allowed(key, allowed);
+    return error(
+        key, "value " + shown(node(key)) + " is no whole number; allowed " + std::string(allowed));
 }
 
 InputError InputTable::located(const toml::node& node, const std::string& message) const {

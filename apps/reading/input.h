@@ -19,7 +19,19 @@ namespace quorvel::host {
 class InputError : public std::runtime_error {
   public:
     explicit InputError(std::string message);
+
+    // Several, of several inputs: a line each.
+    static InputError all(const std::vector<std::string>& messages);
+
+  private:
+    struct Lines {
+        std::string text;
+    };
+    explicit InputError(const Lines& lines) : std::runtime_error(lines.text) {}
 };
+
+// All bytes of a file, or of standard input where the path is "-". Throws InputError.
+std::string read_bytes(const std::string& path);
 
 struct Range {
     double low, high;  // ends included
@@ -60,6 +72,7 @@ class InputTable {
   private:
     const toml::node& node(std::string_view key) const { return *table_->get(key); }
     InputError not_allowed(std::string_view key, std::string_view allowed) const;
+    InputError not_allowed_whole(std::string_view key, std::string_view allowed) const;
     InputError located(const toml::node& node, const std::string& message) const;
     std::string path_of(std::string_view key) const;
 
@@ -70,7 +83,7 @@ class InputTable {
 
 class InputFile {
   public:
-    explicit InputFile(std::string path);
+    explicit InputFile(const std::string& path);         // "-" for standard input
     InputFile(std::string name, std::string_view text);  // of a text that is no file, by a name for messages
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;

@@ -68,4 +68,17 @@ struct Answer {
     bool wrong = false;  // what was checked is not as it should be: exit status 1
 };
 
+// An answer and the input that it is about: a file, "-" for standard input, nothing where a command
+// takes none.
+struct Answered {
+    std::string input;
+    Answer answer;
+};
+
+// What an answer was worked out with.
+struct Origin {
+    std::string command, program_version;
+    std::string library_version;  // empty if the library was not needed
+};
+
 }  // namespace quorvel::host

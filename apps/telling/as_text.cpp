@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "telling/table.h"
+#include "telling/text.h"
 #include "telling/value.h"
 
 namespace quorvel::host {
@@ -92,6 +93,15 @@ std::string as_text(const Answer& answer, bool all_tables) {
         append(text, section.figures.empty() ? "" : text_of(section.figures));
         for (const DataTable& table : section.tables)
             if (all_tables || !table.on_request) append(text, text_of(table));
+    }
+    return text;
+}
+
+std::string as_text(std::span<const Answered> answers, bool all_tables) {
+    std::string text;
+    for (const auto& [input, answer] : answers) {
+        if (answers.size() > 1) append(text, "── " + told_path(input) + " ──\n");
+        append(text, as_text(answer, all_tables));
     }
     return text;
 }

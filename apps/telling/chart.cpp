@@ -5,6 +5,7 @@
 
 #include "telling/gnuplot.h"
 #include "telling/output_file.h"
+#include "telling/svg.h"
 #include "telling/text.h"
 
 namespace quorvel::host {
@@ -143,7 +144,9 @@ void Chart::plot(const std::vector<std::string>& parts) {
 }
 
 std::string Chart::draw(Format format) const {
-    return draw_with_gnuplot(terminal(format, width_, height_), setup + data_ + commands_, format);
+    std::string picture =
+        draw_with_gnuplot(terminal(format, width_, height_), setup + data_ + commands_, format);
+    return format == Format::svg ? svg_without_names(std::move(picture)) : picture;
 }
 
 void Chart::write(const std::string& path) const { write_file(path, draw(Format::svg)); }

@@ -62,4 +62,28 @@ std::string csv_line(const std::vector<std::string>& fields) {
     return line + '\n';
 }
 
+std::string told_path(const std::string& path) { return path == "-" ? "standard input" : path; }
+
+std::string wrapped(std::string_view text, std::size_t width, std::size_t indent) {
+    std::string result, line;
+    const auto end_line = [&] {
+        if (!line.empty()) result.append(indent, ' ').append(line) += '\n';
+        line.clear();
+    };
+    for (std::size_t begin = 0, end; begin < text.size(); begin = end + 1) {
+        end = std::min(text.find_first_of(" \n", begin), text.size());
+        const std::string_view word = text.substr(begin, end - begin);
+        if (indent + character_count(line) + 1 + character_count(word) > width) end_line();
+        if (!line.empty() && !word.empty()) line += ' ';
+        line += word;
+        if (text.substr(std::min(end, text.size()), 2) == "\n\n") {
+            end_line();
+            result += '\n';
+            ++end;
+        }
+    }
+    end_line();
+    return result;
+}
+
 }  // namespace quorvel::host

@@ -13,4 +13,7 @@ std::string told(const Quantity& quantity, const Value& value);
 // For other programs: nothing for NaN.
 std::string digits(const Quantity& quantity, const Value& value);
 
+// The name of a column in CSV: the key and the unit in plain letters, u_value_W_m2K.
+std::string column_name(const Quantity& quantity);
+
 }  // namespace quorvel::host

@@ -12,7 +12,7 @@ OLD = b"an older file"
 BAD = [
     (changed(["name"], ""), 'name: value ""; allowed text'),
     (changed(["station"], 0), "station: value 0; allowed whole numbers 1 to 1000"),
-    (changed(["station"], 1.5), "station: value 1.5; allowed whole"),
+    (changed(["station"], 1.5), "station: value 1.5 is no whole number; allowed whole"),
     (changed(["set3"], {"x": 1}), "set3: unknown key; known are name, station, set1, set2"),
     (changed(["set2"], None), "missing set2"),
     (changed(["set1", "time_A"], [14] * 11), "set1.time_A: value list of 11; allowed 12 numbers"),

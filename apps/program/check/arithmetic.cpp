@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace quorvel::check {
+namespace quorvel::program {
 
 // On x86 the functions of the C library tell of the x87 unit, where nothing is computed.
 #ifdef __SSE__
@@ -35,4 +35,4 @@ std::string fault_of_arithmetic() {
     return {};
 }
 
-}  // namespace quorvel::check
+}  // namespace quorvel::program

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace quorvel::check {
+namespace quorvel::program {
 
 // What is not as it should be; nothing if subnormal numbers are kept, results rounded to nearest,
 // and no exception ends the process.
@@ -13,4 +13,4 @@ std::string fault_of_arithmetic();
 // From now on, no floating-point exception ends the process.
 void mask_exceptions();
 
-}  // namespace quorvel::check
+}  // namespace quorvel::program

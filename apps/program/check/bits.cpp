@@ -7,11 +7,11 @@
 #include "conformance/corpus.h"
 #include "telling/progress.h"
 
-namespace quorvel::check {
+namespace quorvel::program {
 namespace {
 
 constexpr const char* hashes_table =
-#include "corpus_hashes.inc"
+#include "hashes_txt.inc"
     ;
 
 std::map<std::string, std::string> committed_hashes() {
@@ -38,4 +38,4 @@ Bits compare_bits() {
     return bits;
 }
 
-}  // namespace quorvel::check
+}  // namespace quorvel::program

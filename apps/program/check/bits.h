@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace quorvel::check {
+namespace quorvel::program {
 
 struct Bits {
     std::size_t routines;
@@ -15,4 +15,4 @@ struct Bits {
 // Shows its progress where standard error is a terminal.
 Bits compare_bits();
 
-}  // namespace quorvel::check
+}  // namespace quorvel::program

@@ -9,8 +9,8 @@
 #include "conformance/routine_table.h"
 #include "program/check/arithmetic.h"
 #include "program/check/bits.h"
-#include "program/check/library_identity.h"
 #include "program/commands.h"
+#include "program/library_identity.h"
 #include "quorvel/library.h"
 #include "telling/text.h"
 
@@ -69,14 +69,14 @@ std::string fault_of_version(const std::string& version) {
     return (version.empty() ? "unknown" : version) + ", and this program checks " + QUORVEL_VERSION;
 }
 
-void look_at_library(Findings& findings, const check::LibraryIdentity& library) {
+void look_at_library(Findings& findings, const LibraryIdentity& library) {
     findings.tell("library", library.file);
     findings.judge("version", library.version, fault_of_version(library.version));
 }
 
 // Hosts need not have it.
-void look_at_arrays(Findings& findings, const check::LibraryIdentity& library) {
-    const auto [arrays, there, level] = check::array_library_beside(library);
+void look_at_arrays(Findings& findings, const LibraryIdentity& library) {
+    const auto [arrays, there, level] = array_library_beside(library);
     const std::string name = std::filesystem::path(arrays.file).filename().string();
     if (!there) return findings.tell("arrays", "no " + name + " beside the library");
     findings.judge("arrays", name + " beside the library, instructions: " + level,
@@ -85,7 +85,7 @@ void look_at_arrays(Findings& findings, const check::LibraryIdentity& library) {
 
 // False if any is missing.
 bool look_at_routines(Findings& findings) {
-    const auto missing = check::missing_routines();
+    const auto missing = missing_routines();
     findings.judge("routines", std::to_string(conformance::routines().size()) + " are there",
                    missing.empty() ? "" : "without " + in_a_row(missing));
     return missing.empty();
@@ -94,8 +94,8 @@ bool look_at_routines(Findings& findings) {
 // After loading: a library may change the state, and those that it brings with it too.
 void look_at_arithmetic(Findings& findings) {
     findings.judge("arithmetic", "rounds to nearest and keeps subnormal numbers",
-                   check::fault_of_arithmetic());
-    check::mask_exceptions();
+                   fault_of_arithmetic());
+    mask_exceptions();
 }
 
 void look_at_values(Findings& findings) {
@@ -111,7 +111,7 @@ void look_at_values(Findings& findings) {
 }
 
 void look_at_bits(Findings& findings) {
-    const auto [routines, calls, differing] = check::compare_bits();
+    const auto [routines, calls, differing] = compare_bits();
     findings.judge("bits",
                    std::to_string(routines) + " routines give the bits they must, in " +
                        std::to_string(calls) + " calls",
@@ -121,7 +121,7 @@ void look_at_bits(Findings& findings) {
 Answer look_at_installation(bool quick) {
     host::load_library();
     Findings findings;
-    const check::LibraryIdentity library = check::loaded_library();
+    const LibraryIdentity library = loaded_library();
     look_at_library(findings, library);
     const bool complete = look_at_routines(findings);
     look_at_arithmetic(findings);

@@ -1,4 +1,4 @@
-#include "program/check/library_identity.h"
+#include "program/library_identity.h"
 
 #include <filesystem>
 #include <fstream>
@@ -15,7 +15,7 @@
 #include <dlfcn.h>
 #endif
 
-namespace quorvel::check {
+namespace quorvel::program {
 namespace {
 
 #ifdef _WIN32
@@ -58,6 +58,15 @@ LibraryIdentity loaded_library() {
     return {file, version_in(file)};
 }
 
+std::string library_version() {
+    try {
+        host::load_library();
+        return loaded_library().version;
+    } catch (const std::runtime_error&) {
+        return "";
+    }
+}
+
 ArrayLibrary array_library_beside(const LibraryIdentity& library) {
     const auto path = std::filesystem::path(library.file).replace_filename(array_library_name);
     const std::string file = path.string();
@@ -77,4 +86,4 @@ std::vector<std::string> missing_routines() {
     return missing;
 }
 
-}  // namespace quorvel::check
+}  // namespace quorvel::program

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace quorvel::check {
+namespace quorvel::program {
 
 struct LibraryIdentity {
     std::string file;
@@ -12,6 +12,9 @@ struct LibraryIdentity {
 };
 
 LibraryIdentity loaded_library();
+
+// The version of the library, loaded if it is not yet; empty if that cannot be.
+std::string library_version();
 
 // The array library that belongs to it.
 struct ArrayLibrary {
@@ -25,4 +28,4 @@ ArrayLibrary array_library_beside(const LibraryIdentity& library);
 // Routines that it should export and does not.
 std::vector<std::string> missing_routines();
 
-}  // namespace quorvel::check
+}  // namespace quorvel::program
