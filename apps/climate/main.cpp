@@ -124,10 +124,8 @@ class CommandLine {
 }  // namespace
 
 int main(int argc, char** argv) {
-    int status = host::success;
-    const int failed = host::run("quorvel-climate", [&] {
+    return host::run("quorvel-climate", [&] {
         CommandLine command_line;
-        if (command_line.parse(argc, argv)) status = command_line.execute();
+        return command_line.parse(argc, argv) ? command_line.execute() : int{host::success};
     });
-    return failed ? failed : status;
 }

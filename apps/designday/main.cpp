@@ -35,5 +35,8 @@ void design_day(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    return host::run("designday", [&] { design_day(argc, argv); });
+    return host::run("designday", [&] {
+        design_day(argc, argv);
+        return host::success;
+    });
 }

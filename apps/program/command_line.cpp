@@ -5,7 +5,6 @@
 #include <iostream>
 #include <map>
 
-#include "program/commands.h"
 #include "program/completion.h"
 #include "program/library_identity.h"
 #include "program/outputs.h"
@@ -22,13 +21,13 @@ using host::InputError;
 
 class CommandLine {
   public:
-    CommandLine() : commands_(commands()) {
+    explicit CommandLine(const std::vector<Command>& commands) {
         app_.name("quorvel");
         app_.set_help_flag("-h,--help", "Print this help");
         app_.add_flag("--version", version_, "Print the versions of program and library");
         app_.add_option("--write-share", share_)->group("");  // for installing
         app_.require_subcommand(0, 1);
-        for (const Command& command : commands_) add(app_, command);
+        for (const Command& command : commands) add(app_, command);
         help_ = app_.add_subcommand("help", "Print the help of a command");
         help_->add_option("COMMAND", topic_, "The command, with its own where it has any")
             ->option_text("...");
@@ -40,6 +39,9 @@ class CommandLine {
             app_.parse(argc, argv);
         } catch (const CLI::CallForHelp&) {
             return print_help(parsed());
+        } catch (const CLI::ExtrasError& fault) {
+            if (parts_of(parsed()).empty()) throw fault_of(parsed(), fault.what());
+            throw no_command(parsed(), parsed().remaining().front());
         } catch (const CLI::ParseError& fault) {
             throw fault_of(parsed(), fault.what());
         }
@@ -119,6 +121,10 @@ class CommandLine {
         return InputError(name + ": " + what + "; see " + name + " --help");
     }
 
+    InputError no_command(const CLI::App& app, const std::string& word) const {
+        return fault_of(app, "no command \"" + word + "\"; there are " + names_of_parts(app));
+    }
+
     int print_help(const CLI::App& app) const {
         std::cout << as_help(page(app));
         return host::success;
@@ -178,7 +184,6 @@ class CommandLine {
     }
 
     CLI::App app_{"Answers of building physics, worked out with the Quorvel library"};
-    std::vector<Command> commands_;
     std::map<const CLI::App*, const Command*> described_;
     CLI::App* help_;
     const Command* chosen_ = nullptr;
@@ -190,6 +195,8 @@ class CommandLine {
 
 }  // namespace
 
-int run_command_line(int argc, char** argv) { return CommandLine().run(argc, argv); }
+int run_command_line(int argc, char** argv, const std::vector<Command>& commands) {
+    return CommandLine(commands).run(argc, argv);
+}
 
 }  // namespace quorvel::program

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include <map>
+#include <sstream>
 
 #include "program/command.h"
 #include "telling/text.h"
@@ -15,13 +16,14 @@ constexpr std::size_t meanings = 25;  // where they begin
 
 constexpr const char* exit_status = R"(## Exit status
 
-0: done. 1: what was checked is not right, or anything that is not the input's fault, such as a
-missing library. 2: bad input, with one line for each fault that says where and what is allowed.)";
+0: done. 1: what was checked is not right, or anything that is not the
+input's fault, such as a missing library. 2: bad input, with one line for each
+fault that says where and what is allowed.)";
 
 constexpr const char* environment = R"(## Environment
 
-The library, quorvel.dll or libquorvel.so, is looked for beside the program, or is the file that
-the variable QUORVEL_LIBRARY names.)";
+The library, quorvel.dll or libquorvel.so, is looked for beside the program,
+or is the file that the variable QUORVEL_LIBRARY names.)";
 
 const std::map<std::string_view, std::string_view>& input_languages() {
     static const std::map<std::string_view, std::string_view> languages{
@@ -94,11 +96,24 @@ std::string entries_text(const Group& group) {
     return text;
 }
 
-// A topic as it is: written to be read as plain text.
 void append(std::string& text, const std::string& block) {
-    if (block.empty()) return;
-    text += '\n' + block;
-    if (!block.ends_with('\n')) text += '\n';
+    if (!block.empty()) text += '\n' + block;
+}
+
+// Written to be read as it is: only the marks of headings go, and long lines of running text are
+// broken.
+std::string plain_text(const std::string& markdown) {
+    std::string text;
+    std::istringstream lines(markdown);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with('#')) line.erase(0, line.find_first_not_of("# "));
+        const bool running = !line.starts_with(' ') && !line.starts_with('|');
+        if (running && host::character_count(line) > widest)
+            text += host::wrapped(line, widest);
+        else
+            text += line + '\n';
+    }
+    return text;
 }
 
 }  // namespace
@@ -131,7 +146,7 @@ std::string as_help(const Page& page) {
     if (!page.description.empty()) append(text, host::wrapped(page.description, widest));
     for (const Group& group : page.groups)
         append(text, (group.title.empty() ? "" : group.title + ":\n") + entries_text(group));
-    for (const std::string& topic : page.topics) append(text, topic);
+    for (const std::string& topic : page.topics) append(text, plain_text(topic));
     return text;
 }
 

@@ -14,7 +14,6 @@
 #endif
 
 namespace quorvel::host {
-
 namespace {
 
 #ifdef _WIN32
@@ -22,6 +21,7 @@ void prepare_output() {
     SetConsoleOutputCP(CP_UTF8);
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
+    _setmode(_fileno(stdin), _O_BINARY);
 }
 #else
 void prepare_output() {}
@@ -29,13 +29,13 @@ void prepare_output() {}
 
 }  // namespace
 
-int run(const char* program, const std::function<void()>& work) {
+int run(const char* program, const std::function<int()>& work) {
     prepare_output();
     try {
-        work();
+        const int status = work();
         std::cout.flush();
         if (!std::cout) throw std::runtime_error("cannot write the output");
-        return success;
+        return status;
     } catch (const InputError& fault) {
         std::cerr << fault.what() << '\n';
         return bad_input;

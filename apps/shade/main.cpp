@@ -37,5 +37,8 @@ void shaded_day(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    return host::run("shade", [&] { shaded_day(argc, argv); });
+    return host::run("shade", [&] {
+        shaded_day(argc, argv);
+        return host::success;
+    });
 }

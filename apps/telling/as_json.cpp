@@ -104,6 +104,7 @@ Json json_of(const Origin& origin, const Answered& answered) {
     json["inputs"] = json_of(answer.inputs);
     json["method"] = answer.method;
     json["warnings"] = answer.warnings;
+    json["wrong"] = answer.wrong;
     return json;
 }
 

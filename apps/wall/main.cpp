@@ -37,5 +37,8 @@ void wall_through_the_year(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    return host::run("wall", [&] { wall_through_the_year(argc, argv); });
+    return host::run("wall", [&] {
+        wall_through_the_year(argc, argv);
+        return host::success;
+    });
 }

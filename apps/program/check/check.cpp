@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <sstream>
 
 #include "conformance/climate_file.h"
 #include "conformance/examples.h"
@@ -24,10 +25,10 @@ using host::DataTable;
 class Findings {
   public:
     void tell(const std::string& item, const std::string& finding) {
-        add(item, host::absent, finding);
+        add(item, host::none, finding);
     }
     void judge(const std::string& item, const std::string& right, const std::string& fault) {
-        add(item, fault.empty() ? "right" : "WRONG", fault.empty() ? right : fault);
+        add(item, std::string(fault.empty() ? "right" : "WRONG"), fault.empty() ? right : fault);
         right_ = right_ && fault.empty();
     }
     bool right() const { return right_; }
@@ -35,12 +36,12 @@ class Findings {
     DataTable table() const {
         return {.key = "findings",
                 .title = {},
-                .columns = {{"item", ""}, {"verdict", ""}, {"finding", ""}},
+                .columns = {{"item", "item"}, {"verdict", "verdict"}, {"finding", "finding"}},
                 .rows = rows_};
     }
 
   private:
-    void add(const std::string& item, const std::string& verdict, const std::string& finding) {
+    void add(const std::string& item, const host::Value& verdict, const std::string& finding) {
         rows_.push_back({item, verdict, finding});
     }
 
@@ -56,6 +57,14 @@ std::vector<std::string> first_of(std::vector<std::string> all) {
     all.resize(shown);
     all.push_back(more);
     return all;
+}
+
+// Without the line ends and indents of what was printed for reading.
+std::string on_one_line(const std::string& text) {
+    std::istringstream words(text);
+    std::string line;
+    for (std::string word; words >> word;) line += (line.empty() ? "" : " ") + word;
+    return line;
 }
 
 std::string in_a_row(const std::vector<std::string>& names) {
@@ -103,7 +112,8 @@ void look_at_values(Findings& findings) {
     std::vector<std::string> faults;
     for (const auto& example : conformance::examples())
         if (auto fault = conformance::fault_of(example); !fault.empty()) faults.push_back(fault);
-    for (const std::string& fault : first_of(faults)) findings.judge("values", "", fault);
+    for (const std::string& fault : first_of(faults))
+        findings.judge("values", "", on_one_line(fault));
     if (faults.empty())
         findings.judge(
             "values",
@@ -136,7 +146,8 @@ Answer look_at_installation(bool quick) {
 }
 
 constexpr const char* description =
-    "Checks the Quorvel library of this machine: that it can be loaded, is of this version, gives "
+    "Looks at the Quorvel library of this machine: that it can be loaded, is of this version, "
+    "gives "
     "the published values, and gives the same bits as on every other machine.";
 
 constexpr const char* details =
