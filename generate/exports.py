@@ -36,3 +36,10 @@ def array_module_definition(families):
 
 def macro_calls(families):
     return "".join(f"QUORVEL_ROUTINE({name})\n" for name in exported_names(families))
+
+
+def wasm_exports(families):
+    """Options of the linker. Whole arrays go through quorvel_call, which needs no name of its own for each routine."""
+    arrays = [name for name in array_header.names(families) if name.startswith("quorvel_climate_file_")]
+    generic = ["quorvel_call", "quorvel_find_routine", "malloc", "free"]
+    return "".join(f"-Wl,--export={name}\n" for name in [*exported_names(families), *arrays, *generic])

@@ -28,6 +28,7 @@ PRODUCTS = {
     "module-definition": exports.module_definition,
     "array-version-script": exports.array_version_script,
     "array-module-definition": exports.array_module_definition,
+    "wasm-exports": exports.wasm_exports,
     "arrays-only": routine_table.arrays_only,
     "array-functions": array_header.definitions,
     "routine-names": exports.macro_calls,

@@ -1,0 +1,2 @@
+export * from './routines/geometry.js';
+export { ClippingError, clip, overlapArea, polygonArea } from './polygon.js';
