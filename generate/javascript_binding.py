@@ -234,6 +234,23 @@ def _examples(calls):
     return "[\n" + ",\n".join(json.dumps(row) for row in rows) + "\n]\n"
 
 
+def _layouts(calls):
+    """How the corpus of calls has the arguments of each routine, and which function it is here."""
+    rows = {}
+    for call in calls:
+        routine = call.routine
+        if not routine.export:
+            continue
+        room = {arg.name: int(arg.draw[1]) + 2 for arg in routine.args if arg.type == "Integer" and arg.draw}
+        arguments = [
+            {"name": lower_camel(arg.name), "dir": arg.dir, "type": arg.type, "ignored": arg.ignored,
+             "shape": [[extent, 0] if isinstance(extent, int) else [room[extent], lower_camel(extent)] for extent in arg.shape]}
+            for arg in routine.args]
+        result = [{"name": lower_camel(call.results[0].clear_name), "dir": "result", "type": routine.result.type, "shape": []}] if routine.result else []
+        rows[routine.export] = {"family": call.family, "name": lower_camel(call.name), "args": result + arguments}
+    return "{\n" + ",\n".join(f"{json.dumps(key)}: {json.dumps(row)}" for key, row in rows.items()) + "\n}\n"
+
+
 def files(families):
     """The texts by their names, of the package and of its tests."""
     calls = binding_model.calls(families)
@@ -242,6 +259,7 @@ def files(families):
         "quorvel/selectors.js": _selectors(selectors),
         "quorvel/selectors.d.ts": _selector_types(selectors),
         "tests/examples.json": _examples(calls),
+        "tests/layouts.json": _layouts(calls),
     }
     for family in families:
         own = [call for call in calls if call.family == family.family]
