@@ -15,13 +15,6 @@ EDIT = "// Produced from the catalogue of routines (catalogue/); do not edit.\n"
 ARRAYS = {"Real": "Float32Array", "DoubleReal": "Float64Array", "Integer": "Int32Array", "Logical": "boolean[]"}
 
 
-def _plain(arg):
-    """An argument or a result as a literal without its name."""
-    unit = arg.unit if arg.unit not in ("", "1") else ""
-    extents = [extent if isinstance(extent, int) else lower_camel(extent) for extent in arg.shape]
-    return {"unit": unit} if unit else {}, {"shape": extents} if extents else {}
-
-
 def _literal(value):
     """As it is written in JavaScript by hand."""
     if isinstance(value, float) and math.isinf(value):
@@ -44,7 +37,8 @@ class _Selector:
 
 
 def _argument(arg, direction, parameter=None, name=None):
-    unit, shape = _plain(arg)
+    unit = {"unit": arg.unit} if arg.unit not in ("", "1") else {}
+    extents = [extent if isinstance(extent, int) else lower_camel(extent) for extent in arg.shape]
     if direction == "count":
         limits = {"range": _bounds(arg)}
     elif parameter and parameter.selector:
@@ -52,7 +46,7 @@ def _argument(arg, direction, parameter=None, name=None):
     else:
         limits = {"range": parameter.limits} if parameter and parameter.limits else {}
     kind = "Logical" if getattr(arg, "logical", False) else arg.type
-    return {"dir": direction, "name": lower_camel(name or arg.name), "type": kind, **unit, **shape, **limits}
+    return {"dir": direction, "name": lower_camel(name or arg.name), "type": kind, **unit, **({"shape": extents} if extents else {}), **limits}
 
 
 def _bounds(arg):
@@ -83,8 +77,12 @@ def _row(call):
     arrays = _literal(routine.name) if has_kernel(routine) else "null"
     reference = _literal(routine.export) if routine.export else "null"
     rows = "".join(f"  {_literal(argument)},\n" for argument in _arguments(call))
-    return (f"export const {lower_camel(routine.name)} = routine('{call.family}.{lower_camel(routine.name)}', "
-            f"{reference}, {arrays}, [\n{rows}]);\n")
+    names = [f"'{call.family}.{lower_camel(routine.name)}'", reference, arrays]
+    start = f"export const {lower_camel(routine.name)} = routine("
+    line = start + ", ".join(names) + ", ["
+    if len(line) > WIDTH:
+        line = start + "".join(f"\n  {name}," for name in names) + " ["
+    return f"{line}\n{rows}]);\n"
 
 
 def _functions(calls):
@@ -151,14 +149,21 @@ def _result_type(result, many):
     return ARRAYS[result.kind] if many or result.shape else "number"
 
 
+def _remark(text):
+    """A comment of a line, or of more."""
+    return textwrap.fill(f"/** {text} */", WIDTH, initial_indent="  ", subsequent_indent="   * ",
+                         break_long_words=False, break_on_hyphens=False) + "\n"
+
+
 def _structure(call, texts):
     kinds = list(dict.fromkeys(result.kind for result in call.results if not result.shape))
     defaults = {"Logical": "boolean"}
     generic = ", ".join(f"{kind} = {defaults.get(kind, 'number')}" for kind in kinds)
     fields = "".join(
-        f"  /** {texts(result.sentence)} */\n  readonly {lower_camel(result.clear_name)}: "
+        f"{_remark(texts(result.sentence))}  readonly {lower_camel(result.clear_name)}: "
         f"{ARRAYS[result.kind] if result.shape else result.kind};\n" for result in call.results)
-    return f"/** What {lower_camel(call.name)} returns. */\nexport interface {call.structure}{f'<{generic}>' if generic else ''} {{\n{fields}}}\n\n"
+    name = call.structure + (f"<{generic}>" if generic else "")
+    return f"/** What {lower_camel(call.name)} returns. */\nexport interface {name} {{\n{fields}}}\n\n"
 
 
 def _returned(call, many):
@@ -206,7 +211,7 @@ def _selectors(found):
 
 
 def _selector_types(found):
-    text = f"{EDIT}"
+    text = f"{EDIT}import type {{ NameOrValue }} from './numbers.js';\n"
     for name, arg in found.items():
         values = "".join(
             f"  /** {what} */\n  readonly {lower_camel(identifier)}: {value};\n"
@@ -214,7 +219,7 @@ def _selector_types(found):
         about = arg.meaning[0].upper() + arg.meaning[1:]
         text += (f"\n/** {about}: its values by their names. */\nexport declare const {name}: {{\n{values}}};\n"
                  f"/** {about}: a name or its value. */\n"
-                 f"export type {name} = keyof typeof {name} | (typeof {name})[keyof typeof {name}];\n")
+                 f"export type {name} = NameOrValue<typeof {name}>;\n")
     return text
 
 
@@ -243,11 +248,13 @@ def _layouts(calls):
             continue
         room = {arg.name: int(arg.draw[1]) + 2 for arg in routine.args if arg.type == "Integer" and arg.draw}
         arguments = [
-            {"name": lower_camel(arg.name), "dir": arg.dir, "type": arg.type, "ignored": arg.ignored,
-             "shape": [[extent, 0] if isinstance(extent, int) else [room[extent], lower_camel(extent)] for extent in arg.shape]}
+            {"name": lower_camel(arg.name), "dir": arg.dir, "type": arg.type, "shape": [
+                [extent, 0] if isinstance(extent, int) else [room[extent], lower_camel(extent)] for extent in arg.shape]}
             for arg in routine.args]
-        result = [{"name": lower_camel(call.results[0].clear_name), "dir": "result", "type": routine.result.type, "shape": []}] if routine.result else []
-        rows[routine.export] = {"family": call.family, "name": lower_camel(call.name), "args": result + arguments}
+        if routine.result:
+            name = lower_camel(call.results[0].clear_name)
+            arguments.insert(0, {"name": name, "dir": "result", "type": routine.result.type, "shape": []})
+        rows[routine.export] = {"family": call.family, "name": lower_camel(call.name), "args": arguments}
     return "{\n" + ",\n".join(f"{json.dumps(key)}: {json.dumps(row)}" for key, row in rows.items()) + "\n}\n"
 
 

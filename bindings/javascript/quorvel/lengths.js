@@ -16,7 +16,8 @@ export function elementsOf({ name, parameters, arrays }, values) {
     if (!arrays) throw refusal(TypeError, name, argument, value, 'must be one number');
     first ??= { argument, elements: value.length };
     if (value.length !== first.elements)
-      throw refusal(RangeError, name, argument, value, `has ${value.length} elements, and ${first.argument} ${first.elements}`);
+      throw refusal(RangeError, name, argument, value,
+        `has ${value.length} elements, and ${first.argument} ${first.elements}`);
   }
   return first && first.elements;
 }
@@ -38,7 +39,8 @@ export function countsOf(routine, values, checked) {
     const count = countedBy(routine, list, values[list.order]);
     const of = list.shape.find((n) => !isNumber(n));
     if (of && (counts[of] ??= count) !== count)
-      throw refusal(RangeError, name, list.name, values[list.order], `has ${count} ${of}, and another list ${counts[of]}`);
+      throw refusal(RangeError, name, list.name, values[list.order],
+        `has ${count} ${of}, and another list ${counts[of]}`);
   }
   for (const { name: count, range: [low, high] } of checked ? countsTold : [])
     if (counts[count] < low || counts[count] > high)

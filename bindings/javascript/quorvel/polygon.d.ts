@@ -14,9 +14,9 @@ export interface Clipped {
 export declare class ClippingError extends Error {}
 
 /**
- * Difference a - b and overlap of two simple polygons in plan, in double precision. Where b lies within a the difference
- * is two pieces, which touch along level bridges. Exact to about 1e-4 of the diagonal of the box round both, times the
- * length of the boundaries.
+ * Difference a - b and overlap of two simple polygons in plan, in double precision. Where b lies within a the
+ * difference is two pieces, which touch along level bridges. Exact to about 1e-4 of the diagonal of the box round both,
+ * times the length of the boundaries.
  *
  * Throws a ClippingError where a polygon crosses itself or has no area, or where the two cross more than 1024 times.
  * (`unchecked.geometry.clip` is the routine HOHOLEDP of quorvel.h.)

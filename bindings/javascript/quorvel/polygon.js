@@ -27,8 +27,8 @@ export class ClippingError extends Error {
 }
 
 function checkPoints(polygon, name) {
-  const isPoint = ([x, y]) => Number.isFinite(x) && Number.isFinite(y);
-  if (!Array.isArray(polygon) || !polygon.every((point) => Array.isArray(point) && point.length === 2 && isPoint(point)))
+  const isPoint = (point) => Array.isArray(point) && point.length === 2 && point.every(Number.isFinite);
+  if (!Array.isArray(polygon) || !polygon.every(isPoint))
     throw new TypeError(`geometry.clip: ${name} must be a list of points [x, y] of finite numbers`);
 }
 
@@ -38,8 +38,8 @@ function attempt(a, b, room) {
   const points = [...a, ...b];
   const pool = (axis) => Float64Array.from({ length: points.length + room }, (_, i) => points[i]?.[axis] ?? 0);
   const capacity = points.length + room;
-  return clipPools.unchecked(pool(0), pool(1), range(1, a.length), range(a.length + 1, b.length), MOST_CROSSINGS,
-    capacity, capacity, points.length);
+  const [inA, inB] = [range(1, a.length), range(a.length + 1, b.length)];
+  return clipPools.unchecked(pool(0), pool(1), inA, inB, MOST_CROSSINGS, capacity, capacity, points.length);
 }
 
 /** Of a list: the number of vertices of each piece, their positions from 1, negative where a bridge begins; then 0. */

@@ -6,7 +6,8 @@ import { kinds } from './memory.js';
 
 const having = (...directions) => ({ dir }) => directions.includes(dir);
 
-/** What follows from a routine's arguments. A parameter's order is its place in a call, an argument's position that in C. */
+/** What follows from a routine's arguments. The `order` of a parameter is its place in a call here, the `position` of
+ *  an argument that in C. */
 function described(name, reference, arrays, data) {
   const args = data.map((arg) => ({ ...arg, kind: kinds[arg.type] }));
   const parameters = args.filter(having('in', 'inout'));
@@ -51,7 +52,6 @@ function run(known, given, checked) {
   const elements = elementsOf(known, values);
   const counts = countsOf(known, values, checked || elements !== null);
   if (elements === null && known.reference) return told(known, callByReference(known, values, counts));
-  if (elements === 0) return told(known, known.results.map(({ type, kind }) => (type === 'Logical' ? [] : new kind.View(0))));
   return told(known, callForElements(known, values, counts, elements));
 }
 

@@ -1,4 +1,5 @@
 // Produced from the catalogue of routines (catalogue/); do not edit.
+import type { NameOrValue } from './numbers.js';
 
 /** Psychrometer type: its values by their names. */
 export declare const Psychrometer: {
@@ -8,7 +9,7 @@ export declare const Psychrometer: {
   readonly screen: 2;
 };
 /** Psychrometer type: a name or its value. */
-export type Psychrometer = keyof typeof Psychrometer | (typeof Psychrometer)[keyof typeof Psychrometer];
+export type Psychrometer = NameOrValue<typeof Psychrometer>;
 
 /** Kind of element: its values by their names. */
 export declare const ElementKind: {
@@ -18,7 +19,7 @@ export declare const ElementKind: {
   readonly partition: 2;
 };
 /** Kind of element: a name or its value. */
-export type ElementKind = keyof typeof ElementKind | (typeof ElementKind)[keyof typeof ElementKind];
+export type ElementKind = NameOrValue<typeof ElementKind>;
 
 /** Direction of the heat flow: its values by their names. */
 export declare const HeatFlowDirection: {
@@ -30,7 +31,7 @@ export declare const HeatFlowDirection: {
   readonly downward: 3;
 };
 /** Direction of the heat flow: a name or its value. */
-export type HeatFlowDirection = keyof typeof HeatFlowDirection | (typeof HeatFlowDirection)[keyof typeof HeatFlowDirection];
+export type HeatFlowDirection = NameOrValue<typeof HeatFlowDirection>;
 
 /** Direction: its values by their names. */
 export declare const Packing: {
@@ -40,7 +41,7 @@ export declare const Packing: {
   readonly unpack: 2;
 };
 /** Direction: a name or its value. */
-export type Packing = keyof typeof Packing | (typeof Packing)[keyof typeof Packing];
+export type Packing = NameOrValue<typeof Packing>;
 
 /** Surface type of the outer face, normally 1: its values by their names. */
 export declare const Surface: {
@@ -50,7 +51,7 @@ export declare const Surface: {
   readonly inside: 2;
 };
 /** Surface type of the outer face, normally 1: a name or its value. */
-export type Surface = keyof typeof Surface | (typeof Surface)[keyof typeof Surface];
+export type Surface = NameOrValue<typeof Surface>;
 
 /** Exposure of the outer face to the wind: its values by their names. */
 export declare const Exposure: {
@@ -62,7 +63,7 @@ export declare const Exposure: {
   readonly severe: 3;
 };
 /** Exposure of the outer face to the wind: a name or its value. */
-export type Exposure = keyof typeof Exposure | (typeof Exposure)[keyof typeof Exposure];
+export type Exposure = NameOrValue<typeof Exposure>;
 
 /** Kind of pane 3: its values by their names. */
 export declare const PaneKind: {
@@ -72,7 +73,7 @@ export declare const PaneKind: {
   readonly vented: 2;
 };
 /** Kind of pane 3: a name or its value. */
-export type PaneKind = keyof typeof PaneKind | (typeof PaneKind)[keyof typeof PaneKind];
+export type PaneKind = NameOrValue<typeof PaneKind>;
 
 /** Kind of radiation: its values by their names. */
 export declare const Radiation: {
@@ -82,7 +83,7 @@ export declare const Radiation: {
   readonly diffuse: 2;
 };
 /** Kind of radiation: a name or its value. */
-export type Radiation = keyof typeof Radiation | (typeof Radiation)[keyof typeof Radiation];
+export type Radiation = NameOrValue<typeof Radiation>;
 
 /** Set of bands: its values by their names. */
 export declare const BandSet: {
@@ -92,7 +93,7 @@ export declare const BandSet: {
   readonly second: 2;
 };
 /** Set of bands: a name or its value. */
-export type BandSet = keyof typeof BandSet | (typeof BandSet)[keyof typeof BandSet];
+export type BandSet = NameOrValue<typeof BandSet>;
 
 /** How the day is counted: its values by their names. */
 export declare const DayKind: {
@@ -102,7 +103,7 @@ export declare const DayKind: {
   readonly ofYear: 2;
 };
 /** How the day is counted: a name or its value. */
-export type DayKind = keyof typeof DayKind | (typeof DayKind)[keyof typeof DayKind];
+export type DayKind = NameOrValue<typeof DayKind>;
 
 /** Unit: its values by their names. */
 export declare const FileUnit: {
@@ -110,7 +111,7 @@ export declare const FileUnit: {
   readonly openedLast: 31;
 };
 /** Unit: a name or its value. */
-export type FileUnit = keyof typeof FileUnit | (typeof FileUnit)[keyof typeof FileUnit];
+export type FileUnit = NameOrValue<typeof FileUnit>;
 
 /** Kind of sky: its values by their names. */
 export declare const SkyKind: {
@@ -120,7 +121,7 @@ export declare const SkyKind: {
   readonly cloudy: 1;
 };
 /** Kind of sky: a name or its value. */
-export type SkyKind = keyof typeof SkyKind | (typeof SkyKind)[keyof typeof SkyKind];
+export type SkyKind = NameOrValue<typeof SkyKind>;
 
 /** Model of the sky: its values by their names. */
 export declare const SkyModel: {
@@ -132,7 +133,7 @@ export declare const SkyModel: {
   readonly southernEurope: 2;
 };
 /** Model of the sky: a name or its value. */
-export type SkyModel = keyof typeof SkyModel | (typeof SkyModel)[keyof typeof SkyModel];
+export type SkyModel = NameOrValue<typeof SkyModel>;
 
 /** What the time is: its values by their names. */
 export declare const TimeKind: {
@@ -144,7 +145,7 @@ export declare const TimeKind: {
   readonly datedSolar: 3;
 };
 /** What the time is: a name or its value. */
-export type TimeKind = keyof typeof TimeKind | (typeof TimeKind)[keyof typeof TimeKind];
+export type TimeKind = NameOrValue<typeof TimeKind>;
 
 /** 1 for points that are enclosed; left as given for others: its values by their names. */
 export declare const Enclosed: {
@@ -154,4 +155,4 @@ export declare const Enclosed: {
   readonly inside: 1;
 };
 /** 1 for points that are enclosed; left as given for others: a name or its value. */
-export type Enclosed = keyof typeof Enclosed | (typeof Enclosed)[keyof typeof Enclosed];
+export type Enclosed = NameOrValue<typeof Enclosed>;

@@ -22,19 +22,22 @@ test('what is refused, and how that is said', () => {
     [() => psychro.vapourPressure(20, NaN), 'RangeError: psychro.vapourPressure: relativeHumidity is not a number'],
     [() => psychro.vapourPressure(20, '50'),
       "TypeError: psychro.vapourPressure: relativeHumidity must be a number, not '50'"],
-    [() => psychro.vapourPressure(20), 'TypeError: psychro.vapourPressure: takes 2 arguments (dryBulb, relativeHumidity), not 1'],
+    [() => psychro.vapourPressure(20),
+      'TypeError: psychro.vapourPressure: takes 2 arguments (dryBulb, relativeHumidity), not 1'],
     [() => psychro.vapourPressure(20, [40, 101]),
       'RangeError: psychro.vapourPressure: relativeHumidity[1] = 101 is outside its valid range, 0 to 100 %'],
     [() => psychro.vapourPressure([20, 21], [40, 50, 60]),
       'RangeError: psychro.vapourPressure: relativeHumidity has 3 elements, and dryBulb 2'],
     [() => psychro.vapourPressureFromPsychrometer(25, 20, 101325, 'wet'),
-      "RangeError: psychro.vapourPressureFromPsychrometer: psychrometer must be one of 'sling' (1), 'screen' (2), not 'wet'"],
+      'RangeError: psychro.vapourPressureFromPsychrometer: psychrometer must be one of ' +
+        "'sling' (1), 'screen' (2), not 'wet'"],
     [() => climate.designDay(6.5), 'RangeError: climate.designDay: month = 6.5 is not a whole number'],
     [() => fabric.uValue([0.1, 0.05], [0.77], 0.13, 0.04),
       'RangeError: fabric.uValue: conductivity has 1 layers, and another list 2'],
     [() => fabric.uValue(Array(21).fill(0.1), Array(21).fill(1), 0.13, 0.04),
       'RangeError: fabric.uValue: layers = 21 is outside its valid range, 0 to 20'],
-    [() => geometry.crossProduct([1, 2], [1, 2, 3]), 'RangeError: geometry.crossProduct: vectorA must have 3 numbers, not 2'],
+    [() => geometry.crossProduct([1, 2], [1, 2, 3]),
+      'RangeError: geometry.crossProduct: vectorA must have 3 numbers, not 2'],
     [() => geometry.clip([[0, 0], [1, 1], [1, 0], [0, 1]], [[0, 0], [0, 1], [1, 1]]),
       'ClippingError: geometry.clip: a crosses itself'],
     [() => climate.stationRow([1, 2]), 'TypeError: climate.stationRow: row must be one number'],
@@ -55,12 +58,15 @@ test('a selector by value, by name, and an array of them', () => {
 test('arrays have the bits of single numbers, whatever kind of array is given', () => {
   const hours = Float64Array.from({ length: 24 }, (_, hour) => hour);
   const day = climate.solarGeometry(0.9, 172, hours);
-  for (const [i, hour] of hours.entries())
-    for (const [name, value] of Object.entries(climate.solarGeometry(0.9, 172, hour))) assert.equal(day[name][i], value);
+  for (const [i, hour] of hours.entries()) {
+    const single = Object.entries(climate.solarGeometry(0.9, 172, hour));
+    for (const [name, value] of single) assert.equal(day[name][i], value);
+  }
   assert.deepEqual(climate.solarGeometry(0.9, 172, []).sunrise, new Float32Array(0));
   const vectors = geometry.directionTo([0.1, 0.2], 0.3);
   assert.deepEqual(vectors.slice(3), geometry.directionTo(0.2, 0.3));
-  assert.deepEqual(psychro.moistAirDensity([20], 0.01, 101325), Float32Array.of(psychro.moistAirDensity(20, 0.01, 101325)));
+  const density = psychro.moistAirDensity(20, 0.01, 101325);  // without a form by reference
+  assert.deepEqual(psychro.moistAirDensity([20, 20], 0.01, 101325), Float32Array.of(density, density));
 });
 
 test('lists row by row or one number after the other', () => {
@@ -106,16 +112,21 @@ test('polygons: areas add up, pieces touch, and many crossings are survived', ()
   const inner = [[0.5, 0.5], [0.5, 1], [1, 1], [1, 0.5]];
   const left = geometry.clip(square, inner).difference.reduce((sum, piece) => sum + geometry.polygonArea(piece), 0);
   assert.ok(Math.abs(left - 3.75) < 1e-9);
-  const comb = (teeth) => [[0, 0], ...Array.from({ length: teeth }, (_, i) => [[i, 2], [i + 0.5, -2]]).flat(), [teeth, 0], [teeth, -9], [0, -9]];
-  assert.ok(geometry.overlapArea([[-1, 0.5], [-1, 1], [99, 1], [99, 0.5]].map(([x, y]) => [x, y]), comb(4)) > 0);
-  assert.match(refusal(() => geometry.clip(comb(400), comb(400).map(([x, y]) => [x + 0.2, y + 0.1]))), /ClippingError|not refused/);
-  assert.equal(psychro.saturationPressure(0), unchecked.psychro.saturationPressure(0));
+
+  // Combs with as many long teeth, one across the other
+  const tooth = (i, length) => [[i, 0], [i, length], [i + 0.5, length], [i + 0.5, 0]];
+  const comb = (n) => [[0, -1], ...Array.from({ length: n }, (_, i) => tooth(i, n)).flat(), [n, 0], [n, -1]];
+  const across = (n) => comb(n).map(([x, y]) => [y + 0.1, x + 0.1]);
+  assert.ok(Math.abs(geometry.overlapArea(comb(4), across(4)) - 1.9 * 2 - 0.1 * 3.9) < 0.01);
+  assert.match(refusal(() => geometry.clip(comb(20), across(20))), /a and b cross more than 1024 times/);
 });
 
 test('a worker has an instance of its own', async () => {
   const program = `
     const { parentPort } = require('node:worker_threads');
     import('quorvel').then(({ psychro }) => parentPort.postMessage(psychro.saturationPressure(20)));`;
-  const value = await new Promise((resolve, reject) => new Worker(program, { eval: true }).on('message', resolve).on('error', reject));
+  const value = await new Promise((resolve, reject) => {
+    new Worker(program, { eval: true }).on('message', resolve).on('error', reject);
+  });
   assert.equal(value, psychro.saturationPressure(20));
 });

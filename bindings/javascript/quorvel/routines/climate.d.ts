@@ -955,9 +955,11 @@ export interface SolarGeometry<Real = number> {
   readonly solarAltitude: Real;
   /** azimuth, 0 when the sun is below the horizon [rad] */
   readonly solarAzimuth: Real;
-  /** sunrise; 25 when the sun does not rise, 0 when it does not set [h]; not a number with latitude, day or hour outside its range */
+  /** sunrise; 25 when the sun does not rise, 0 when it does not set [h]; not a number with latitude, day or hour
+   * outside its range */
   readonly sunrise: Real;
-  /** sunset; 25 when the sun does not set, 0 when it does not rise [h]; not a number with latitude, day or hour outside its range */
+  /** sunset; 25 when the sun does not set, 0 when it does not rise [h]; not a number with latitude, day or hour outside
+   * its range */
   readonly sunset: Real;
 }
 
@@ -994,7 +996,8 @@ export function solarGeometry(
 export interface SurfaceAngles<Real = number> {
   /** angle of incidence, 0 to pi; above pi/2 the sun is behind the surface [rad] */
   readonly incidence: Real;
-  /** angle off the normal in the plane of normal and slope, positive up the slope; the profile angle of a vertical surface [rad] */
+  /** angle off the normal in the plane of normal and slope, positive up the slope; the profile angle of a vertical
+   * surface [rad] */
   readonly verticalShadowAngle: Real;
   /** angle off the normal in the plane of normal and level line, positive clockwise seen from above [rad] */
   readonly horizontalShadowAngle: Real;

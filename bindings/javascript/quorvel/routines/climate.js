@@ -47,7 +47,10 @@ export const storeDesignDay = routine('climate.storeDesignDay', 'CLDAY', 'store_
   { dir: 'out', name: 'day', type: 'Integer' },
 ]);
 
-export const storeDesignDayByOption = routine('climate.storeDesignDayByOption', 'CLDAYEX', 'store_design_day_by_option', [
+export const storeDesignDayByOption = routine(
+  'climate.storeDesignDayByOption',
+  'CLDAYEX',
+  'store_design_day_by_option', [
   { dir: 'in', name: 'month', type: 'Integer', range: [1, 12] },
   { dir: 'out', name: 'day', type: 'Integer' },
   { dir: 'in', name: 'dayKind', type: 'Integer', selector: selectors.DayKind },
@@ -69,7 +72,10 @@ export const secondDesignDay = routine('climate.secondDesignDay', 'ICLDA2', 'sec
   { dir: 'in', name: 'month', type: 'Integer', range: [1, 12] },
 ]);
 
-export const secondDesignDayByOption = routine('climate.secondDesignDayByOption', 'ICLDA2EX', 'second_design_day_by_option', [
+export const secondDesignDayByOption = routine(
+  'climate.secondDesignDayByOption',
+  'ICLDA2EX',
+  'second_design_day_by_option', [
   { dir: 'result', name: 'day', type: 'Integer' },
   { dir: 'in', name: 'month', type: 'Integer', range: [1, 12] },
   { dir: 'in', name: 'dayKind', type: 'Integer', selector: selectors.DayKind },
@@ -308,7 +314,10 @@ export const surfaceIrradiance = routine('climate.surfaceIrradiance', 'CLSORD', 
   { dir: 'out', name: 'groundReflected', type: 'Real', unit: 'W/m²' },
 ]);
 
-export const surfaceIrradianceAndIncidence = routine('climate.surfaceIrradianceAndIncidence', 'CLSOR2', 'surface_irradiance_and_incidence', [
+export const surfaceIrradianceAndIncidence = routine(
+  'climate.surfaceIrradianceAndIncidence',
+  'CLSOR2',
+  'surface_irradiance_and_incidence', [
   { dir: 'in', name: 'solarAltitude', type: 'Real', unit: 'rad', range: [0, 1.5707964] },
   { dir: 'in', name: 'solarAzimuth', type: 'Real', unit: 'rad', range: [0, 6.2832] },
   { dir: 'in', name: 'surfaceAzimuth', type: 'Real', unit: 'rad', range: [0, 6.2832] },

@@ -10,7 +10,8 @@ export interface CyclicResponse<Real = number> {
   readonly admittanceLead: Real;
   /** decrement factor f, 0 for a partition; not a number with more than 20 layers */
   readonly decrementFactor: Real;
-  /** time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]; not a number with more than 20 layers */
+  /** time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]; not a number with more than 20 layers
+   * */
   readonly decrementLag: Real;
   /** surface factor F; not a number with more than 20 layers */
   readonly surfaceFactor: Real;
@@ -201,7 +202,8 @@ export function totalVapourResistance(thickness: List, vapourResistivity: List):
 
 /** What condensationProfile returns. */
 export interface CondensationProfile {
-  /** temperature at the interfaces, from the inside surface to the outside one [°C]; not a number with a count outside 0 to 20, and beyond element layers + 1 */
+  /** temperature at the interfaces, from the inside surface to the outside one [°C]; not a number with a count outside
+   * 0 to 20, and beyond element layers + 1 */
   readonly interfaceTemperature: Float32Array;
   /** vapour pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond element layers + 1 */
   readonly interfaceVapourPressure: Float32Array;

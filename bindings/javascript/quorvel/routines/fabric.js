@@ -21,7 +21,10 @@ export const cyclicResponse = routine('fabric.cyclicResponse', 'TPADMT', 'cyclic
   { dir: 'out', name: 'uValue', type: 'Real', unit: 'W/m²K' },
 ]);
 
-export const verticalCavityResistance = routine('fabric.verticalCavityResistance', 'TPRCAV', 'vertical_cavity_resistance', [
+export const verticalCavityResistance = routine(
+  'fabric.verticalCavityResistance',
+  'TPRCAV',
+  'vertical_cavity_resistance', [
   { dir: 'result', name: 'cavityResistance', type: 'Real', unit: 'm²K/W' },
   { dir: 'in', name: 'cavityWidth', type: 'Real', unit: 'm', range: [0.001, Infinity] },
 ]);
@@ -85,7 +88,10 @@ export const elementProperty = routine('fabric.elementProperty', 'BELDAT', 'elem
   { dir: 'in', name: 'item', type: 'Integer', range: [1, 72] },
 ]);
 
-export const naturalConvectionCoefficient = routine('fabric.naturalConvectionCoefficient', 'TPHCON', 'natural_convection_coefficient', [
+export const naturalConvectionCoefficient = routine(
+  'fabric.naturalConvectionCoefficient',
+  'TPHCON',
+  'natural_convection_coefficient', [
   { dir: 'result', name: 'heatTransferCoefficient', type: 'Real', unit: 'W/m²K' },
   { dir: 'in', name: 'temperatureDifference', type: 'Real', unit: 'K' },
   { dir: 'in', name: 'characteristicLength', type: 'Real', unit: 'm', range: [0, Infinity] },
@@ -107,7 +113,10 @@ export const packThreeFractions = routine('fabric.packThreeFractions', 'TPCOLT',
   { dir: 'inout', name: 'fraction3', type: 'Real', range: [0, 0.99] },
 ]);
 
-export const packThreeFractionsThirdFirst = routine('fabric.packThreeFractionsThirdFirst', 'TPCOLW2', 'pack_three_fractions_third_first', [
+export const packThreeFractionsThirdFirst = routine(
+  'fabric.packThreeFractionsThirdFirst',
+  'TPCOLW2',
+  'pack_three_fractions_third_first', [
   { dir: 'in', name: 'packing', type: 'Integer', selector: selectors.Packing },
   { dir: 'inout', name: 'packedNumber', type: 'Real', range: [0, 9999.99] },
   { dir: 'inout', name: 'fraction3', type: 'Real', range: [0, 0.99] },
@@ -130,7 +139,10 @@ export const surfaceResistance = routine('fabric.surfaceResistance', 'TPRSUR', '
   { dir: 'in', name: 'exposure', type: 'Integer', selector: selectors.Exposure },
 ]);
 
-export const surfaceResistanceAtEmissivity = routine('fabric.surfaceResistanceAtEmissivity', 'TPRSU2', 'surface_resistance_at_emissivity', [
+export const surfaceResistanceAtEmissivity = routine(
+  'fabric.surfaceResistanceAtEmissivity',
+  'TPRSU2',
+  'surface_resistance_at_emissivity', [
   { dir: 'result', name: 'surfaceResistance', type: 'Real', unit: 'm²K/W' },
   { dir: 'in', name: 'surface', type: 'Integer', selector: selectors.Surface },
   { dir: 'in', name: 'tilt', type: 'Real', unit: 'rad', range: [0, 3.1416] },
@@ -147,7 +159,10 @@ export const uValue = routine('fabric.uValue', 'TPUVAL', 'u_value', [
   { dir: 'out', name: 'uValue', type: 'Real', unit: 'W/m²K' },
 ]);
 
-export const uValueAtTiltAndExposure = routine('fabric.uValueAtTiltAndExposure', 'TPUMOD', 'u_value_at_tilt_and_exposure', [
+export const uValueAtTiltAndExposure = routine(
+  'fabric.uValueAtTiltAndExposure',
+  'TPUMOD',
+  'u_value_at_tilt_and_exposure', [
   { dir: 'result', name: 'uValue', type: 'Real', unit: 'W/m²K' },
   { dir: 'in', name: 'uValue', type: 'Real', unit: 'W/m²K', range: [0, Infinity] },
   { dir: 'in', name: 'tilt', type: 'Real', unit: 'rad', range: [0, 3.1416] },

@@ -240,7 +240,10 @@ export const forwardProjection = routine('geometry.forwardProjection', 'GEPROJ2'
   { dir: 'out', name: 'projectedPoint', type: 'Real', unit: 'm', shape: [3] },
 ]);
 
-export const forwardProjectionOrStart = routine('geometry.forwardProjectionOrStart', 'GEPROJ3', 'forward_projection_or_start', [
+export const forwardProjectionOrStart = routine(
+  'geometry.forwardProjectionOrStart',
+  'GEPROJ3',
+  'forward_projection_or_start', [
   { dir: 'in', name: 'planePoint', type: 'Real', unit: 'm', shape: [3] },
   { dir: 'in', name: 'planeNormal', type: 'Real', shape: [3] },
   { dir: 'in', name: 'point', type: 'Real', unit: 'm', shape: [3] },

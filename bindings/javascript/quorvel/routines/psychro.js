@@ -17,7 +17,10 @@ export const dryAirSpecificHeat = routine('psychro.dryAirSpecificHeat', 'PSCPDR'
   { dir: 'in', name: 'temperature', type: 'Real', unit: '°C', range: [-50, 100] },
 ]);
 
-export const waterVapourSpecificHeat = routine('psychro.waterVapourSpecificHeat', 'PSCPVA', 'water_vapour_specific_heat', [
+export const waterVapourSpecificHeat = routine(
+  'psychro.waterVapourSpecificHeat',
+  'PSCPVA',
+  'water_vapour_specific_heat', [
   { dir: 'result', name: 'specificHeat', type: 'Real', unit: 'kJ/kgK' },
   { dir: 'in', name: 'temperature', type: 'Real', unit: '°C', range: [-50, 100] },
 ]);
@@ -27,61 +30,88 @@ export const latentHeat = routine('psychro.latentHeat', 'PSHFG', 'latent_heat', 
   { dir: 'in', name: 'temperature', type: 'Real', unit: '°C', range: [-50, 100] },
 ]);
 
-export const dryBulbFromVapourPressureAndRelativeHumidity = routine('psychro.dryBulbFromVapourPressureAndRelativeHumidity', null, 'dry_bulb_from_vapour_pressure_and_relative_humidity', [
+export const dryBulbFromVapourPressureAndRelativeHumidity = routine(
+  'psychro.dryBulbFromVapourPressureAndRelativeHumidity',
+  null,
+  'dry_bulb_from_vapour_pressure_and_relative_humidity', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'vapourPressure', type: 'Real', unit: 'Pa', range: [0, Infinity] },
   { dir: 'in', name: 'relativeHumidity', type: 'Real', unit: '%', range: [0, 100] },
 ]);
 
-export const dryBulbFromVapourPressureAndPercentageSaturation = routine('psychro.dryBulbFromVapourPressureAndPercentageSaturation', null, 'dry_bulb_from_vapour_pressure_and_percentage_saturation', [
+export const dryBulbFromVapourPressureAndPercentageSaturation = routine(
+  'psychro.dryBulbFromVapourPressureAndPercentageSaturation',
+  null,
+  'dry_bulb_from_vapour_pressure_and_percentage_saturation', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'vapourPressure', type: 'Real', unit: 'Pa', range: [0, Infinity] },
   { dir: 'in', name: 'percentageSaturation', type: 'Real', unit: '%', range: [0, 100] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const dryBulbFromMoistureContentAndRelativeHumidity = routine('psychro.dryBulbFromMoistureContentAndRelativeHumidity', null, 'dry_bulb_from_moisture_content_and_relative_humidity', [
+export const dryBulbFromMoistureContentAndRelativeHumidity = routine(
+  'psychro.dryBulbFromMoistureContentAndRelativeHumidity',
+  null,
+  'dry_bulb_from_moisture_content_and_relative_humidity', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'moistureContent', type: 'Real', unit: 'kg/kg', range: [0, 0.1] },
   { dir: 'in', name: 'relativeHumidity', type: 'Real', unit: '%', range: [0, 100] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const dryBulbFromMoistureContentAndPercentageSaturation = routine('psychro.dryBulbFromMoistureContentAndPercentageSaturation', null, 'dry_bulb_from_moisture_content_and_percentage_saturation', [
+export const dryBulbFromMoistureContentAndPercentageSaturation = routine(
+  'psychro.dryBulbFromMoistureContentAndPercentageSaturation',
+  null,
+  'dry_bulb_from_moisture_content_and_percentage_saturation', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'moistureContent', type: 'Real', unit: 'kg/kg', range: [0, 0.1] },
   { dir: 'in', name: 'percentageSaturation', type: 'Real', unit: '%', range: [0, 100] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const dryBulbFromEnthalpyAndMoistureContent = routine('psychro.dryBulbFromEnthalpyAndMoistureContent', null, 'dry_bulb_from_enthalpy_and_moisture_content', [
+export const dryBulbFromEnthalpyAndMoistureContent = routine(
+  'psychro.dryBulbFromEnthalpyAndMoistureContent',
+  null,
+  'dry_bulb_from_enthalpy_and_moisture_content', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'enthalpy', type: 'Real', unit: 'kJ/kg', range: [-10, 460] },
   { dir: 'in', name: 'moistureContent', type: 'Real', unit: 'kg/kg', range: [0, 0.1] },
 ]);
 
-export const dryBulbFromEnthalpyAndVapourPressure = routine('psychro.dryBulbFromEnthalpyAndVapourPressure', null, 'dry_bulb_from_enthalpy_and_vapour_pressure', [
+export const dryBulbFromEnthalpyAndVapourPressure = routine(
+  'psychro.dryBulbFromEnthalpyAndVapourPressure',
+  null,
+  'dry_bulb_from_enthalpy_and_vapour_pressure', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'enthalpy', type: 'Real', unit: 'kJ/kg', range: [-10, 460] },
   { dir: 'in', name: 'vapourPressure', type: 'Real', unit: 'Pa', range: [0, Infinity] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const dryBulbFromEnthalpyAndRelativeHumidity = routine('psychro.dryBulbFromEnthalpyAndRelativeHumidity', null, 'dry_bulb_from_enthalpy_and_relative_humidity', [
+export const dryBulbFromEnthalpyAndRelativeHumidity = routine(
+  'psychro.dryBulbFromEnthalpyAndRelativeHumidity',
+  null,
+  'dry_bulb_from_enthalpy_and_relative_humidity', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'enthalpy', type: 'Real', unit: 'kJ/kg', range: [-10, 460] },
   { dir: 'in', name: 'relativeHumidity', type: 'Real', unit: '%', range: [0, 100] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const dryBulbFromEnthalpyAndPercentageSaturation = routine('psychro.dryBulbFromEnthalpyAndPercentageSaturation', null, 'dry_bulb_from_enthalpy_and_percentage_saturation', [
+export const dryBulbFromEnthalpyAndPercentageSaturation = routine(
+  'psychro.dryBulbFromEnthalpyAndPercentageSaturation',
+  null,
+  'dry_bulb_from_enthalpy_and_percentage_saturation', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'enthalpy', type: 'Real', unit: 'kJ/kg', range: [-10, 460] },
   { dir: 'in', name: 'percentageSaturation', type: 'Real', unit: '%', range: [0, 100] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const dryBulbFromWetBulbAndVapourPressure = routine('psychro.dryBulbFromWetBulbAndVapourPressure', null, 'dry_bulb_from_wet_bulb_and_vapour_pressure', [
+export const dryBulbFromWetBulbAndVapourPressure = routine(
+  'psychro.dryBulbFromWetBulbAndVapourPressure',
+  null,
+  'dry_bulb_from_wet_bulb_and_vapour_pressure', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'wetBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'vapourPressure', type: 'Real', unit: 'Pa', range: [0, Infinity] },
@@ -89,7 +119,10 @@ export const dryBulbFromWetBulbAndVapourPressure = routine('psychro.dryBulbFromW
   { dir: 'in', name: 'psychrometer', type: 'Integer', selector: selectors.Psychrometer },
 ]);
 
-export const dryBulbFromWetBulbAndMoistureContent = routine('psychro.dryBulbFromWetBulbAndMoistureContent', null, 'dry_bulb_from_wet_bulb_and_moisture_content', [
+export const dryBulbFromWetBulbAndMoistureContent = routine(
+  'psychro.dryBulbFromWetBulbAndMoistureContent',
+  null,
+  'dry_bulb_from_wet_bulb_and_moisture_content', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'wetBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'moistureContent', type: 'Real', unit: 'kg/kg', range: [0, 0.1] },
@@ -97,7 +130,10 @@ export const dryBulbFromWetBulbAndMoistureContent = routine('psychro.dryBulbFrom
   { dir: 'in', name: 'psychrometer', type: 'Integer', selector: selectors.Psychrometer },
 ]);
 
-export const dryBulbFromWetBulbAndRelativeHumidity = routine('psychro.dryBulbFromWetBulbAndRelativeHumidity', null, 'dry_bulb_from_wet_bulb_and_relative_humidity', [
+export const dryBulbFromWetBulbAndRelativeHumidity = routine(
+  'psychro.dryBulbFromWetBulbAndRelativeHumidity',
+  null,
+  'dry_bulb_from_wet_bulb_and_relative_humidity', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'wetBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'relativeHumidity', type: 'Real', unit: '%', range: [0, 100] },
@@ -105,7 +141,10 @@ export const dryBulbFromWetBulbAndRelativeHumidity = routine('psychro.dryBulbFro
   { dir: 'in', name: 'psychrometer', type: 'Integer', selector: selectors.Psychrometer },
 ]);
 
-export const dryBulbFromWetBulbAndPercentageSaturation = routine('psychro.dryBulbFromWetBulbAndPercentageSaturation', null, 'dry_bulb_from_wet_bulb_and_percentage_saturation', [
+export const dryBulbFromWetBulbAndPercentageSaturation = routine(
+  'psychro.dryBulbFromWetBulbAndPercentageSaturation',
+  null,
+  'dry_bulb_from_wet_bulb_and_percentage_saturation', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'wetBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'percentageSaturation', type: 'Real', unit: '%', range: [0, 100] },
@@ -113,7 +152,10 @@ export const dryBulbFromWetBulbAndPercentageSaturation = routine('psychro.dryBul
   { dir: 'in', name: 'psychrometer', type: 'Integer', selector: selectors.Psychrometer },
 ]);
 
-export const dryBulbFromWetBulbAndEnthalpy = routine('psychro.dryBulbFromWetBulbAndEnthalpy', null, 'dry_bulb_from_wet_bulb_and_enthalpy', [
+export const dryBulbFromWetBulbAndEnthalpy = routine(
+  'psychro.dryBulbFromWetBulbAndEnthalpy',
+  null,
+  'dry_bulb_from_wet_bulb_and_enthalpy', [
   { dir: 'result', name: 'dryBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'wetBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'enthalpy', type: 'Real', unit: 'kJ/kg', range: [-10, 460] },
@@ -133,7 +175,10 @@ export const adiabaticMixing = routine('psychro.adiabaticMixing', null, 'adiabat
   { dir: 'out', name: 'enthalpy', type: 'Real', unit: 'kJ/kg' },
 ]);
 
-export const moistureContentFromPsychrometer = routine('psychro.moistureContentFromPsychrometer', 'PSGS', 'moisture_content_from_psychrometer', [
+export const moistureContentFromPsychrometer = routine(
+  'psychro.moistureContentFromPsychrometer',
+  'PSGS',
+  'moisture_content_from_psychrometer', [
   { dir: 'result', name: 'moistureContent', type: 'Real', unit: 'kg/kg' },
   { dir: 'in', name: 'dryBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'wetBulb', type: 'Real', unit: '°C', range: [-100, 200] },
@@ -148,21 +193,30 @@ export const moistureContent = routine('psychro.moistureContent', null, 'moistur
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const vapourPressureFromMoistureContent = routine('psychro.vapourPressureFromMoistureContent', null, 'vapour_pressure_from_moisture_content', [
+export const vapourPressureFromMoistureContent = routine(
+  'psychro.vapourPressureFromMoistureContent',
+  null,
+  'vapour_pressure_from_moisture_content', [
   { dir: 'result', name: 'vapourPressure', type: 'Real', unit: 'Pa' },
   { dir: 'in', name: 'dryBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'moistureContent', type: 'Real', unit: 'kg/kg', range: [0, 0.1] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const moistureContentFromPercentageSaturation = routine('psychro.moistureContentFromPercentageSaturation', null, 'moisture_content_from_percentage_saturation', [
+export const moistureContentFromPercentageSaturation = routine(
+  'psychro.moistureContentFromPercentageSaturation',
+  null,
+  'moisture_content_from_percentage_saturation', [
   { dir: 'result', name: 'moistureContent', type: 'Real', unit: 'kg/kg' },
   { dir: 'in', name: 'dryBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'percentageSaturation', type: 'Real', unit: '%', range: [0, 100] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const moistureContentFromEnthalpy = routine('psychro.moistureContentFromEnthalpy', null, 'moisture_content_from_enthalpy', [
+export const moistureContentFromEnthalpy = routine(
+  'psychro.moistureContentFromEnthalpy',
+  null,
+  'moisture_content_from_enthalpy', [
   { dir: 'result', name: 'moistureContent', type: 'Real', unit: 'kg/kg' },
   { dir: 'in', name: 'dryBulb', type: 'Real', unit: '°C', range: [-50, 100] },
   { dir: 'in', name: 'enthalpy', type: 'Real', unit: 'kJ/kg', range: [-10, 460] },
@@ -188,7 +242,10 @@ export const specificEnthalpy = routine('psychro.specificEnthalpy', null, 'speci
   { dir: 'in', name: 'moistureContent', type: 'Real', unit: 'kg/kg', range: [0, 0.1] },
 ]);
 
-export const specificEnthalpyFromPsychrometer = routine('psychro.specificEnthalpyFromPsychrometer', 'PSHWET', 'specific_enthalpy_from_psychrometer', [
+export const specificEnthalpyFromPsychrometer = routine(
+  'psychro.specificEnthalpyFromPsychrometer',
+  'PSHWET',
+  'specific_enthalpy_from_psychrometer', [
   { dir: 'result', name: 'enthalpy', type: 'Real', unit: 'kJ/kg' },
   { dir: 'in', name: 'dryBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'wetBulb', type: 'Real', unit: '°C', range: [-100, 200] },
@@ -203,7 +260,10 @@ export const specificVolume = routine('psychro.specificVolume', 'PSSPVL', 'speci
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
 ]);
 
-export const saturationTemperatureFromEnthalpy = routine('psychro.saturationTemperatureFromEnthalpy', 'PSTSAT', 'saturation_temperature_from_enthalpy', [
+export const saturationTemperatureFromEnthalpy = routine(
+  'psychro.saturationTemperatureFromEnthalpy',
+  'PSTSAT',
+  'saturation_temperature_from_enthalpy', [
   { dir: 'result', name: 'temperature', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'enthalpy', type: 'Real', unit: 'kJ/kg', range: [-10, 460] },
   { dir: 'in', name: 'pressure', type: 'Real', unit: 'Pa', range: [50000, 110000] },
@@ -225,7 +285,10 @@ export const poolEvaporation = routine('psychro.poolEvaporation', 'TPPOOL', 'poo
   { dir: 'out', name: 'referenceLoad', type: 'Real', unit: 'W' },
 ]);
 
-export const poolEvaporationFromWetBulb = routine('psychro.poolEvaporationFromWetBulb', 'TPPOOL2', 'pool_evaporation_from_wet_bulb', [
+export const poolEvaporationFromWetBulb = routine(
+  'psychro.poolEvaporationFromWetBulb',
+  'TPPOOL2',
+  'pool_evaporation_from_wet_bulb', [
   { dir: 'in', name: 'waterArea', type: 'Real', unit: 'm²', range: [0, Infinity] },
   { dir: 'in', name: 'wettedArea', type: 'Real', unit: 'm²', range: [0, Infinity] },
   { dir: 'in', name: 'waterTemperature', type: 'Real', unit: '°C', range: [-100, 200] },
@@ -263,7 +326,10 @@ export const relativeHumidity = routine('psychro.relativeHumidity', null, 'relat
   { dir: 'in', name: 'vapourPressure', type: 'Real', unit: 'Pa', range: [0, Infinity] },
 ]);
 
-export const vapourPressureFromPsychrometer = routine('psychro.vapourPressureFromPsychrometer', 'PSVAP', 'vapour_pressure_from_psychrometer', [
+export const vapourPressureFromPsychrometer = routine(
+  'psychro.vapourPressureFromPsychrometer',
+  'PSVAP',
+  'vapour_pressure_from_psychrometer', [
   { dir: 'result', name: 'vapourPressure', type: 'Real', unit: 'Pa' },
   { dir: 'in', name: 'dryBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'wetBulb', type: 'Real', unit: '°C', range: [-100, 200] },
@@ -285,7 +351,10 @@ export const psychrometerWetBulb = routine('psychro.psychrometerWetBulb', 'PSTWE
   { dir: 'in', name: 'psychrometer', type: 'Integer', selector: selectors.Psychrometer },
 ]);
 
-export const wetBulbFromPercentageSaturation = routine('psychro.wetBulbFromPercentageSaturation', 'PSTWB', 'wet_bulb_from_percentage_saturation', [
+export const wetBulbFromPercentageSaturation = routine(
+  'psychro.wetBulbFromPercentageSaturation',
+  'PSTWB',
+  'wet_bulb_from_percentage_saturation', [
   { dir: 'result', name: 'wetBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'dryBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'percentageSaturation', type: 'Real', unit: '%', range: [0, 100] },
@@ -293,7 +362,10 @@ export const wetBulbFromPercentageSaturation = routine('psychro.wetBulbFromPerce
   { dir: 'in', name: 'psychrometer', type: 'Integer', selector: selectors.Psychrometer },
 ]);
 
-export const wetBulbFromMoistureContent = routine('psychro.wetBulbFromMoistureContent', 'PSWBLB', 'wet_bulb_from_moisture_content', [
+export const wetBulbFromMoistureContent = routine(
+  'psychro.wetBulbFromMoistureContent',
+  'PSWBLB',
+  'wet_bulb_from_moisture_content', [
   { dir: 'result', name: 'wetBulb', type: 'Real', unit: '°C' },
   { dir: 'in', name: 'dryBulb', type: 'Real', unit: '°C', range: [-100, 200] },
   { dir: 'in', name: 'moistureContent', type: 'Real', unit: 'kg/kg', range: [0, 0.1] },
