@@ -27,6 +27,8 @@ export const kinds = {
   Text: new Kind(Uint8Array, 0),
 };
 
+const MOST = 2 ** 31;
+
 let base = 0;
 let room = 0;
 
@@ -34,14 +36,16 @@ let room = 0;
 function reserve(bytes) {
   if (bytes <= room) return base;
   wasm.free(base);
-  room = Math.max(2 * bytes, 4096);
-  base = wasm.malloc(room);
-  if (base !== 0) return base;
+  base = 0;
+  for (room of [Math.max(2 * bytes, 4096), bytes]) {
+    if (room <= MOST) base = wasm.malloc(room) >>> 0;
+    if (base !== 0) return base;
+  }
   room = 0;
   throw new RangeError(`quorvel: WebAssembly has no memory for ${bytes} bytes`);
 }
 
-const bytesOf = ({ kind, count }) => (count * kind.size + 7) & ~7;
+const bytesOf = ({ kind, count }) => 8 * Math.ceil((count * kind.size) / 8);
 
 function write({ kind, count, values }, address) {
   const { memory, none } = kind;
