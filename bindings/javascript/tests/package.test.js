@@ -83,9 +83,9 @@ test('what a call leaves alone is not a number', () => {
 });
 
 test('memory grows with arrays, and is used again', () => {
-  const many = new Float32Array(3e6).fill(20);
+  const many = new Float32Array(1e6).fill(20);
   const saturated = psychro.saturationPressure(20);
-  for (let i = 0; i < 5; ++i) assert.equal(psychro.saturationPressure(many)[2999999], saturated);
+  for (let i = 0; i < 3; ++i) assert.equal(psychro.saturationPressure(many)[999999], saturated);
   const tooMuch = 2 ** 31 - 1;
   assert.throws(() => unchecked.geometry.clip([], [], [], [], 0, tooMuch, tooMuch, 0), /no memory for \d+ bytes/);
   assert.equal(psychro.saturationPressure(20), saturated);
