@@ -86,12 +86,16 @@ TemporaryFolder::~TemporaryFolder() {
     std::filesystem::remove_all(path_, ignored);
 }
 
-ExampleFolder::ExampleFolder() : before_(std::filesystem::current_path()) {
-    std::filesystem::current_path(folder_.path());
+void save_example(const std::filesystem::path& path) {
     ClimateFileImage example(example_stations, example_stations);
     Random random(2);
     for (int station = 1; station <= example_stations; ++station) example.fill(station, random);
-    example.save(example_file);
+    example.save(path);
+}
+
+ExampleFolder::ExampleFolder() : before_(std::filesystem::current_path()) {
+    std::filesystem::current_path(folder_.path());
+    save_example(example_file);
 }
 
 ExampleFolder::~ExampleFolder() {

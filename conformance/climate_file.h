@@ -51,6 +51,9 @@ class TemporaryFolder {
     std::filesystem::path path_;
 };
 
+// The example file of random arguments, always the same.
+void save_example(const std::filesystem::path& path);
+
 // While it lives, the working folder has the example file of random arguments in it. To be made
 // after the library is loaded, whose name may be relative.
 class ExampleFolder {

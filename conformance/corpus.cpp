@@ -52,12 +52,12 @@ void call_by_reference(const Routine& routine, std::span<Case> cases) {
 }
 
 void run_corpus(const Routine& routine, const std::function<void(std::uint32_t)>& given,
-                const std::function<void(std::uint32_t)>& left, const Caller& caller) {
+                const std::function<void(std::uint32_t)>& left, const Caller& caller, int count) {
     open_example();
     Random random(seed_of(routine));
     std::vector<Case> cases;
     for (int i = 0; i < caller.at_once; ++i) cases.push_back({ArgumentSet(routine)});
-    for (int done = 0; done < corpus_cases; done += caller.at_once) {
+    for (int done = 0; done < count; done += caller.at_once) {
         for (Case& one : cases) {
             one.arguments.draw_any(random);
             each_argument(routine, one.arguments, Direction::Out, given);

@@ -32,8 +32,8 @@ inline constexpr Caller by_reference = {1, call_by_reference};
 // Hands over, case by case, every word of the inputs and then every word of what the call left;
 // where several are called at once, the inputs of all of them first.
 void run_corpus(const Routine& routine, const std::function<void(std::uint32_t)>& given,
-                const std::function<void(std::uint32_t)>& left,
-                const Caller& caller = by_reference);
+                const std::function<void(std::uint32_t)>& left, const Caller& caller = by_reference,
+                int cases = corpus_cases);
 
 // 16 hexadecimal digits.
 std::string corpus_hash(const Routine& routine, const Caller& caller = by_reference);

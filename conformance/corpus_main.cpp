@@ -6,7 +6,11 @@
 //     quorvel_corpus NAME          the same for one routine
 //     quorvel_corpus --shuffled    the same with the routines in random order, in the user's locale
 //     quorvel_corpus --cases NAME  prints every case of one: arguments before, results after
-//     quorvel_corpus --words NAME  writes the same words as they are in memory, 32 bits each
+//     quorvel_corpus --words NAME [CASES]
+//                              writes the same words as they are in memory, 32 bits each, of all
+//                              cases or of the first ones
+//     quorvel_corpus --climate-file PATH
+//                              saves the climate data file that the cases read
 //
 // The library under test is the one that library.h loads (QUORVEL_LIBRARY names another one).
 #include "conformance/corpus.h"
@@ -15,6 +19,7 @@
 #include <cinttypes>
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <exception>
 #include <iterator>
@@ -48,10 +53,10 @@ void print_cases(const Routine& routine) {
     std::puts("");
 }
 
-void write_words(const Routine& routine) {
+void write_words(const Routine& routine, int count) {
     std::vector<std::uint32_t> words;
     const auto keep = [&](std::uint32_t word) { words.push_back(word); };
-    run_corpus(routine, keep, keep);
+    run_corpus(routine, keep, keep, by_reference, count);
     std::fwrite(words.data(), sizeof words[0], words.size(), stdout);
 }
 
@@ -72,6 +77,7 @@ std::vector<Routine> shuffled(std::vector<Routine> routines) {
 
 int main(int argc, char** argv) try {
     const std::string_view wanted = argc > 1 ? argv[1] : "", routine_name = argc > 2 ? argv[2] : "";
+    if (wanted == "--climate-file" && argc > 2) return save_example(argv[2]), 0;
     quorvel::host::load_library();
     const ExampleFolder folder;
     if (wanted.empty()) return print_hashes(routines()), 0;
@@ -86,9 +92,11 @@ int main(int argc, char** argv) try {
     });
     if (!selected.empty()) {
         if (!cases) return print_hashes(selected), 0;
-        return words ? write_words(selected[0]) : print_cases(selected[0]), 0;
+        const int count = argc > 3 ? std::atoi(argv[3]) : corpus_cases;
+        return words ? write_words(selected[0], count) : print_cases(selected[0]), 0;
     }
-    std::fprintf(stderr, "no exported routine and no family is called %s\n", argv[argc - 1]);
+    std::fprintf(stderr, "no exported routine and no family is called %s\n",
+                 argv[cases && argc > 2 ? 2 : 1]);
     return 2;
 } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
