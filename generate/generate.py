@@ -58,7 +58,7 @@ def texts(options, families):
 
 
 def outdated(output, text):
-    return not output.exists() or output.read_text(encoding="utf-8") != text
+    return not output.exists() or output.read_bytes() != text.encode()
 
 
 def main():
