@@ -135,28 +135,29 @@ def _whole(call):
     places = [f"ref {name}.First, {name}.Stride" for name in names]
     places += [f"ref Elements.First(results){f'.{field(call, result)}' if call.structure else ''}, Elements<{kind}>.Stride"
                for result in call.results]
-    lengths = ", ".join(f"{name}.Length" for name in names)
+    lengths = ", ".join(f'("{name}", {name}.Length)' for name in names)
     return [
-        f'int count = Elements.Count("{qualified(call)}", "{" ".join(names)}", {lengths});',
+        f'int count = Elements.Count("{qualified(call)}", {lengths});',
         f"var results = new {kind}[count];",
         f"Elements.Done(Native.quorvel_{call.name}({', '.join(['(UIntPtr)count', *places])}));",
         f"return {'Elements.Logical(results)' if logical else 'results'};",
     ]
 
 
-def _types(call):
-    return ", ".join(type_of(parameter) for parameter in call.parameters)
+def _inherited(call):
+    """The documentation of the checked method for one element."""
+    types = ", ".join(type_of(parameter) for parameter in call.parameters)
+    return f'/// <inheritdoc cref="Quorvel.{qualified(call)}({types})"/>'
 
 
 def _unchecked(call):
-    see = f"Quorvel.{qualified(call)}({_types(call)})"
     name = camel(call.name)
-    about = f'As <see cref="{see}"/>, unchecked.' if call.name not in BY_HAND else f"{call.routine.export} as it is in quorvel.h."
-    yield f"/// <summary>{about}</summary>"
+    by_hand = f"/// <summary>{call.routine.export} as it is in quorvel.h.</summary>"
+    yield by_hand if call.name in BY_HAND else _inherited(call)
     yield from block(f"public static {returned(call)} {name}({', '.join(parameter_list(call))})", _single(call))
     if is_elementwise(call):
         yield ""
-        yield f'/// <summary>As <see cref="{see}"/>, unchecked, for whole arrays.</summary>'
+        yield _inherited(call)
         yield from block(f"public static {returned(call)}[] {name}({_array_parameters(call)})", _whole(call))
 
 
@@ -179,7 +180,7 @@ def _checked(docs, call):
     yield from block(f"public static {returned(call)} {name}({parameters})", [*checks, _passed_on(call)])
     if is_elementwise(call):
         yield ""
-        yield f'/// <summary><see cref="{qualified(call)}({_types(call)})"/> for whole arrays.</summary>'
+        yield _inherited(call)
         yield from block(f"public static {returned(call)}[] {name}({_array_parameters(call)})", [*checks, _passed_on(call)])
 
 

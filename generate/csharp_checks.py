@@ -41,13 +41,16 @@ def values(call):
 
 
 def memory(call):
-    """Counts told by lists, equally long lists, and what has a fixed number of numbers: whatever the values are."""
+    """Counts told by lists, equally long lists, room for results, and what has a fixed number of numbers: whatever the
+    values are."""
     for count in call.counts:
         for index, listed in enumerate(count.lists):
             name = lower_camel(listed.name)
             known = f', "{lower_camel(count.lists[0].name)}", {lower_camel(count.name)}' if index else ""
             assign = "" if index else f"int {lower_camel(count.name)} = "
             yield f'{assign}Check.Count("{qualified(call)}", "{name}", {name}{known});'
+        if not count.lists:
+            yield f'Check.Room("{qualified(call)}", "{lower_camel(count.name)}", {lower_camel(count.name)});'
     for parameter in call.parameters:
         extents = [str(extent) if isinstance(extent, int) else "-1" for extent in reversed(parameter.shape)]
         if any(extent != "-1" for extent in extents):

@@ -1,5 +1,4 @@
 using System;
-using System.Collections;
 using System.Globalization;
 
 namespace Quorvel
@@ -7,6 +6,8 @@ namespace Quorvel
     /// <summary>What is refused, and in which words. Texts are made only where something is.</summary>
     internal static class Check
     {
+        private const int MostRoom = 1 << 28;
+
         internal static void Range(string routine, string name, float value, float low, float high, string unit)
         {
             if (!(value >= low && value <= high)) Refuse(routine, name, value, Limits(low, high) + unit, name);
@@ -19,8 +20,7 @@ namespace Quorvel
 
         internal static void Range(string routine, string name, int value, int low, int high, string unit)
         {
-            if (value >= low && value <= high) return;
-            Refuse(routine, name, value, Limits(low, high == int.MaxValue ? double.PositiveInfinity : high) + unit, name);
+            if (value < low || value > high) Refuse(routine, name, value, Limits(low, Limit(high)) + unit, name);
         }
 
         internal static void Range(string routine, string name, float[] values, float low, float high, string unit)
@@ -51,13 +51,16 @@ namespace Quorvel
             foreach (double value in NotNull(name, values)) Range(routine, name, value, low, high, unit);
         }
 
-        internal static void Range(string routine, string name, Input<float> values, float low, float high, string unit)
+        internal static void Range(string routine, string name, Input<float> values, float low, float high,
+            string unit)
             => Range(routine, name, values.Items, low, high, unit);
 
-        internal static void Range(string routine, string name, Input<double> values, double low, double high, string unit)
+        internal static void Range(string routine, string name, Input<double> values, double low, double high,
+            string unit)
             => Range(routine, name, values.Items, low, high, unit);
 
-        internal static void Range(string routine, string name, Input<int> values, int low, int high, string unit)
+        internal static void Range(string routine, string name, Input<int> values, int low, int high,
+            string unit)
             => Range(routine, name, values.Items, low, high, unit);
 
         /// <summary>The values of an enumeration go from `low` to `high`.</summary>
@@ -73,7 +76,8 @@ namespace Quorvel
             foreach (T value in NotNull(name, values)) Selector(routine, name, value, low, high);
         }
 
-        internal static void Selector<T>(string routine, string name, Input<T> values, int low, int high) where T : struct
+        internal static void Selector<T>(string routine, string name, Input<T> values, int low, int high)
+            where T : struct
             => Selector(routine, name, values.Items, low, high);
 
         /// <summary>How many there are of what is counted: the extent that varies most slowly.</summary>
@@ -82,14 +86,15 @@ namespace Quorvel
         internal static void Count(string routine, string name, Array list, string other, int count)
         {
             if (Count(routine, name, list) != count)
-                throw new ArgumentException($"{routine}: {name} has {list.GetLength(0)} elements and {other} {count}", name);
+                throw new ArgumentException(
+                    $"{routine}: {name} has {list.GetLength(0)} elements and {other} {count}", name);
         }
 
         internal static void Length(string routine, string name, Array list, int low, int high)
         {
             int count = Count(routine, name, list);
             if (count >= low && count <= high) return;
-            string limits = Limits(low, high == int.MaxValue ? double.PositiveInfinity : high);
+            string limits = Limits(low, Limit(high));
             throw new ArgumentException($"{routine}: {name} has {count} elements; valid are {limits}", name);
         }
 
@@ -97,14 +102,23 @@ namespace Quorvel
         internal static void Shape(string routine, string name, Array list, params int[] extents)
         {
             NotNull(name, list);
-            for (int k = 0; k < extents.Length; ++k)
+            string of = extents.Length > 1 ? "rows" : "elements";
+            for (int k = 0; k < extents.Length; ++k, of = "columns")
                 if (extents[k] >= 0 && list.GetLength(k) != extents[k])
-                    throw new ArgumentException($"{routine}: {name} has {list.GetLength(k)} elements" +
-                                                $"{(extents.Length > 1 ? $" in dimension {k}" : "")}, not {extents[k]}", name);
+                    throw new ArgumentException(
+                        $"{routine}: {name} has {list.GetLength(k)} {of}, not {extents[k]}", name);
+        }
+
+        /// <summary>Results that are counted must fit into the memory.</summary>
+        internal static void Room(string routine, string name, int count)
+        {
+            if (count > MostRoom) Refuse(routine, name, count, Limits(double.NegativeInfinity, MostRoom), name);
         }
 
         internal static T NotNull<T>(string name, T value) where T : class
             => value ?? throw new ArgumentNullException(name);
+
+        private static double Limit(int high) => high == int.MaxValue ? double.PositiveInfinity : high;
 
         private static string Limits(double low, double high)
         {

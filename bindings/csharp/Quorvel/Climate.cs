@@ -427,7 +427,7 @@ namespace Quorvel
             return Unchecked.Climate.BandClimate(band, month, bandSet, percentage);
         }
 
-        /// <summary><see cref="Climate.BandClimate(int, int, BandSet, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.BandClimate(int, int, BandSet, float)"/>
         public static BandClimate[] BandClimate(Input<int> band, Input<int> month, Input<BandSet> bandSet,
             Input<float> percentage)
         {
@@ -463,7 +463,7 @@ namespace Quorvel
             return Unchecked.Climate.InterpolateBandRows(baseRow, lowerBand, upperBand, month, bandWeight);
         }
 
-        /// <summary><see cref="Climate.InterpolateBandRows(int, int, int, int, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.InterpolateBandRows(int, int, int, int, float)"/>
         public static float[] InterpolateBandRows(Input<int> baseRow, Input<int> lowerBand, Input<int> upperBand,
             Input<int> month, Input<float> bandWeight)
         {
@@ -508,7 +508,7 @@ namespace Quorvel
             return Unchecked.Climate.StoreDesignDay(month);
         }
 
-        /// <summary><see cref="Climate.StoreDesignDay(int)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.StoreDesignDay(int)"/>
         public static int[] StoreDesignDay(Input<int> month)
         {
             Check.Range("Climate.StoreDesignDay", "month", month, 1, 12, "");
@@ -534,7 +534,7 @@ namespace Quorvel
             return Unchecked.Climate.StoreDesignDayByOption(month, dayKind);
         }
 
-        /// <summary><see cref="Climate.StoreDesignDayByOption(int, DayKind)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.StoreDesignDayByOption(int, DayKind)"/>
         public static int[] StoreDesignDayByOption(Input<int> month, Input<DayKind> dayKind)
         {
             Check.Range("Climate.StoreDesignDayByOption", "month", month, 1, 12, "");
@@ -558,7 +558,7 @@ namespace Quorvel
             return Unchecked.Climate.DesignDay(month);
         }
 
-        /// <summary><see cref="Climate.DesignDay(int)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.DesignDay(int)"/>
         public static int[] DesignDay(Input<int> month)
         {
             Check.Range("Climate.DesignDay", "month", month, 1, 12, "");
@@ -584,7 +584,7 @@ namespace Quorvel
             return Unchecked.Climate.DesignDayByOption(month, dayKind);
         }
 
-        /// <summary><see cref="Climate.DesignDayByOption(int, DayKind)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.DesignDayByOption(int, DayKind)"/>
         public static int[] DesignDayByOption(Input<int> month, Input<DayKind> dayKind)
         {
             Check.Range("Climate.DesignDayByOption", "month", month, 1, 12, "");
@@ -608,7 +608,7 @@ namespace Quorvel
             return Unchecked.Climate.SecondDesignDay(month);
         }
 
-        /// <summary><see cref="Climate.SecondDesignDay(int)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SecondDesignDay(int)"/>
         public static int[] SecondDesignDay(Input<int> month)
         {
             Check.Range("Climate.SecondDesignDay", "month", month, 1, 12, "");
@@ -633,7 +633,7 @@ namespace Quorvel
             return Unchecked.Climate.SecondDesignDayByOption(month, dayKind);
         }
 
-        /// <summary><see cref="Climate.SecondDesignDayByOption(int, DayKind)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SecondDesignDayByOption(int, DayKind)"/>
         public static int[] SecondDesignDayByOption(Input<int> month, Input<DayKind> dayKind)
         {
             Check.Range("Climate.SecondDesignDayByOption", "month", month, 1, 12, "");
@@ -835,8 +835,7 @@ namespace Quorvel
                 hourOfLowest);
         }
 
-        /// <summary><see cref="Climate.DailyTemperature(float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.DailyTemperature(float, float, float, float, float)"/>
         public static float[] DailyTemperature(Input<float> hour, Input<float> highestTemperature,
             Input<float> lowestTemperature, Input<float> hourOfHighest, Input<float> hourOfLowest)
         {
@@ -883,8 +882,7 @@ namespace Quorvel
             return Unchecked.Climate.DailyValue(hour, mean, amplitude, firstHour, secondHour, amplitudeFactor);
         }
 
-        /// <summary><see cref="Climate.DailyValue(float, float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.DailyValue(float, float, float, float, float, float)"/>
         public static float[] DailyValue(Input<float> hour, Input<float> mean, Input<float> amplitude,
             Input<float> firstHour, Input<float> secondHour, Input<float> amplitudeFactor)
         {
@@ -925,7 +923,7 @@ namespace Quorvel
             return Unchecked.Climate.DesignIrradiance(solarAltitude, siteHeight, skyKind);
         }
 
-        /// <summary><see cref="Climate.DesignIrradiance(float, float, SkyKind)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.DesignIrradiance(float, float, SkyKind)"/>
         public static DesignIrradiance[] DesignIrradiance(Input<float> solarAltitude, Input<float> siteHeight,
             Input<SkyKind> skyKind)
         {
@@ -954,7 +952,7 @@ namespace Quorvel
             return Unchecked.Climate.HeightFactor(siteHeight, solarAltitude);
         }
 
-        /// <summary><see cref="Climate.HeightFactor(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.HeightFactor(float, float)"/>
         public static float[] HeightFactor(Input<float> siteHeight, Input<float> solarAltitude)
         {
             Check.Range("Climate.HeightFactor", "siteHeight", siteHeight, 0f, 4000f, " m");
@@ -979,7 +977,7 @@ namespace Quorvel
             return Unchecked.Climate.EccentricityFactor(day);
         }
 
-        /// <summary><see cref="Climate.EccentricityFactor(int)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.EccentricityFactor(int)"/>
         public static float[] EccentricityFactor(Input<int> day)
         {
             Check.Range("Climate.EccentricityFactor", "day", day, 1, 366, "");
@@ -1008,7 +1006,7 @@ namespace Quorvel
             return Unchecked.Climate.ClearnessIndex(day, solarAltitude, globalHorizontal);
         }
 
-        /// <summary><see cref="Climate.ClearnessIndex(int, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.ClearnessIndex(int, float, float)"/>
         public static float[] ClearnessIndex(Input<int> day, Input<float> solarAltitude, Input<float> globalHorizontal)
         {
             Check.Range("Climate.ClearnessIndex", "day", day, 1, 366, "");
@@ -1068,8 +1066,7 @@ namespace Quorvel
                 diffuseHorizontal, extraterrestrialHorizontal, groundReflectance);
         }
 
-        /// <summary><see cref="Climate.MuneerSlope(float, float, float, float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.MuneerSlope(float, float, float, float, float, float, float, float)"/>
         public static MuneerSlope[] MuneerSlope(Input<float> solarAltitude, Input<float> solarAzimuth,
             Input<float> surfaceAzimuth, Input<float> tilt, Input<float> beamHorizontal, Input<float> diffuseHorizontal,
             Input<float> extraterrestrialHorizontal, Input<float> groundReflectance)
@@ -1130,8 +1127,7 @@ namespace Quorvel
                 extraterrestrialNormal);
         }
 
-        /// <summary><see cref="Climate.PerezDiffuse(float, float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.PerezDiffuse(float, float, float, float, float, float)"/>
         public static float[] PerezDiffuse(Input<float> solarAltitude, Input<float> tilt, Input<float> beamHorizontal,
             Input<float> diffuseHorizontal, Input<float> incidence, Input<float> extraterrestrialNormal)
         {
@@ -1165,7 +1161,7 @@ namespace Quorvel
             return Unchecked.Climate.SiteConstants(siteClass, month);
         }
 
-        /// <summary><see cref="Climate.SiteConstants(int, int)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SiteConstants(int, int)"/>
         public static SiteConstants[] SiteConstants(Input<int> siteClass, Input<int> month)
         {
             Check.Range("Climate.SiteConstants", "siteClass", siteClass, 1, 6, "");
@@ -1206,8 +1202,7 @@ namespace Quorvel
             return Unchecked.Climate.DiffuseTiltFactor(day, solarAltitude, beamHorizontal, tilt, skyModel);
         }
 
-        /// <summary><see cref="Climate.DiffuseTiltFactor(int, float, float, float, SkyModel)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.DiffuseTiltFactor(int, float, float, float, SkyModel)"/>
         public static float[] DiffuseTiltFactor(Input<int> day, Input<float> solarAltitude, Input<float> beamHorizontal,
             Input<float> tilt, Input<SkyModel> skyModel)
         {
@@ -1264,8 +1259,7 @@ namespace Quorvel
                 beamHorizontal, diffuseHorizontal, skyModel);
         }
 
-        /// <summary><see cref="Climate.SlopeDiffuse(int, float, float, float, float, float, float, SkyModel)"/> for
-        /// whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SlopeDiffuse(int, float, float, float, float, float, float, SkyModel)"/>
         public static float[] SlopeDiffuse(Input<int> day, Input<float> solarAltitude, Input<float> solarAzimuth,
             Input<float> surfaceAzimuth, Input<float> tilt, Input<float> beamHorizontal, Input<float> diffuseHorizontal,
             Input<SkyModel> skyModel)
@@ -1311,8 +1305,7 @@ namespace Quorvel
                 longWaveLoss);
         }
 
-        /// <summary><see cref="Climate.SolAirTemperature(float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SolAirTemperature(float, float, float, float, float)"/>
         public static float[] SolAirTemperature(Input<float> baseTemperature, Input<float> surfaceCoefficient,
             Input<float> absorptance, Input<float> irradiance, Input<float> longWaveLoss)
         {
@@ -1346,7 +1339,7 @@ namespace Quorvel
             return Unchecked.Climate.LongWaveLoss(tilt, cloudCover);
         }
 
-        /// <summary><see cref="Climate.LongWaveLoss(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.LongWaveLoss(float, float)"/>
         public static float[] LongWaveLoss(Input<float> tilt, Input<float> cloudCover)
         {
             Check.Range("Climate.LongWaveLoss", "tilt", tilt, 0f, 3.1416f, " rad");
@@ -1383,7 +1376,7 @@ namespace Quorvel
             return Unchecked.Climate.SolarTimeCorrection(clockOffset, day, longitude, referenceLongitude);
         }
 
-        /// <summary><see cref="Climate.SolarTimeCorrection(float, int, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SolarTimeCorrection(float, int, float, float)"/>
         public static float[] SolarTimeCorrection(Input<float> clockOffset, Input<int> day, Input<float> longitude,
             Input<float> referenceLongitude)
         {
@@ -1435,8 +1428,7 @@ namespace Quorvel
                 zoneMeridian);
         }
 
-        /// <summary><see cref="Climate.AlmanacPosition(TimeKind, int, int, int, float, float, float, float)"/> for
-        /// whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.AlmanacPosition(TimeKind, int, int, int, float, float, float, float)"/>
         public static AlmanacPosition[] AlmanacPosition(Input<TimeKind> timeKind, Input<int> year, Input<int> month,
             Input<int> dayOfMonth, Input<float> clockTime, Input<float> latitude, Input<float> longitude,
             Input<float> zoneMeridian)
@@ -1476,7 +1468,7 @@ namespace Quorvel
             return Unchecked.Climate.AlmanacSunHours(year, month, dayOfMonth, latitude);
         }
 
-        /// <summary><see cref="Climate.AlmanacSunHours(int, int, int, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.AlmanacSunHours(int, int, int, float)"/>
         public static AlmanacSunHours[] AlmanacSunHours(Input<int> year, Input<int> month, Input<int> dayOfMonth,
             Input<float> latitude)
         {
@@ -1516,7 +1508,7 @@ namespace Quorvel
             return Unchecked.Climate.SolarGeometry(latitude, day, solarTime);
         }
 
-        /// <summary><see cref="Climate.SolarGeometry(float, int, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SolarGeometry(float, int, float)"/>
         public static SolarGeometry[] SolarGeometry(Input<float> latitude, Input<int> day, Input<float> solarTime)
         {
             Check.Range("Climate.SolarGeometry", "latitude", latitude, -1.5707964f, 1.5707964f, " rad");
@@ -1554,7 +1546,7 @@ namespace Quorvel
             return Unchecked.Climate.SurfaceAngles(solarAltitude, solarAzimuth, surfaceAzimuth, tilt);
         }
 
-        /// <summary><see cref="Climate.SurfaceAngles(float, float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SurfaceAngles(float, float, float, float)"/>
         public static SurfaceAngles[] SurfaceAngles(Input<float> solarAltitude, Input<float> solarAzimuth,
             Input<float> surfaceAzimuth, Input<float> tilt)
         {
@@ -1608,8 +1600,7 @@ namespace Quorvel
                 diffuseHorizontal, groundReflectance, beamFactor, diffuseFactor);
         }
 
-        /// <summary><see cref="Climate.SurfaceIrradiance(float, float, float, float, float, float, float, float, float)"/>
-        /// for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SurfaceIrradiance(float, float, float, float, float, float, float, float, float)"/>
         public static SurfaceIrradiance[] SurfaceIrradiance(Input<float> solarAltitude, Input<float> solarAzimuth,
             Input<float> surfaceAzimuth, Input<float> tilt, Input<float> directNormal, Input<float> diffuseHorizontal,
             Input<float> groundReflectance, Input<float> beamFactor, Input<float> diffuseFactor)
@@ -1668,8 +1659,7 @@ namespace Quorvel
                 directNormal, diffuseHorizontal, groundReflectance, beamFactor, diffuseFactor);
         }
 
-        /// <summary><see cref="Climate.SurfaceIrradianceAndIncidence(float, float, float, float, float, float, float, float, float)"/>
-        /// for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Climate.SurfaceIrradianceAndIncidence(float, float, float, float, float, float, float, float, float)"/>
         public static SurfaceIrradianceAndIncidence[] SurfaceIrradianceAndIncidence(Input<float> solarAltitude,
             Input<float> solarAzimuth, Input<float> surfaceAzimuth, Input<float> tilt, Input<float> directNormal,
             Input<float> diffuseHorizontal, Input<float> groundReflectance, Input<float> beamFactor,
@@ -1699,7 +1689,7 @@ namespace Quorvel
         /// <summary>Calendar, sun and sky, unchecked.</summary>
         public static class Climate
         {
-            /// <summary>As <see cref="Quorvel.Climate.LocateBand(float, int, float[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.LocateBand(float, int, float[,])"/>
             public static LocateBand LocateBand(float fraction, int month, float[,] frequencies)
             {
                 Check.Shape("Climate.LocateBand", "frequencies", frequencies, 10, 12);
@@ -1709,7 +1699,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.BandClimate(int, int, BandSet, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.BandClimate(int, int, BandSet, float)"/>
             public static BandClimate BandClimate(int band, int month, BandSet bandSet, float percentage)
             {
                 var results = new BandClimate { Percentage = percentage, Q1 = float.NaN, Q2 = float.NaN, Q3 = float.NaN,
@@ -1721,13 +1711,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.BandClimate(int, int, BandSet, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.BandClimate(int, int, BandSet, float)"/>
             public static BandClimate[] BandClimate(Input<int> band, Input<int> month, Input<BandSet> bandSet,
                 Input<float> percentage)
             {
-                int count = Elements.Count("Climate.BandClimate", "band month bandSet percentage", band.Length,
-                    month.Length, bandSet.Length, percentage.Length);
+                int count = Elements.Count("Climate.BandClimate", ("band", band.Length), ("month", month.Length),
+                    ("bandSet", bandSet.Length), ("percentage", percentage.Length));
                 var results = new BandClimate[count];
                 Elements.Done(Native.quorvel_band_climate((UIntPtr)count, ref band.First, band.Stride, ref month.First,
                     month.Stride, ref bandSet.First, bandSet.Stride, ref percentage.First, percentage.Stride,
@@ -1742,8 +1731,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.InterpolateBandRows(int, int, int, int, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.InterpolateBandRows(int, int, int, int, float)"/>
             public static float InterpolateBandRows(int baseRow, int lowerBand, int upperBand, int month,
                 float bandWeight)
             {
@@ -1752,14 +1740,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.InterpolateBandRows(int, int, int, int, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.InterpolateBandRows(int, int, int, int, float)"/>
             public static float[] InterpolateBandRows(Input<int> baseRow, Input<int> lowerBand, Input<int> upperBand,
                 Input<int> month, Input<float> bandWeight)
             {
-                int count = Elements.Count("Climate.InterpolateBandRows",
-                    "baseRow lowerBand upperBand month bandWeight", baseRow.Length, lowerBand.Length, upperBand.Length,
-                    month.Length, bandWeight.Length);
+                int count = Elements.Count("Climate.InterpolateBandRows", ("baseRow", baseRow.Length), ("lowerBand",
+                    lowerBand.Length), ("upperBand", upperBand.Length), ("month", month.Length), ("bandWeight",
+                    bandWeight.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_interpolate_band_rows((UIntPtr)count, ref baseRow.First, baseRow.Stride,
                     ref lowerBand.First, lowerBand.Stride, ref upperBand.First, upperBand.Stride, ref month.First,
@@ -1768,7 +1755,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.BandRow(int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.BandRow(int)"/>
             public static float[] BandRow(int row)
             {
                 float[] results = new float[12];
@@ -1776,7 +1763,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.StoreDesignDay(int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.StoreDesignDay(int)"/>
             public static int StoreDesignDay(int month)
             {
                 int results = 0;
@@ -1784,17 +1771,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.StoreDesignDay(int)"/>, unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.StoreDesignDay(int)"/>
             public static int[] StoreDesignDay(Input<int> month)
             {
-                int count = Elements.Count("Climate.StoreDesignDay", "month", month.Length);
+                int count = Elements.Count("Climate.StoreDesignDay", ("month", month.Length));
                 var results = new int[count];
                 Elements.Done(Native.quorvel_store_design_day((UIntPtr)count, ref month.First, month.Stride,
                     ref Elements.First(results), Elements<int>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.StoreDesignDayByOption(int, DayKind)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.StoreDesignDayByOption(int, DayKind)"/>
             public static int StoreDesignDayByOption(int month, DayKind dayKind)
             {
                 int results = 0;
@@ -1802,87 +1789,84 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.StoreDesignDayByOption(int, DayKind)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.StoreDesignDayByOption(int, DayKind)"/>
             public static int[] StoreDesignDayByOption(Input<int> month, Input<DayKind> dayKind)
             {
-                int count = Elements.Count("Climate.StoreDesignDayByOption", "month dayKind", month.Length,
-                    dayKind.Length);
+                int count = Elements.Count("Climate.StoreDesignDayByOption", ("month", month.Length), ("dayKind",
+                    dayKind.Length));
                 var results = new int[count];
                 Elements.Done(Native.quorvel_store_design_day_by_option((UIntPtr)count, ref month.First, month.Stride,
                     ref dayKind.First, dayKind.Stride, ref Elements.First(results), Elements<int>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DesignDay(int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DesignDay(int)"/>
             public static int DesignDay(int month)
             {
                 return Native.ICLDAY(ref month);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DesignDay(int)"/>, unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DesignDay(int)"/>
             public static int[] DesignDay(Input<int> month)
             {
-                int count = Elements.Count("Climate.DesignDay", "month", month.Length);
+                int count = Elements.Count("Climate.DesignDay", ("month", month.Length));
                 var results = new int[count];
                 Elements.Done(Native.quorvel_design_day((UIntPtr)count, ref month.First, month.Stride,
                     ref Elements.First(results), Elements<int>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DesignDayByOption(int, DayKind)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DesignDayByOption(int, DayKind)"/>
             public static int DesignDayByOption(int month, DayKind dayKind)
             {
                 return Native.ICLDAYEX(ref month, ref dayKind);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DesignDayByOption(int, DayKind)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DesignDayByOption(int, DayKind)"/>
             public static int[] DesignDayByOption(Input<int> month, Input<DayKind> dayKind)
             {
-                int count = Elements.Count("Climate.DesignDayByOption", "month dayKind", month.Length, dayKind.Length);
+                int count = Elements.Count("Climate.DesignDayByOption", ("month", month.Length), ("dayKind",
+                    dayKind.Length));
                 var results = new int[count];
                 Elements.Done(Native.quorvel_design_day_by_option((UIntPtr)count, ref month.First, month.Stride,
                     ref dayKind.First, dayKind.Stride, ref Elements.First(results), Elements<int>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SecondDesignDay(int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SecondDesignDay(int)"/>
             public static int SecondDesignDay(int month)
             {
                 return Native.ICLDA2(ref month);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SecondDesignDay(int)"/>, unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SecondDesignDay(int)"/>
             public static int[] SecondDesignDay(Input<int> month)
             {
-                int count = Elements.Count("Climate.SecondDesignDay", "month", month.Length);
+                int count = Elements.Count("Climate.SecondDesignDay", ("month", month.Length));
                 var results = new int[count];
                 Elements.Done(Native.quorvel_second_design_day((UIntPtr)count, ref month.First, month.Stride,
                     ref Elements.First(results), Elements<int>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SecondDesignDayByOption(int, DayKind)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SecondDesignDayByOption(int, DayKind)"/>
             public static int SecondDesignDayByOption(int month, DayKind dayKind)
             {
                 return Native.ICLDA2EX(ref month, ref dayKind);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SecondDesignDayByOption(int, DayKind)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SecondDesignDayByOption(int, DayKind)"/>
             public static int[] SecondDesignDayByOption(Input<int> month, Input<DayKind> dayKind)
             {
-                int count = Elements.Count("Climate.SecondDesignDayByOption", "month dayKind", month.Length,
-                    dayKind.Length);
+                int count = Elements.Count("Climate.SecondDesignDayByOption", ("month", month.Length), ("dayKind",
+                    dayKind.Length));
                 var results = new int[count];
                 Elements.Done(Native.quorvel_second_design_day_by_option((UIntPtr)count, ref month.First, month.Stride,
                     ref dayKind.First, dayKind.Stride, ref Elements.First(results), Elements<int>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.StationRecords(string, int, int, float[,])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.StationRecords(string, int, int, float[,])"/>
             public static float[,] StationRecords(string fileName, int station, int month, float[,] stationRecords)
             {
                 Check.Shape("Climate.StationRecords", "stationRecords", stationRecords, 12, 11);
@@ -1891,8 +1875,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.StationClimate(FileUnit, int, int, int, BandSet, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.StationClimate(FileUnit, int, int, int, BandSet, float)"/>
             public static StationClimate StationClimate(FileUnit fileUnit, int station, int band, int month,
                 BandSet bandSet, float percentage)
             {
@@ -1904,7 +1887,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.LocateStationBand(float, int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.LocateStationBand(float, int)"/>
             public static LocateStationBand LocateStationBand(float fraction, int month)
             {
                 var results = new LocateStationBand { BandWeight = float.NaN };
@@ -1913,8 +1896,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.InterpolateStationRows(int, int, int, int, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.InterpolateStationRows(int, int, int, int, float)"/>
             public static float InterpolateStationRows(int baseRow, int lowerBand, int upperBand, int month,
                 float bandWeight)
             {
@@ -1923,7 +1905,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.StationRow(int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.StationRow(int)"/>
             public static float[] StationRow(int row)
             {
                 float[] results = Blank.Of(new float[12]);
@@ -1931,8 +1913,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DailyTemperature(float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DailyTemperature(float, float, float, float, float)"/>
             public static float DailyTemperature(float hour, float highestTemperature, float lowestTemperature,
                 float hourOfHighest, float hourOfLowest)
             {
@@ -1940,14 +1921,13 @@ namespace Quorvel
                     ref hourOfLowest);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DailyTemperature(float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DailyTemperature(float, float, float, float, float)"/>
             public static float[] DailyTemperature(Input<float> hour, Input<float> highestTemperature,
                 Input<float> lowestTemperature, Input<float> hourOfHighest, Input<float> hourOfLowest)
             {
-                int count = Elements.Count("Climate.DailyTemperature",
-                    "hour highestTemperature lowestTemperature hourOfHighest hourOfLowest", hour.Length,
-                    highestTemperature.Length, lowestTemperature.Length, hourOfHighest.Length, hourOfLowest.Length);
+                int count = Elements.Count("Climate.DailyTemperature", ("hour", hour.Length), ("highestTemperature",
+                    highestTemperature.Length), ("lowestTemperature", lowestTemperature.Length), ("hourOfHighest",
+                    hourOfHighest.Length), ("hourOfLowest", hourOfLowest.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_daily_temperature((UIntPtr)count, ref hour.First, hour.Stride,
                     ref highestTemperature.First, highestTemperature.Stride, ref lowestTemperature.First,
@@ -1956,8 +1936,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DailyValue(float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DailyValue(float, float, float, float, float, float)"/>
             public static float DailyValue(float hour, float mean, float amplitude, float firstHour, float secondHour,
                 float amplitudeFactor)
             {
@@ -1965,14 +1944,13 @@ namespace Quorvel
                     ref amplitudeFactor);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DailyValue(float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DailyValue(float, float, float, float, float, float)"/>
             public static float[] DailyValue(Input<float> hour, Input<float> mean, Input<float> amplitude,
                 Input<float> firstHour, Input<float> secondHour, Input<float> amplitudeFactor)
             {
-                int count = Elements.Count("Climate.DailyValue",
-                    "hour mean amplitude firstHour secondHour amplitudeFactor", hour.Length, mean.Length,
-                    amplitude.Length, firstHour.Length, secondHour.Length, amplitudeFactor.Length);
+                int count = Elements.Count("Climate.DailyValue", ("hour", hour.Length), ("mean", mean.Length),
+                    ("amplitude", amplitude.Length), ("firstHour", firstHour.Length), ("secondHour", secondHour.Length),
+                    ("amplitudeFactor", amplitudeFactor.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_daily_value((UIntPtr)count, ref hour.First, hour.Stride, ref mean.First,
                     mean.Stride, ref amplitude.First, amplitude.Stride, ref firstHour.First, firstHour.Stride,
@@ -1981,7 +1959,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DesignIrradiance(float, float, SkyKind)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DesignIrradiance(float, float, SkyKind)"/>
             public static DesignIrradiance DesignIrradiance(float solarAltitude, float siteHeight, SkyKind skyKind)
             {
                 var results = new DesignIrradiance { DirectNormal = float.NaN, DiffuseHorizontal = float.NaN };
@@ -1990,13 +1968,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DesignIrradiance(float, float, SkyKind)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DesignIrradiance(float, float, SkyKind)"/>
             public static DesignIrradiance[] DesignIrradiance(Input<float> solarAltitude, Input<float> siteHeight,
                 Input<SkyKind> skyKind)
             {
-                int count = Elements.Count("Climate.DesignIrradiance", "solarAltitude siteHeight skyKind",
-                    solarAltitude.Length, siteHeight.Length, skyKind.Length);
+                int count = Elements.Count("Climate.DesignIrradiance", ("solarAltitude", solarAltitude.Length),
+                    ("siteHeight", siteHeight.Length), ("skyKind", skyKind.Length));
                 var results = new DesignIrradiance[count];
                 Elements.Done(Native.quorvel_design_irradiance((UIntPtr)count, ref solarAltitude.First,
                     solarAltitude.Stride, ref siteHeight.First, siteHeight.Stride, ref skyKind.First, skyKind.Stride,
@@ -2005,18 +1982,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.HeightFactor(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.HeightFactor(float, float)"/>
             public static float HeightFactor(float siteHeight, float solarAltitude)
             {
                 return Native.CLHIGH(ref siteHeight, ref solarAltitude);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.HeightFactor(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.HeightFactor(float, float)"/>
             public static float[] HeightFactor(Input<float> siteHeight, Input<float> solarAltitude)
             {
-                int count = Elements.Count("Climate.HeightFactor", "siteHeight solarAltitude", siteHeight.Length,
-                    solarAltitude.Length);
+                int count = Elements.Count("Climate.HeightFactor", ("siteHeight", siteHeight.Length), ("solarAltitude",
+                    solarAltitude.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_height_factor((UIntPtr)count, ref siteHeight.First, siteHeight.Stride,
                     ref solarAltitude.First, solarAltitude.Stride, ref Elements.First(results),
@@ -2024,36 +2000,34 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.EccentricityFactor(int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.EccentricityFactor(int)"/>
             public static float EccentricityFactor(int day)
             {
                 return Native.CLETAJ(ref day);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.EccentricityFactor(int)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.EccentricityFactor(int)"/>
             public static float[] EccentricityFactor(Input<int> day)
             {
-                int count = Elements.Count("Climate.EccentricityFactor", "day", day.Length);
+                int count = Elements.Count("Climate.EccentricityFactor", ("day", day.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_eccentricity_factor((UIntPtr)count, ref day.First, day.Stride,
                     ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.ClearnessIndex(int, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.ClearnessIndex(int, float, float)"/>
             public static float ClearnessIndex(int day, float solarAltitude, float globalHorizontal)
             {
                 return Native.CLMODUL(ref day, ref solarAltitude, ref globalHorizontal);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.ClearnessIndex(int, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.ClearnessIndex(int, float, float)"/>
             public static float[] ClearnessIndex(Input<int> day, Input<float> solarAltitude,
                 Input<float> globalHorizontal)
             {
-                int count = Elements.Count("Climate.ClearnessIndex", "day solarAltitude globalHorizontal", day.Length,
-                    solarAltitude.Length, globalHorizontal.Length);
+                int count = Elements.Count("Climate.ClearnessIndex", ("day", day.Length), ("solarAltitude",
+                    solarAltitude.Length), ("globalHorizontal", globalHorizontal.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_clearness_index((UIntPtr)count, ref day.First, day.Stride,
                     ref solarAltitude.First, solarAltitude.Stride, ref globalHorizontal.First, globalHorizontal.Stride,
@@ -2061,9 +2035,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.MuneerSlope(float, float, float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.MuneerSlope(float, float, float, float, float, float, float, float)"/>
             public static MuneerSlope MuneerSlope(float solarAltitude, float solarAzimuth, float surfaceAzimuth,
                 float tilt, float beamHorizontal, float diffuseHorizontal, float extraterrestrialHorizontal,
                 float groundReflectance)
@@ -2077,18 +2049,16 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.MuneerSlope(float, float, float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.MuneerSlope(float, float, float, float, float, float, float, float)"/>
             public static MuneerSlope[] MuneerSlope(Input<float> solarAltitude, Input<float> solarAzimuth,
                 Input<float> surfaceAzimuth, Input<float> tilt, Input<float> beamHorizontal,
                 Input<float> diffuseHorizontal, Input<float> extraterrestrialHorizontal, Input<float> groundReflectance)
             {
-                int count = Elements.Count("Climate.MuneerSlope",
-                    "solarAltitude solarAzimuth surfaceAzimuth tilt beamHorizontal diffuseHorizontal extraterrestrialHorizontal groundReflectance",
-                    solarAltitude.Length, solarAzimuth.Length, surfaceAzimuth.Length, tilt.Length,
-                    beamHorizontal.Length, diffuseHorizontal.Length, extraterrestrialHorizontal.Length,
-                    groundReflectance.Length);
+                int count = Elements.Count("Climate.MuneerSlope", ("solarAltitude", solarAltitude.Length),
+                    ("solarAzimuth", solarAzimuth.Length), ("surfaceAzimuth", surfaceAzimuth.Length), ("tilt",
+                    tilt.Length), ("beamHorizontal", beamHorizontal.Length), ("diffuseHorizontal",
+                    diffuseHorizontal.Length), ("extraterrestrialHorizontal", extraterrestrialHorizontal.Length),
+                    ("groundReflectance", groundReflectance.Length));
                 var results = new MuneerSlope[count];
                 Elements.Done(Native.quorvel_muneer_slope((UIntPtr)count, ref solarAltitude.First, solarAltitude.Stride,
                     ref solarAzimuth.First, solarAzimuth.Stride, ref surfaceAzimuth.First, surfaceAzimuth.Stride,
@@ -2102,8 +2072,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.PerezDiffuse(float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.PerezDiffuse(float, float, float, float, float, float)"/>
             public static float PerezDiffuse(float solarAltitude, float tilt, float beamHorizontal,
                 float diffuseHorizontal, float incidence, float extraterrestrialNormal)
             {
@@ -2113,16 +2082,15 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.PerezDiffuse(float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.PerezDiffuse(float, float, float, float, float, float)"/>
             public static float[] PerezDiffuse(Input<float> solarAltitude, Input<float> tilt,
                 Input<float> beamHorizontal, Input<float> diffuseHorizontal, Input<float> incidence,
                 Input<float> extraterrestrialNormal)
             {
-                int count = Elements.Count("Climate.PerezDiffuse",
-                    "solarAltitude tilt beamHorizontal diffuseHorizontal incidence extraterrestrialNormal",
-                    solarAltitude.Length, tilt.Length, beamHorizontal.Length, diffuseHorizontal.Length,
-                    incidence.Length, extraterrestrialNormal.Length);
+                int count = Elements.Count("Climate.PerezDiffuse", ("solarAltitude", solarAltitude.Length), ("tilt",
+                    tilt.Length), ("beamHorizontal", beamHorizontal.Length), ("diffuseHorizontal",
+                    diffuseHorizontal.Length), ("incidence", incidence.Length), ("extraterrestrialNormal",
+                    extraterrestrialNormal.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_perez_diffuse((UIntPtr)count, ref solarAltitude.First,
                     solarAltitude.Stride, ref tilt.First, tilt.Stride, ref beamHorizontal.First, beamHorizontal.Stride,
@@ -2132,7 +2100,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SiteConstants(int, int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SiteConstants(int, int)"/>
             public static SiteConstants SiteConstants(int siteClass, int month)
             {
                 var results = new SiteConstants { GroundReflectance = float.NaN, BeamFactor = float.NaN,
@@ -2142,11 +2110,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SiteConstants(int, int)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SiteConstants(int, int)"/>
             public static SiteConstants[] SiteConstants(Input<int> siteClass, Input<int> month)
             {
-                int count = Elements.Count("Climate.SiteConstants", "siteClass month", siteClass.Length, month.Length);
+                int count = Elements.Count("Climate.SiteConstants", ("siteClass", siteClass.Length), ("month",
+                    month.Length));
                 var results = new SiteConstants[count];
                 Elements.Done(Native.quorvel_site_constants((UIntPtr)count, ref siteClass.First, siteClass.Stride,
                     ref month.First, month.Stride, ref Elements.First(results).GroundReflectance,
@@ -2157,8 +2125,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DiffuseTiltFactor(int, float, float, float, SkyModel)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DiffuseTiltFactor(int, float, float, float, SkyModel)"/>
             public static float DiffuseTiltFactor(int day, float solarAltitude, float beamHorizontal, float tilt,
                 SkyModel skyModel)
             {
@@ -2166,14 +2133,13 @@ namespace Quorvel
                     ref skyModel);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.DiffuseTiltFactor(int, float, float, float, SkyModel)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.DiffuseTiltFactor(int, float, float, float, SkyModel)"/>
             public static float[] DiffuseTiltFactor(Input<int> day, Input<float> solarAltitude,
                 Input<float> beamHorizontal, Input<float> tilt, Input<SkyModel> skyModel)
             {
-                int count = Elements.Count("Climate.DiffuseTiltFactor",
-                    "day solarAltitude beamHorizontal tilt skyModel", day.Length, solarAltitude.Length,
-                    beamHorizontal.Length, tilt.Length, skyModel.Length);
+                int count = Elements.Count("Climate.DiffuseTiltFactor", ("day", day.Length), ("solarAltitude",
+                    solarAltitude.Length), ("beamHorizontal", beamHorizontal.Length), ("tilt", tilt.Length),
+                    ("skyModel", skyModel.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_diffuse_tilt_factor((UIntPtr)count, ref day.First, day.Stride,
                     ref solarAltitude.First, solarAltitude.Stride, ref beamHorizontal.First, beamHorizontal.Stride,
@@ -2182,9 +2148,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.SlopeDiffuse(int, float, float, float, float, float, float, SkyModel)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SlopeDiffuse(int, float, float, float, float, float, float, SkyModel)"/>
             public static float SlopeDiffuse(int day, float solarAltitude, float solarAzimuth, float surfaceAzimuth,
                 float tilt, float beamHorizontal, float diffuseHorizontal, SkyModel skyModel)
             {
@@ -2192,17 +2156,15 @@ namespace Quorvel
                     ref beamHorizontal, ref diffuseHorizontal, ref skyModel);
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.SlopeDiffuse(int, float, float, float, float, float, float, SkyModel)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SlopeDiffuse(int, float, float, float, float, float, float, SkyModel)"/>
             public static float[] SlopeDiffuse(Input<int> day, Input<float> solarAltitude, Input<float> solarAzimuth,
                 Input<float> surfaceAzimuth, Input<float> tilt, Input<float> beamHorizontal,
                 Input<float> diffuseHorizontal, Input<SkyModel> skyModel)
             {
-                int count = Elements.Count("Climate.SlopeDiffuse",
-                    "day solarAltitude solarAzimuth surfaceAzimuth tilt beamHorizontal diffuseHorizontal skyModel",
-                    day.Length, solarAltitude.Length, solarAzimuth.Length, surfaceAzimuth.Length, tilt.Length,
-                    beamHorizontal.Length, diffuseHorizontal.Length, skyModel.Length);
+                int count = Elements.Count("Climate.SlopeDiffuse", ("day", day.Length), ("solarAltitude",
+                    solarAltitude.Length), ("solarAzimuth", solarAzimuth.Length), ("surfaceAzimuth",
+                    surfaceAzimuth.Length), ("tilt", tilt.Length), ("beamHorizontal", beamHorizontal.Length),
+                    ("diffuseHorizontal", diffuseHorizontal.Length), ("skyModel", skyModel.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_slope_diffuse((UIntPtr)count, ref day.First, day.Stride,
                     ref solarAltitude.First, solarAltitude.Stride, ref solarAzimuth.First, solarAzimuth.Stride,
@@ -2213,8 +2175,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SolAirTemperature(float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SolAirTemperature(float, float, float, float, float)"/>
             public static float SolAirTemperature(float baseTemperature, float surfaceCoefficient, float absorptance,
                 float irradiance, float longWaveLoss)
             {
@@ -2222,14 +2183,13 @@ namespace Quorvel
                     ref Unread.Real, ref irradiance, ref longWaveLoss);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SolAirTemperature(float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SolAirTemperature(float, float, float, float, float)"/>
             public static float[] SolAirTemperature(Input<float> baseTemperature, Input<float> surfaceCoefficient,
                 Input<float> absorptance, Input<float> irradiance, Input<float> longWaveLoss)
             {
-                int count = Elements.Count("Climate.SolAirTemperature",
-                    "baseTemperature surfaceCoefficient absorptance irradiance longWaveLoss", baseTemperature.Length,
-                    surfaceCoefficient.Length, absorptance.Length, irradiance.Length, longWaveLoss.Length);
+                int count = Elements.Count("Climate.SolAirTemperature", ("baseTemperature", baseTemperature.Length),
+                    ("surfaceCoefficient", surfaceCoefficient.Length), ("absorptance", absorptance.Length),
+                    ("irradiance", irradiance.Length), ("longWaveLoss", longWaveLoss.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_sol_air_temperature((UIntPtr)count, ref baseTemperature.First,
                     baseTemperature.Stride, ref surfaceCoefficient.First, surfaceCoefficient.Stride,
@@ -2238,39 +2198,36 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.LongWaveLoss(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.LongWaveLoss(float, float)"/>
             public static float LongWaveLoss(float tilt, float cloudCover)
             {
                 return Native.CLRERD(ref tilt, ref cloudCover);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.LongWaveLoss(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.LongWaveLoss(float, float)"/>
             public static float[] LongWaveLoss(Input<float> tilt, Input<float> cloudCover)
             {
-                int count = Elements.Count("Climate.LongWaveLoss", "tilt cloudCover", tilt.Length, cloudCover.Length);
+                int count = Elements.Count("Climate.LongWaveLoss", ("tilt", tilt.Length), ("cloudCover",
+                    cloudCover.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_long_wave_loss((UIntPtr)count, ref tilt.First, tilt.Stride,
                     ref cloudCover.First, cloudCover.Stride, ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SolarTimeCorrection(float, int, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SolarTimeCorrection(float, int, float, float)"/>
             public static float SolarTimeCorrection(float clockOffset, int day, float longitude,
                 float referenceLongitude)
             {
                 return Native.CLTCOR(ref clockOffset, ref day, ref longitude, ref referenceLongitude);
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SolarTimeCorrection(float, int, float, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SolarTimeCorrection(float, int, float, float)"/>
             public static float[] SolarTimeCorrection(Input<float> clockOffset, Input<int> day, Input<float> longitude,
                 Input<float> referenceLongitude)
             {
-                int count = Elements.Count("Climate.SolarTimeCorrection",
-                    "clockOffset day longitude referenceLongitude", clockOffset.Length, day.Length, longitude.Length,
-                    referenceLongitude.Length);
+                int count = Elements.Count("Climate.SolarTimeCorrection", ("clockOffset", clockOffset.Length), ("day",
+                    day.Length), ("longitude", longitude.Length), ("referenceLongitude", referenceLongitude.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_solar_time_correction((UIntPtr)count, ref clockOffset.First,
                     clockOffset.Stride, ref day.First, day.Stride, ref longitude.First, longitude.Stride,
@@ -2279,9 +2236,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.AlmanacPosition(TimeKind, int, int, int, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.AlmanacPosition(TimeKind, int, int, int, float, float, float, float)"/>
             public static AlmanacPosition AlmanacPosition(TimeKind timeKind, int year, int month, int dayOfMonth,
                 float clockTime, float latitude, float longitude, float zoneMeridian)
             {
@@ -2293,17 +2248,15 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.AlmanacPosition(TimeKind, int, int, int, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.AlmanacPosition(TimeKind, int, int, int, float, float, float, float)"/>
             public static AlmanacPosition[] AlmanacPosition(Input<TimeKind> timeKind, Input<int> year, Input<int> month,
                 Input<int> dayOfMonth, Input<float> clockTime, Input<float> latitude, Input<float> longitude,
                 Input<float> zoneMeridian)
             {
-                int count = Elements.Count("Climate.AlmanacPosition",
-                    "timeKind year month dayOfMonth clockTime latitude longitude zoneMeridian", timeKind.Length,
-                    year.Length, month.Length, dayOfMonth.Length, clockTime.Length, latitude.Length, longitude.Length,
-                    zoneMeridian.Length);
+                int count = Elements.Count("Climate.AlmanacPosition", ("timeKind", timeKind.Length), ("year",
+                    year.Length), ("month", month.Length), ("dayOfMonth", dayOfMonth.Length), ("clockTime",
+                    clockTime.Length), ("latitude", latitude.Length), ("longitude", longitude.Length), ("zoneMeridian",
+                    zoneMeridian.Length));
                 var results = new AlmanacPosition[count];
                 Elements.Done(Native.quorvel_almanac_position((UIntPtr)count, ref timeKind.First, timeKind.Stride,
                     ref year.First, year.Stride, ref month.First, month.Stride, ref dayOfMonth.First, dayOfMonth.Stride,
@@ -2317,7 +2270,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.AlmanacSunHours(int, int, int, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.AlmanacSunHours(int, int, int, float)"/>
             public static AlmanacSunHours AlmanacSunHours(int year, int month, int dayOfMonth, float latitude)
             {
                 var results = new AlmanacSunHours { Sunrise = float.NaN, Sunset = float.NaN };
@@ -2326,13 +2279,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.AlmanacSunHours(int, int, int, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.AlmanacSunHours(int, int, int, float)"/>
             public static AlmanacSunHours[] AlmanacSunHours(Input<int> year, Input<int> month, Input<int> dayOfMonth,
                 Input<float> latitude)
             {
-                int count = Elements.Count("Climate.AlmanacSunHours", "year month dayOfMonth latitude", year.Length,
-                    month.Length, dayOfMonth.Length, latitude.Length);
+                int count = Elements.Count("Climate.AlmanacSunHours", ("year", year.Length), ("month", month.Length),
+                    ("dayOfMonth", dayOfMonth.Length), ("latitude", latitude.Length));
                 var results = new AlmanacSunHours[count];
                 Elements.Done(Native.quorvel_almanac_sun_hours((UIntPtr)count, ref year.First, year.Stride,
                     ref month.First, month.Stride, ref dayOfMonth.First, dayOfMonth.Stride, ref latitude.First,
@@ -2341,7 +2293,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SolarGeometry(float, int, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SolarGeometry(float, int, float)"/>
             public static SolarGeometry SolarGeometry(float latitude, int day, float solarTime)
             {
                 var results = new SolarGeometry { Declination = float.NaN, SolarAltitude = float.NaN,
@@ -2351,12 +2303,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SolarGeometry(float, int, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SolarGeometry(float, int, float)"/>
             public static SolarGeometry[] SolarGeometry(Input<float> latitude, Input<int> day, Input<float> solarTime)
             {
-                int count = Elements.Count("Climate.SolarGeometry", "latitude day solarTime", latitude.Length,
-                    day.Length, solarTime.Length);
+                int count = Elements.Count("Climate.SolarGeometry", ("latitude", latitude.Length), ("day", day.Length),
+                    ("solarTime", solarTime.Length));
                 var results = new SolarGeometry[count];
                 Elements.Done(Native.quorvel_solar_geometry((UIntPtr)count, ref latitude.First, latitude.Stride,
                     ref day.First, day.Stride, ref solarTime.First, solarTime.Stride,
@@ -2368,8 +2319,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SurfaceAngles(float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SurfaceAngles(float, float, float, float)"/>
             public static SurfaceAngles SurfaceAngles(float solarAltitude, float solarAzimuth, float surfaceAzimuth,
                 float tilt)
             {
@@ -2380,13 +2330,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Climate.SurfaceAngles(float, float, float, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SurfaceAngles(float, float, float, float)"/>
             public static SurfaceAngles[] SurfaceAngles(Input<float> solarAltitude, Input<float> solarAzimuth,
                 Input<float> surfaceAzimuth, Input<float> tilt)
             {
-                int count = Elements.Count("Climate.SurfaceAngles", "solarAltitude solarAzimuth surfaceAzimuth tilt",
-                    solarAltitude.Length, solarAzimuth.Length, surfaceAzimuth.Length, tilt.Length);
+                int count = Elements.Count("Climate.SurfaceAngles", ("solarAltitude", solarAltitude.Length),
+                    ("solarAzimuth", solarAzimuth.Length), ("surfaceAzimuth", surfaceAzimuth.Length), ("tilt",
+                    tilt.Length));
                 var results = new SurfaceAngles[count];
                 Elements.Done(Native.quorvel_surface_angles((UIntPtr)count, ref solarAltitude.First,
                     solarAltitude.Stride, ref solarAzimuth.First, solarAzimuth.Stride, ref surfaceAzimuth.First,
@@ -2397,9 +2347,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.SurfaceIrradiance(float, float, float, float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SurfaceIrradiance(float, float, float, float, float, float, float, float, float)"/>
             public static SurfaceIrradiance SurfaceIrradiance(float solarAltitude, float solarAzimuth,
                 float surfaceAzimuth, float tilt, float directNormal, float diffuseHorizontal, float groundReflectance,
                 float beamFactor, float diffuseFactor)
@@ -2412,18 +2360,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.SurfaceIrradiance(float, float, float, float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SurfaceIrradiance(float, float, float, float, float, float, float, float, float)"/>
             public static SurfaceIrradiance[] SurfaceIrradiance(Input<float> solarAltitude, Input<float> solarAzimuth,
                 Input<float> surfaceAzimuth, Input<float> tilt, Input<float> directNormal,
                 Input<float> diffuseHorizontal, Input<float> groundReflectance, Input<float> beamFactor,
                 Input<float> diffuseFactor)
             {
-                int count = Elements.Count("Climate.SurfaceIrradiance",
-                    "solarAltitude solarAzimuth surfaceAzimuth tilt directNormal diffuseHorizontal groundReflectance beamFactor diffuseFactor",
-                    solarAltitude.Length, solarAzimuth.Length, surfaceAzimuth.Length, tilt.Length, directNormal.Length,
-                    diffuseHorizontal.Length, groundReflectance.Length, beamFactor.Length, diffuseFactor.Length);
+                int count = Elements.Count("Climate.SurfaceIrradiance", ("solarAltitude", solarAltitude.Length),
+                    ("solarAzimuth", solarAzimuth.Length), ("surfaceAzimuth", surfaceAzimuth.Length), ("tilt",
+                    tilt.Length), ("directNormal", directNormal.Length), ("diffuseHorizontal",
+                    diffuseHorizontal.Length), ("groundReflectance", groundReflectance.Length), ("beamFactor",
+                    beamFactor.Length), ("diffuseFactor", diffuseFactor.Length));
                 var results = new SurfaceIrradiance[count];
                 Elements.Done(Native.quorvel_surface_irradiance((UIntPtr)count, ref solarAltitude.First,
                     solarAltitude.Stride, ref solarAzimuth.First, solarAzimuth.Stride, ref surfaceAzimuth.First,
@@ -2436,9 +2383,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.SurfaceIrradianceAndIncidence(float, float, float, float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SurfaceIrradianceAndIncidence(float, float, float, float, float, float, float, float, float)"/>
             public static SurfaceIrradianceAndIncidence SurfaceIrradianceAndIncidence(float solarAltitude,
                 float solarAzimuth, float surfaceAzimuth, float tilt, float directNormal, float diffuseHorizontal,
                 float groundReflectance, float beamFactor, float diffuseFactor)
@@ -2452,18 +2397,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Climate.SurfaceIrradianceAndIncidence(float, float, float, float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Climate.SurfaceIrradianceAndIncidence(float, float, float, float, float, float, float, float, float)"/>
             public static SurfaceIrradianceAndIncidence[] SurfaceIrradianceAndIncidence(Input<float> solarAltitude,
                 Input<float> solarAzimuth, Input<float> surfaceAzimuth, Input<float> tilt, Input<float> directNormal,
                 Input<float> diffuseHorizontal, Input<float> groundReflectance, Input<float> beamFactor,
                 Input<float> diffuseFactor)
             {
-                int count = Elements.Count("Climate.SurfaceIrradianceAndIncidence",
-                    "solarAltitude solarAzimuth surfaceAzimuth tilt directNormal diffuseHorizontal groundReflectance beamFactor diffuseFactor",
-                    solarAltitude.Length, solarAzimuth.Length, surfaceAzimuth.Length, tilt.Length, directNormal.Length,
-                    diffuseHorizontal.Length, groundReflectance.Length, beamFactor.Length, diffuseFactor.Length);
+                int count = Elements.Count("Climate.SurfaceIrradianceAndIncidence", ("solarAltitude",
+                    solarAltitude.Length), ("solarAzimuth", solarAzimuth.Length), ("surfaceAzimuth",
+                    surfaceAzimuth.Length), ("tilt", tilt.Length), ("directNormal", directNormal.Length),
+                    ("diffuseHorizontal", diffuseHorizontal.Length), ("groundReflectance", groundReflectance.Length),
+                    ("beamFactor", beamFactor.Length), ("diffuseFactor", diffuseFactor.Length));
                 var results = new SurfaceIrradianceAndIncidence[count];
                 Elements.Done(Native.quorvel_surface_irradiance_and_incidence((UIntPtr)count, ref solarAltitude.First,
                     solarAltitude.Stride, ref solarAzimuth.First, solarAzimuth.Stride, ref surfaceAzimuth.First,

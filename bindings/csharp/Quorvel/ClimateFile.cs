@@ -87,7 +87,8 @@ namespace Quorvel
             return values;
         }
 
-        private static void CheckStation(int station) => Check.Range("ClimateFile", "station", station, 1, int.MaxValue, "");
+        private static void CheckStation(int station)
+            => Check.Range("ClimateFile", "station", station, 1, int.MaxValue, "");
 
         private void Found(int station, int status)
         {

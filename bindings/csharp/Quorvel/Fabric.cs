@@ -287,7 +287,7 @@ namespace Quorvel
             return Unchecked.Fabric.VerticalCavityResistance(cavityWidth);
         }
 
-        /// <summary><see cref="Fabric.VerticalCavityResistance(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.VerticalCavityResistance(float)"/>
         public static float[] VerticalCavityResistance(Input<float> cavityWidth)
         {
             Check.Range("Fabric.VerticalCavityResistance", "cavityWidth", cavityWidth, 0.001f, float.PositiveInfinity,
@@ -324,7 +324,7 @@ namespace Quorvel
             return Unchecked.Fabric.AirCavityResistance(tilt, cavityWidth, emissivity1, emissivity2);
         }
 
-        /// <summary><see cref="Fabric.AirCavityResistance(float, float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.AirCavityResistance(float, float, float, float)"/>
         public static float[] AirCavityResistance(Input<float> tilt, Input<float> cavityWidth, Input<float> emissivity1,
             Input<float> emissivity2)
         {
@@ -374,8 +374,7 @@ namespace Quorvel
                 conductivity, specificHeat, viscosity);
         }
 
-        /// <summary><see cref="Fabric.GasCavityResistance(float, float, float, float, float, float, float, float)"/>
-        /// for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.GasCavityResistance(float, float, float, float, float, float, float, float)"/>
         public static float[] GasCavityResistance(Input<float> tilt, Input<float> cavityWidth, Input<float> emissivity1,
             Input<float> emissivity2, Input<float> density, Input<float> conductivity, Input<float> specificHeat,
             Input<float> viscosity)
@@ -504,7 +503,7 @@ namespace Quorvel
                 coldVapourPressure);
         }
 
-        /// <summary><see cref="Fabric.CondensesWithinLayer(float, float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.CondensesWithinLayer(float, float, float, float)"/>
         public static int[] CondensesWithinLayer(Input<float> warmTemperature, Input<float> coldTemperature,
             Input<float> warmVapourPressure, Input<float> coldVapourPressure)
         {
@@ -590,8 +589,7 @@ namespace Quorvel
                 heatFlowDirection);
         }
 
-        /// <summary><see cref="Fabric.NaturalConvectionCoefficient(float, float, HeatFlowDirection)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.NaturalConvectionCoefficient(float, float, HeatFlowDirection)"/>
         public static float[] NaturalConvectionCoefficient(Input<float> temperatureDifference,
             Input<float> characteristicLength, Input<HeatFlowDirection> heatFlowDirection)
         {
@@ -626,7 +624,7 @@ namespace Quorvel
             return Unchecked.Fabric.PackTwoFractions(packing, packedNumber, fraction1, fraction2);
         }
 
-        /// <summary><see cref="Fabric.PackTwoFractions(Packing, float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.PackTwoFractions(Packing, float, float, float)"/>
         public static PackTwoFractions[] PackTwoFractions(Input<Packing> packing, Input<float> packedNumber,
             Input<float> fraction1, Input<float> fraction2)
         {
@@ -668,8 +666,7 @@ namespace Quorvel
             return Unchecked.Fabric.PackThreeFractions(packing, packedNumber, fraction1, fraction2, fraction3);
         }
 
-        /// <summary><see cref="Fabric.PackThreeFractions(Packing, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.PackThreeFractions(Packing, float, float, float, float)"/>
         public static PackThreeFractions[] PackThreeFractions(Input<Packing> packing, Input<float> packedNumber,
             Input<float> fraction1, Input<float> fraction2, Input<float> fraction3)
         {
@@ -704,8 +701,7 @@ namespace Quorvel
                 fraction2);
         }
 
-        /// <summary><see cref="Fabric.PackThreeFractionsThirdFirst(Packing, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.PackThreeFractionsThirdFirst(Packing, float, float, float, float)"/>
         public static PackThreeFractionsThirdFirst[] PackThreeFractionsThirdFirst(Input<Packing> packing,
             Input<float> packedNumber, Input<float> fraction3, Input<float> fraction1, Input<float> fraction2)
         {
@@ -746,7 +742,7 @@ namespace Quorvel
             return Unchecked.Fabric.PackPane(packing, packedNumber, absorptance, reflectance1, reflectance2);
         }
 
-        /// <summary><see cref="Fabric.PackPane(Packing, float, float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.PackPane(Packing, float, float, float, float)"/>
         public static PackPane[] PackPane(Input<Packing> packing, Input<float> packedNumber, Input<float> absorptance,
             Input<float> reflectance1, Input<float> reflectance2)
         {
@@ -785,7 +781,7 @@ namespace Quorvel
             return Unchecked.Fabric.SurfaceResistance(surface, tilt, exposure);
         }
 
-        /// <summary><see cref="Fabric.SurfaceResistance(Surface, float, Exposure)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.SurfaceResistance(Surface, float, Exposure)"/>
         public static float[] SurfaceResistance(Input<Surface> surface, Input<float> tilt, Input<Exposure> exposure)
         {
             Check.Selector("Fabric.SurfaceResistance", "surface", surface, 1, 2);
@@ -823,8 +819,7 @@ namespace Quorvel
             return Unchecked.Fabric.SurfaceResistanceAtEmissivity(surface, tilt, exposure, emissivity);
         }
 
-        /// <summary><see cref="Fabric.SurfaceResistanceAtEmissivity(Surface, float, Exposure, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.SurfaceResistanceAtEmissivity(Surface, float, Exposure, float)"/>
         public static float[] SurfaceResistanceAtEmissivity(Input<Surface> surface, Input<float> tilt,
             Input<Exposure> exposure, Input<float> emissivity)
         {
@@ -893,7 +888,7 @@ namespace Quorvel
             return Unchecked.Fabric.UValueAtTiltAndExposure(uValue, tilt, exposure);
         }
 
-        /// <summary><see cref="Fabric.UValueAtTiltAndExposure(float, float, Exposure)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.UValueAtTiltAndExposure(float, float, Exposure)"/>
         public static float[] UValueAtTiltAndExposure(Input<float> uValue, Input<float> tilt, Input<Exposure> exposure)
         {
             Check.Range("Fabric.UValueAtTiltAndExposure", "uValue", uValue, 0f, float.PositiveInfinity, " W/m²K");
@@ -952,8 +947,7 @@ namespace Quorvel
                 emissivity3, cavityWidth1, cavityWidth2, outerSurface, exposure, tilt);
         }
 
-        /// <summary><see cref="Fabric.WindowParameters(int, PaneKind, float, PaneKind, float, PaneKind, float, float, float, Surface, Exposure, float)"/>
-        /// for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Fabric.WindowParameters(int, PaneKind, float, PaneKind, float, PaneKind, float, float, float, Surface, Exposure, float)"/>
         public static WindowParameters[] WindowParameters(Input<int> panes, Input<PaneKind> paneKind1,
             Input<float> emissivity1, Input<PaneKind> paneKind2, Input<float> emissivity2, Input<PaneKind> paneKind3,
             Input<float> emissivity3, Input<float> cavityWidth1, Input<float> cavityWidth2, Input<Surface> outerSurface,
@@ -981,9 +975,7 @@ namespace Quorvel
         /// <summary>Building fabric, unchecked.</summary>
         public static class Fabric
         {
-            /// <summary>As
-            /// <see cref="Quorvel.Fabric.CyclicResponse(float[], float[], float[], float[], float, float, int, ElementKind)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.CyclicResponse(float[], float[], float[], float[], float, float, int, ElementKind)"/>
             public static CyclicResponse CyclicResponse(float[] thickness, float[] conductivity, float[] density,
                 float[] specificHeat, float insideResistance, float outsideResistance, int harmonic,
                 ElementKind elementKind)
@@ -1002,37 +994,34 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.VerticalCavityResistance(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.VerticalCavityResistance(float)"/>
             public static float VerticalCavityResistance(float cavityWidth)
             {
                 return Native.TPRCAV(ref cavityWidth);
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.VerticalCavityResistance(float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.VerticalCavityResistance(float)"/>
             public static float[] VerticalCavityResistance(Input<float> cavityWidth)
             {
-                int count = Elements.Count("Fabric.VerticalCavityResistance", "cavityWidth", cavityWidth.Length);
+                int count = Elements.Count("Fabric.VerticalCavityResistance", ("cavityWidth", cavityWidth.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_vertical_cavity_resistance((UIntPtr)count, ref cavityWidth.First,
                     cavityWidth.Stride, ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.AirCavityResistance(float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.AirCavityResistance(float, float, float, float)"/>
             public static float AirCavityResistance(float tilt, float cavityWidth, float emissivity1, float emissivity2)
             {
                 return Native.TPRCA2(ref tilt, ref cavityWidth, ref emissivity1, ref emissivity2);
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.AirCavityResistance(float, float, float, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.AirCavityResistance(float, float, float, float)"/>
             public static float[] AirCavityResistance(Input<float> tilt, Input<float> cavityWidth,
                 Input<float> emissivity1, Input<float> emissivity2)
             {
-                int count = Elements.Count("Fabric.AirCavityResistance", "tilt cavityWidth emissivity1 emissivity2",
-                    tilt.Length, cavityWidth.Length, emissivity1.Length, emissivity2.Length);
+                int count = Elements.Count("Fabric.AirCavityResistance", ("tilt", tilt.Length), ("cavityWidth",
+                    cavityWidth.Length), ("emissivity1", emissivity1.Length), ("emissivity2", emissivity2.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_air_cavity_resistance((UIntPtr)count, ref tilt.First, tilt.Stride,
                     ref cavityWidth.First, cavityWidth.Stride, ref emissivity1.First, emissivity1.Stride,
@@ -1040,9 +1029,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Fabric.GasCavityResistance(float, float, float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.GasCavityResistance(float, float, float, float, float, float, float, float)"/>
             public static float GasCavityResistance(float tilt, float cavityWidth, float emissivity1, float emissivity2,
                 float density, float conductivity, float specificHeat, float viscosity)
             {
@@ -1050,17 +1037,15 @@ namespace Quorvel
                     ref conductivity, ref specificHeat, ref viscosity);
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Fabric.GasCavityResistance(float, float, float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.GasCavityResistance(float, float, float, float, float, float, float, float)"/>
             public static float[] GasCavityResistance(Input<float> tilt, Input<float> cavityWidth,
                 Input<float> emissivity1, Input<float> emissivity2, Input<float> density, Input<float> conductivity,
                 Input<float> specificHeat, Input<float> viscosity)
             {
-                int count = Elements.Count("Fabric.GasCavityResistance",
-                    "tilt cavityWidth emissivity1 emissivity2 density conductivity specificHeat viscosity", tilt.Length,
-                    cavityWidth.Length, emissivity1.Length, emissivity2.Length, density.Length, conductivity.Length,
-                    specificHeat.Length, viscosity.Length);
+                int count = Elements.Count("Fabric.GasCavityResistance", ("tilt", tilt.Length), ("cavityWidth",
+                    cavityWidth.Length), ("emissivity1", emissivity1.Length), ("emissivity2", emissivity2.Length),
+                    ("density", density.Length), ("conductivity", conductivity.Length), ("specificHeat",
+                    specificHeat.Length), ("viscosity", viscosity.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_gas_cavity_resistance((UIntPtr)count, ref tilt.First, tilt.Stride,
                     ref cavityWidth.First, cavityWidth.Stride, ref emissivity1.First, emissivity1.Stride,
@@ -1070,7 +1055,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.TotalVapourResistance(float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.TotalVapourResistance(float[], float[])"/>
             public static float TotalVapourResistance(float[] thickness, float[] vapourResistivity)
             {
                 int layers = Check.Count("Fabric.TotalVapourResistance", "thickness", thickness);
@@ -1081,9 +1066,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Fabric.CondensationProfile(float[], float[], float[], float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.CondensationProfile(float[], float[], float[], float, float, float, float, float, float)"/>
             public static CondensationProfile CondensationProfile(float[] thickness, float[] conductivity,
                 float[] vapourResistivity, float insideResistance, float outsideResistance, float insideTemperature,
                 float outsideTemperature, float insideHumidity, float outsideHumidity)
@@ -1100,8 +1083,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.CondensesWithinLayer(float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.CondensesWithinLayer(float, float, float, float)"/>
             public static int CondensesWithinLayer(float warmTemperature, float coldTemperature,
                 float warmVapourPressure, float coldVapourPressure)
             {
@@ -1109,14 +1091,13 @@ namespace Quorvel
                     ref coldVapourPressure);
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.CondensesWithinLayer(float, float, float, float)"/>, unchecked,
-            /// for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.CondensesWithinLayer(float, float, float, float)"/>
             public static int[] CondensesWithinLayer(Input<float> warmTemperature, Input<float> coldTemperature,
                 Input<float> warmVapourPressure, Input<float> coldVapourPressure)
             {
-                int count = Elements.Count("Fabric.CondensesWithinLayer",
-                    "warmTemperature coldTemperature warmVapourPressure coldVapourPressure", warmTemperature.Length,
-                    coldTemperature.Length, warmVapourPressure.Length, coldVapourPressure.Length);
+                int count = Elements.Count("Fabric.CondensesWithinLayer", ("warmTemperature", warmTemperature.Length),
+                    ("coldTemperature", coldTemperature.Length), ("warmVapourPressure", warmVapourPressure.Length),
+                    ("coldVapourPressure", coldVapourPressure.Length));
                 var results = new int[count];
                 Elements.Done(Native.quorvel_condenses_within_layer((UIntPtr)count, ref warmTemperature.First,
                     warmTemperature.Stride, ref coldTemperature.First, coldTemperature.Stride,
@@ -1125,7 +1106,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.ElementProperty(float[,], int, int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.ElementProperty(float[,], int, int)"/>
             public static float ElementProperty(float[,] elementRecords, int recordNumber, int item)
             {
                 int recordCount = Check.Count("Fabric.ElementProperty", "elementRecords", elementRecords);
@@ -1133,22 +1114,20 @@ namespace Quorvel
                 return Native.BELDAT(elementRecords, ref recordCount, ref recordNumber, ref item);
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.NaturalConvectionCoefficient(float, float, HeatFlowDirection)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.NaturalConvectionCoefficient(float, float, HeatFlowDirection)"/>
             public static float NaturalConvectionCoefficient(float temperatureDifference, float characteristicLength,
                 HeatFlowDirection heatFlowDirection)
             {
                 return Native.TPHCON(ref temperatureDifference, ref characteristicLength, ref heatFlowDirection);
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.NaturalConvectionCoefficient(float, float, HeatFlowDirection)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.NaturalConvectionCoefficient(float, float, HeatFlowDirection)"/>
             public static float[] NaturalConvectionCoefficient(Input<float> temperatureDifference,
                 Input<float> characteristicLength, Input<HeatFlowDirection> heatFlowDirection)
             {
-                int count = Elements.Count("Fabric.NaturalConvectionCoefficient",
-                    "temperatureDifference characteristicLength heatFlowDirection", temperatureDifference.Length,
-                    characteristicLength.Length, heatFlowDirection.Length);
+                int count = Elements.Count("Fabric.NaturalConvectionCoefficient", ("temperatureDifference",
+                    temperatureDifference.Length), ("characteristicLength", characteristicLength.Length),
+                    ("heatFlowDirection", heatFlowDirection.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_natural_convection_coefficient((UIntPtr)count,
                     ref temperatureDifference.First, temperatureDifference.Stride, ref characteristicLength.First,
@@ -1157,8 +1136,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.PackTwoFractions(Packing, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.PackTwoFractions(Packing, float, float, float)"/>
             public static PackTwoFractions PackTwoFractions(Packing packing, float packedNumber, float fraction1,
                 float fraction2)
             {
@@ -1168,13 +1146,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.PackTwoFractions(Packing, float, float, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.PackTwoFractions(Packing, float, float, float)"/>
             public static PackTwoFractions[] PackTwoFractions(Input<Packing> packing, Input<float> packedNumber,
                 Input<float> fraction1, Input<float> fraction2)
             {
-                int count = Elements.Count("Fabric.PackTwoFractions", "packing packedNumber fraction1 fraction2",
-                    packing.Length, packedNumber.Length, fraction1.Length, fraction2.Length);
+                int count = Elements.Count("Fabric.PackTwoFractions", ("packing", packing.Length), ("packedNumber",
+                    packedNumber.Length), ("fraction1", fraction1.Length), ("fraction2", fraction2.Length));
                 var results = new PackTwoFractions[count];
                 Elements.Done(Native.quorvel_pack_two_fractions((UIntPtr)count, ref packing.First, packing.Stride,
                     ref packedNumber.First, packedNumber.Stride, ref fraction1.First, fraction1.Stride,
@@ -1185,8 +1162,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.PackThreeFractions(Packing, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.PackThreeFractions(Packing, float, float, float, float)"/>
             public static PackThreeFractions PackThreeFractions(Packing packing, float packedNumber, float fraction1,
                 float fraction2, float fraction3)
             {
@@ -1197,14 +1173,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.PackThreeFractions(Packing, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.PackThreeFractions(Packing, float, float, float, float)"/>
             public static PackThreeFractions[] PackThreeFractions(Input<Packing> packing, Input<float> packedNumber,
                 Input<float> fraction1, Input<float> fraction2, Input<float> fraction3)
             {
-                int count = Elements.Count("Fabric.PackThreeFractions",
-                    "packing packedNumber fraction1 fraction2 fraction3", packing.Length, packedNumber.Length,
-                    fraction1.Length, fraction2.Length, fraction3.Length);
+                int count = Elements.Count("Fabric.PackThreeFractions", ("packing", packing.Length), ("packedNumber",
+                    packedNumber.Length), ("fraction1", fraction1.Length), ("fraction2", fraction2.Length),
+                    ("fraction3", fraction3.Length));
                 var results = new PackThreeFractions[count];
                 Elements.Done(Native.quorvel_pack_three_fractions((UIntPtr)count, ref packing.First, packing.Stride,
                     ref packedNumber.First, packedNumber.Stride, ref fraction1.First, fraction1.Stride,
@@ -1216,9 +1191,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Fabric.PackThreeFractionsThirdFirst(Packing, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.PackThreeFractionsThirdFirst(Packing, float, float, float, float)"/>
             public static PackThreeFractionsThirdFirst PackThreeFractionsThirdFirst(Packing packing, float packedNumber,
                 float fraction3, float fraction1, float fraction2)
             {
@@ -1229,15 +1202,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Fabric.PackThreeFractionsThirdFirst(Packing, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.PackThreeFractionsThirdFirst(Packing, float, float, float, float)"/>
             public static PackThreeFractionsThirdFirst[] PackThreeFractionsThirdFirst(Input<Packing> packing,
                 Input<float> packedNumber, Input<float> fraction3, Input<float> fraction1, Input<float> fraction2)
             {
-                int count = Elements.Count("Fabric.PackThreeFractionsThirdFirst",
-                    "packing packedNumber fraction3 fraction1 fraction2", packing.Length, packedNumber.Length,
-                    fraction3.Length, fraction1.Length, fraction2.Length);
+                int count = Elements.Count("Fabric.PackThreeFractionsThirdFirst", ("packing", packing.Length),
+                    ("packedNumber", packedNumber.Length), ("fraction3", fraction3.Length), ("fraction1",
+                    fraction1.Length), ("fraction2", fraction2.Length));
                 var results = new PackThreeFractionsThirdFirst[count];
                 Elements.Done(Native.quorvel_pack_three_fractions_third_first((UIntPtr)count, ref packing.First,
                     packing.Stride, ref packedNumber.First, packedNumber.Stride, ref fraction3.First, fraction3.Stride,
@@ -1249,8 +1220,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.PackPane(Packing, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.PackPane(Packing, float, float, float, float)"/>
             public static PackPane PackPane(Packing packing, float packedNumber, float absorptance, float reflectance1,
                 float reflectance2)
             {
@@ -1261,14 +1231,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.PackPane(Packing, float, float, float, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.PackPane(Packing, float, float, float, float)"/>
             public static PackPane[] PackPane(Input<Packing> packing, Input<float> packedNumber,
                 Input<float> absorptance, Input<float> reflectance1, Input<float> reflectance2)
             {
-                int count = Elements.Count("Fabric.PackPane",
-                    "packing packedNumber absorptance reflectance1 reflectance2", packing.Length, packedNumber.Length,
-                    absorptance.Length, reflectance1.Length, reflectance2.Length);
+                int count = Elements.Count("Fabric.PackPane", ("packing", packing.Length), ("packedNumber",
+                    packedNumber.Length), ("absorptance", absorptance.Length), ("reflectance1", reflectance1.Length),
+                    ("reflectance2", reflectance2.Length));
                 var results = new PackPane[count];
                 Elements.Done(Native.quorvel_pack_pane((UIntPtr)count, ref packing.First, packing.Stride,
                     ref packedNumber.First, packedNumber.Stride, ref absorptance.First, absorptance.Stride,
@@ -1280,19 +1249,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.SurfaceResistance(Surface, float, Exposure)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.SurfaceResistance(Surface, float, Exposure)"/>
             public static float SurfaceResistance(Surface surface, float tilt, Exposure exposure)
             {
                 return Native.TPRSUR(ref surface, ref tilt, ref exposure);
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.SurfaceResistance(Surface, float, Exposure)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.SurfaceResistance(Surface, float, Exposure)"/>
             public static float[] SurfaceResistance(Input<Surface> surface, Input<float> tilt, Input<Exposure> exposure)
             {
-                int count = Elements.Count("Fabric.SurfaceResistance", "surface tilt exposure", surface.Length,
-                    tilt.Length, exposure.Length);
+                int count = Elements.Count("Fabric.SurfaceResistance", ("surface", surface.Length), ("tilt",
+                    tilt.Length), ("exposure", exposure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_surface_resistance((UIntPtr)count, ref surface.First, surface.Stride,
                     ref tilt.First, tilt.Stride, ref exposure.First, exposure.Stride, ref Elements.First(results),
@@ -1300,21 +1267,19 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.SurfaceResistanceAtEmissivity(Surface, float, Exposure, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.SurfaceResistanceAtEmissivity(Surface, float, Exposure, float)"/>
             public static float SurfaceResistanceAtEmissivity(Surface surface, float tilt, Exposure exposure,
                 float emissivity)
             {
                 return Native.TPRSU2(ref surface, ref tilt, ref exposure, ref emissivity);
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.SurfaceResistanceAtEmissivity(Surface, float, Exposure, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.SurfaceResistanceAtEmissivity(Surface, float, Exposure, float)"/>
             public static float[] SurfaceResistanceAtEmissivity(Input<Surface> surface, Input<float> tilt,
                 Input<Exposure> exposure, Input<float> emissivity)
             {
-                int count = Elements.Count("Fabric.SurfaceResistanceAtEmissivity", "surface tilt exposure emissivity",
-                    surface.Length, tilt.Length, exposure.Length, emissivity.Length);
+                int count = Elements.Count("Fabric.SurfaceResistanceAtEmissivity", ("surface", surface.Length), ("tilt",
+                    tilt.Length), ("exposure", exposure.Length), ("emissivity", emissivity.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_surface_resistance_at_emissivity((UIntPtr)count, ref surface.First,
                     surface.Stride, ref tilt.First, tilt.Stride, ref exposure.First, exposure.Stride,
@@ -1322,7 +1287,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.UValue(float[], float[], float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.UValue(float[], float[], float, float)"/>
             public static float UValue(float[] thickness, float[] conductivity, float surfaceResistance1,
                 float surfaceResistance2)
             {
@@ -1334,20 +1299,18 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.UValueAtTiltAndExposure(float, float, Exposure)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.UValueAtTiltAndExposure(float, float, Exposure)"/>
             public static float UValueAtTiltAndExposure(float uValue, float tilt, Exposure exposure)
             {
                 return Native.TPUMOD(ref uValue, ref tilt, ref exposure);
             }
 
-            /// <summary>As <see cref="Quorvel.Fabric.UValueAtTiltAndExposure(float, float, Exposure)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.UValueAtTiltAndExposure(float, float, Exposure)"/>
             public static float[] UValueAtTiltAndExposure(Input<float> uValue, Input<float> tilt,
                 Input<Exposure> exposure)
             {
-                int count = Elements.Count("Fabric.UValueAtTiltAndExposure", "uValue tilt exposure", uValue.Length,
-                    tilt.Length, exposure.Length);
+                int count = Elements.Count("Fabric.UValueAtTiltAndExposure", ("uValue", uValue.Length), ("tilt",
+                    tilt.Length), ("exposure", exposure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_u_value_at_tilt_and_exposure((UIntPtr)count, ref uValue.First,
                     uValue.Stride, ref tilt.First, tilt.Stride, ref exposure.First, exposure.Stride,
@@ -1355,9 +1318,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Fabric.WindowParameters(int, PaneKind, float, PaneKind, float, PaneKind, float, float, float, Surface, Exposure, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.WindowParameters(int, PaneKind, float, PaneKind, float, PaneKind, float, float, float, Surface, Exposure, float)"/>
             public static WindowParameters WindowParameters(int panes, PaneKind paneKind1, float emissivity1,
                 PaneKind paneKind2, float emissivity2, PaneKind paneKind3, float emissivity3, float cavityWidth1,
                 float cavityWidth2, Surface outerSurface, Exposure exposure, float tilt)
@@ -1373,19 +1334,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Fabric.WindowParameters(int, PaneKind, float, PaneKind, float, PaneKind, float, float, float, Surface, Exposure, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Fabric.WindowParameters(int, PaneKind, float, PaneKind, float, PaneKind, float, float, float, Surface, Exposure, float)"/>
             public static WindowParameters[] WindowParameters(Input<int> panes, Input<PaneKind> paneKind1,
                 Input<float> emissivity1, Input<PaneKind> paneKind2, Input<float> emissivity2,
                 Input<PaneKind> paneKind3, Input<float> emissivity3, Input<float> cavityWidth1,
                 Input<float> cavityWidth2, Input<Surface> outerSurface, Input<Exposure> exposure, Input<float> tilt)
             {
-                int count = Elements.Count("Fabric.WindowParameters",
-                    "panes paneKind1 emissivity1 paneKind2 emissivity2 paneKind3 emissivity3 cavityWidth1 cavityWidth2 outerSurface exposure tilt",
-                    panes.Length, paneKind1.Length, emissivity1.Length, paneKind2.Length, emissivity2.Length,
-                    paneKind3.Length, emissivity3.Length, cavityWidth1.Length, cavityWidth2.Length, outerSurface.Length,
-                    exposure.Length, tilt.Length);
+                int count = Elements.Count("Fabric.WindowParameters", ("panes", panes.Length), ("paneKind1",
+                    paneKind1.Length), ("emissivity1", emissivity1.Length), ("paneKind2", paneKind2.Length),
+                    ("emissivity2", emissivity2.Length), ("paneKind3", paneKind3.Length), ("emissivity3",
+                    emissivity3.Length), ("cavityWidth1", cavityWidth1.Length), ("cavityWidth2", cavityWidth2.Length),
+                    ("outerSurface", outerSurface.Length), ("exposure", exposure.Length), ("tilt", tilt.Length));
                 var results = new WindowParameters[count];
                 Elements.Done(Native.quorvel_window_parameters((UIntPtr)count, ref panes.First, panes.Stride,
                     ref paneKind1.First, paneKind1.Stride, ref emissivity1.First, emissivity1.Stride,

@@ -621,7 +621,7 @@ namespace Quorvel
             return Unchecked.Geometry.Coincide(x1, y1, x2, y2);
         }
 
-        /// <summary><see cref="Geometry.Coincide(float, float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Geometry.Coincide(float, float, float, float)"/>
         public static bool[] Coincide(Input<float> x1, Input<float> y1, Input<float> x2, Input<float> y2)
         {
             Check.Range("Geometry.Coincide", "x1", x1, -float.PositiveInfinity, float.PositiveInfinity, " m");
@@ -671,7 +671,7 @@ namespace Quorvel
             return Unchecked.Geometry.BackAzimuth(angle);
         }
 
-        /// <summary><see cref="Geometry.BackAzimuth(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Geometry.BackAzimuth(float)"/>
         public static float[] BackAzimuth(Input<float> angle)
         {
             Check.Range("Geometry.BackAzimuth", "angle", angle, 0f, 360f, " °");
@@ -1055,6 +1055,8 @@ namespace Quorvel
                 int verticesB = Check.Count("Geometry.Clip", "positionsB", positionsB);
                 int pointCapacity = Check.Count("Geometry.Clip", "x", x);
                 Check.Count("Geometry.Clip", "y", y, "x", pointCapacity);
+                Check.Room("Geometry.Clip", "differenceCapacity", differenceCapacity);
+                Check.Room("Geometry.Clip", "overlapCapacity", overlapCapacity);
                 var results = new Clip { X = (double[])x.Clone(), Y = (double[])y.Clone(), UsedPoints = usedPoints,
                     DifferencePieces = new int[Math.Max(0, differenceCapacity)], OverlapPieces = new int[Math.Max(0,
                     overlapCapacity)] };
@@ -1064,8 +1066,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Overlap(float[], float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Overlap(float[], float[], float[], float[])"/>
             public static Overlap Overlap(float[] x1, float[] y1, float[] x2, float[] y2)
             {
                 int vertices1 = Check.Count("Geometry.Overlap", "x1", x1);
@@ -1079,8 +1080,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.OverlapAlias(float[], float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.OverlapAlias(float[], float[], float[], float[])"/>
             public static OverlapAlias OverlapAlias(float[] x1, float[] y1, float[] x2, float[] y2)
             {
                 int vertices1 = Check.Count("Geometry.OverlapAlias", "x1", x1);
@@ -1094,7 +1094,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Collinearity(float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Collinearity(float[], float[])"/>
             public static int Collinearity(float[] x, float[] y)
             {
                 int points = Check.Count("Geometry.Collinearity", "x", x);
@@ -1102,9 +1102,7 @@ namespace Quorvel
                 return Native.IGELIN(x, y, ref points);
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Geometry.CountEnclosed(float[], float[], float[], float[], Enclosed[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.CountEnclosed(float[], float[], float[], float[], Enclosed[])"/>
             public static CountEnclosed CountEnclosed(float[] x, float[] y, float[] pointX, float[] pointY,
                 Enclosed[] enclosed)
             {
@@ -1119,8 +1117,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.BoundaryCrossing(float[], float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.BoundaryCrossing(float[], float[], float[], float[])"/>
             public static BoundaryCrossing BoundaryCrossing(float[] segmentStart, float[] segmentEnd, float[] x,
                 float[] y)
             {
@@ -1134,7 +1131,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Inside(float[], float[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Inside(float[], float[,])"/>
             public static int Inside(float[] point, float[,] polygon)
             {
                 int vertices = Check.Count("Geometry.Inside", "polygon", polygon);
@@ -1145,7 +1142,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.ParallelPlanes(double[,], double[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.ParallelPlanes(double[,], double[,])"/>
             public static bool ParallelPlanes(double[,] triangle1, double[,] triangle2)
             {
                 Check.Shape("Geometry.ParallelPlanes", "triangle1", triangle1, 3, 3);
@@ -1153,7 +1150,7 @@ namespace Quorvel
                 return Native.GEPLEL(triangle1, triangle2) != 0;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.ParallelSides(double[,], double[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.ParallelSides(double[,], double[,])"/>
             public static ParallelSides ParallelSides(double[,] triangle1, double[,] triangle2)
             {
                 Check.Shape("Geometry.ParallelSides", "triangle1", triangle1, 3, 3);
@@ -1163,14 +1160,14 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Rectangular(double[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Rectangular(double[,])"/>
             public static bool Rectangular(double[,] quadrilateral)
             {
                 Check.Shape("Geometry.Rectangular", "quadrilateral", quadrilateral, 4, 3);
                 return Native.GERECT(quadrilateral) != 0;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Facing(double[,], double)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Facing(double[,], double)"/>
             public static Facing Facing(double[,] triangle, double azimuth)
             {
                 Check.Shape("Geometry.Facing", "triangle", triangle, 3, 3);
@@ -1179,7 +1176,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.LocalCoordinates(double[,], double[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.LocalCoordinates(double[,], double[,])"/>
             public static LocalCoordinates LocalCoordinates(double[,] quadrilateral1, double[,] quadrilateral2)
             {
                 Check.Shape("Geometry.LocalCoordinates", "quadrilateral1", quadrilateral1, 4, 3);
@@ -1189,8 +1186,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.ToLocal(double[,], double[], double[], double[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.ToLocal(double[,], double[], double[], double[])"/>
             public static double[,] ToLocal(double[,] corners, double[] xAxis, double[] yAxis, double[] zAxis)
             {
                 Check.Shape("Geometry.ToLocal", "corners", corners, 4, 3);
@@ -1202,8 +1198,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.MeetingPoint(float[], float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.MeetingPoint(float[], float[], float[], float[])"/>
             public static float[] MeetingPoint(float[] line1Start, float[] line1End, float[] line2Start,
                 float[] line2End)
             {
@@ -1216,8 +1211,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.CrossingPoint(float[], float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.CrossingPoint(float[], float[], float[], float[])"/>
             public static float[] CrossingPoint(float[] segment1Start, float[] segment1End, float[] segment2Start,
                 float[] segment2End)
             {
@@ -1230,7 +1224,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.InSpan(float[], float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.InSpan(float[], float[], float[])"/>
             public static float InSpan(float[] firstEnd, float[] secondEnd, float[] point)
             {
                 Check.Shape("Geometry.InSpan", "firstEnd", firstEnd, 3);
@@ -1239,8 +1233,7 @@ namespace Quorvel
                 return Native.GEINLN(firstEnd, secondEnd, point);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.AheadAndNearer(float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.AheadAndNearer(float[], float[], float[])"/>
             public static float AheadAndNearer(float[] firstEnd, float[] secondEnd, float[] point)
             {
                 Check.Shape("Geometry.AheadAndNearer", "firstEnd", firstEnd, 3);
@@ -1249,18 +1242,17 @@ namespace Quorvel
                 return Native.GEINLN2(firstEnd, secondEnd, point);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Coincide(float, float, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Coincide(float, float, float, float)"/>
             public static bool Coincide(float x1, float y1, float x2, float y2)
             {
                 return Native.GECOIN(ref x1, ref y1, ref x2, ref y2) != 0;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Coincide(float, float, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Coincide(float, float, float, float)"/>
             public static bool[] Coincide(Input<float> x1, Input<float> y1, Input<float> x2, Input<float> y2)
             {
-                int count = Elements.Count("Geometry.Coincide", "x1 y1 x2 y2", x1.Length, y1.Length, x2.Length,
-                    y2.Length);
+                int count = Elements.Count("Geometry.Coincide", ("x1", x1.Length), ("y1", y1.Length), ("x2", x2.Length),
+                    ("y2", y2.Length));
                 var results = new int[count];
                 Elements.Done(Native.quorvel_coincide((UIntPtr)count, ref x1.First, x1.Stride, ref y1.First, y1.Stride,
                     ref x2.First, x2.Stride, ref y2.First, y2.Stride, ref Elements.First(results),
@@ -1268,7 +1260,7 @@ namespace Quorvel
                 return Elements.Logical(results);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.SideOfLine(float[], float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.SideOfLine(float[], float[], float[])"/>
             public static int SideOfLine(float[] lineStart, float[] lineEnd, float[] point)
             {
                 Check.Shape("Geometry.SideOfLine", "lineStart", lineStart, 2);
@@ -1277,23 +1269,23 @@ namespace Quorvel
                 return Native.IGEPNT(lineStart, lineEnd, point);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.BackAzimuth(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.BackAzimuth(float)"/>
             public static float BackAzimuth(float angle)
             {
                 return Native.BORI(ref angle);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.BackAzimuth(float)"/>, unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.BackAzimuth(float)"/>
             public static float[] BackAzimuth(Input<float> angle)
             {
-                int count = Elements.Count("Geometry.BackAzimuth", "angle", angle.Length);
+                int count = Elements.Count("Geometry.BackAzimuth", ("angle", angle.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_back_azimuth((UIntPtr)count, ref angle.First, angle.Stride,
                     ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.DirectionTo(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.DirectionTo(float, float)"/>
             public static float[] DirectionTo(float solarAltitude, float solarAzimuth)
             {
                 float[] results = new float[3];
@@ -1301,7 +1293,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.SurfaceAxes(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.SurfaceAxes(float, float)"/>
             public static SurfaceAxes SurfaceAxes(float surfaceAzimuth, float tilt)
             {
                 var results = new SurfaceAxes { RotationMatrix = new float[3, 3], InverseMatrix = new float[3, 3] };
@@ -1309,7 +1301,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.LocalToGlobal(float[], float[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.LocalToGlobal(float[], float[,])"/>
             public static float[] LocalToGlobal(float[] localVector, float[,] rotationMatrix)
             {
                 Check.Shape("Geometry.LocalToGlobal", "localVector", localVector, 3);
@@ -1319,7 +1311,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.GlobalToLocal(float[], float[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.GlobalToLocal(float[], float[,])"/>
             public static float[] GlobalToLocal(float[] globalVector, float[,] rotationMatrix)
             {
                 Check.Shape("Geometry.GlobalToLocal", "globalVector", globalVector, 3);
@@ -1329,7 +1321,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.PlanArea(float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.PlanArea(float[], float[])"/>
             public static float PlanArea(float[] x, float[] y)
             {
                 int vertices = Check.Count("Geometry.PlanArea", "x", x);
@@ -1337,7 +1329,7 @@ namespace Quorvel
                 return Native.GEAPOL(x, y, ref vertices);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.SignedPlanArea(float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.SignedPlanArea(float[], float[])"/>
             public static float SignedPlanArea(float[] x, float[] y)
             {
                 int vertices = Check.Count("Geometry.SignedPlanArea", "x", x);
@@ -1345,7 +1337,7 @@ namespace Quorvel
                 return Native.GEAPO2(x, y, ref vertices);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.AreaInSpace(float[], float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.AreaInSpace(float[], float[], float[])"/>
             public static float AreaInSpace(float[] x, float[] y, float[] z)
             {
                 int vertices = Check.Count("Geometry.AreaInSpace", "x", x);
@@ -1354,7 +1346,7 @@ namespace Quorvel
                 return Native.GEAPO3(x, y, z, ref vertices);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.PolygonOrientation(float[,])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.PolygonOrientation(float[,])"/>
             public static PolygonOrientation PolygonOrientation(float[,] polygon)
             {
                 int vertices = Check.Count("Geometry.PolygonOrientation", "polygon", polygon);
@@ -1364,8 +1356,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Projection(float[], float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Projection(float[], float[], float[], float[])"/>
             public static float[] Projection(float[] planePoint, float[] planeNormal, float[] point, float[] direction)
             {
                 Check.Shape("Geometry.Projection", "planePoint", planePoint, 3);
@@ -1377,8 +1368,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.ForwardProjection(float[], float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.ForwardProjection(float[], float[], float[], float[])"/>
             public static float[] ForwardProjection(float[] planePoint, float[] planeNormal, float[] point,
                 float[] direction)
             {
@@ -1391,8 +1381,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.ForwardProjectionOrStart(float[], float[], float[], float[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.ForwardProjectionOrStart(float[], float[], float[], float[])"/>
             public static float[] ForwardProjectionOrStart(float[] planePoint, float[] planeNormal, float[] point,
                 float[] direction)
             {
@@ -1405,7 +1394,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.DotProduct(float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.DotProduct(float[], float[])"/>
             public static float DotProduct(float[] vectorA, float[] vectorB)
             {
                 Check.Shape("Geometry.DotProduct", "vectorA", vectorA, 3);
@@ -1413,7 +1402,7 @@ namespace Quorvel
                 return Native.GEDOTP(vectorA, vectorB);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.DotProductInDouble(double[], double[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.DotProductInDouble(double[], double[])"/>
             public static double DotProductInDouble(double[] vectorA, double[] vectorB)
             {
                 Check.Shape("Geometry.DotProductInDouble", "vectorA", vectorA, 3);
@@ -1421,7 +1410,7 @@ namespace Quorvel
                 return Native.GEDTDP(vectorA, vectorB);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.CrossProduct(float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.CrossProduct(float[], float[])"/>
             public static float[] CrossProduct(float[] vectorA, float[] vectorB)
             {
                 Check.Shape("Geometry.CrossProduct", "vectorA", vectorA, 3);
@@ -1431,8 +1420,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.CrossProductInDouble(double[], double[])"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.CrossProductInDouble(double[], double[])"/>
             public static double[] CrossProductInDouble(double[] vectorA, double[] vectorB)
             {
                 Check.Shape("Geometry.CrossProductInDouble", "vectorA", vectorA, 3);
@@ -1442,14 +1430,14 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.Length(float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.Length(float[])"/>
             public static float Length(float[] vector)
             {
                 Check.Shape("Geometry.Length", "vector", vector, 3);
                 return Native.GEVMOD(vector);
             }
 
-            /// <summary>As <see cref="Quorvel.Geometry.LengthInDouble(double[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Geometry.LengthInDouble(double[])"/>
             public static double LengthInDouble(double[] vector)
             {
                 Check.Shape("Geometry.LengthInDouble", "vector", vector, 3);

@@ -494,7 +494,7 @@ namespace Quorvel
             return Unchecked.Glazing.GlassDirect(normalTransmittance, normalReflectance, incidence);
         }
 
-        /// <summary><see cref="Glazing.GlassDirect(float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.GlassDirect(float, float, float)"/>
         public static GlassDirect[] GlassDirect(Input<float> normalTransmittance, Input<float> normalReflectance,
             Input<float> incidence)
         {
@@ -522,7 +522,7 @@ namespace Quorvel
             return Unchecked.Glazing.GlassDiffuse(normalTransmittance, normalReflectance);
         }
 
-        /// <summary><see cref="Glazing.GlassDiffuse(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.GlassDiffuse(float, float)"/>
         public static GlassDiffuse[] GlassDiffuse(Input<float> normalTransmittance, Input<float> normalReflectance)
         {
             Check.Range("Glazing.GlassDiffuse", "normalTransmittance", normalTransmittance, 0f, 0.92f, "");
@@ -596,7 +596,7 @@ namespace Quorvel
             return Unchecked.Glazing.RollerBlind(blindTransmittance, blindReflectance);
         }
 
-        /// <summary><see cref="Glazing.RollerBlind(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.RollerBlind(float, float)"/>
         public static RollerBlind[] RollerBlind(Input<float> blindTransmittance, Input<float> blindReflectance)
         {
             Check.Range("Glazing.RollerBlind", "blindTransmittance", blindTransmittance, 0f, 1f, "");
@@ -623,7 +623,7 @@ namespace Quorvel
             return Unchecked.Glazing.DiffuseRollerBlind(blindTransmittance, blindReflectance);
         }
 
-        /// <summary><see cref="Glazing.DiffuseRollerBlind(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.DiffuseRollerBlind(float, float)"/>
         public static DiffuseRollerBlind[] DiffuseRollerBlind(Input<float> blindTransmittance,
             Input<float> blindReflectance)
         {
@@ -652,7 +652,7 @@ namespace Quorvel
             return Unchecked.Glazing.RefractionAngle(incidence, refractiveIndex);
         }
 
-        /// <summary><see cref="Glazing.RefractionAngle(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.RefractionAngle(float, float)"/>
         public static float[] RefractionAngle(Input<float> incidence, Input<float> refractiveIndex)
         {
             Check.Range("Glazing.RefractionAngle", "incidence", incidence, -1.5708f, 1.5708f, " rad");
@@ -686,7 +686,7 @@ namespace Quorvel
             return Unchecked.Glazing.SurfaceReflectance(incidence, refractionAngle, refractiveIndex);
         }
 
-        /// <summary><see cref="Glazing.SurfaceReflectance(float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.SurfaceReflectance(float, float, float)"/>
         public static SurfaceReflectance[] SurfaceReflectance(Input<float> incidence, Input<float> refractionAngle,
             Input<float> refractiveIndex)
         {
@@ -713,7 +713,7 @@ namespace Quorvel
             return Unchecked.Glazing.SinglePassAbsorption(refractionAngle, absorptionProduct);
         }
 
-        /// <summary><see cref="Glazing.SinglePassAbsorption(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.SinglePassAbsorption(float, float)"/>
         public static float[] SinglePassAbsorption(Input<float> refractionAngle, Input<float> absorptionProduct)
         {
             Check.Range("Glazing.SinglePassAbsorption", "refractionAngle", refractionAngle, -1.5708f, 1.5708f, " rad");
@@ -744,7 +744,7 @@ namespace Quorvel
             return Unchecked.Glazing.SlabOptics(singlePassAbsorptance, faceReflectance);
         }
 
-        /// <summary><see cref="Glazing.SlabOptics(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.SlabOptics(float, float)"/>
         public static SlabOptics[] SlabOptics(Input<float> singlePassAbsorptance, Input<float> faceReflectance)
         {
             Check.Range("Glazing.SlabOptics", "singlePassAbsorptance", singlePassAbsorptance, 0f, 1f, "");
@@ -778,7 +778,7 @@ namespace Quorvel
             return Unchecked.Glazing.AbsorptionProduct(normalTransmittance, refractiveIndex);
         }
 
-        /// <summary><see cref="Glazing.AbsorptionProduct(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.AbsorptionProduct(float, float)"/>
         public static float[] AbsorptionProduct(Input<float> normalTransmittance, Input<float> refractiveIndex)
         {
             Check.Range("Glazing.AbsorptionProduct", "normalTransmittance", normalTransmittance, 0f, 0.92f, "");
@@ -806,7 +806,7 @@ namespace Quorvel
             return Unchecked.Glazing.NormalTransmittance(absorptionProduct, normalReflectance);
         }
 
-        /// <summary><see cref="Glazing.NormalTransmittance(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.NormalTransmittance(float, float)"/>
         public static float[] NormalTransmittance(Input<float> absorptionProduct, Input<float> normalReflectance)
         {
             Check.Range("Glazing.NormalTransmittance", "absorptionProduct", absorptionProduct, 0f, 20f, "");
@@ -847,8 +847,7 @@ namespace Quorvel
                 absorbed2, absorbed3, absorbed4, absorbed5);
         }
 
-        /// <summary><see cref="Glazing.PaneTemperatures(float, float, int, float, float, float, float, float)"/> for
-        /// whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.PaneTemperatures(float, float, int, float, float, float, float, float)"/>
         public static PaneTemperatures[] PaneTemperatures(Input<float> insideTemperature,
             Input<float> outsideTemperature, Input<int> panes, Input<float> absorbed1, Input<float> absorbed2,
             Input<float> absorbed3, Input<float> absorbed4, Input<float> absorbed5)
@@ -898,7 +897,7 @@ namespace Quorvel
             return Unchecked.Glazing.UnitDirect(shortwaveShadingCoefficient, longwaveShadingCoefficient, incidence);
         }
 
-        /// <summary><see cref="Glazing.UnitDirect(float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.UnitDirect(float, float, float)"/>
         public static UnitDirect[] UnitDirect(Input<float> shortwaveShadingCoefficient,
             Input<float> longwaveShadingCoefficient, Input<float> incidence)
         {
@@ -932,7 +931,7 @@ namespace Quorvel
             return Unchecked.Glazing.UnitDiffuse(shortwaveShadingCoefficient, longwaveShadingCoefficient);
         }
 
-        /// <summary><see cref="Glazing.UnitDiffuse(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.UnitDiffuse(float, float)"/>
         public static UnitDiffuse[] UnitDiffuse(Input<float> shortwaveShadingCoefficient,
             Input<float> longwaveShadingCoefficient)
         {
@@ -1056,7 +1055,7 @@ namespace Quorvel
             return Unchecked.Glazing.SlatDirect(slatSpacing, slatWidth, slatAngle, profileAngle, slatAbsorptance);
         }
 
-        /// <summary><see cref="Glazing.SlatDirect(float, float, float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.SlatDirect(float, float, float, float, float)"/>
         public static SlatDirect[] SlatDirect(Input<float> slatSpacing, Input<float> slatWidth, Input<float> slatAngle,
             Input<float> profileAngle, Input<float> slatAbsorptance)
         {
@@ -1105,8 +1104,7 @@ namespace Quorvel
                 struckAbsorptance, oppositeAbsorptance);
         }
 
-        /// <summary><see cref="Glazing.TwoFacedSlatDirect(float, float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.TwoFacedSlatDirect(float, float, float, float, float, float)"/>
         public static TwoFacedSlatDirect[] TwoFacedSlatDirect(Input<float> slatSpacing, Input<float> slatWidth,
             Input<float> slatAngle, Input<float> profileAngle, Input<float> struckAbsorptance,
             Input<float> oppositeAbsorptance)
@@ -1156,8 +1154,7 @@ namespace Quorvel
                 struckAbsorptance, oppositeAbsorptance);
         }
 
-        /// <summary><see cref="Glazing.OpenSlatDirect(float, float, float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.OpenSlatDirect(float, float, float, float, float, float, float)"/>
         public static OpenSlatDirect[] OpenSlatDirect(Input<float> slatSpacing, Input<float> slatWidth,
             Input<float> slatAngle, Input<float> profileAngle, Input<float> openShare, Input<float> struckAbsorptance,
             Input<float> oppositeAbsorptance)
@@ -1202,7 +1199,7 @@ namespace Quorvel
             return Unchecked.Glazing.SlatDiffuse(slatSpacing, slatWidth, slatAngle, slatAbsorptance);
         }
 
-        /// <summary><see cref="Glazing.SlatDiffuse(float, float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.SlatDiffuse(float, float, float, float)"/>
         public static SlatDiffuse[] SlatDiffuse(Input<float> slatSpacing, Input<float> slatWidth,
             Input<float> slatAngle, Input<float> slatAbsorptance)
         {
@@ -1243,8 +1240,7 @@ namespace Quorvel
                 oppositeAbsorptance);
         }
 
-        /// <summary><see cref="Glazing.TwoFacedSlatDiffuse(float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.TwoFacedSlatDiffuse(float, float, float, float, float)"/>
         public static TwoFacedSlatDiffuse[] TwoFacedSlatDiffuse(Input<float> slatSpacing, Input<float> slatWidth,
             Input<float> slatAngle, Input<float> struckAbsorptance, Input<float> oppositeAbsorptance)
         {
@@ -1287,8 +1283,7 @@ namespace Quorvel
                 oppositeAbsorptance);
         }
 
-        /// <summary><see cref="Glazing.OpenSlatDiffuse(float, float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Glazing.OpenSlatDiffuse(float, float, float, float, float, float)"/>
         public static OpenSlatDiffuse[] OpenSlatDiffuse(Input<float> slatSpacing, Input<float> slatWidth,
             Input<float> slatAngle, Input<float> openShare, Input<float> struckAbsorptance,
             Input<float> oppositeAbsorptance)
@@ -1309,7 +1304,7 @@ namespace Quorvel
         /// <summary>Glazing, unchecked.</summary>
         public static class Glazing
         {
-            /// <summary>As <see cref="Quorvel.Glazing.GlassDirect(float, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.GlassDirect(float, float, float)"/>
             public static GlassDirect GlassDirect(float normalTransmittance, float normalReflectance, float incidence)
             {
                 var results = new GlassDirect { ParallelTransmittance = float.NaN, ParallelAbsorptance = float.NaN,
@@ -1322,13 +1317,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.GlassDirect(float, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.GlassDirect(float, float, float)"/>
             public static GlassDirect[] GlassDirect(Input<float> normalTransmittance, Input<float> normalReflectance,
                 Input<float> incidence)
             {
-                int count = Elements.Count("Glazing.GlassDirect", "normalTransmittance normalReflectance incidence",
-                    normalTransmittance.Length, normalReflectance.Length, incidence.Length);
+                int count = Elements.Count("Glazing.GlassDirect", ("normalTransmittance", normalTransmittance.Length),
+                    ("normalReflectance", normalReflectance.Length), ("incidence", incidence.Length));
                 var results = new GlassDirect[count];
                 Elements.Done(Native.quorvel_glass_direct((UIntPtr)count, ref normalTransmittance.First,
                     normalTransmittance.Stride, ref normalReflectance.First, normalReflectance.Stride,
@@ -1342,7 +1336,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.GlassDiffuse(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.GlassDiffuse(float, float)"/>
             public static GlassDiffuse GlassDiffuse(float normalTransmittance, float normalReflectance)
             {
                 var results = new GlassDiffuse { Transmittance = float.NaN, Absorptance = float.NaN };
@@ -1351,12 +1345,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.GlassDiffuse(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.GlassDiffuse(float, float)"/>
             public static GlassDiffuse[] GlassDiffuse(Input<float> normalTransmittance, Input<float> normalReflectance)
             {
-                int count = Elements.Count("Glazing.GlassDiffuse", "normalTransmittance normalReflectance",
-                    normalTransmittance.Length, normalReflectance.Length);
+                int count = Elements.Count("Glazing.GlassDiffuse", ("normalTransmittance", normalTransmittance.Length),
+                    ("normalReflectance", normalReflectance.Length));
                 var results = new GlassDiffuse[count];
                 Elements.Done(Native.quorvel_glass_diffuse((UIntPtr)count, ref normalTransmittance.First,
                     normalTransmittance.Stride, ref normalReflectance.First, normalReflectance.Stride,
@@ -1365,7 +1358,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.StackedLayers(float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.StackedLayers(float[], float[])"/>
             public static StackedLayers StackedLayers(float[] layerTransmittances, float[] layerReflectances)
             {
                 int layers = Check.Count("Glazing.StackedLayers", "layerTransmittances", layerTransmittances);
@@ -1378,7 +1371,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.TracedLayers(float[], float[], float[])"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.TracedLayers(float[], float[], float[])"/>
             public static TracedLayers TracedLayers(float[] layerTransmittances, float[] layerAbsorptances,
                 float[] layerReflectances)
             {
@@ -1394,7 +1387,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.RollerBlind(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.RollerBlind(float, float)"/>
             public static RollerBlind RollerBlind(float blindTransmittance, float blindReflectance)
             {
                 var results = new RollerBlind { Transmittance = float.NaN, Absorptance = float.NaN,
@@ -1404,12 +1397,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.RollerBlind(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.RollerBlind(float, float)"/>
             public static RollerBlind[] RollerBlind(Input<float> blindTransmittance, Input<float> blindReflectance)
             {
-                int count = Elements.Count("Glazing.RollerBlind", "blindTransmittance blindReflectance",
-                    blindTransmittance.Length, blindReflectance.Length);
+                int count = Elements.Count("Glazing.RollerBlind", ("blindTransmittance", blindTransmittance.Length),
+                    ("blindReflectance", blindReflectance.Length));
                 var results = new RollerBlind[count];
                 Elements.Done(Native.quorvel_roller_blind((UIntPtr)count, ref blindTransmittance.First,
                     blindTransmittance.Stride, ref blindReflectance.First, blindReflectance.Stride,
@@ -1419,7 +1411,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.DiffuseRollerBlind(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.DiffuseRollerBlind(float, float)"/>
             public static DiffuseRollerBlind DiffuseRollerBlind(float blindTransmittance, float blindReflectance)
             {
                 var results = new DiffuseRollerBlind { Transmittance = float.NaN, Absorptance = float.NaN,
@@ -1429,13 +1421,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.DiffuseRollerBlind(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.DiffuseRollerBlind(float, float)"/>
             public static DiffuseRollerBlind[] DiffuseRollerBlind(Input<float> blindTransmittance,
                 Input<float> blindReflectance)
             {
-                int count = Elements.Count("Glazing.DiffuseRollerBlind", "blindTransmittance blindReflectance",
-                    blindTransmittance.Length, blindReflectance.Length);
+                int count = Elements.Count("Glazing.DiffuseRollerBlind", ("blindTransmittance",
+                    blindTransmittance.Length), ("blindReflectance", blindReflectance.Length));
                 var results = new DiffuseRollerBlind[count];
                 Elements.Done(Native.quorvel_diffuse_roller_blind((UIntPtr)count, ref blindTransmittance.First,
                     blindTransmittance.Stride, ref blindReflectance.First, blindReflectance.Stride,
@@ -1445,18 +1436,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.RefractionAngle(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.RefractionAngle(float, float)"/>
             public static float RefractionAngle(float incidence, float refractiveIndex)
             {
                 return Native.WNRANG(ref incidence, ref refractiveIndex);
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.RefractionAngle(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.RefractionAngle(float, float)"/>
             public static float[] RefractionAngle(Input<float> incidence, Input<float> refractiveIndex)
             {
-                int count = Elements.Count("Glazing.RefractionAngle", "incidence refractiveIndex", incidence.Length,
-                    refractiveIndex.Length);
+                int count = Elements.Count("Glazing.RefractionAngle", ("incidence", incidence.Length),
+                    ("refractiveIndex", refractiveIndex.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_refraction_angle((UIntPtr)count, ref incidence.First, incidence.Stride,
                     ref refractiveIndex.First, refractiveIndex.Stride, ref Elements.First(results),
@@ -1464,7 +1454,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SurfaceReflectance(float, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SurfaceReflectance(float, float, float)"/>
             public static SurfaceReflectance SurfaceReflectance(float incidence, float refractionAngle,
                 float refractiveIndex)
             {
@@ -1475,13 +1465,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SurfaceReflectance(float, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SurfaceReflectance(float, float, float)"/>
             public static SurfaceReflectance[] SurfaceReflectance(Input<float> incidence, Input<float> refractionAngle,
                 Input<float> refractiveIndex)
             {
-                int count = Elements.Count("Glazing.SurfaceReflectance", "incidence refractionAngle refractiveIndex",
-                    incidence.Length, refractionAngle.Length, refractiveIndex.Length);
+                int count = Elements.Count("Glazing.SurfaceReflectance", ("incidence", incidence.Length),
+                    ("refractionAngle", refractionAngle.Length), ("refractiveIndex", refractiveIndex.Length));
                 var results = new SurfaceReflectance[count];
                 Elements.Done(Native.quorvel_surface_reflectance((UIntPtr)count, ref incidence.First, incidence.Stride,
                     ref refractionAngle.First, refractionAngle.Stride, ref refractiveIndex.First,
@@ -1491,18 +1480,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SinglePassAbsorption(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SinglePassAbsorption(float, float)"/>
             public static float SinglePassAbsorption(float refractionAngle, float absorptionProduct)
             {
                 return Native.WNABEN(ref refractionAngle, ref absorptionProduct, ref Unread.Real);
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SinglePassAbsorption(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SinglePassAbsorption(float, float)"/>
             public static float[] SinglePassAbsorption(Input<float> refractionAngle, Input<float> absorptionProduct)
             {
-                int count = Elements.Count("Glazing.SinglePassAbsorption", "refractionAngle absorptionProduct",
-                    refractionAngle.Length, absorptionProduct.Length);
+                int count = Elements.Count("Glazing.SinglePassAbsorption", ("refractionAngle", refractionAngle.Length),
+                    ("absorptionProduct", absorptionProduct.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_single_pass_absorption((UIntPtr)count, ref refractionAngle.First,
                     refractionAngle.Stride, ref absorptionProduct.First, absorptionProduct.Stride,
@@ -1510,7 +1498,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SlabOptics(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SlabOptics(float, float)"/>
             public static SlabOptics SlabOptics(float singlePassAbsorptance, float faceReflectance)
             {
                 var results = new SlabOptics { Transmittance = float.NaN, Absorptance = float.NaN,
@@ -1520,12 +1508,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SlabOptics(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SlabOptics(float, float)"/>
             public static SlabOptics[] SlabOptics(Input<float> singlePassAbsorptance, Input<float> faceReflectance)
             {
-                int count = Elements.Count("Glazing.SlabOptics", "singlePassAbsorptance faceReflectance",
-                    singlePassAbsorptance.Length, faceReflectance.Length);
+                int count = Elements.Count("Glazing.SlabOptics", ("singlePassAbsorptance",
+                    singlePassAbsorptance.Length), ("faceReflectance", faceReflectance.Length));
                 var results = new SlabOptics[count];
                 Elements.Done(Native.quorvel_slab_optics((UIntPtr)count, ref singlePassAbsorptance.First,
                     singlePassAbsorptance.Stride, ref faceReflectance.First, faceReflectance.Stride,
@@ -1535,18 +1522,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.AbsorptionProduct(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.AbsorptionProduct(float, float)"/>
             public static float AbsorptionProduct(float normalTransmittance, float refractiveIndex)
             {
                 return Native.WNKL(ref normalTransmittance, ref refractiveIndex);
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.AbsorptionProduct(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.AbsorptionProduct(float, float)"/>
             public static float[] AbsorptionProduct(Input<float> normalTransmittance, Input<float> refractiveIndex)
             {
-                int count = Elements.Count("Glazing.AbsorptionProduct", "normalTransmittance refractiveIndex",
-                    normalTransmittance.Length, refractiveIndex.Length);
+                int count = Elements.Count("Glazing.AbsorptionProduct", ("normalTransmittance",
+                    normalTransmittance.Length), ("refractiveIndex", refractiveIndex.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_absorption_product((UIntPtr)count, ref normalTransmittance.First,
                     normalTransmittance.Stride, ref refractiveIndex.First, refractiveIndex.Stride,
@@ -1554,18 +1540,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.NormalTransmittance(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.NormalTransmittance(float, float)"/>
             public static float NormalTransmittance(float absorptionProduct, float normalReflectance)
             {
                 return Native.WNTNOR(ref absorptionProduct, ref normalReflectance);
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.NormalTransmittance(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.NormalTransmittance(float, float)"/>
             public static float[] NormalTransmittance(Input<float> absorptionProduct, Input<float> normalReflectance)
             {
-                int count = Elements.Count("Glazing.NormalTransmittance", "absorptionProduct normalReflectance",
-                    absorptionProduct.Length, normalReflectance.Length);
+                int count = Elements.Count("Glazing.NormalTransmittance", ("absorptionProduct",
+                    absorptionProduct.Length), ("normalReflectance", normalReflectance.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_normal_transmittance((UIntPtr)count, ref absorptionProduct.First,
                     absorptionProduct.Stride, ref normalReflectance.First, normalReflectance.Stride,
@@ -1573,9 +1558,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Glazing.PaneTemperatures(float, float, int, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.PaneTemperatures(float, float, int, float, float, float, float, float)"/>
             public static PaneTemperatures PaneTemperatures(float insideTemperature, float outsideTemperature,
                 int panes, float absorbed1, float absorbed2, float absorbed3, float absorbed4, float absorbed5)
             {
@@ -1588,17 +1571,15 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Glazing.PaneTemperatures(float, float, int, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.PaneTemperatures(float, float, int, float, float, float, float, float)"/>
             public static PaneTemperatures[] PaneTemperatures(Input<float> insideTemperature,
                 Input<float> outsideTemperature, Input<int> panes, Input<float> absorbed1, Input<float> absorbed2,
                 Input<float> absorbed3, Input<float> absorbed4, Input<float> absorbed5)
             {
-                int count = Elements.Count("Glazing.PaneTemperatures",
-                    "insideTemperature outsideTemperature panes absorbed1 absorbed2 absorbed3 absorbed4 absorbed5",
-                    insideTemperature.Length, outsideTemperature.Length, panes.Length, absorbed1.Length,
-                    absorbed2.Length, absorbed3.Length, absorbed4.Length, absorbed5.Length);
+                int count = Elements.Count("Glazing.PaneTemperatures", ("insideTemperature", insideTemperature.Length),
+                    ("outsideTemperature", outsideTemperature.Length), ("panes", panes.Length), ("absorbed1",
+                    absorbed1.Length), ("absorbed2", absorbed2.Length), ("absorbed3", absorbed3.Length), ("absorbed4",
+                    absorbed4.Length), ("absorbed5", absorbed5.Length));
                 var results = new PaneTemperatures[count];
                 Elements.Done(Native.quorvel_pane_temperatures((UIntPtr)count, ref insideTemperature.First,
                     insideTemperature.Stride, ref outsideTemperature.First, outsideTemperature.Stride, ref panes.First,
@@ -1612,7 +1593,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.UnitDirect(float, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.UnitDirect(float, float, float)"/>
             public static UnitDirect UnitDirect(float shortwaveShadingCoefficient, float longwaveShadingCoefficient,
                 float incidence)
             {
@@ -1623,14 +1604,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.UnitDirect(float, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.UnitDirect(float, float, float)"/>
             public static UnitDirect[] UnitDirect(Input<float> shortwaveShadingCoefficient,
                 Input<float> longwaveShadingCoefficient, Input<float> incidence)
             {
-                int count = Elements.Count("Glazing.UnitDirect",
-                    "shortwaveShadingCoefficient longwaveShadingCoefficient incidence",
-                    shortwaveShadingCoefficient.Length, longwaveShadingCoefficient.Length, incidence.Length);
+                int count = Elements.Count("Glazing.UnitDirect", ("shortwaveShadingCoefficient",
+                    shortwaveShadingCoefficient.Length), ("longwaveShadingCoefficient",
+                    longwaveShadingCoefficient.Length), ("incidence", incidence.Length));
                 var results = new UnitDirect[count];
                 Elements.Done(Native.quorvel_unit_direct((UIntPtr)count, ref shortwaveShadingCoefficient.First,
                     shortwaveShadingCoefficient.Stride, ref longwaveShadingCoefficient.First,
@@ -1641,7 +1621,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.UnitDiffuse(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.UnitDiffuse(float, float)"/>
             public static UnitDiffuse UnitDiffuse(float shortwaveShadingCoefficient, float longwaveShadingCoefficient)
             {
                 var results = new UnitDiffuse { Transmittance = float.NaN, Absorptance = float.NaN,
@@ -1651,14 +1631,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.UnitDiffuse(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.UnitDiffuse(float, float)"/>
             public static UnitDiffuse[] UnitDiffuse(Input<float> shortwaveShadingCoefficient,
                 Input<float> longwaveShadingCoefficient)
             {
-                int count = Elements.Count("Glazing.UnitDiffuse",
-                    "shortwaveShadingCoefficient longwaveShadingCoefficient", shortwaveShadingCoefficient.Length,
-                    longwaveShadingCoefficient.Length);
+                int count = Elements.Count("Glazing.UnitDiffuse", ("shortwaveShadingCoefficient",
+                    shortwaveShadingCoefficient.Length), ("longwaveShadingCoefficient",
+                    longwaveShadingCoefficient.Length));
                 var results = new UnitDiffuse[count];
                 Elements.Done(Native.quorvel_unit_diffuse((UIntPtr)count, ref shortwaveShadingCoefficient.First,
                     shortwaveShadingCoefficient.Stride, ref longwaveShadingCoefficient.First,
@@ -1668,11 +1647,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.UnitDirectShares(float, float, float, int)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.UnitDirectShares(float, float, float, int)"/>
             public static UnitDirectShares UnitDirectShares(float shortwaveShadingCoefficient,
                 float longwaveShadingCoefficient, float incidence, int panes)
             {
+                Check.Room("Glazing.UnitDirectShares", "panes", panes);
                 var results = new UnitDirectShares { Transmittance = float.NaN,
                     PaneShares = Blank.Of(new float[Math.Max(0, panes)]), Absorptance = float.NaN };
                 Native.WNDRSM(ref shortwaveShadingCoefficient, ref longwaveShadingCoefficient, ref incidence, ref panes,
@@ -1680,10 +1659,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.UnitDiffuseShares(float, float, int)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.UnitDiffuseShares(float, float, int)"/>
             public static UnitDiffuseShares UnitDiffuseShares(float shortwaveShadingCoefficient,
                 float longwaveShadingCoefficient, int panes)
             {
+                Check.Room("Glazing.UnitDiffuseShares", "panes", panes);
                 var results = new UnitDiffuseShares { Transmittance = float.NaN,
                     PaneShares = Blank.Of(new float[Math.Max(0, panes)]), Absorptance = float.NaN };
                 Native.WNDFSM(ref shortwaveShadingCoefficient, ref longwaveShadingCoefficient, ref panes,
@@ -1691,11 +1671,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.UnitShares(Radiation, float, float, float, int)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.UnitShares(Radiation, float, float, float, int)"/>
             public static UnitShares UnitShares(Radiation radiation, float shortwaveShadingCoefficient,
                 float longwaveShadingCoefficient, float incidence, int panes)
             {
+                Check.Room("Glazing.UnitShares", "panes", panes);
                 var results = new UnitShares { Transmittance = float.NaN, PaneShares = Blank.Of(new float[Math.Max(0,
                     panes)]), Absorptance = float.NaN };
                 Native.WNDRS0(ref radiation, ref shortwaveShadingCoefficient, ref longwaveShadingCoefficient,
@@ -1703,8 +1683,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SlatDirect(float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SlatDirect(float, float, float, float, float)"/>
             public static SlatDirect SlatDirect(float slatSpacing, float slatWidth, float slatAngle, float profileAngle,
                 float slatAbsorptance)
             {
@@ -1715,14 +1694,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SlatDirect(float, float, float, float, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SlatDirect(float, float, float, float, float)"/>
             public static SlatDirect[] SlatDirect(Input<float> slatSpacing, Input<float> slatWidth,
                 Input<float> slatAngle, Input<float> profileAngle, Input<float> slatAbsorptance)
             {
-                int count = Elements.Count("Glazing.SlatDirect",
-                    "slatSpacing slatWidth slatAngle profileAngle slatAbsorptance", slatSpacing.Length,
-                    slatWidth.Length, slatAngle.Length, profileAngle.Length, slatAbsorptance.Length);
+                int count = Elements.Count("Glazing.SlatDirect", ("slatSpacing", slatSpacing.Length), ("slatWidth",
+                    slatWidth.Length), ("slatAngle", slatAngle.Length), ("profileAngle", profileAngle.Length),
+                    ("slatAbsorptance", slatAbsorptance.Length));
                 var results = new SlatDirect[count];
                 Elements.Done(Native.quorvel_slat_direct((UIntPtr)count, ref slatSpacing.First, slatSpacing.Stride,
                     ref slatWidth.First, slatWidth.Stride, ref slatAngle.First, slatAngle.Stride,
@@ -1733,8 +1711,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.TwoFacedSlatDirect(float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.TwoFacedSlatDirect(float, float, float, float, float, float)"/>
             public static TwoFacedSlatDirect TwoFacedSlatDirect(float slatSpacing, float slatWidth, float slatAngle,
                 float profileAngle, float struckAbsorptance, float oppositeAbsorptance)
             {
@@ -1746,16 +1723,15 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.TwoFacedSlatDirect(float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.TwoFacedSlatDirect(float, float, float, float, float, float)"/>
             public static TwoFacedSlatDirect[] TwoFacedSlatDirect(Input<float> slatSpacing, Input<float> slatWidth,
                 Input<float> slatAngle, Input<float> profileAngle, Input<float> struckAbsorptance,
                 Input<float> oppositeAbsorptance)
             {
-                int count = Elements.Count("Glazing.TwoFacedSlatDirect",
-                    "slatSpacing slatWidth slatAngle profileAngle struckAbsorptance oppositeAbsorptance",
-                    slatSpacing.Length, slatWidth.Length, slatAngle.Length, profileAngle.Length,
-                    struckAbsorptance.Length, oppositeAbsorptance.Length);
+                int count = Elements.Count("Glazing.TwoFacedSlatDirect", ("slatSpacing", slatSpacing.Length),
+                    ("slatWidth", slatWidth.Length), ("slatAngle", slatAngle.Length), ("profileAngle",
+                    profileAngle.Length), ("struckAbsorptance", struckAbsorptance.Length), ("oppositeAbsorptance",
+                    oppositeAbsorptance.Length));
                 var results = new TwoFacedSlatDirect[count];
                 Elements.Done(Native.quorvel_two_faced_slat_direct((UIntPtr)count, ref slatSpacing.First,
                     slatSpacing.Stride, ref slatWidth.First, slatWidth.Stride, ref slatAngle.First, slatAngle.Stride,
@@ -1767,9 +1743,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Glazing.OpenSlatDirect(float, float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.OpenSlatDirect(float, float, float, float, float, float, float)"/>
             public static OpenSlatDirect OpenSlatDirect(float slatSpacing, float slatWidth, float slatAngle,
                 float profileAngle, float openShare, float struckAbsorptance, float oppositeAbsorptance)
             {
@@ -1781,17 +1755,15 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Glazing.OpenSlatDirect(float, float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.OpenSlatDirect(float, float, float, float, float, float, float)"/>
             public static OpenSlatDirect[] OpenSlatDirect(Input<float> slatSpacing, Input<float> slatWidth,
                 Input<float> slatAngle, Input<float> profileAngle, Input<float> openShare,
                 Input<float> struckAbsorptance, Input<float> oppositeAbsorptance)
             {
-                int count = Elements.Count("Glazing.OpenSlatDirect",
-                    "slatSpacing slatWidth slatAngle profileAngle openShare struckAbsorptance oppositeAbsorptance",
-                    slatSpacing.Length, slatWidth.Length, slatAngle.Length, profileAngle.Length, openShare.Length,
-                    struckAbsorptance.Length, oppositeAbsorptance.Length);
+                int count = Elements.Count("Glazing.OpenSlatDirect", ("slatSpacing", slatSpacing.Length), ("slatWidth",
+                    slatWidth.Length), ("slatAngle", slatAngle.Length), ("profileAngle", profileAngle.Length),
+                    ("openShare", openShare.Length), ("struckAbsorptance", struckAbsorptance.Length),
+                    ("oppositeAbsorptance", oppositeAbsorptance.Length));
                 var results = new OpenSlatDirect[count];
                 Elements.Done(Native.quorvel_open_slat_direct((UIntPtr)count, ref slatSpacing.First, slatSpacing.Stride,
                     ref slatWidth.First, slatWidth.Stride, ref slatAngle.First, slatAngle.Stride,
@@ -1804,7 +1776,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SlatDiffuse(float, float, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SlatDiffuse(float, float, float, float)"/>
             public static SlatDiffuse SlatDiffuse(float slatSpacing, float slatWidth, float slatAngle,
                 float slatAbsorptance)
             {
@@ -1816,13 +1788,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.SlatDiffuse(float, float, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.SlatDiffuse(float, float, float, float)"/>
             public static SlatDiffuse[] SlatDiffuse(Input<float> slatSpacing, Input<float> slatWidth,
                 Input<float> slatAngle, Input<float> slatAbsorptance)
             {
-                int count = Elements.Count("Glazing.SlatDiffuse", "slatSpacing slatWidth slatAngle slatAbsorptance",
-                    slatSpacing.Length, slatWidth.Length, slatAngle.Length, slatAbsorptance.Length);
+                int count = Elements.Count("Glazing.SlatDiffuse", ("slatSpacing", slatSpacing.Length), ("slatWidth",
+                    slatWidth.Length), ("slatAngle", slatAngle.Length), ("slatAbsorptance", slatAbsorptance.Length));
                 var results = new SlatDiffuse[count];
                 Elements.Done(Native.quorvel_slat_diffuse((UIntPtr)count, ref slatSpacing.First, slatSpacing.Stride,
                     ref slatWidth.First, slatWidth.Stride, ref slatAngle.First, slatAngle.Stride,
@@ -1834,8 +1805,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.TwoFacedSlatDiffuse(float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.TwoFacedSlatDiffuse(float, float, float, float, float)"/>
             public static TwoFacedSlatDiffuse TwoFacedSlatDiffuse(float slatSpacing, float slatWidth, float slatAngle,
                 float struckAbsorptance, float oppositeAbsorptance)
             {
@@ -1847,14 +1817,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.TwoFacedSlatDiffuse(float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.TwoFacedSlatDiffuse(float, float, float, float, float)"/>
             public static TwoFacedSlatDiffuse[] TwoFacedSlatDiffuse(Input<float> slatSpacing, Input<float> slatWidth,
                 Input<float> slatAngle, Input<float> struckAbsorptance, Input<float> oppositeAbsorptance)
             {
-                int count = Elements.Count("Glazing.TwoFacedSlatDiffuse",
-                    "slatSpacing slatWidth slatAngle struckAbsorptance oppositeAbsorptance", slatSpacing.Length,
-                    slatWidth.Length, slatAngle.Length, struckAbsorptance.Length, oppositeAbsorptance.Length);
+                int count = Elements.Count("Glazing.TwoFacedSlatDiffuse", ("slatSpacing", slatSpacing.Length),
+                    ("slatWidth", slatWidth.Length), ("slatAngle", slatAngle.Length), ("struckAbsorptance",
+                    struckAbsorptance.Length), ("oppositeAbsorptance", oppositeAbsorptance.Length));
                 var results = new TwoFacedSlatDiffuse[count];
                 Elements.Done(Native.quorvel_two_faced_slat_diffuse((UIntPtr)count, ref slatSpacing.First,
                     slatSpacing.Stride, ref slatWidth.First, slatWidth.Stride, ref slatAngle.First, slatAngle.Stride,
@@ -1867,8 +1836,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.OpenSlatDiffuse(float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.OpenSlatDiffuse(float, float, float, float, float, float)"/>
             public static OpenSlatDiffuse OpenSlatDiffuse(float slatSpacing, float slatWidth, float slatAngle,
                 float openShare, float struckAbsorptance, float oppositeAbsorptance)
             {
@@ -1880,16 +1848,15 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Glazing.OpenSlatDiffuse(float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Glazing.OpenSlatDiffuse(float, float, float, float, float, float)"/>
             public static OpenSlatDiffuse[] OpenSlatDiffuse(Input<float> slatSpacing, Input<float> slatWidth,
                 Input<float> slatAngle, Input<float> openShare, Input<float> struckAbsorptance,
                 Input<float> oppositeAbsorptance)
             {
-                int count = Elements.Count("Glazing.OpenSlatDiffuse",
-                    "slatSpacing slatWidth slatAngle openShare struckAbsorptance oppositeAbsorptance",
-                    slatSpacing.Length, slatWidth.Length, slatAngle.Length, openShare.Length, struckAbsorptance.Length,
-                    oppositeAbsorptance.Length);
+                int count = Elements.Count("Glazing.OpenSlatDiffuse", ("slatSpacing", slatSpacing.Length), ("slatWidth",
+                    slatWidth.Length), ("slatAngle", slatAngle.Length), ("openShare", openShare.Length),
+                    ("struckAbsorptance", struckAbsorptance.Length), ("oppositeAbsorptance",
+                    oppositeAbsorptance.Length));
                 var results = new OpenSlatDiffuse[count];
                 Elements.Done(Native.quorvel_open_slat_diffuse((UIntPtr)count, ref slatSpacing.First,
                     slatSpacing.Stride, ref slatWidth.First, slatWidth.Stride, ref slatAngle.First, slatAngle.Stride,

@@ -43,16 +43,16 @@ namespace Quorvel
         /// <summary>The length of what goes with any number of elements.</summary>
         internal const int Any = -1;
 
-        /// <summary>The number of elements. Those who call name the arguments, with blanks between them.</summary>
-        internal static int Count(string routine, string names, params int[] lengths)
+        /// <summary>The number of elements, in which all arrays must agree.</summary>
+        internal static int Count(string routine, params (string Name, int Length)[] inputs)
         {
-            int known = Array.FindIndex(lengths, length => length != Any);
+            int known = Array.FindIndex(inputs, input => input.Length != Any);
             if (known < 0) return 1;
-            int other = Array.FindIndex(lengths, length => length != Any && length != lengths[known]);
-            if (other < 0) return lengths[known];
-            string[] name = names.Split(' ');
-            throw new ArgumentException($"{routine}: {name[other]} has {lengths[other]} elements and {name[known]} " +
-                                        $"{lengths[known]}", name[other]);
+            foreach (var input in inputs)
+                if (input.Length != Any && input.Length != inputs[known].Length)
+                    throw new ArgumentException($"{routine}: {input.Name} has {input.Length} elements and " +
+                                                $"{inputs[known].Name} {inputs[known].Length}", input.Name);
+            return inputs[known].Length;
         }
 
         internal static ref T First<T>(T[] items)

@@ -97,7 +97,7 @@ namespace Quorvel
             return Unchecked.Psychro.DryAirEnthalpy(temperature);
         }
 
-        /// <summary><see cref="Psychro.DryAirEnthalpy(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryAirEnthalpy(float)"/>
         public static float[] DryAirEnthalpy(Input<float> temperature)
         {
             Check.Range("Psychro.DryAirEnthalpy", "temperature", temperature, -50f, 100f, " °C");
@@ -121,7 +121,7 @@ namespace Quorvel
             return Unchecked.Psychro.WaterVapourEnthalpy(temperature);
         }
 
-        /// <summary><see cref="Psychro.WaterVapourEnthalpy(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.WaterVapourEnthalpy(float)"/>
         public static float[] WaterVapourEnthalpy(Input<float> temperature)
         {
             Check.Range("Psychro.WaterVapourEnthalpy", "temperature", temperature, -50f, 100f, " °C");
@@ -145,7 +145,7 @@ namespace Quorvel
             return Unchecked.Psychro.DryAirSpecificHeat(temperature);
         }
 
-        /// <summary><see cref="Psychro.DryAirSpecificHeat(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryAirSpecificHeat(float)"/>
         public static float[] DryAirSpecificHeat(Input<float> temperature)
         {
             Check.Range("Psychro.DryAirSpecificHeat", "temperature", temperature, -50f, 100f, " °C");
@@ -168,7 +168,7 @@ namespace Quorvel
             return Unchecked.Psychro.WaterVapourSpecificHeat(temperature);
         }
 
-        /// <summary><see cref="Psychro.WaterVapourSpecificHeat(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.WaterVapourSpecificHeat(float)"/>
         public static float[] WaterVapourSpecificHeat(Input<float> temperature)
         {
             Check.Range("Psychro.WaterVapourSpecificHeat", "temperature", temperature, -50f, 100f, " °C");
@@ -193,7 +193,7 @@ namespace Quorvel
             return Unchecked.Psychro.LatentHeat(temperature);
         }
 
-        /// <summary><see cref="Psychro.LatentHeat(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.LatentHeat(float)"/>
         public static float[] LatentHeat(Input<float> temperature)
         {
             Check.Range("Psychro.LatentHeat", "temperature", temperature, -50f, 100f, " °C");
@@ -221,8 +221,7 @@ namespace Quorvel
             return Unchecked.Psychro.DryBulbFromVapourPressureAndRelativeHumidity(vapourPressure, relativeHumidity);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromVapourPressureAndRelativeHumidity(float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromVapourPressureAndRelativeHumidity(float, float)"/>
         public static float[] DryBulbFromVapourPressureAndRelativeHumidity(Input<float> vapourPressure,
             Input<float> relativeHumidity)
         {
@@ -259,8 +258,7 @@ namespace Quorvel
                 percentageSaturation, pressure);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromVapourPressureAndPercentageSaturation(float, float, float)"/> for
-        /// whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromVapourPressureAndPercentageSaturation(float, float, float)"/>
         public static float[] DryBulbFromVapourPressureAndPercentageSaturation(Input<float> vapourPressure,
             Input<float> percentageSaturation, Input<float> pressure)
         {
@@ -300,8 +298,7 @@ namespace Quorvel
                 pressure);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromMoistureContentAndRelativeHumidity(float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromMoistureContentAndRelativeHumidity(float, float, float)"/>
         public static float[] DryBulbFromMoistureContentAndRelativeHumidity(Input<float> moistureContent,
             Input<float> relativeHumidity, Input<float> pressure)
         {
@@ -341,8 +338,7 @@ namespace Quorvel
                 percentageSaturation, pressure);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromMoistureContentAndPercentageSaturation(float, float, float)"/> for
-        /// whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromMoistureContentAndPercentageSaturation(float, float, float)"/>
         public static float[] DryBulbFromMoistureContentAndPercentageSaturation(Input<float> moistureContent,
             Input<float> percentageSaturation, Input<float> pressure)
         {
@@ -376,8 +372,7 @@ namespace Quorvel
             return Unchecked.Psychro.DryBulbFromEnthalpyAndMoistureContent(enthalpy, moistureContent);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromEnthalpyAndMoistureContent(float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndMoistureContent(float, float)"/>
         public static float[] DryBulbFromEnthalpyAndMoistureContent(Input<float> enthalpy, Input<float> moistureContent)
         {
             Check.Range("Psychro.DryBulbFromEnthalpyAndMoistureContent", "enthalpy", enthalpy, -10f, 460f, " kJ/kg");
@@ -408,8 +403,7 @@ namespace Quorvel
             return Unchecked.Psychro.DryBulbFromEnthalpyAndVapourPressure(enthalpy, vapourPressure, pressure);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromEnthalpyAndVapourPressure(float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndVapourPressure(float, float, float)"/>
         public static float[] DryBulbFromEnthalpyAndVapourPressure(Input<float> enthalpy, Input<float> vapourPressure,
             Input<float> pressure)
         {
@@ -444,8 +438,7 @@ namespace Quorvel
             return Unchecked.Psychro.DryBulbFromEnthalpyAndRelativeHumidity(enthalpy, relativeHumidity, pressure);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromEnthalpyAndRelativeHumidity(float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndRelativeHumidity(float, float, float)"/>
         public static float[] DryBulbFromEnthalpyAndRelativeHumidity(Input<float> enthalpy,
             Input<float> relativeHumidity, Input<float> pressure)
         {
@@ -483,8 +476,7 @@ namespace Quorvel
                 pressure);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromEnthalpyAndPercentageSaturation(float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndPercentageSaturation(float, float, float)"/>
         public static float[] DryBulbFromEnthalpyAndPercentageSaturation(Input<float> enthalpy,
             Input<float> percentageSaturation, Input<float> pressure)
         {
@@ -523,8 +515,7 @@ namespace Quorvel
                 psychrometer);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromWetBulbAndVapourPressure(float, float, float, Psychrometer)"/> for
-        /// whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndVapourPressure(float, float, float, Psychrometer)"/>
         public static float[] DryBulbFromWetBulbAndVapourPressure(Input<float> wetBulb, Input<float> vapourPressure,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -564,8 +555,7 @@ namespace Quorvel
                 psychrometer);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromWetBulbAndMoistureContent(float, float, float, Psychrometer)"/> for
-        /// whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndMoistureContent(float, float, float, Psychrometer)"/>
         public static float[] DryBulbFromWetBulbAndMoistureContent(Input<float> wetBulb, Input<float> moistureContent,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -606,8 +596,7 @@ namespace Quorvel
                 psychrometer);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromWetBulbAndRelativeHumidity(float, float, float, Psychrometer)"/> for
-        /// whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndRelativeHumidity(float, float, float, Psychrometer)"/>
         public static float[] DryBulbFromWetBulbAndRelativeHumidity(Input<float> wetBulb, Input<float> relativeHumidity,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -649,8 +638,7 @@ namespace Quorvel
                 psychrometer);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromWetBulbAndPercentageSaturation(float, float, float, Psychrometer)"/>
-        /// for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndPercentageSaturation(float, float, float, Psychrometer)"/>
         public static float[] DryBulbFromWetBulbAndPercentageSaturation(Input<float> wetBulb,
             Input<float> percentageSaturation, Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -690,8 +678,7 @@ namespace Quorvel
             return Unchecked.Psychro.DryBulbFromWetBulbAndEnthalpy(wetBulb, enthalpy, pressure, psychrometer);
         }
 
-        /// <summary><see cref="Psychro.DryBulbFromWetBulbAndEnthalpy(float, float, float, Psychrometer)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndEnthalpy(float, float, float, Psychrometer)"/>
         public static float[] DryBulbFromWetBulbAndEnthalpy(Input<float> wetBulb, Input<float> enthalpy,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -734,8 +721,7 @@ namespace Quorvel
                 secondDryBulb, secondMoistureContent);
         }
 
-        /// <summary><see cref="Psychro.AdiabaticMixing(float, float, float, float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.AdiabaticMixing(float, float, float, float, float, float)"/>
         public static AdiabaticMixing[] AdiabaticMixing(Input<float> firstAirFlow, Input<float> firstDryBulb,
             Input<float> firstMoistureContent, Input<float> secondAirFlow, Input<float> secondDryBulb,
             Input<float> secondMoistureContent)
@@ -780,8 +766,7 @@ namespace Quorvel
             return Unchecked.Psychro.MoistureContentFromPsychrometer(dryBulb, wetBulb, pressure, psychrometer);
         }
 
-        /// <summary><see cref="Psychro.MoistureContentFromPsychrometer(float, float, float, Psychrometer)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromPsychrometer(float, float, float, Psychrometer)"/>
         public static float[] MoistureContentFromPsychrometer(Input<float> dryBulb, Input<float> wetBulb,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -813,7 +798,7 @@ namespace Quorvel
             return Unchecked.Psychro.MoistureContent(dryBulb, vapourPressure, pressure);
         }
 
-        /// <summary><see cref="Psychro.MoistureContent(float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.MoistureContent(float, float, float)"/>
         public static float[] MoistureContent(Input<float> dryBulb, Input<float> vapourPressure, Input<float> pressure)
         {
             Check.Range("Psychro.MoistureContent", "dryBulb", dryBulb, -100f, 200f, " °C");
@@ -842,8 +827,7 @@ namespace Quorvel
             return Unchecked.Psychro.VapourPressureFromMoistureContent(dryBulb, moistureContent, pressure);
         }
 
-        /// <summary><see cref="Psychro.VapourPressureFromMoistureContent(float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.VapourPressureFromMoistureContent(float, float, float)"/>
         public static float[] VapourPressureFromMoistureContent(Input<float> dryBulb, Input<float> moistureContent,
             Input<float> pressure)
         {
@@ -878,8 +862,7 @@ namespace Quorvel
             return Unchecked.Psychro.MoistureContentFromPercentageSaturation(dryBulb, percentageSaturation, pressure);
         }
 
-        /// <summary><see cref="Psychro.MoistureContentFromPercentageSaturation(float, float, float)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromPercentageSaturation(float, float, float)"/>
         public static float[] MoistureContentFromPercentageSaturation(Input<float> dryBulb,
             Input<float> percentageSaturation, Input<float> pressure)
         {
@@ -908,7 +891,7 @@ namespace Quorvel
             return Unchecked.Psychro.MoistureContentFromEnthalpy(dryBulb, enthalpy);
         }
 
-        /// <summary><see cref="Psychro.MoistureContentFromEnthalpy(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromEnthalpy(float, float)"/>
         public static float[] MoistureContentFromEnthalpy(Input<float> dryBulb, Input<float> enthalpy)
         {
             Check.Range("Psychro.MoistureContentFromEnthalpy", "dryBulb", dryBulb, -50f, 100f, " °C");
@@ -935,7 +918,7 @@ namespace Quorvel
             return Unchecked.Psychro.MoistAirDensity(dryBulb, moistureContent, pressure);
         }
 
-        /// <summary><see cref="Psychro.MoistAirDensity(float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.MoistAirDensity(float, float, float)"/>
         public static float[] MoistAirDensity(Input<float> dryBulb, Input<float> moistureContent, Input<float> pressure)
         {
             Check.Range("Psychro.MoistAirDensity", "dryBulb", dryBulb, -100f, 200f, " °C");
@@ -968,7 +951,7 @@ namespace Quorvel
             return Unchecked.Psychro.PercentageSaturation(dryBulb, moistureContent, pressure);
         }
 
-        /// <summary><see cref="Psychro.PercentageSaturation(float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.PercentageSaturation(float, float, float)"/>
         public static float[] PercentageSaturation(Input<float> dryBulb, Input<float> moistureContent,
             Input<float> pressure)
         {
@@ -997,7 +980,7 @@ namespace Quorvel
             return Unchecked.Psychro.SpecificEnthalpy(dryBulb, moistureContent);
         }
 
-        /// <summary><see cref="Psychro.SpecificEnthalpy(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.SpecificEnthalpy(float, float)"/>
         public static float[] SpecificEnthalpy(Input<float> dryBulb, Input<float> moistureContent)
         {
             Check.Range("Psychro.SpecificEnthalpy", "dryBulb", dryBulb, -50f, 100f, " °C");
@@ -1035,8 +1018,7 @@ namespace Quorvel
             return Unchecked.Psychro.SpecificEnthalpyFromPsychrometer(dryBulb, wetBulb, pressure, psychrometer);
         }
 
-        /// <summary><see cref="Psychro.SpecificEnthalpyFromPsychrometer(float, float, float, Psychrometer)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.SpecificEnthalpyFromPsychrometer(float, float, float, Psychrometer)"/>
         public static float[] SpecificEnthalpyFromPsychrometer(Input<float> dryBulb, Input<float> wetBulb,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -1073,7 +1055,7 @@ namespace Quorvel
             return Unchecked.Psychro.SpecificVolume(dryBulb, moistureContent, pressure);
         }
 
-        /// <summary><see cref="Psychro.SpecificVolume(float, float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.SpecificVolume(float, float, float)"/>
         public static float[] SpecificVolume(Input<float> dryBulb, Input<float> moistureContent, Input<float> pressure)
         {
             Check.Range("Psychro.SpecificVolume", "dryBulb", dryBulb, -100f, 200f, " °C");
@@ -1105,7 +1087,7 @@ namespace Quorvel
             return Unchecked.Psychro.SaturationTemperatureFromEnthalpy(enthalpy, pressure);
         }
 
-        /// <summary><see cref="Psychro.SaturationTemperatureFromEnthalpy(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.SaturationTemperatureFromEnthalpy(float, float)"/>
         public static float[] SaturationTemperatureFromEnthalpy(Input<float> enthalpy, Input<float> pressure)
         {
             Check.Range("Psychro.SaturationTemperatureFromEnthalpy", "enthalpy", enthalpy, -10f, 460f, " kJ/kg");
@@ -1156,8 +1138,7 @@ namespace Quorvel
                 referenceTemperature, bathers, referenceCoefficient, pressure);
         }
 
-        /// <summary><see cref="Psychro.PoolEvaporation(float, float, float, float, float, float, int, float, float)"/>
-        /// for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.PoolEvaporation(float, float, float, float, float, float, int, float, float)"/>
         public static PoolEvaporation[] PoolEvaporation(Input<float> waterArea, Input<float> wettedArea,
             Input<float> waterTemperature, Input<float> dryBulb, Input<float> moistureContent,
             Input<float> referenceTemperature, Input<int> bathers, Input<float> referenceCoefficient,
@@ -1222,8 +1203,7 @@ namespace Quorvel
                 wetBulb, referenceTemperature, bathers, referenceCoefficient, pressure);
         }
 
-        /// <summary><see cref="Psychro.PoolEvaporationFromWetBulb(float, float, float, float, float, float, int, float, float)"/>
-        /// for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.PoolEvaporationFromWetBulb(float, float, float, float, float, float, int, float, float)"/>
         public static PoolEvaporationFromWetBulb[] PoolEvaporationFromWetBulb(Input<float> waterArea,
             Input<float> wettedArea, Input<float> waterTemperature, Input<float> dryBulb, Input<float> wetBulb,
             Input<float> referenceTemperature, Input<int> bathers, Input<float> referenceCoefficient,
@@ -1266,7 +1246,7 @@ namespace Quorvel
             return Unchecked.Psychro.SaturationPressure(temperature);
         }
 
-        /// <summary><see cref="Psychro.SaturationPressure(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.SaturationPressure(float)"/>
         public static float[] SaturationPressure(Input<float> temperature)
         {
             Check.Range("Psychro.SaturationPressure", "temperature", temperature, -100f, 200f, " °C");
@@ -1294,7 +1274,7 @@ namespace Quorvel
             return Unchecked.Psychro.DewPoint(vapourPressure);
         }
 
-        /// <summary><see cref="Psychro.DewPoint(float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.DewPoint(float)"/>
         public static float[] DewPoint(Input<float> vapourPressure)
         {
             Check.Range("Psychro.DewPoint", "vapourPressure", vapourPressure, 0f, float.PositiveInfinity, " Pa");
@@ -1320,7 +1300,7 @@ namespace Quorvel
             return Unchecked.Psychro.VapourPressure(dryBulb, relativeHumidity);
         }
 
-        /// <summary><see cref="Psychro.VapourPressure(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.VapourPressure(float, float)"/>
         public static float[] VapourPressure(Input<float> dryBulb, Input<float> relativeHumidity)
         {
             Check.Range("Psychro.VapourPressure", "dryBulb", dryBulb, -100f, 200f, " °C");
@@ -1347,7 +1327,7 @@ namespace Quorvel
             return Unchecked.Psychro.RelativeHumidity(dryBulb, vapourPressure);
         }
 
-        /// <summary><see cref="Psychro.RelativeHumidity(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.RelativeHumidity(float, float)"/>
         public static float[] RelativeHumidity(Input<float> dryBulb, Input<float> vapourPressure)
         {
             Check.Range("Psychro.RelativeHumidity", "dryBulb", dryBulb, -100f, 200f, " °C");
@@ -1384,8 +1364,7 @@ namespace Quorvel
             return Unchecked.Psychro.VapourPressureFromPsychrometer(dryBulb, wetBulb, pressure, psychrometer);
         }
 
-        /// <summary><see cref="Psychro.VapourPressureFromPsychrometer(float, float, float, Psychrometer)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.VapourPressureFromPsychrometer(float, float, float, Psychrometer)"/>
         public static float[] VapourPressureFromPsychrometer(Input<float> dryBulb, Input<float> wetBulb,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -1417,7 +1396,7 @@ namespace Quorvel
             return Unchecked.Psychro.WeightedTemperature(firstTemperature, secondTemperature);
         }
 
-        /// <summary><see cref="Psychro.WeightedTemperature(float, float)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.WeightedTemperature(float, float)"/>
         public static float[] WeightedTemperature(Input<float> firstTemperature, Input<float> secondTemperature)
         {
             Check.Range("Psychro.WeightedTemperature", "firstTemperature", firstTemperature, -100f, 200f, " °C");
@@ -1454,8 +1433,7 @@ namespace Quorvel
             return Unchecked.Psychro.PsychrometerWetBulb(dryBulb, relativeHumidity, pressure, psychrometer);
         }
 
-        /// <summary><see cref="Psychro.PsychrometerWetBulb(float, float, float, Psychrometer)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.PsychrometerWetBulb(float, float, float, Psychrometer)"/>
         public static float[] PsychrometerWetBulb(Input<float> dryBulb, Input<float> relativeHumidity,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -1499,8 +1477,7 @@ namespace Quorvel
                 psychrometer);
         }
 
-        /// <summary><see cref="Psychro.WetBulbFromPercentageSaturation(float, float, float, Psychrometer)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.WetBulbFromPercentageSaturation(float, float, float, Psychrometer)"/>
         public static float[] WetBulbFromPercentageSaturation(Input<float> dryBulb, Input<float> percentageSaturation,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -1543,8 +1520,7 @@ namespace Quorvel
             return Unchecked.Psychro.WetBulbFromMoistureContent(dryBulb, moistureContent, pressure, psychrometer);
         }
 
-        /// <summary><see cref="Psychro.WetBulbFromMoistureContent(float, float, float, Psychrometer)"/> for whole
-        /// arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.WetBulbFromMoistureContent(float, float, float, Psychrometer)"/>
         public static float[] WetBulbFromMoistureContent(Input<float> dryBulb, Input<float> moistureContent,
             Input<float> pressure, Input<Psychrometer> psychrometer)
         {
@@ -1582,7 +1558,7 @@ namespace Quorvel
             return Unchecked.Psychro.WetBulb(dryBulb, vapourPressure, pressure, psychrometer);
         }
 
-        /// <summary><see cref="Psychro.WetBulb(float, float, float, Psychrometer)"/> for whole arrays.</summary>
+        /// <inheritdoc cref="Quorvel.Psychro.WetBulb(float, float, float, Psychrometer)"/>
         public static float[] WetBulb(Input<float> dryBulb, Input<float> vapourPressure, Input<float> pressure,
             Input<Psychrometer> psychrometer)
         {
@@ -1599,91 +1575,87 @@ namespace Quorvel
         /// <summary>Moist air, unchecked.</summary>
         public static class Psychro
         {
-            /// <summary>As <see cref="Quorvel.Psychro.DryAirEnthalpy(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryAirEnthalpy(float)"/>
             public static float DryAirEnthalpy(float temperature)
             {
                 return Native.PSHDRY(ref temperature);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryAirEnthalpy(float)"/>, unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryAirEnthalpy(float)"/>
             public static float[] DryAirEnthalpy(Input<float> temperature)
             {
-                int count = Elements.Count("Psychro.DryAirEnthalpy", "temperature", temperature.Length);
+                int count = Elements.Count("Psychro.DryAirEnthalpy", ("temperature", temperature.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_air_enthalpy((UIntPtr)count, ref temperature.First, temperature.Stride,
                     ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WaterVapourEnthalpy(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WaterVapourEnthalpy(float)"/>
             public static float WaterVapourEnthalpy(float temperature)
             {
                 return Native.PSHVAP(ref temperature);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WaterVapourEnthalpy(float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WaterVapourEnthalpy(float)"/>
             public static float[] WaterVapourEnthalpy(Input<float> temperature)
             {
-                int count = Elements.Count("Psychro.WaterVapourEnthalpy", "temperature", temperature.Length);
+                int count = Elements.Count("Psychro.WaterVapourEnthalpy", ("temperature", temperature.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_water_vapour_enthalpy((UIntPtr)count, ref temperature.First,
                     temperature.Stride, ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryAirSpecificHeat(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryAirSpecificHeat(float)"/>
             public static float DryAirSpecificHeat(float temperature)
             {
                 return Native.PSCPDR(ref temperature);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryAirSpecificHeat(float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryAirSpecificHeat(float)"/>
             public static float[] DryAirSpecificHeat(Input<float> temperature)
             {
-                int count = Elements.Count("Psychro.DryAirSpecificHeat", "temperature", temperature.Length);
+                int count = Elements.Count("Psychro.DryAirSpecificHeat", ("temperature", temperature.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_air_specific_heat((UIntPtr)count, ref temperature.First,
                     temperature.Stride, ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WaterVapourSpecificHeat(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WaterVapourSpecificHeat(float)"/>
             public static float WaterVapourSpecificHeat(float temperature)
             {
                 return Native.PSCPVA(ref temperature);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WaterVapourSpecificHeat(float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WaterVapourSpecificHeat(float)"/>
             public static float[] WaterVapourSpecificHeat(Input<float> temperature)
             {
-                int count = Elements.Count("Psychro.WaterVapourSpecificHeat", "temperature", temperature.Length);
+                int count = Elements.Count("Psychro.WaterVapourSpecificHeat", ("temperature", temperature.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_water_vapour_specific_heat((UIntPtr)count, ref temperature.First,
                     temperature.Stride, ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.LatentHeat(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.LatentHeat(float)"/>
             public static float LatentHeat(float temperature)
             {
                 return Native.PSHFG(ref temperature);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.LatentHeat(float)"/>, unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.LatentHeat(float)"/>
             public static float[] LatentHeat(Input<float> temperature)
             {
-                int count = Elements.Count("Psychro.LatentHeat", "temperature", temperature.Length);
+                int count = Elements.Count("Psychro.LatentHeat", ("temperature", temperature.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_latent_heat((UIntPtr)count, ref temperature.First, temperature.Stride,
                     ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryBulbFromVapourPressureAndRelativeHumidity(float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromVapourPressureAndRelativeHumidity(float, float)"/>
             public static float DryBulbFromVapourPressureAndRelativeHumidity(float vapourPressure,
                 float relativeHumidity)
             {
@@ -1693,13 +1665,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryBulbFromVapourPressureAndRelativeHumidity(float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromVapourPressureAndRelativeHumidity(float, float)"/>
             public static float[] DryBulbFromVapourPressureAndRelativeHumidity(Input<float> vapourPressure,
                 Input<float> relativeHumidity)
             {
-                int count = Elements.Count("Psychro.DryBulbFromVapourPressureAndRelativeHumidity",
-                    "vapourPressure relativeHumidity", vapourPressure.Length, relativeHumidity.Length);
+                int count = Elements.Count("Psychro.DryBulbFromVapourPressureAndRelativeHumidity", ("vapourPressure",
+                    vapourPressure.Length), ("relativeHumidity", relativeHumidity.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity((UIntPtr)count,
                     ref vapourPressure.First, vapourPressure.Stride, ref relativeHumidity.First,
@@ -1707,9 +1678,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromVapourPressureAndPercentageSaturation(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromVapourPressureAndPercentageSaturation(float, float, float)"/>
             public static float DryBulbFromVapourPressureAndPercentageSaturation(float vapourPressure,
                 float percentageSaturation, float pressure)
             {
@@ -1720,15 +1689,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromVapourPressureAndPercentageSaturation(float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromVapourPressureAndPercentageSaturation(float, float, float)"/>
             public static float[] DryBulbFromVapourPressureAndPercentageSaturation(Input<float> vapourPressure,
                 Input<float> percentageSaturation, Input<float> pressure)
             {
                 int count = Elements.Count("Psychro.DryBulbFromVapourPressureAndPercentageSaturation",
-                    "vapourPressure percentageSaturation pressure", vapourPressure.Length, percentageSaturation.Length,
-                    pressure.Length);
+                    ("vapourPressure", vapourPressure.Length), ("percentageSaturation", percentageSaturation.Length),
+                    ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation((UIntPtr)count,
                     ref vapourPressure.First, vapourPressure.Stride, ref percentageSaturation.First,
@@ -1737,9 +1704,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromMoistureContentAndRelativeHumidity(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromMoistureContentAndRelativeHumidity(float, float, float)"/>
             public static float DryBulbFromMoistureContentAndRelativeHumidity(float moistureContent,
                 float relativeHumidity, float pressure)
             {
@@ -1750,15 +1715,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromMoistureContentAndRelativeHumidity(float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromMoistureContentAndRelativeHumidity(float, float, float)"/>
             public static float[] DryBulbFromMoistureContentAndRelativeHumidity(Input<float> moistureContent,
                 Input<float> relativeHumidity, Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.DryBulbFromMoistureContentAndRelativeHumidity",
-                    "moistureContent relativeHumidity pressure", moistureContent.Length, relativeHumidity.Length,
-                    pressure.Length);
+                int count = Elements.Count("Psychro.DryBulbFromMoistureContentAndRelativeHumidity", ("moistureContent",
+                    moistureContent.Length), ("relativeHumidity", relativeHumidity.Length), ("pressure",
+                    pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_moisture_content_and_relative_humidity((UIntPtr)count,
                     ref moistureContent.First, moistureContent.Stride, ref relativeHumidity.First,
@@ -1767,9 +1730,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromMoistureContentAndPercentageSaturation(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromMoistureContentAndPercentageSaturation(float, float, float)"/>
             public static float DryBulbFromMoistureContentAndPercentageSaturation(float moistureContent,
                 float percentageSaturation, float pressure)
             {
@@ -1780,15 +1741,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromMoistureContentAndPercentageSaturation(float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromMoistureContentAndPercentageSaturation(float, float, float)"/>
             public static float[] DryBulbFromMoistureContentAndPercentageSaturation(Input<float> moistureContent,
                 Input<float> percentageSaturation, Input<float> pressure)
             {
                 int count = Elements.Count("Psychro.DryBulbFromMoistureContentAndPercentageSaturation",
-                    "moistureContent percentageSaturation pressure", moistureContent.Length,
-                    percentageSaturation.Length, pressure.Length);
+                    ("moistureContent", moistureContent.Length), ("percentageSaturation", percentageSaturation.Length),
+                    ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_moisture_content_and_percentage_saturation((UIntPtr)count,
                     ref moistureContent.First, moistureContent.Stride, ref percentageSaturation.First,
@@ -1797,8 +1756,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryBulbFromEnthalpyAndMoistureContent(float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndMoistureContent(float, float)"/>
             public static float DryBulbFromEnthalpyAndMoistureContent(float enthalpy, float moistureContent)
             {
                 float results = 0;
@@ -1807,13 +1765,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryBulbFromEnthalpyAndMoistureContent(float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndMoistureContent(float, float)"/>
             public static float[] DryBulbFromEnthalpyAndMoistureContent(Input<float> enthalpy,
                 Input<float> moistureContent)
             {
-                int count = Elements.Count("Psychro.DryBulbFromEnthalpyAndMoistureContent", "enthalpy moistureContent",
-                    enthalpy.Length, moistureContent.Length);
+                int count = Elements.Count("Psychro.DryBulbFromEnthalpyAndMoistureContent", ("enthalpy",
+                    enthalpy.Length), ("moistureContent", moistureContent.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_enthalpy_and_moisture_content((UIntPtr)count,
                     ref enthalpy.First, enthalpy.Stride, ref moistureContent.First, moistureContent.Stride,
@@ -1821,8 +1778,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryBulbFromEnthalpyAndVapourPressure(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndVapourPressure(float, float, float)"/>
             public static float DryBulbFromEnthalpyAndVapourPressure(float enthalpy, float vapourPressure,
                 float pressure)
             {
@@ -1832,13 +1788,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryBulbFromEnthalpyAndVapourPressure(float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndVapourPressure(float, float, float)"/>
             public static float[] DryBulbFromEnthalpyAndVapourPressure(Input<float> enthalpy,
                 Input<float> vapourPressure, Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.DryBulbFromEnthalpyAndVapourPressure",
-                    "enthalpy vapourPressure pressure", enthalpy.Length, vapourPressure.Length, pressure.Length);
+                int count = Elements.Count("Psychro.DryBulbFromEnthalpyAndVapourPressure", ("enthalpy",
+                    enthalpy.Length), ("vapourPressure", vapourPressure.Length), ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_enthalpy_and_vapour_pressure((UIntPtr)count,
                     ref enthalpy.First, enthalpy.Stride, ref vapourPressure.First, vapourPressure.Stride,
@@ -1846,8 +1801,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryBulbFromEnthalpyAndRelativeHumidity(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndRelativeHumidity(float, float, float)"/>
             public static float DryBulbFromEnthalpyAndRelativeHumidity(float enthalpy, float relativeHumidity,
                 float pressure)
             {
@@ -1858,13 +1812,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DryBulbFromEnthalpyAndRelativeHumidity(float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndRelativeHumidity(float, float, float)"/>
             public static float[] DryBulbFromEnthalpyAndRelativeHumidity(Input<float> enthalpy,
                 Input<float> relativeHumidity, Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.DryBulbFromEnthalpyAndRelativeHumidity",
-                    "enthalpy relativeHumidity pressure", enthalpy.Length, relativeHumidity.Length, pressure.Length);
+                int count = Elements.Count("Psychro.DryBulbFromEnthalpyAndRelativeHumidity", ("enthalpy",
+                    enthalpy.Length), ("relativeHumidity", relativeHumidity.Length), ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_enthalpy_and_relative_humidity((UIntPtr)count,
                     ref enthalpy.First, enthalpy.Stride, ref relativeHumidity.First, relativeHumidity.Stride,
@@ -1872,9 +1825,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromEnthalpyAndPercentageSaturation(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndPercentageSaturation(float, float, float)"/>
             public static float DryBulbFromEnthalpyAndPercentageSaturation(float enthalpy, float percentageSaturation,
                 float pressure)
             {
@@ -1885,15 +1836,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromEnthalpyAndPercentageSaturation(float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromEnthalpyAndPercentageSaturation(float, float, float)"/>
             public static float[] DryBulbFromEnthalpyAndPercentageSaturation(Input<float> enthalpy,
                 Input<float> percentageSaturation, Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.DryBulbFromEnthalpyAndPercentageSaturation",
-                    "enthalpy percentageSaturation pressure", enthalpy.Length, percentageSaturation.Length,
-                    pressure.Length);
+                int count = Elements.Count("Psychro.DryBulbFromEnthalpyAndPercentageSaturation", ("enthalpy",
+                    enthalpy.Length), ("percentageSaturation", percentageSaturation.Length), ("pressure",
+                    pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_enthalpy_and_percentage_saturation((UIntPtr)count,
                     ref enthalpy.First, enthalpy.Stride, ref percentageSaturation.First, percentageSaturation.Stride,
@@ -1901,9 +1850,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndVapourPressure(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndVapourPressure(float, float, float, Psychrometer)"/>
             public static float DryBulbFromWetBulbAndVapourPressure(float wetBulb, float vapourPressure, float pressure,
                 Psychrometer psychrometer)
             {
@@ -1914,15 +1861,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndVapourPressure(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndVapourPressure(float, float, float, Psychrometer)"/>
             public static float[] DryBulbFromWetBulbAndVapourPressure(Input<float> wetBulb, Input<float> vapourPressure,
                 Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndVapourPressure",
-                    "wetBulb vapourPressure pressure psychrometer", wetBulb.Length, vapourPressure.Length,
-                    pressure.Length, psychrometer.Length);
+                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndVapourPressure", ("wetBulb", wetBulb.Length),
+                    ("vapourPressure", vapourPressure.Length), ("pressure", pressure.Length), ("psychrometer",
+                    psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_wet_bulb_and_vapour_pressure((UIntPtr)count,
                     ref wetBulb.First, wetBulb.Stride, ref vapourPressure.First, vapourPressure.Stride,
@@ -1931,9 +1876,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndMoistureContent(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndMoistureContent(float, float, float, Psychrometer)"/>
             public static float DryBulbFromWetBulbAndMoistureContent(float wetBulb, float moistureContent,
                 float pressure, Psychrometer psychrometer)
             {
@@ -1944,15 +1887,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndMoistureContent(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndMoistureContent(float, float, float, Psychrometer)"/>
             public static float[] DryBulbFromWetBulbAndMoistureContent(Input<float> wetBulb,
                 Input<float> moistureContent, Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndMoistureContent",
-                    "wetBulb moistureContent pressure psychrometer", wetBulb.Length, moistureContent.Length,
-                    pressure.Length, psychrometer.Length);
+                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndMoistureContent", ("wetBulb", wetBulb.Length),
+                    ("moistureContent", moistureContent.Length), ("pressure", pressure.Length), ("psychrometer",
+                    psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_wet_bulb_and_moisture_content((UIntPtr)count,
                     ref wetBulb.First, wetBulb.Stride, ref moistureContent.First, moistureContent.Stride,
@@ -1961,9 +1902,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndRelativeHumidity(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndRelativeHumidity(float, float, float, Psychrometer)"/>
             public static float DryBulbFromWetBulbAndRelativeHumidity(float wetBulb, float relativeHumidity,
                 float pressure, Psychrometer psychrometer)
             {
@@ -1974,15 +1913,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndRelativeHumidity(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndRelativeHumidity(float, float, float, Psychrometer)"/>
             public static float[] DryBulbFromWetBulbAndRelativeHumidity(Input<float> wetBulb,
                 Input<float> relativeHumidity, Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndRelativeHumidity",
-                    "wetBulb relativeHumidity pressure psychrometer", wetBulb.Length, relativeHumidity.Length,
-                    pressure.Length, psychrometer.Length);
+                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndRelativeHumidity", ("wetBulb", wetBulb.Length),
+                    ("relativeHumidity", relativeHumidity.Length), ("pressure", pressure.Length), ("psychrometer",
+                    psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_wet_bulb_and_relative_humidity((UIntPtr)count,
                     ref wetBulb.First, wetBulb.Stride, ref relativeHumidity.First, relativeHumidity.Stride,
@@ -1991,9 +1928,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndPercentageSaturation(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndPercentageSaturation(float, float, float, Psychrometer)"/>
             public static float DryBulbFromWetBulbAndPercentageSaturation(float wetBulb, float percentageSaturation,
                 float pressure, Psychrometer psychrometer)
             {
@@ -2004,15 +1939,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndPercentageSaturation(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndPercentageSaturation(float, float, float, Psychrometer)"/>
             public static float[] DryBulbFromWetBulbAndPercentageSaturation(Input<float> wetBulb,
                 Input<float> percentageSaturation, Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndPercentageSaturation",
-                    "wetBulb percentageSaturation pressure psychrometer", wetBulb.Length, percentageSaturation.Length,
-                    pressure.Length, psychrometer.Length);
+                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndPercentageSaturation", ("wetBulb",
+                    wetBulb.Length), ("percentageSaturation", percentageSaturation.Length), ("pressure",
+                    pressure.Length), ("psychrometer", psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_wet_bulb_and_percentage_saturation((UIntPtr)count,
                     ref wetBulb.First, wetBulb.Stride, ref percentageSaturation.First, percentageSaturation.Stride,
@@ -2021,9 +1954,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndEnthalpy(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndEnthalpy(float, float, float, Psychrometer)"/>
             public static float DryBulbFromWetBulbAndEnthalpy(float wetBulb, float enthalpy, float pressure,
                 Psychrometer psychrometer)
             {
@@ -2034,15 +1965,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.DryBulbFromWetBulbAndEnthalpy(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DryBulbFromWetBulbAndEnthalpy(float, float, float, Psychrometer)"/>
             public static float[] DryBulbFromWetBulbAndEnthalpy(Input<float> wetBulb, Input<float> enthalpy,
                 Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndEnthalpy",
-                    "wetBulb enthalpy pressure psychrometer", wetBulb.Length, enthalpy.Length, pressure.Length,
-                    psychrometer.Length);
+                int count = Elements.Count("Psychro.DryBulbFromWetBulbAndEnthalpy", ("wetBulb", wetBulb.Length),
+                    ("enthalpy", enthalpy.Length), ("pressure", pressure.Length), ("psychrometer",
+                    psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dry_bulb_from_wet_bulb_and_enthalpy((UIntPtr)count, ref wetBulb.First,
                     wetBulb.Stride, ref enthalpy.First, enthalpy.Stride, ref pressure.First, pressure.Stride,
@@ -2050,8 +1979,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.AdiabaticMixing(float, float, float, float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.AdiabaticMixing(float, float, float, float, float, float)"/>
             public static AdiabaticMixing AdiabaticMixing(float firstAirFlow, float firstDryBulb,
                 float firstMoistureContent, float secondAirFlow, float secondDryBulb, float secondMoistureContent)
             {
@@ -2065,16 +1993,15 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.AdiabaticMixing(float, float, float, float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.AdiabaticMixing(float, float, float, float, float, float)"/>
             public static AdiabaticMixing[] AdiabaticMixing(Input<float> firstAirFlow, Input<float> firstDryBulb,
                 Input<float> firstMoistureContent, Input<float> secondAirFlow, Input<float> secondDryBulb,
                 Input<float> secondMoistureContent)
             {
-                int count = Elements.Count("Psychro.AdiabaticMixing",
-                    "firstAirFlow firstDryBulb firstMoistureContent secondAirFlow secondDryBulb secondMoistureContent",
-                    firstAirFlow.Length, firstDryBulb.Length, firstMoistureContent.Length, secondAirFlow.Length,
-                    secondDryBulb.Length, secondMoistureContent.Length);
+                int count = Elements.Count("Psychro.AdiabaticMixing", ("firstAirFlow", firstAirFlow.Length),
+                    ("firstDryBulb", firstDryBulb.Length), ("firstMoistureContent", firstMoistureContent.Length),
+                    ("secondAirFlow", secondAirFlow.Length), ("secondDryBulb", secondDryBulb.Length),
+                    ("secondMoistureContent", secondMoistureContent.Length));
                 var results = new AdiabaticMixing[count];
                 Elements.Done(Native.quorvel_adiabatic_mixing((UIntPtr)count, ref firstAirFlow.First,
                     firstAirFlow.Stride, ref firstDryBulb.First, firstDryBulb.Stride, ref firstMoistureContent.First,
@@ -2086,24 +2013,19 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.MoistureContentFromPsychrometer(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromPsychrometer(float, float, float, Psychrometer)"/>
             public static float MoistureContentFromPsychrometer(float dryBulb, float wetBulb, float pressure,
                 Psychrometer psychrometer)
             {
                 return Native.PSGS(ref dryBulb, ref wetBulb, ref pressure, ref psychrometer);
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.MoistureContentFromPsychrometer(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromPsychrometer(float, float, float, Psychrometer)"/>
             public static float[] MoistureContentFromPsychrometer(Input<float> dryBulb, Input<float> wetBulb,
                 Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.MoistureContentFromPsychrometer",
-                    "dryBulb wetBulb pressure psychrometer", dryBulb.Length, wetBulb.Length, pressure.Length,
-                    psychrometer.Length);
+                int count = Elements.Count("Psychro.MoistureContentFromPsychrometer", ("dryBulb", dryBulb.Length),
+                    ("wetBulb", wetBulb.Length), ("pressure", pressure.Length), ("psychrometer", psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_moisture_content_from_psychrometer((UIntPtr)count, ref dryBulb.First,
                     dryBulb.Stride, ref wetBulb.First, wetBulb.Stride, ref pressure.First, pressure.Stride,
@@ -2111,7 +2033,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.MoistureContent(float, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistureContent(float, float, float)"/>
             public static float MoistureContent(float dryBulb, float vapourPressure, float pressure)
             {
                 float results = 0;
@@ -2120,13 +2042,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.MoistureContent(float, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistureContent(float, float, float)"/>
             public static float[] MoistureContent(Input<float> dryBulb, Input<float> vapourPressure,
                 Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.MoistureContent", "dryBulb vapourPressure pressure", dryBulb.Length,
-                    vapourPressure.Length, pressure.Length);
+                int count = Elements.Count("Psychro.MoistureContent", ("dryBulb", dryBulb.Length), ("vapourPressure",
+                    vapourPressure.Length), ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_moisture_content((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref vapourPressure.First, vapourPressure.Stride, ref pressure.First, pressure.Stride,
@@ -2134,8 +2055,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.VapourPressureFromMoistureContent(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.VapourPressureFromMoistureContent(float, float, float)"/>
             public static float VapourPressureFromMoistureContent(float dryBulb, float moistureContent, float pressure)
             {
                 float results = 0;
@@ -2144,13 +2064,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.VapourPressureFromMoistureContent(float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.VapourPressureFromMoistureContent(float, float, float)"/>
             public static float[] VapourPressureFromMoistureContent(Input<float> dryBulb, Input<float> moistureContent,
                 Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.VapourPressureFromMoistureContent",
-                    "dryBulb moistureContent pressure", dryBulb.Length, moistureContent.Length, pressure.Length);
+                int count = Elements.Count("Psychro.VapourPressureFromMoistureContent", ("dryBulb", dryBulb.Length),
+                    ("moistureContent", moistureContent.Length), ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_vapour_pressure_from_moisture_content((UIntPtr)count, ref dryBulb.First,
                     dryBulb.Stride, ref moistureContent.First, moistureContent.Stride, ref pressure.First,
@@ -2158,8 +2077,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.MoistureContentFromPercentageSaturation(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromPercentageSaturation(float, float, float)"/>
             public static float MoistureContentFromPercentageSaturation(float dryBulb, float percentageSaturation,
                 float pressure)
             {
@@ -2170,14 +2088,13 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.MoistureContentFromPercentageSaturation(float, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromPercentageSaturation(float, float, float)"/>
             public static float[] MoistureContentFromPercentageSaturation(Input<float> dryBulb,
                 Input<float> percentageSaturation, Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.MoistureContentFromPercentageSaturation",
-                    "dryBulb percentageSaturation pressure", dryBulb.Length, percentageSaturation.Length,
-                    pressure.Length);
+                int count = Elements.Count("Psychro.MoistureContentFromPercentageSaturation", ("dryBulb",
+                    dryBulb.Length), ("percentageSaturation", percentageSaturation.Length), ("pressure",
+                    pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_moisture_content_from_percentage_saturation((UIntPtr)count,
                     ref dryBulb.First, dryBulb.Stride, ref percentageSaturation.First, percentageSaturation.Stride,
@@ -2185,8 +2102,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.MoistureContentFromEnthalpy(float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromEnthalpy(float, float)"/>
             public static float MoistureContentFromEnthalpy(float dryBulb, float enthalpy)
             {
                 float results = 0;
@@ -2195,12 +2111,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.MoistureContentFromEnthalpy(float, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistureContentFromEnthalpy(float, float)"/>
             public static float[] MoistureContentFromEnthalpy(Input<float> dryBulb, Input<float> enthalpy)
             {
-                int count = Elements.Count("Psychro.MoistureContentFromEnthalpy", "dryBulb enthalpy", dryBulb.Length,
-                    enthalpy.Length);
+                int count = Elements.Count("Psychro.MoistureContentFromEnthalpy", ("dryBulb", dryBulb.Length),
+                    ("enthalpy", enthalpy.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_moisture_content_from_enthalpy((UIntPtr)count, ref dryBulb.First,
                     dryBulb.Stride, ref enthalpy.First, enthalpy.Stride, ref Elements.First(results),
@@ -2208,7 +2123,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.MoistAirDensity(float, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistAirDensity(float, float, float)"/>
             public static float MoistAirDensity(float dryBulb, float moistureContent, float pressure)
             {
                 float results = 0;
@@ -2217,13 +2132,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.MoistAirDensity(float, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.MoistAirDensity(float, float, float)"/>
             public static float[] MoistAirDensity(Input<float> dryBulb, Input<float> moistureContent,
                 Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.MoistAirDensity", "dryBulb moistureContent pressure",
-                    dryBulb.Length, moistureContent.Length, pressure.Length);
+                int count = Elements.Count("Psychro.MoistAirDensity", ("dryBulb", dryBulb.Length), ("moistureContent",
+                    moistureContent.Length), ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_moist_air_density((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref moistureContent.First, moistureContent.Stride, ref pressure.First, pressure.Stride,
@@ -2231,20 +2145,18 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.PercentageSaturation(float, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.PercentageSaturation(float, float, float)"/>
             public static float PercentageSaturation(float dryBulb, float moistureContent, float pressure)
             {
                 return Native.PSPCST(ref dryBulb, ref moistureContent, ref pressure);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.PercentageSaturation(float, float, float)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.PercentageSaturation(float, float, float)"/>
             public static float[] PercentageSaturation(Input<float> dryBulb, Input<float> moistureContent,
                 Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.PercentageSaturation", "dryBulb moistureContent pressure",
-                    dryBulb.Length, moistureContent.Length, pressure.Length);
+                int count = Elements.Count("Psychro.PercentageSaturation", ("dryBulb", dryBulb.Length),
+                    ("moistureContent", moistureContent.Length), ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_percentage_saturation((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref moistureContent.First, moistureContent.Stride, ref pressure.First, pressure.Stride,
@@ -2252,7 +2164,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.SpecificEnthalpy(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SpecificEnthalpy(float, float)"/>
             public static float SpecificEnthalpy(float dryBulb, float moistureContent)
             {
                 float results = 0;
@@ -2261,12 +2173,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.SpecificEnthalpy(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SpecificEnthalpy(float, float)"/>
             public static float[] SpecificEnthalpy(Input<float> dryBulb, Input<float> moistureContent)
             {
-                int count = Elements.Count("Psychro.SpecificEnthalpy", "dryBulb moistureContent", dryBulb.Length,
-                    moistureContent.Length);
+                int count = Elements.Count("Psychro.SpecificEnthalpy", ("dryBulb", dryBulb.Length), ("moistureContent",
+                    moistureContent.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_specific_enthalpy((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref moistureContent.First, moistureContent.Stride, ref Elements.First(results),
@@ -2274,24 +2185,19 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.SpecificEnthalpyFromPsychrometer(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SpecificEnthalpyFromPsychrometer(float, float, float, Psychrometer)"/>
             public static float SpecificEnthalpyFromPsychrometer(float dryBulb, float wetBulb, float pressure,
                 Psychrometer psychrometer)
             {
                 return Native.PSHWET(ref dryBulb, ref wetBulb, ref pressure, ref psychrometer);
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.SpecificEnthalpyFromPsychrometer(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SpecificEnthalpyFromPsychrometer(float, float, float, Psychrometer)"/>
             public static float[] SpecificEnthalpyFromPsychrometer(Input<float> dryBulb, Input<float> wetBulb,
                 Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.SpecificEnthalpyFromPsychrometer",
-                    "dryBulb wetBulb pressure psychrometer", dryBulb.Length, wetBulb.Length, pressure.Length,
-                    psychrometer.Length);
+                int count = Elements.Count("Psychro.SpecificEnthalpyFromPsychrometer", ("dryBulb", dryBulb.Length),
+                    ("wetBulb", wetBulb.Length), ("pressure", pressure.Length), ("psychrometer", psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_specific_enthalpy_from_psychrometer((UIntPtr)count, ref dryBulb.First,
                     dryBulb.Stride, ref wetBulb.First, wetBulb.Stride, ref pressure.First, pressure.Stride,
@@ -2299,19 +2205,18 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.SpecificVolume(float, float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SpecificVolume(float, float, float)"/>
             public static float SpecificVolume(float dryBulb, float moistureContent, float pressure)
             {
                 return Native.PSSPVL(ref dryBulb, ref moistureContent, ref pressure);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.SpecificVolume(float, float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SpecificVolume(float, float, float)"/>
             public static float[] SpecificVolume(Input<float> dryBulb, Input<float> moistureContent,
                 Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.SpecificVolume", "dryBulb moistureContent pressure", dryBulb.Length,
-                    moistureContent.Length, pressure.Length);
+                int count = Elements.Count("Psychro.SpecificVolume", ("dryBulb", dryBulb.Length), ("moistureContent",
+                    moistureContent.Length), ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_specific_volume((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref moistureContent.First, moistureContent.Stride, ref pressure.First, pressure.Stride,
@@ -2319,19 +2224,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.SaturationTemperatureFromEnthalpy(float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SaturationTemperatureFromEnthalpy(float, float)"/>
             public static float SaturationTemperatureFromEnthalpy(float enthalpy, float pressure)
             {
                 return Native.PSTSAT(ref enthalpy, ref pressure);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.SaturationTemperatureFromEnthalpy(float, float)"/>, unchecked,
-            /// for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SaturationTemperatureFromEnthalpy(float, float)"/>
             public static float[] SaturationTemperatureFromEnthalpy(Input<float> enthalpy, Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.SaturationTemperatureFromEnthalpy", "enthalpy pressure",
-                    enthalpy.Length, pressure.Length);
+                int count = Elements.Count("Psychro.SaturationTemperatureFromEnthalpy", ("enthalpy", enthalpy.Length),
+                    ("pressure", pressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_saturation_temperature_from_enthalpy((UIntPtr)count, ref enthalpy.First,
                     enthalpy.Stride, ref pressure.First, pressure.Stride, ref Elements.First(results),
@@ -2339,9 +2242,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.PoolEvaporation(float, float, float, float, float, float, int, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.PoolEvaporation(float, float, float, float, float, float, int, float, float)"/>
             public static PoolEvaporation PoolEvaporation(float waterArea, float wettedArea, float waterTemperature,
                 float dryBulb, float moistureContent, float referenceTemperature, int bathers,
                 float referenceCoefficient, float pressure)
@@ -2355,19 +2256,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.PoolEvaporation(float, float, float, float, float, float, int, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.PoolEvaporation(float, float, float, float, float, float, int, float, float)"/>
             public static PoolEvaporation[] PoolEvaporation(Input<float> waterArea, Input<float> wettedArea,
                 Input<float> waterTemperature, Input<float> dryBulb, Input<float> moistureContent,
                 Input<float> referenceTemperature, Input<int> bathers, Input<float> referenceCoefficient,
                 Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.PoolEvaporation",
-                    "waterArea wettedArea waterTemperature dryBulb moistureContent referenceTemperature bathers referenceCoefficient pressure",
-                    waterArea.Length, wettedArea.Length, waterTemperature.Length, dryBulb.Length,
-                    moistureContent.Length, referenceTemperature.Length, bathers.Length, referenceCoefficient.Length,
-                    pressure.Length);
+                int count = Elements.Count("Psychro.PoolEvaporation", ("waterArea", waterArea.Length), ("wettedArea",
+                    wettedArea.Length), ("waterTemperature", waterTemperature.Length), ("dryBulb", dryBulb.Length),
+                    ("moistureContent", moistureContent.Length), ("referenceTemperature", referenceTemperature.Length),
+                    ("bathers", bathers.Length), ("referenceCoefficient", referenceCoefficient.Length), ("pressure",
+                    pressure.Length));
                 var results = new PoolEvaporation[count];
                 Elements.Done(Native.quorvel_pool_evaporation((UIntPtr)count, ref waterArea.First, waterArea.Stride,
                     ref wettedArea.First, wettedArea.Stride, ref waterTemperature.First, waterTemperature.Stride,
@@ -2381,9 +2280,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.PoolEvaporationFromWetBulb(float, float, float, float, float, float, int, float, float)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.PoolEvaporationFromWetBulb(float, float, float, float, float, float, int, float, float)"/>
             public static PoolEvaporationFromWetBulb PoolEvaporationFromWetBulb(float waterArea, float wettedArea,
                 float waterTemperature, float dryBulb, float wetBulb, float referenceTemperature, int bathers,
                 float referenceCoefficient, float pressure)
@@ -2397,18 +2294,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.PoolEvaporationFromWetBulb(float, float, float, float, float, float, int, float, float)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.PoolEvaporationFromWetBulb(float, float, float, float, float, float, int, float, float)"/>
             public static PoolEvaporationFromWetBulb[] PoolEvaporationFromWetBulb(Input<float> waterArea,
                 Input<float> wettedArea, Input<float> waterTemperature, Input<float> dryBulb, Input<float> wetBulb,
                 Input<float> referenceTemperature, Input<int> bathers, Input<float> referenceCoefficient,
                 Input<float> pressure)
             {
-                int count = Elements.Count("Psychro.PoolEvaporationFromWetBulb",
-                    "waterArea wettedArea waterTemperature dryBulb wetBulb referenceTemperature bathers referenceCoefficient pressure",
-                    waterArea.Length, wettedArea.Length, waterTemperature.Length, dryBulb.Length, wetBulb.Length,
-                    referenceTemperature.Length, bathers.Length, referenceCoefficient.Length, pressure.Length);
+                int count = Elements.Count("Psychro.PoolEvaporationFromWetBulb", ("waterArea", waterArea.Length),
+                    ("wettedArea", wettedArea.Length), ("waterTemperature", waterTemperature.Length), ("dryBulb",
+                    dryBulb.Length), ("wetBulb", wetBulb.Length), ("referenceTemperature", referenceTemperature.Length),
+                    ("bathers", bathers.Length), ("referenceCoefficient", referenceCoefficient.Length), ("pressure",
+                    pressure.Length));
                 var results = new PoolEvaporationFromWetBulb[count];
                 Elements.Done(Native.quorvel_pool_evaporation_from_wet_bulb((UIntPtr)count, ref waterArea.First,
                     waterArea.Stride, ref wettedArea.First, wettedArea.Stride, ref waterTemperature.First,
@@ -2422,24 +2318,23 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.SaturationPressure(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SaturationPressure(float)"/>
             public static float SaturationPressure(float temperature)
             {
                 return Native.PSSVP(ref temperature);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.SaturationPressure(float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.SaturationPressure(float)"/>
             public static float[] SaturationPressure(Input<float> temperature)
             {
-                int count = Elements.Count("Psychro.SaturationPressure", "temperature", temperature.Length);
+                int count = Elements.Count("Psychro.SaturationPressure", ("temperature", temperature.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_saturation_pressure((UIntPtr)count, ref temperature.First,
                     temperature.Stride, ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DewPoint(float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DewPoint(float)"/>
             public static float DewPoint(float vapourPressure)
             {
                 float results = 0;
@@ -2448,28 +2343,27 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.DewPoint(float)"/>, unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.DewPoint(float)"/>
             public static float[] DewPoint(Input<float> vapourPressure)
             {
-                int count = Elements.Count("Psychro.DewPoint", "vapourPressure", vapourPressure.Length);
+                int count = Elements.Count("Psychro.DewPoint", ("vapourPressure", vapourPressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_dew_point((UIntPtr)count, ref vapourPressure.First, vapourPressure.Stride,
                     ref Elements.First(results), Elements<float>.Stride));
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.VapourPressure(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.VapourPressure(float, float)"/>
             public static float VapourPressure(float dryBulb, float relativeHumidity)
             {
                 return Native.PSVP(ref dryBulb, ref relativeHumidity);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.VapourPressure(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.VapourPressure(float, float)"/>
             public static float[] VapourPressure(Input<float> dryBulb, Input<float> relativeHumidity)
             {
-                int count = Elements.Count("Psychro.VapourPressure", "dryBulb relativeHumidity", dryBulb.Length,
-                    relativeHumidity.Length);
+                int count = Elements.Count("Psychro.VapourPressure", ("dryBulb", dryBulb.Length), ("relativeHumidity",
+                    relativeHumidity.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_vapour_pressure((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref relativeHumidity.First, relativeHumidity.Stride, ref Elements.First(results),
@@ -2477,7 +2371,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.RelativeHumidity(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.RelativeHumidity(float, float)"/>
             public static float RelativeHumidity(float dryBulb, float vapourPressure)
             {
                 float results = 0;
@@ -2486,12 +2380,11 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.RelativeHumidity(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.RelativeHumidity(float, float)"/>
             public static float[] RelativeHumidity(Input<float> dryBulb, Input<float> vapourPressure)
             {
-                int count = Elements.Count("Psychro.RelativeHumidity", "dryBulb vapourPressure", dryBulb.Length,
-                    vapourPressure.Length);
+                int count = Elements.Count("Psychro.RelativeHumidity", ("dryBulb", dryBulb.Length), ("vapourPressure",
+                    vapourPressure.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_relative_humidity((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref vapourPressure.First, vapourPressure.Stride, ref Elements.First(results),
@@ -2499,24 +2392,19 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.VapourPressureFromPsychrometer(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.VapourPressureFromPsychrometer(float, float, float, Psychrometer)"/>
             public static float VapourPressureFromPsychrometer(float dryBulb, float wetBulb, float pressure,
                 Psychrometer psychrometer)
             {
                 return Native.PSVAP(ref dryBulb, ref wetBulb, ref pressure, ref psychrometer);
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.VapourPressureFromPsychrometer(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.VapourPressureFromPsychrometer(float, float, float, Psychrometer)"/>
             public static float[] VapourPressureFromPsychrometer(Input<float> dryBulb, Input<float> wetBulb,
                 Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.VapourPressureFromPsychrometer",
-                    "dryBulb wetBulb pressure psychrometer", dryBulb.Length, wetBulb.Length, pressure.Length,
-                    psychrometer.Length);
+                int count = Elements.Count("Psychro.VapourPressureFromPsychrometer", ("dryBulb", dryBulb.Length),
+                    ("wetBulb", wetBulb.Length), ("pressure", pressure.Length), ("psychrometer", psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_vapour_pressure_from_psychrometer((UIntPtr)count, ref dryBulb.First,
                     dryBulb.Stride, ref wetBulb.First, wetBulb.Stride, ref pressure.First, pressure.Stride,
@@ -2524,18 +2412,17 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WeightedTemperature(float, float)"/>, unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WeightedTemperature(float, float)"/>
             public static float WeightedTemperature(float firstTemperature, float secondTemperature)
             {
                 return Native.PSTEFF(ref firstTemperature, ref secondTemperature);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WeightedTemperature(float, float)"/>, unchecked, for whole
-            /// arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WeightedTemperature(float, float)"/>
             public static float[] WeightedTemperature(Input<float> firstTemperature, Input<float> secondTemperature)
             {
-                int count = Elements.Count("Psychro.WeightedTemperature", "firstTemperature secondTemperature",
-                    firstTemperature.Length, secondTemperature.Length);
+                int count = Elements.Count("Psychro.WeightedTemperature", ("firstTemperature", firstTemperature.Length),
+                    ("secondTemperature", secondTemperature.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_weighted_temperature((UIntPtr)count, ref firstTemperature.First,
                     firstTemperature.Stride, ref secondTemperature.First, secondTemperature.Stride,
@@ -2543,22 +2430,20 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.PsychrometerWetBulb(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.PsychrometerWetBulb(float, float, float, Psychrometer)"/>
             public static float PsychrometerWetBulb(float dryBulb, float relativeHumidity, float pressure,
                 Psychrometer psychrometer)
             {
                 return Native.PSTWET(ref dryBulb, ref relativeHumidity, ref pressure, ref psychrometer);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.PsychrometerWetBulb(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.PsychrometerWetBulb(float, float, float, Psychrometer)"/>
             public static float[] PsychrometerWetBulb(Input<float> dryBulb, Input<float> relativeHumidity,
                 Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.PsychrometerWetBulb",
-                    "dryBulb relativeHumidity pressure psychrometer", dryBulb.Length, relativeHumidity.Length,
-                    pressure.Length, psychrometer.Length);
+                int count = Elements.Count("Psychro.PsychrometerWetBulb", ("dryBulb", dryBulb.Length),
+                    ("relativeHumidity", relativeHumidity.Length), ("pressure", pressure.Length), ("psychrometer",
+                    psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_psychrometer_wet_bulb((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref relativeHumidity.First, relativeHumidity.Stride, ref pressure.First, pressure.Stride,
@@ -2566,24 +2451,20 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.WetBulbFromPercentageSaturation(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WetBulbFromPercentageSaturation(float, float, float, Psychrometer)"/>
             public static float WetBulbFromPercentageSaturation(float dryBulb, float percentageSaturation,
                 float pressure, Psychrometer psychrometer)
             {
                 return Native.PSTWB(ref dryBulb, ref percentageSaturation, ref pressure, ref psychrometer);
             }
 
-            /// <summary>As
-            /// <see cref="Quorvel.Psychro.WetBulbFromPercentageSaturation(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WetBulbFromPercentageSaturation(float, float, float, Psychrometer)"/>
             public static float[] WetBulbFromPercentageSaturation(Input<float> dryBulb,
                 Input<float> percentageSaturation, Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.WetBulbFromPercentageSaturation",
-                    "dryBulb percentageSaturation pressure psychrometer", dryBulb.Length, percentageSaturation.Length,
-                    pressure.Length, psychrometer.Length);
+                int count = Elements.Count("Psychro.WetBulbFromPercentageSaturation", ("dryBulb", dryBulb.Length),
+                    ("percentageSaturation", percentageSaturation.Length), ("pressure", pressure.Length),
+                    ("psychrometer", psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_wet_bulb_from_percentage_saturation((UIntPtr)count, ref dryBulb.First,
                     dryBulb.Stride, ref percentageSaturation.First, percentageSaturation.Stride, ref pressure.First,
@@ -2592,22 +2473,20 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WetBulbFromMoistureContent(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WetBulbFromMoistureContent(float, float, float, Psychrometer)"/>
             public static float WetBulbFromMoistureContent(float dryBulb, float moistureContent, float pressure,
                 Psychrometer psychrometer)
             {
                 return Native.PSWBLB(ref dryBulb, ref moistureContent, ref pressure, ref psychrometer);
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WetBulbFromMoistureContent(float, float, float, Psychrometer)"/>,
-            /// unchecked, for whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WetBulbFromMoistureContent(float, float, float, Psychrometer)"/>
             public static float[] WetBulbFromMoistureContent(Input<float> dryBulb, Input<float> moistureContent,
                 Input<float> pressure, Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.WetBulbFromMoistureContent",
-                    "dryBulb moistureContent pressure psychrometer", dryBulb.Length, moistureContent.Length,
-                    pressure.Length, psychrometer.Length);
+                int count = Elements.Count("Psychro.WetBulbFromMoistureContent", ("dryBulb", dryBulb.Length),
+                    ("moistureContent", moistureContent.Length), ("pressure", pressure.Length), ("psychrometer",
+                    psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_wet_bulb_from_moisture_content((UIntPtr)count, ref dryBulb.First,
                     dryBulb.Stride, ref moistureContent.First, moistureContent.Stride, ref pressure.First,
@@ -2616,8 +2495,7 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WetBulb(float, float, float, Psychrometer)"/>,
-            /// unchecked.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WetBulb(float, float, float, Psychrometer)"/>
             public static float WetBulb(float dryBulb, float vapourPressure, float pressure, Psychrometer psychrometer)
             {
                 float results = 0;
@@ -2626,13 +2504,12 @@ namespace Quorvel
                 return results;
             }
 
-            /// <summary>As <see cref="Quorvel.Psychro.WetBulb(float, float, float, Psychrometer)"/>, unchecked, for
-            /// whole arrays.</summary>
+            /// <inheritdoc cref="Quorvel.Psychro.WetBulb(float, float, float, Psychrometer)"/>
             public static float[] WetBulb(Input<float> dryBulb, Input<float> vapourPressure, Input<float> pressure,
                 Input<Psychrometer> psychrometer)
             {
-                int count = Elements.Count("Psychro.WetBulb", "dryBulb vapourPressure pressure psychrometer",
-                    dryBulb.Length, vapourPressure.Length, pressure.Length, psychrometer.Length);
+                int count = Elements.Count("Psychro.WetBulb", ("dryBulb", dryBulb.Length), ("vapourPressure",
+                    vapourPressure.Length), ("pressure", pressure.Length), ("psychrometer", psychrometer.Length));
                 var results = new float[count];
                 Elements.Done(Native.quorvel_wet_bulb((UIntPtr)count, ref dryBulb.First, dryBulb.Stride,
                     ref vapourPressure.First, vapourPressure.Stride, ref pressure.First, pressure.Stride,

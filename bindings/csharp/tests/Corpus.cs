@@ -1,4 +1,5 @@
 using System;
+using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using System.Text;
@@ -41,8 +42,10 @@ internal sealed class Corpus
     internal int[] Integers() => Column(1, BitConverter.ToInt32);
     internal double[] Doubles() => Column(2, BitConverter.ToDouble);
     internal T[] Selectors<T>() => Selected<T>(Integers());
-    internal float[][] Reals(int room) => Column(room, (from, at) => Numbers(room, k => BitConverter.ToSingle(from, at + 4 * k)));
-    internal int[][] Integers(int room) => Column(room, (from, at) => Numbers(room, k => BitConverter.ToInt32(from, at + 4 * k)));
+    internal float[][] Reals(int room)
+        => Column(room, (from, at) => Numbers(room, k => BitConverter.ToSingle(from, at + 4 * k)));
+    internal int[][] Integers(int room)
+        => Column(room, (from, at) => Numbers(room, k => BitConverter.ToInt32(from, at + 4 * k)));
     internal double[][] Doubles(int room)
         => Column(2 * room, (from, at) => Numbers(room, k => BitConverter.ToDouble(from, at + 8 * k)));
     internal T[][] Selectors<T>(int room) => Integers(room).Select(Selected<T>).ToArray();
@@ -69,14 +72,14 @@ internal sealed class Corpus
         uint[][] left = Column(words, (from, at) => Numbers(words, k => BitConverter.ToUInt32(from, at + 4 * k)));
         foreach (var of in got)
         {
-            int differing = Enumerable.Range(0, Cases).Count(i => chosen[i] && !AreSame(Test.Words(of(i)).ToArray(), left[i]));
+            int differing = Enumerable.Range(0, Cases).Count(i => chosen[i] && !AreSame(Test.Words(of(i)), left[i]));
             Test.That($"{routine}, {name}: {differing} cases differ", differing == 0);
         }
     }
 
     private static T[] Selected<T>(int[] numbers) => Array.ConvertAll(numbers, number => (T)(object)number);
 
-    private static bool AreSame(uint[] got, uint[] left)
+    private static bool AreSame(IEnumerable<uint> got, uint[] left)
         => got.Zip(left, (one, other) => one == other || other == Untouched && IsNone(one)).All(same => same);
 
     private static bool IsNone(uint word) => word == 0 || word == 0x7fc00000 || word == 0x7ff80000;
@@ -95,5 +98,6 @@ internal sealed class Corpus
         return Numbers(Cases, i => read(bytes, 4 * (i * wordsOfCase + first)));
     }
 
-    private static T[] Numbers<T>(int count, Func<int, T> number) => Enumerable.Range(0, count).Select(number).ToArray();
+    private static T[] Numbers<T>(int count, Func<int, T> number)
+        => Enumerable.Range(0, count).Select(number).ToArray();
 }

@@ -9,6 +9,7 @@ using Quorvel;
 /// file.</summary>
 internal static class Program
 {
+    private static readonly float[] many = new float[21]; // layers
     private static readonly PlanPoint[] square = { (0, 0), (0, 2), (2, 2), (2, 0) };
 
     private static int Main()
@@ -29,16 +30,20 @@ internal static class Program
     {
         Test.Throws<ArgumentOutOfRangeException>("too high", () => Psychro.VapourPressure(20, 150),
             "Psychro.VapourPressure", "relativeHumidity = 150", "0 to 100 %");
-        Test.Throws<ArgumentOutOfRangeException>("no number", () => Psychro.DewPoint(float.NaN), "vapourPressure", "NaN", "from 0 Pa");
+        Test.Throws<ArgumentOutOfRangeException>("no number", () => Psychro.DewPoint(float.NaN), "vapourPressure",
+            "NaN", "from 0 Pa");
         Test.Throws<ArgumentOutOfRangeException>("unknown selector",
-            () => Psychro.VapourPressureFromPsychrometer(20, 14, 101325, (Psychrometer)3), "psychrometer = 3", "Sling, Screen");
-        Test.Throws<ArgumentOutOfRangeException>("one of many", () => Psychro.DewPoint(new[] { 1000f, -1f }), "vapourPressure[1] = -1");
+            () => Psychro.VapourPressureFromPsychrometer(20, 14, 101325, (Psychrometer)3), "psychrometer = 3",
+            "Sling, Screen");
+        Test.Throws<ArgumentOutOfRangeException>("one of many", () => Psychro.DewPoint(new[] { 1000f, -1f }),
+            "vapourPressure[1] = -1");
         Test.Throws<ArgumentException>("unequal arrays", () => Psychro.VapourPressure(new float[3], new float[2]),
             "relativeHumidity has 2 elements and dryBulb 3");
         Test.Throws<ArgumentException>("unequal lists", () => Fabric.UValue(new float[2], new float[3], 0.13f, 0.04f),
             "conductivity has 3 elements and thickness 2");
-        Test.Throws<ArgumentException>("too many layers", () => Fabric.UValue(new float[21], new float[21], 0.13f, 0.04f), "0 to 20");
-        Test.Throws<ArgumentException>("a vector of two", () => Geometry.Length(new float[2]), "vector has 2 elements, not 3");
+        Test.Throws<ArgumentException>("too many layers", () => Fabric.UValue(many, many, 0.13f, 0.04f), "0 to 20");
+        Test.Throws<ArgumentException>("a vector of two", () => Geometry.Length(new float[2]),
+            "vector has 2 elements, not 3");
         Test.Throws<ArgumentNullException>("no list", () => Geometry.PlanArea(null, new float[3]), "x");
         Test.Throws<ArgumentException>("a NUL", () => Climate.StationRecords("a\0b", 1, 1, new float[12, 11]), "NUL");
     }
@@ -48,10 +53,14 @@ internal static class Program
         Test.Equal("unchecked", Unchecked.Psychro.VapourPressure(20, 150), Unchecked.Psychro.VapourPressure(20, 100));
         var day = Unchecked.Climate.SolarGeometry(0.9f, 400, 12);
         Test.That("no such day, unchecked", float.IsNaN(day.Sunrise) && day.SolarAltitude == 0);
-        Test.That("too many layers, unchecked", float.IsNaN(Unchecked.Fabric.UValue(new float[21], new float[21], 0.13f, 0.04f)));
-        Test.That("so many panes, unchecked", Unchecked.Glazing.UnitDirectShares(0.5f, 0.1f, 0, 7).PaneShares.All(float.IsNaN));
+        Test.That("too many layers, unchecked", float.IsNaN(Unchecked.Fabric.UValue(many, many, 0.13f, 0.04f)));
+        UnitDirectShares shares = Unchecked.Glazing.UnitDirectShares(0.5f, 0.1f, 0, 7);
+        Test.That("so many panes, unchecked", shares.PaneShares.All(float.IsNaN));
         Test.Equal("fewer panes than none", Unchecked.Glazing.UnitDirectShares(0.5f, 0.1f, 0, -1).PaneShares.Length, 0);
-        Test.Throws<ArgumentException>("memory, unchecked", () => Unchecked.Fabric.UValue(new float[2], new float[3], 0, 0), "conductivity");
+        Test.Throws<ArgumentException>("no room, unchecked",
+            () => Unchecked.Glazing.UnitDirectShares(0.5f, 0.1f, 0, int.MaxValue));
+        Test.Throws<ArgumentException>("memory, unchecked",
+            () => Unchecked.Fabric.UValue(new float[2], new float[3], 0, 0), "conductivity");
     }
 
     private static void WholeArrays()
@@ -61,7 +70,8 @@ internal static class Program
         Test.That("highest at noon", day.All(of => of.SolarAltitude <= day[12].SolarAltitude));
         Test.Same("structure", Climate.SolarGeometry(0.9f, 172, 7).SolarAzimuth, day[7].SolarAzimuth);
         Test.Equal("nothing of nothing", Psychro.DewPoint(new float[0]).Length, 0);
-        Psychro.AdiabaticMixing(1, 20, 0.007f, 1, 30, 0.012f).Deconstruct(out float dryBulb, out float content, out float enthalpy);
+        AdiabaticMixing mixed = Psychro.AdiabaticMixing(1, 20, 0.007f, 1, 30, 0.012f);
+        mixed.Deconstruct(out float dryBulb, out float content, out float enthalpy); // which mcs does not call by itself
         Test.That("between both airs", dryBulb > 20 && dryBulb < 30 && content > 0.007f && enthalpy > 30);
         bool[] coincide = Geometry.Coincide(new[] { 0f, 5f }, 0, 0, 0);
         Test.That("logical", coincide[0] && !coincide[1]);
@@ -94,12 +104,15 @@ internal static class Program
         Clipped clipped = Geometry.Clip(square, shifted);
         Test.Near("overlap", clipped.Overlap.Sum(Geometry.Area), 1e-3, 1);
         Test.Near("both add up", clipped.Overlap.Concat(clipped.Difference).Sum(Geometry.Area), 1e-12, 4);
-        Test.Equal("apart", Geometry.OverlapArea(square, shifted.Select(point => new PlanPoint(point.X + 9, 0)).ToArray()), 0.0);
-        PlanPoint[] upright = Comb(), level = upright.Select(point => new PlanPoint(point.Y - 0.5, point.X + 0.5)).ToArray();
+        PlanPoint[] apart = square.Select(point => new PlanPoint(point.X + 9, point.Y)).ToArray();
+        Test.Equal("apart", Geometry.OverlapArea(square, apart), 0.0);
+        PlanPoint[] upright = Comb();
+        PlanPoint[] level = upright.Select(point => new PlanPoint(point.Y - 0.5, point.X + 0.5)).ToArray();
         Test.Equal("more crossings than there is room for at first", Geometry.Clip(upright, level).Overlap.Length, 25);
         PlanPoint[] bow = { (0, 0), (2, 2), (2, 0), (0, 2) };
         Test.Throws<ClippingException>("crosses itself", () => Geometry.Clip(bow, square), "a crosses itself");
-        Test.Throws<ClippingException>("no number", () => Geometry.Clip(square, new PlanPoint[] { (0, 0), (0, 1), (1, double.NaN) }));
+        PlanPoint[] endless = { (0, 0), (0, 1), (1, double.NaN) };
+        Test.Throws<ClippingException>("no number", () => Geometry.Clip(square, endless), "not numbers");
     }
 
     /// <summary>Five teeth, 1 m wide and 10 m high, on a bar.</summary>

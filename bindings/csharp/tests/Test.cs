@@ -41,7 +41,9 @@ internal static class Test
         }
         catch (T error)
         {
-            foreach (string word in words) That($"{what}: \"{error.Message}\" has {word}", error.Message.Contains(word));
+            ++Held;
+            foreach (string word in words)
+                That($"{what}: \"{error.Message}\" has {word}", error.Message.Contains(word));
             return;
         }
         That($"{what}: throws {typeof(T).Name}", false);
