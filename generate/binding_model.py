@@ -148,6 +148,12 @@ class Call:
     def name(self):
         return self.routine.name
 
+    @property
+    def elementwise(self):
+        """Whether it is of numbers alone, so that arrays of them are element by element."""
+        things = (*self.parameters, *self.results)
+        return not (self.routine.state or self.counts or any(thing.shape or thing.kind == "Text" for thing in things))
+
     def allows(self, example):
         """Whether all that an example gives is valid."""
         counted = all(count.low <= example.given[count.name] <= count.high for count in self.counts)

@@ -44,11 +44,8 @@ def parameter_list(call):
 
 
 def is_elementwise(call):
-    """Whether it has a form for whole arrays: of numbers, not of lists, and of an array of structures for several."""
-    things = (*call.parameters, *call.results)
-    if call.routine.state or call.counts or any(thing.shape or thing.kind == "Text" for thing in things):
-        return False
-    return not (call.structure and any(result.kind == "Logical" for result in call.results))
+    """Whether it has a form for whole arrays, with structures that are laid out as those of C."""
+    return call.elementwise and not (call.structure and any(result.kind == "Logical" for result in call.results))
 
 
 def literal(value, kind):

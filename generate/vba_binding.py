@@ -16,6 +16,7 @@ MARK = "\n' ---- Procedures\n"
 TYPES = {"Real": "Single", "DoubleReal": "Double", "Integer": "Long", "Text": "Byte"}
 LIMITS = {"Real": "largest", "DoubleReal": "1E+300", "Integer": "2147483647"}
 BY_HAND = {"clip"}
+LOCALS = {"fault", "held", "spread", "rowcount", "columncount", "rowat", "columnat"}  # of each function
 
 HEAD = """\
 Attribute VB_Name = "quorvel"
@@ -23,10 +24,10 @@ Attribute VB_Name = "quorvel"
 '
 ' Produced from the catalogue of routines (catalogue/) and bindings/vba/by_hand.bas; do not edit.
 '
-' Each function takes values, ranges or arrays, and returns a value, a row of values, or a table, which spill. In place
-' of an error that stops: #VALUE! for what is no number or not as many as needed, #N/A for what is outside of its valid
-' range or was not written, #NUM! where the result is not a number. Angles are in radians unless the comment says
-' degrees.
+' Each function takes values, ranges or arrays, and returns a value, a row of values, or a table, which spill. Where an
+' argument is one number, a range gives a result for each of its cells. In place of an error that stops: #VALUE! for what
+' is no number or not as many as needed, #N/A for what is outside of its valid range or was not written, #NUM! where the
+' result is not a number. Angles are in radians unless the comment says degrees.
 Option Explicit
 
 """
@@ -38,7 +39,7 @@ def _folded(line):
         return [line]
     indent = line[:len(line) - len(line.lstrip())]
     lines, current = [], indent
-    for part in re.split(r'(?<=, )|(?<=" \()', line.lstrip()):
+    for part in re.split(r'(?<=, )|(?<=" \()|(?<= )(?=Lib ")', line.lstrip()):
         if len(current + part) > WIDTH - 2 and current.strip():
             lines.append(f"{current.rstrip()} _")
             current = indent + "    "
@@ -233,10 +234,30 @@ def _comment(call, names):
         yield from told(note, "'   ", "'   ")
 
 
+def _spread(call):
+    """The call of itself for each cell of ranges; several results are a row for each."""
+    name = function_name(call)
+    names = [lower_camel(parameter.name) for parameter in call.parameters]
+    each = ", ".join(f"CellAt(held({k}), rowAt, columnAt)" for k in range(len(names)))
+    several = len(call.results) > 1
+    yield "Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long"
+    yield f"held = Array({', '.join(f'HeldBy({each})' for each in names)})"
+    yield "If Spans(held, rowCount, columnCount) Then"
+    yield f"    ReDim spread(1 To rowCount{' * columnCount' if several else ''}, 1 To {len(call.results) if several else 'columnCount'})"
+    yield "    For rowAt = 1 To rowCount"
+    yield "        For columnAt = 1 To columnCount"
+    if several:
+        yield f"            PutRow spread, (rowAt - 1) * columnCount + columnAt, {name}({each})"
+    else:
+        yield f"            spread(rowAt, columnAt) = {name}({each})"
+    yield from ["        Next columnAt", "    Next rowAt", f"    {name} = spread", "    Exit Function", "End If"]
+
+
 def _function(call, names):
     name = function_name(call)
     parameters = ", ".join(f"ByVal {lower_camel(parameter.name)} As Variant" for parameter in call.parameters)
-    body = [*_variables(call), *_reading(call)]
+    body = list(_spread(call)) if call.elementwise else []
+    body += [*_variables(call), *_reading(call)]
     body += ["If fault <> 0 Then", f"    {name} = CVErr(fault)", "    Exit Function", "End If"]
     body += [line for result in call.results for line in _before(result)]
     body += [*_call(call), f"{name} = {_returned(call)}"]
@@ -248,8 +269,8 @@ def _function(call, names):
 
 
 def _require_apart(found, procedures):
-    """A parameter hides a procedure of its name, which its function may call."""
-    procedure_names = {name.lower() for name in re.findall(r"^\w+ (?:Function|Sub) (\w+)", procedures, re.MULTILINE)}
+    """A parameter hides a procedure or variable of its name, which its function may need."""
+    procedure_names = LOCALS | {name.lower() for name in re.findall(r"^\w+ (?:Function|Sub) (\w+)", procedures, re.MULTILINE)}
     for call in found:
         hidden = procedure_names & {lower_camel(parameter.name).lower() for parameter in call.parameters}
         assert not hidden, f"{call.name}: {hidden} is in by_hand.bas"

@@ -168,7 +168,7 @@ Private Function RowsOf(ByVal given As Variant, ByVal columns As Long, ByRef num
     RowsOf = n \ columns
 End Function
 
-Private Function IsTable(ByVal held As Variant) As Boolean
+Private Function IsTable(ByRef held As Variant) As Boolean
     Dim last As Long
     On Error GoTo One
     last = UBound(held, 2)
@@ -206,6 +206,63 @@ Private Function LongsOf(ByVal given As Variant, ByVal columns As Long, ByVal lo
         numbers(k) = LongOf(held(k), low, high, fault)
     Next k
 End Function
+
+' Whether one of several arguments is of more than one cell, and how many rows and columns there are then.
+Private Function Spans(ByRef held As Variant, ByRef rows As Long, ByRef columns As Long) As Boolean
+    Dim k As Long
+    rows = 1
+    columns = 1
+    For k = 0 To UBound(held)
+        If IsArray(held(k)) Then
+            If RowCountOf(held(k)) > rows Then rows = RowCountOf(held(k))
+            If ColumnCountOf(held(k)) > columns Then columns = ColumnCountOf(held(k))
+            Spans = True
+        End If
+    Next k
+End Function
+
+' An array that is no table is a row.
+Private Function RowCountOf(ByRef table As Variant) As Long
+    RowCountOf = 1
+    If IsTable(table) Then RowCountOf = UBound(table, 1) - LBound(table, 1) + 1
+End Function
+
+Private Function ColumnCountOf(ByRef table As Variant) As Long
+    If IsTable(table) Then
+        ColumnCountOf = UBound(table, 2) - LBound(table, 2) + 1
+    Else
+        ColumnCountOf = UBound(table) - LBound(table) + 1
+    End If
+End Function
+
+' A single cell, row or column goes with all others; beyond the end of others there is nothing.
+Private Function CellAt(ByRef held As Variant, ByVal row As Long, ByVal column As Long) As Variant
+    If Not IsArray(held) Then
+        CellAt = held
+        Exit Function
+    End If
+    If RowCountOf(held) = 1 Then row = 1
+    If ColumnCountOf(held) = 1 Then column = 1
+    If row > RowCountOf(held) Or column > ColumnCountOf(held) Then
+        CellAt = ""
+    ElseIf IsTable(held) Then
+        CellAt = held(LBound(held, 1) + row - 1, LBound(held, 2) + column - 1)
+    Else
+        CellAt = held(LBound(held) + column - 1)
+    End If
+End Function
+
+' Several results, or one error for all of them.
+Private Sub PutRow(ByRef cells As Variant, ByVal row As Long, ByVal results As Variant)
+    Dim k As Long
+    For k = 1 To UBound(cells, 2)
+        If IsArray(results) Then
+            cells(row, k) = results(k - 1)
+        Else
+            cells(row, k) = results
+        End If
+    Next k
+End Sub
 
 ' As many as there must be.
 Private Sub Equal(ByVal count As Long, ByVal wanted As Long, ByRef fault As Long)

@@ -3,10 +3,10 @@ Attribute VB_Name = "quorvel"
 '
 ' Produced from the catalogue of routines (catalogue/) and bindings/vba/by_hand.bas; do not edit.
 '
-' Each function takes values, ranges or arrays, and returns a value, a row of values, or a table, which spill. In place
-' of an error that stops: #VALUE! for what is no number or not as many as needed, #N/A for what is outside of its valid
-' range or was not written, #NUM! where the result is not a number. Angles are in radians unless the comment says
-' degrees.
+' Each function takes values, ranges or arrays, and returns a value, a row of values, or a table, which spill. Where an
+' argument is one number, a range gives a result for each of its cells. In place of an error that stops: #VALUE! for what
+' is no number or not as many as needed, #N/A for what is outside of its valid range or was not written, #NUM! where the
+' result is not a number. Angles are in radians unless the comment says degrees.
 Option Explicit
 
 Private Declare PtrSafe Function LoadLibraryW Lib "kernel32" (ByVal path As LongPtr) As LongPtr
@@ -15,22 +15,25 @@ Private Declare PtrSafe Function PSHVAP Lib "quorvel.dll" (ByRef temperature As 
 Private Declare PtrSafe Function PSCPDR Lib "quorvel.dll" (ByRef temperature As Single) As Single
 Private Declare PtrSafe Function PSCPVA Lib "quorvel.dll" (ByRef temperature As Single) As Single
 Private Declare PtrSafe Function PSHFG Lib "quorvel.dll" (ByRef temperature As Single) As Single
-Private Declare PtrSafe Function quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity Lib "quorvel_arrays.dll" ( _
-    ByVal count As LongPtr, ByRef vapourPressure As Single, ByVal vapourPressureStride As LongPtr, _
-    ByRef relativeHumidity As Single, ByVal relativeHumidityStride As LongPtr, ByRef result As Single, _
-    ByVal resultStride As LongPtr) As Long
-Private Declare PtrSafe Function quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation Lib "quorvel_arrays.dll" ( _
-    ByVal count As LongPtr, ByRef vapourPressure As Single, ByVal vapourPressureStride As LongPtr, _
-    ByRef percentageSaturation As Single, ByVal percentageSaturationStride As LongPtr, ByRef pressure As Single, _
-    ByVal pressureStride As LongPtr, ByRef result As Single, ByVal resultStride As LongPtr) As Long
-Private Declare PtrSafe Function quorvel_dry_bulb_from_moisture_content_and_relative_humidity Lib "quorvel_arrays.dll" ( _
-    ByVal count As LongPtr, ByRef moistureContent As Single, ByVal moistureContentStride As LongPtr, _
-    ByRef relativeHumidity As Single, ByVal relativeHumidityStride As LongPtr, ByRef pressure As Single, _
-    ByVal pressureStride As LongPtr, ByRef result As Single, ByVal resultStride As LongPtr) As Long
-Private Declare PtrSafe Function quorvel_dry_bulb_from_moisture_content_and_percentage_saturation Lib "quorvel_arrays.dll" ( _
-    ByVal count As LongPtr, ByRef moistureContent As Single, ByVal moistureContentStride As LongPtr, _
-    ByRef percentageSaturation As Single, ByVal percentageSaturationStride As LongPtr, ByRef pressure As Single, _
-    ByVal pressureStride As LongPtr, ByRef result As Single, ByVal resultStride As LongPtr) As Long
+Private Declare PtrSafe Function quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity _
+    Lib "quorvel_arrays.dll" (ByVal count As LongPtr, ByRef vapourPressure As Single, _
+    ByVal vapourPressureStride As LongPtr, ByRef relativeHumidity As Single, ByVal relativeHumidityStride As LongPtr, _
+    ByRef result As Single, ByVal resultStride As LongPtr) As Long
+Private Declare PtrSafe Function quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation _
+    Lib "quorvel_arrays.dll" (ByVal count As LongPtr, ByRef vapourPressure As Single, _
+    ByVal vapourPressureStride As LongPtr, ByRef percentageSaturation As Single, _
+    ByVal percentageSaturationStride As LongPtr, ByRef pressure As Single, ByVal pressureStride As LongPtr, _
+    ByRef result As Single, ByVal resultStride As LongPtr) As Long
+Private Declare PtrSafe Function quorvel_dry_bulb_from_moisture_content_and_relative_humidity _
+    Lib "quorvel_arrays.dll" (ByVal count As LongPtr, ByRef moistureContent As Single, _
+    ByVal moistureContentStride As LongPtr, ByRef relativeHumidity As Single, _
+    ByVal relativeHumidityStride As LongPtr, ByRef pressure As Single, ByVal pressureStride As LongPtr, _
+    ByRef result As Single, ByVal resultStride As LongPtr) As Long
+Private Declare PtrSafe Function quorvel_dry_bulb_from_moisture_content_and_percentage_saturation _
+    Lib "quorvel_arrays.dll" (ByVal count As LongPtr, ByRef moistureContent As Single, _
+    ByVal moistureContentStride As LongPtr, ByRef percentageSaturation As Single, _
+    ByVal percentageSaturationStride As LongPtr, ByRef pressure As Single, ByVal pressureStride As LongPtr, _
+    ByRef result As Single, ByVal resultStride As LongPtr) As Long
 Private Declare PtrSafe Function quorvel_dry_bulb_from_enthalpy_and_moisture_content Lib "quorvel_arrays.dll" ( _
     ByVal count As LongPtr, ByRef enthalpy As Single, ByVal enthalpyStride As LongPtr, _
     ByRef moistureContent As Single, ByVal moistureContentStride As LongPtr, ByRef result As Single, _
@@ -674,7 +677,7 @@ Private Function RowsOf(ByVal given As Variant, ByVal columns As Long, ByRef num
     RowsOf = n \ columns
 End Function
 
-Private Function IsTable(ByVal held As Variant) As Boolean
+Private Function IsTable(ByRef held As Variant) As Boolean
     Dim last As Long
     On Error GoTo One
     last = UBound(held, 2)
@@ -712,6 +715,63 @@ Private Function LongsOf(ByVal given As Variant, ByVal columns As Long, ByVal lo
         numbers(k) = LongOf(held(k), low, high, fault)
     Next k
 End Function
+
+' Whether one of several arguments is of more than one cell, and how many rows and columns there are then.
+Private Function Spans(ByRef held As Variant, ByRef rows As Long, ByRef columns As Long) As Boolean
+    Dim k As Long
+    rows = 1
+    columns = 1
+    For k = 0 To UBound(held)
+        If IsArray(held(k)) Then
+            If RowCountOf(held(k)) > rows Then rows = RowCountOf(held(k))
+            If ColumnCountOf(held(k)) > columns Then columns = ColumnCountOf(held(k))
+            Spans = True
+        End If
+    Next k
+End Function
+
+' An array that is no table is a row.
+Private Function RowCountOf(ByRef table As Variant) As Long
+    RowCountOf = 1
+    If IsTable(table) Then RowCountOf = UBound(table, 1) - LBound(table, 1) + 1
+End Function
+
+Private Function ColumnCountOf(ByRef table As Variant) As Long
+    If IsTable(table) Then
+        ColumnCountOf = UBound(table, 2) - LBound(table, 2) + 1
+    Else
+        ColumnCountOf = UBound(table) - LBound(table) + 1
+    End If
+End Function
+
+' A single cell, row or column goes with all others; beyond the end of others there is nothing.
+Private Function CellAt(ByRef held As Variant, ByVal row As Long, ByVal column As Long) As Variant
+    If Not IsArray(held) Then
+        CellAt = held
+        Exit Function
+    End If
+    If RowCountOf(held) = 1 Then row = 1
+    If ColumnCountOf(held) = 1 Then column = 1
+    If row > RowCountOf(held) Or column > ColumnCountOf(held) Then
+        CellAt = ""
+    ElseIf IsTable(held) Then
+        CellAt = held(LBound(held, 1) + row - 1, LBound(held, 2) + column - 1)
+    Else
+        CellAt = held(LBound(held) + column - 1)
+    End If
+End Function
+
+' Several results, or one error for all of them.
+Private Sub PutRow(ByRef cells As Variant, ByVal row As Long, ByVal results As Variant)
+    Dim k As Long
+    For k = 1 To UBound(cells, 2)
+        If IsArray(results) Then
+            cells(row, k) = results(k - 1)
+        Else
+            cells(row, k) = results
+        End If
+    Next k
+End Sub
 
 ' As many as there must be.
 Private Sub Equal(ByVal count As Long, ByVal wanted As Long, ByRef fault As Long)
@@ -891,6 +951,18 @@ End Sub
 '   At 0 degC it is 0.0007 kJ/kg: the constant of the fit is deliberate.
 '   Source: Polynomial fit to tables of dry air; its author is not known.
 Public Function PsychroDryAirEnthalpy(ByVal temperature As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(temperature))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryAirEnthalpy(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryAirEnthalpy = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim temperatureGiven As Single
     temperatureGiven = SingleOf(temperature, -50, 100, fault)
@@ -910,6 +982,18 @@ End Function
 '   Within 0.5 kJ/kg of saturated steam from 0 to 60 degC (IAPWS 1995), within 7 at 100 degC.
 '   Source: Polynomial fit to tables of water vapour; its author is not known.
 Public Function PsychroWaterVapourEnthalpy(ByVal temperature As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(temperature))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroWaterVapourEnthalpy(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroWaterVapourEnthalpy = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim temperatureGiven As Single
     temperatureGiven = SingleOf(temperature, -50, 100, fault)
@@ -928,6 +1012,18 @@ End Function
 '   The pieces meet, but for steps of 0.00004 kJ/kgK up at 40 degC and down at 50 degC, which are deliberate.
 '   Source: Straight lines between tabulated values for each 10 K; the author of the table is not known.
 Public Function PsychroDryAirSpecificHeat(ByVal temperature As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(temperature))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryAirSpecificHeat(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryAirSpecificHeat = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim temperatureGiven As Single
     temperatureGiven = SingleOf(temperature, -50, 100, fault)
@@ -947,6 +1043,18 @@ End Function
 '   Constant from 20 degC up.
 '   Source: Rounded engineering values; their author is not known.
 Public Function PsychroWaterVapourSpecificHeat(ByVal temperature As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(temperature))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroWaterVapourSpecificHeat(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroWaterVapourSpecificHeat = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim temperatureGiven As Single
     temperatureGiven = SingleOf(temperature, -50, 100, fault)
@@ -967,6 +1075,18 @@ End Function
 '   Within 0.5 kJ/kg of the international values (IAPWS 1995) from 0 to 60 degC.
 '   Source: Straight lines between tabulated values for each 10 K; the author of the table is not known.
 Public Function PsychroLatentHeat(ByVal temperature As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(temperature))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroLatentHeat(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroLatentHeat = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim temperatureGiven As Single
     temperatureGiven = SingleOf(temperature, -50, 100, fault)
@@ -989,6 +1109,19 @@ End Function
 '   Source: The dew point of saturated air of that temperature, by dew_point.
 Public Function PsychroDryBulbFromVapourPressureAndRelativeHumidity(ByVal vapourPressure As Variant, _
     ByVal relativeHumidity As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(vapourPressure), HeldBy(relativeHumidity))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromVapourPressureAndRelativeHumidity(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromVapourPressureAndRelativeHumidity = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim vapourPressureGiven As Single
     Dim relativeHumidityGiven As Single
@@ -1015,6 +1148,19 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromVapourPressureAndPercentageSaturation(ByVal vapourPressure As Variant, _
     ByVal percentageSaturation As Variant, ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(vapourPressure), HeldBy(percentageSaturation), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromVapourPressureAndPercentageSaturation(CellAt(held(0), _
+                    rowAt, columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromVapourPressureAndPercentageSaturation = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim vapourPressureGiven As Single
     Dim percentageSaturationGiven As Single
@@ -1043,6 +1189,19 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromMoistureContentAndRelativeHumidity(ByVal moistureContent As Variant, _
     ByVal relativeHumidity As Variant, ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(moistureContent), HeldBy(relativeHumidity), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromMoistureContentAndRelativeHumidity(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromMoistureContentAndRelativeHumidity = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim moistureContentGiven As Single
     Dim relativeHumidityGiven As Single
@@ -1071,6 +1230,19 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromMoistureContentAndPercentageSaturation(ByVal moistureContent As Variant, _
     ByVal percentageSaturation As Variant, ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(moistureContent), HeldBy(percentageSaturation), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromMoistureContentAndPercentageSaturation(CellAt(held(0), _
+                    rowAt, columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromMoistureContentAndPercentageSaturation = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim moistureContentGiven As Single
     Dim percentageSaturationGiven As Single
@@ -1098,6 +1270,19 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromEnthalpyAndMoistureContent(ByVal enthalpy As Variant, _
     ByVal moistureContent As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(enthalpy), HeldBy(moistureContent))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromEnthalpyAndMoistureContent(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromEnthalpyAndMoistureContent = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim enthalpyGiven As Single
     Dim moistureContentGiven As Single
@@ -1123,6 +1308,19 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromEnthalpyAndVapourPressure(ByVal enthalpy As Variant, _
     ByVal vapourPressure As Variant, ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(enthalpy), HeldBy(vapourPressure), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromEnthalpyAndVapourPressure(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromEnthalpyAndVapourPressure = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim enthalpyGiven As Single
     Dim vapourPressureGiven As Single
@@ -1152,6 +1350,19 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromEnthalpyAndRelativeHumidity(ByVal enthalpy As Variant, _
     ByVal relativeHumidity As Variant, ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(enthalpy), HeldBy(relativeHumidity), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromEnthalpyAndRelativeHumidity(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromEnthalpyAndRelativeHumidity = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim enthalpyGiven As Single
     Dim relativeHumidityGiven As Single
@@ -1181,6 +1392,19 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromEnthalpyAndPercentageSaturation(ByVal enthalpy As Variant, _
     ByVal percentageSaturation As Variant, ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(enthalpy), HeldBy(percentageSaturation), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromEnthalpyAndPercentageSaturation(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromEnthalpyAndPercentageSaturation = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim enthalpyGiven As Single
     Dim percentageSaturationGiven As Single
@@ -1210,6 +1434,20 @@ End Function
 '   Source: Psychrometer equation of vapour_pressure_from_psychrometer, solved for the dry bulb.
 Public Function PsychroDryBulbFromWetBulbAndVapourPressure(ByVal wetBulb As Variant, ByVal vapourPressure As Variant, _
     ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(wetBulb), HeldBy(vapourPressure), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromWetBulbAndVapourPressure(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromWetBulbAndVapourPressure = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim wetBulbGiven As Single
     Dim vapourPressureGiven As Single
@@ -1242,6 +1480,20 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromWetBulbAndMoistureContent(ByVal wetBulb As Variant, _
     ByVal moistureContent As Variant, ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(wetBulb), HeldBy(moistureContent), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromWetBulbAndMoistureContent(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromWetBulbAndMoistureContent = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim wetBulbGiven As Single
     Dim moistureContentGiven As Single
@@ -1275,6 +1527,20 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromWetBulbAndRelativeHumidity(ByVal wetBulb As Variant, _
     ByVal relativeHumidity As Variant, ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(wetBulb), HeldBy(relativeHumidity), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromWetBulbAndRelativeHumidity(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromWetBulbAndRelativeHumidity = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim wetBulbGiven As Single
     Dim relativeHumidityGiven As Single
@@ -1308,6 +1574,20 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromWetBulbAndPercentageSaturation(ByVal wetBulb As Variant, _
     ByVal percentageSaturation As Variant, ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(wetBulb), HeldBy(percentageSaturation), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromWetBulbAndPercentageSaturation(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromWetBulbAndPercentageSaturation = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim wetBulbGiven As Single
     Dim percentageSaturationGiven As Single
@@ -1342,6 +1622,20 @@ End Function
 '   Source: Newton's method in double precision on the equations of the routines named.
 Public Function PsychroDryBulbFromWetBulbAndEnthalpy(ByVal wetBulb As Variant, ByVal enthalpy As Variant, _
     ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(wetBulb), HeldBy(enthalpy), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDryBulbFromWetBulbAndEnthalpy(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDryBulbFromWetBulbAndEnthalpy = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim wetBulbGiven As Single
     Dim enthalpyGiven As Single
@@ -1381,6 +1675,21 @@ End Function
 Public Function PsychroAdiabaticMixing(ByVal firstAirFlow As Variant, ByVal firstDryBulb As Variant, _
     ByVal firstMoistureContent As Variant, ByVal secondAirFlow As Variant, ByVal secondDryBulb As Variant, _
     ByVal secondMoistureContent As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(firstAirFlow), HeldBy(firstDryBulb), HeldBy(firstMoistureContent), HeldBy(secondAirFlow), _
+        HeldBy(secondDryBulb), HeldBy(secondMoistureContent))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, PsychroAdiabaticMixing(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroAdiabaticMixing = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim firstAirFlowGiven As Single
     Dim firstDryBulbGiven As Single
@@ -1427,6 +1736,20 @@ End Function
 '   absolute temperature whose coefficients are linear in pressure.
 Public Function PsychroMoistureContentFromPsychrometer(ByVal dryBulb As Variant, ByVal wetBulb As Variant, _
     ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(wetBulb), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroMoistureContentFromPsychrometer(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroMoistureContentFromPsychrometer = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim wetBulbGiven As Single
@@ -1457,6 +1780,19 @@ End Function
 '   factor of moisture_content_from_psychrometer.
 Public Function PsychroMoistureContent(ByVal dryBulb As Variant, ByVal vapourPressure As Variant, _
     ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(vapourPressure), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroMoistureContent(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroMoistureContent = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim vapourPressureGiven As Single
@@ -1483,6 +1819,19 @@ End Function
 '   Source: As moisture_content.
 Public Function PsychroVapourPressureFromMoistureContent(ByVal dryBulb As Variant, ByVal moistureContent As Variant, _
     ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(moistureContent), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroVapourPressureFromMoistureContent(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroVapourPressureFromMoistureContent = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim moistureContentGiven As Single
@@ -1510,6 +1859,19 @@ End Function
 '   Source: Definition, with the saturation moisture content of moisture_content_from_psychrometer.
 Public Function PsychroMoistureContentFromPercentageSaturation(ByVal dryBulb As Variant, _
     ByVal percentageSaturation As Variant, ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(percentageSaturation), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroMoistureContentFromPercentageSaturation(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroMoistureContentFromPercentageSaturation = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim percentageSaturationGiven As Single
@@ -1535,6 +1897,19 @@ End Function
 '   Not limited: negative where dry air alone has more, and neither to saturation.
 '   Source: As specific_enthalpy.
 Public Function PsychroMoistureContentFromEnthalpy(ByVal dryBulb As Variant, ByVal enthalpy As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(enthalpy))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroMoistureContentFromEnthalpy(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroMoistureContentFromEnthalpy = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim enthalpyGiven As Single
@@ -1559,6 +1934,19 @@ End Function
 '   Source: Definition: ASHRAE Handbook Fundamentals 2017, chapter 1.
 Public Function PsychroMoistAirDensity(ByVal dryBulb As Variant, ByVal moistureContent As Variant, _
     ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(moistureContent), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroMoistAirDensity(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroMoistAirDensity = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim moistureContentGiven As Single
@@ -1586,6 +1974,19 @@ End Function
 '   Source: Definition, with the saturation moisture content of PsychroMoistureContentFromPsychrometer.
 Public Function PsychroPercentageSaturation(ByVal dryBulb As Variant, ByVal moistureContent As Variant, _
     ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(moistureContent), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroPercentageSaturation(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroPercentageSaturation = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim moistureContentGiven As Single
@@ -1611,6 +2012,19 @@ End Function
 '   All moisture counts as vapour: the moisture content is not limited to that of saturated air.
 '   Source: Sum over dry air and vapour, as for mixtures of ideal gases: ASHRAE Handbook Fundamentals 2017, chapter 1.
 Public Function PsychroSpecificEnthalpy(ByVal dryBulb As Variant, ByVal moistureContent As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(moistureContent))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroSpecificEnthalpy(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroSpecificEnthalpy = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim moistureContentGiven As Single
@@ -1643,6 +2057,20 @@ End Function
 '   PsychroMoistureContentFromPsychrometer.
 Public Function PsychroSpecificEnthalpyFromPsychrometer(ByVal dryBulb As Variant, ByVal wetBulb As Variant, _
     ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(wetBulb), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroSpecificEnthalpyFromPsychrometer(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroSpecificEnthalpyFromPsychrometer = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim wetBulbGiven As Single
@@ -1677,6 +2105,19 @@ End Function
 '   is not known.
 Public Function PsychroSpecificVolume(ByVal dryBulb As Variant, ByVal moistureContent As Variant, _
     ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(moistureContent), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroSpecificVolume(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroSpecificVolume = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim moistureContentGiven As Single
@@ -1706,6 +2147,19 @@ End Function
 '   Source: Enthalpy of PsychroSpecificEnthalpyFromPsychrometer, solved by a step-and-refine search.
 Public Function PsychroSaturationTemperatureFromEnthalpy(ByVal enthalpy As Variant, _
     ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(enthalpy), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroSaturationTemperatureFromEnthalpy(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroSaturationTemperatureFromEnthalpy = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim enthalpyGiven As Single
     Dim pressureGiven As Single
@@ -1746,6 +2200,24 @@ Public Function PsychroPoolEvaporation(ByVal waterArea As Variant, ByVal wettedA
     ByVal waterTemperature As Variant, ByVal dryBulb As Variant, ByVal moistureContent As Variant, _
     ByVal referenceTemperature As Variant, ByVal bathers As Variant, ByVal referenceCoefficient As Variant, _
     ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(waterArea), HeldBy(wettedArea), HeldBy(waterTemperature), HeldBy(dryBulb), _
+        HeldBy(moistureContent), HeldBy(referenceTemperature), HeldBy(bathers), HeldBy(referenceCoefficient), _
+        HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, PsychroPoolEvaporation(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), _
+                    CellAt(held(6), rowAt, columnAt), CellAt(held(7), rowAt, columnAt), CellAt(held(8), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroPoolEvaporation = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim waterAreaGiven As Single
     Dim wettedAreaGiven As Single
@@ -1809,6 +2281,23 @@ Public Function PsychroPoolEvaporationFromWetBulb(ByVal waterArea As Variant, By
     ByVal waterTemperature As Variant, ByVal dryBulb As Variant, ByVal wetBulb As Variant, _
     ByVal referenceTemperature As Variant, ByVal bathers As Variant, ByVal referenceCoefficient As Variant, _
     ByVal pressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(waterArea), HeldBy(wettedArea), HeldBy(waterTemperature), HeldBy(dryBulb), HeldBy(wetBulb), _
+        HeldBy(referenceTemperature), HeldBy(bathers), HeldBy(referenceCoefficient), HeldBy(pressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, _
+                    PsychroPoolEvaporationFromWetBulb(CellAt(held(0), rowAt, columnAt), CellAt(held(1), rowAt, _
+                    columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), CellAt(held(4), _
+                    rowAt, columnAt), CellAt(held(5), rowAt, columnAt), CellAt(held(6), rowAt, columnAt), _
+                    CellAt(held(7), rowAt, columnAt), CellAt(held(8), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroPoolEvaporationFromWetBulb = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim waterAreaGiven As Single
     Dim wettedAreaGiven As Single
@@ -1857,6 +2346,18 @@ End Function
 '   Within 0.4 % of the international formulation from -20 to 150 degC, within 1 % down to -40 degC.
 '   Source: National Engineering Laboratory, Steam Tables 1964, in the reduced form that building services guides print.
 Public Function PsychroSaturationPressure(ByVal temperature As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(temperature))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroSaturationPressure(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroSaturationPressure = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim temperatureGiven As Single
     temperatureGiven = SingleOf(temperature, -100, 200, fault)
@@ -1880,6 +2381,18 @@ End Function
 '   Source: Saturation pressure of saturation_pressure (National Engineering Laboratory, Steam Tables 1964), solved by
 '   Newton's method.
 Public Function PsychroDewPoint(ByVal vapourPressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(vapourPressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroDewPoint(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroDewPoint = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim vapourPressureGiven As Single
     vapourPressureGiven = SingleOf(vapourPressure, 0, largest, fault)
@@ -1900,6 +2413,19 @@ End Function
 '   Relative humidity is limited to 0 to 100 %, not rejected.
 '   Source: Definition of relative humidity, with the saturation pressure of PsychroSaturationPressure.
 Public Function PsychroVapourPressure(ByVal dryBulb As Variant, ByVal relativeHumidity As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(relativeHumidity))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroVapourPressure(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroVapourPressure = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim relativeHumidityGiven As Single
@@ -1922,6 +2448,19 @@ End Function
 '   Not limited: supersaturated air gives more than 100.
 '   Source: Definition of relative humidity, the ratio of vapour pressures, with saturation_pressure.
 Public Function PsychroRelativeHumidity(ByVal dryBulb As Variant, ByVal vapourPressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(vapourPressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroRelativeHumidity(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroRelativeHumidity = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim vapourPressureGiven As Single
@@ -1951,6 +2490,20 @@ End Function
 '   Source: Psychrometer equation with the customary coefficients A.
 Public Function PsychroVapourPressureFromPsychrometer(ByVal dryBulb As Variant, ByVal wetBulb As Variant, _
     ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(wetBulb), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroVapourPressureFromPsychrometer(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroVapourPressureFromPsychrometer = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim wetBulbGiven As Single
@@ -1978,6 +2531,19 @@ End Function
 '   Source: The derivation is not known, so the second temperature has no other meaning than the formula's.
 Public Function PsychroWeightedTemperature(ByVal firstTemperature As Variant, _
     ByVal secondTemperature As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(firstTemperature), HeldBy(secondTemperature))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroWeightedTemperature(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroWeightedTemperature = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim firstTemperatureGiven As Single
     Dim secondTemperatureGiven As Single
@@ -2007,6 +2573,20 @@ End Function
 '   Source: Psychrometer equation of PsychroVapourPressureFromPsychrometer, solved by a step-and-refine search.
 Public Function PsychroPsychrometerWetBulb(ByVal dryBulb As Variant, ByVal relativeHumidity As Variant, _
     ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(relativeHumidity), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroPsychrometerWetBulb(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroPsychrometerWetBulb = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim relativeHumidityGiven As Single
@@ -2042,6 +2622,20 @@ End Function
 '   PsychroMoistureContentFromPsychrometer, solved by a step-and-refine search.
 Public Function PsychroWetBulbFromPercentageSaturation(ByVal dryBulb As Variant, _
     ByVal percentageSaturation As Variant, ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(percentageSaturation), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroWetBulbFromPercentageSaturation(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroWetBulbFromPercentageSaturation = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim percentageSaturationGiven As Single
@@ -2077,6 +2671,20 @@ End Function
 '   PsychroMoistureContentFromPsychrometer, solved by a step-and-refine search.
 Public Function PsychroWetBulbFromMoistureContent(ByVal dryBulb As Variant, ByVal moistureContent As Variant, _
     ByVal pressure As Variant, ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(moistureContent), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroWetBulbFromMoistureContent(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroWetBulbFromMoistureContent = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim moistureContentGiven As Single
@@ -2110,6 +2718,19 @@ End Function
 '   Source: Psychrometer equation of vapour_pressure_from_psychrometer, solved by Newton's method.
 Public Function PsychroWetBulb(ByVal dryBulb As Variant, ByVal vapourPressure As Variant, ByVal pressure As Variant, _
     ByVal psychrometer As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(dryBulb), HeldBy(vapourPressure), HeldBy(pressure), HeldBy(psychrometer))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = PsychroWetBulb(CellAt(held(0), rowAt, columnAt), CellAt(held(1), rowAt, _
+                    columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        PsychroWetBulb = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dryBulbGiven As Single
     Dim vapourPressureGiven As Single
@@ -2225,6 +2846,18 @@ End Function
 '   The emissivities e1 and e2 of the faces are 0.85 and 0.86.
 '   Source: As FabricAirCavityResistance.
 Public Function FabricVerticalCavityResistance(ByVal cavityWidth As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(cavityWidth))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = FabricVerticalCavityResistance(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricVerticalCavityResistance = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim cavityWidthGiven As Single
     cavityWidthGiven = SingleOf(cavityWidth, 0.001, largest, fault)
@@ -2253,6 +2886,19 @@ End Function
 '   horizontal cavities, and air at 10 degC with 15 K between the faces.
 Public Function FabricAirCavityResistance(ByVal tilt As Variant, ByVal cavityWidth As Variant, _
     ByVal emissivity1 As Variant, ByVal emissivity2 As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(tilt), HeldBy(cavityWidth), HeldBy(emissivity1), HeldBy(emissivity2))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = FabricAirCavityResistance(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricAirCavityResistance = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim tiltGiven As Single
     Dim cavityWidthGiven As Single
@@ -2291,6 +2937,22 @@ End Function
 Public Function FabricGasCavityResistance(ByVal tilt As Variant, ByVal cavityWidth As Variant, _
     ByVal emissivity1 As Variant, ByVal emissivity2 As Variant, ByVal density As Variant, _
     ByVal conductivity As Variant, ByVal specificHeat As Variant, ByVal viscosity As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(tilt), HeldBy(cavityWidth), HeldBy(emissivity1), HeldBy(emissivity2), HeldBy(density), _
+        HeldBy(conductivity), HeldBy(specificHeat), HeldBy(viscosity))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = FabricGasCavityResistance(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), _
+                    CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), CellAt(held(6), rowAt, _
+                    columnAt), CellAt(held(7), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricGasCavityResistance = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim tiltGiven As Single
     Dim cavityWidthGiven As Single
@@ -2437,6 +3099,21 @@ End Function
 '   pressure of PsychroSaturationPressure.
 Public Function FabricCondensesWithinLayer(ByVal warmTemperature As Variant, ByVal coldTemperature As Variant, _
     ByVal warmVapourPressure As Variant, ByVal coldVapourPressure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(warmTemperature), HeldBy(coldTemperature), HeldBy(warmVapourPressure), _
+        HeldBy(coldVapourPressure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = FabricCondensesWithinLayer(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        FabricCondensesWithinLayer = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim warmTemperatureGiven As Single
     Dim coldTemperatureGiven As Single
@@ -2514,6 +3191,19 @@ End Function
 '   Engineering Research and Technology 4, 1983.
 Public Function FabricNaturalConvectionCoefficient(ByVal temperatureDifference As Variant, _
     ByVal characteristicLength As Variant, ByVal heatFlowDirection As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(temperatureDifference), HeldBy(characteristicLength), HeldBy(heatFlowDirection))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = FabricNaturalConvectionCoefficient(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricNaturalConvectionCoefficient = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim temperatureDifferenceGiven As Single
     Dim characteristicLengthGiven As Single
@@ -2542,6 +3232,20 @@ End Function
 '   Source: As FabricPackThreeFractions.
 Public Function FabricPackTwoFractions(ByVal packing As Variant, ByVal packedNumber As Variant, _
     ByVal fraction1 As Variant, ByVal fraction2 As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(packing), HeldBy(packedNumber), HeldBy(fraction1), HeldBy(fraction2))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, FabricPackTwoFractions(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricPackTwoFractions = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim packingGiven As Long
     Dim packedNumberGiven As Single
@@ -2579,6 +3283,20 @@ End Function
 '   Source: Format of the packed property numbers of element records (FabricElementProperty).
 Public Function FabricPackThreeFractions(ByVal packing As Variant, ByVal packedNumber As Variant, _
     ByVal fraction1 As Variant, ByVal fraction2 As Variant, ByVal fraction3 As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(packing), HeldBy(packedNumber), HeldBy(fraction1), HeldBy(fraction2), HeldBy(fraction3))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, FabricPackThreeFractions(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricPackThreeFractions = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim packingGiven As Long
     Dim packedNumberGiven As Single
@@ -2612,6 +3330,21 @@ End Function
 '   Source: As FabricPackThreeFractions.
 Public Function FabricPackThreeFractionsThirdFirst(ByVal packing As Variant, ByVal packedNumber As Variant, _
     ByVal fraction3 As Variant, ByVal fraction1 As Variant, ByVal fraction2 As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(packing), HeldBy(packedNumber), HeldBy(fraction3), HeldBy(fraction1), HeldBy(fraction2))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, _
+                    FabricPackThreeFractionsThirdFirst(CellAt(held(0), rowAt, columnAt), CellAt(held(1), rowAt, _
+                    columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), CellAt(held(4), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricPackThreeFractionsThirdFirst = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim packingGiven As Long
     Dim packedNumberGiven As Single
@@ -2650,6 +3383,20 @@ End Function
 '   Source: As FabricPackThreeFractions.
 Public Function FabricPackPane(ByVal packing As Variant, ByVal packedNumber As Variant, ByVal absorptance As Variant, _
     ByVal reflectance1 As Variant, ByVal reflectance2 As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(packing), HeldBy(packedNumber), HeldBy(absorptance), HeldBy(reflectance1), HeldBy(reflectance2))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, FabricPackPane(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt), CellAt(held(4), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricPackPane = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim packingGiven As Long
     Dim packedNumberGiven As Single
@@ -2685,6 +3432,19 @@ End Function
 '   two decimals; the origin of the convective coefficients is not recorded.
 Public Function FabricSurfaceResistance(ByVal surface As Variant, ByVal tilt As Variant, _
     ByVal exposure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(surface), HeldBy(tilt), HeldBy(exposure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = FabricSurfaceResistance(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricSurfaceResistance = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim surfaceGiven As Long
     Dim tiltGiven As Single
@@ -2715,6 +3475,20 @@ End Function
 '   Source: As FabricSurfaceResistance, with black-body coefficients of 5.1 W/m2K outside and 5.7 W/m2K inside.
 Public Function FabricSurfaceResistanceAtEmissivity(ByVal surface As Variant, ByVal tilt As Variant, _
     ByVal exposure As Variant, ByVal emissivity As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(surface), HeldBy(tilt), HeldBy(exposure), HeldBy(emissivity))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = FabricSurfaceResistanceAtEmissivity(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        FabricSurfaceResistanceAtEmissivity = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim surfaceGiven As Long
     Dim tiltGiven As Single
@@ -2784,6 +3558,19 @@ End Function
 '   Source: Surface resistances of FabricSurfaceResistance, exchanged.
 Public Function FabricUValueAtTiltAndExposure(ByVal uValue As Variant, ByVal tilt As Variant, _
     ByVal exposure As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(uValue), HeldBy(tilt), HeldBy(exposure))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = FabricUValueAtTiltAndExposure(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricUValueAtTiltAndExposure = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim uValueGiven As Single
     Dim tiltGiven As Single
@@ -2835,6 +3622,25 @@ Public Function FabricWindowParameters(ByVal panes As Variant, ByVal paneKind1 A
     ByVal paneKind3 As Variant, ByVal emissivity3 As Variant, ByVal cavityWidth1 As Variant, _
     ByVal cavityWidth2 As Variant, ByVal outerSurface As Variant, ByVal exposure As Variant, _
     ByVal tilt As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(panes), HeldBy(paneKind1), HeldBy(emissivity1), HeldBy(paneKind2), HeldBy(emissivity2), _
+        HeldBy(paneKind3), HeldBy(emissivity3), HeldBy(cavityWidth1), HeldBy(cavityWidth2), HeldBy(outerSurface), _
+        HeldBy(exposure), HeldBy(tilt))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 7)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, FabricWindowParameters(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), _
+                    CellAt(held(6), rowAt, columnAt), CellAt(held(7), rowAt, columnAt), CellAt(held(8), rowAt, _
+                    columnAt), CellAt(held(9), rowAt, columnAt), CellAt(held(10), rowAt, columnAt), CellAt(held(11), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        FabricWindowParameters = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim panesGiven As Long
     Dim paneKind1Given As Long
@@ -2917,6 +3723,19 @@ End Function
 '   recorded.
 Public Function GlazingGlassDirect(ByVal normalTransmittance As Variant, ByVal normalReflectance As Variant, _
     ByVal incidence As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(normalTransmittance), HeldBy(normalReflectance), HeldBy(incidence))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 6)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingGlassDirect(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingGlassDirect = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim normalTransmittanceGiven As Single
     Dim normalReflectanceGiven As Single
@@ -2958,6 +3777,19 @@ End Function
 '   Source: GlazingGlassDirect at the centres of 18 bands of 5 degrees, each weighted with the integral of 2 sin cos
 '   over the band.
 Public Function GlazingGlassDiffuse(ByVal normalTransmittance As Variant, ByVal normalReflectance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(normalTransmittance), HeldBy(normalReflectance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 2)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingGlassDiffuse(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingGlassDiffuse = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim normalTransmittanceGiven As Single
     Dim normalReflectanceGiven As Single
@@ -3059,6 +3891,19 @@ End Function
 '   Nothing is limited: a blind that transmits and reflects more than 1 gives a negative absorptance.
 '   Source: Conservation of energy.
 Public Function GlazingRollerBlind(ByVal blindTransmittance As Variant, ByVal blindReflectance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(blindTransmittance), HeldBy(blindReflectance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingRollerBlind(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingRollerBlind = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim blindTransmittanceGiven As Single
     Dim blindReflectanceGiven As Single
@@ -3091,6 +3936,19 @@ End Function
 '   Source: GlazingRollerBlind, integrated as in GlazingSlatDiffuse.
 Public Function GlazingDiffuseRollerBlind(ByVal blindTransmittance As Variant, _
     ByVal blindReflectance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(blindTransmittance), HeldBy(blindReflectance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingDiffuseRollerBlind(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingDiffuseRollerBlind = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim blindTransmittanceGiven As Single
     Dim blindReflectanceGiven As Single
@@ -3120,6 +3978,19 @@ End Function
 '   An index so far below 1 that the reflection is total gives no number.
 '   Source: Snell's law.
 Public Function GlazingRefractionAngle(ByVal incidence As Variant, ByVal refractiveIndex As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(incidence), HeldBy(refractiveIndex))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = GlazingRefractionAngle(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingRefractionAngle = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim incidenceGiven As Single
     Dim refractiveIndexGiven As Single
@@ -3149,6 +4020,19 @@ End Function
 '   Source: Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter 5.
 Public Function GlazingSurfaceReflectance(ByVal incidence As Variant, ByVal refractionAngle As Variant, _
     ByVal refractiveIndex As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(incidence), HeldBy(refractionAngle), HeldBy(refractiveIndex))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 2)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingSurfaceReflectance(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingSurfaceReflectance = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim incidenceGiven As Single
     Dim refractionAngleGiven As Single
@@ -3177,6 +4061,19 @@ End Function
 '   Source: Bouguer's law of absorption.
 Public Function GlazingSinglePassAbsorption(ByVal refractionAngle As Variant, _
     ByVal absorptionProduct As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(refractionAngle), HeldBy(absorptionProduct))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = GlazingSinglePassAbsorption(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingSinglePassAbsorption = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim refractionAngleGiven As Single
     Dim absorptionProductGiven As Single
@@ -3206,6 +4103,19 @@ End Function
 '   Source: Stokes, On the intensity of the light reflected from or transmitted through a pile of plates, 1862; Duffie
 '   and Beckman, Solar Engineering of Thermal Processes, chapter 5.
 Public Function GlazingSlabOptics(ByVal singlePassAbsorptance As Variant, ByVal faceReflectance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(singlePassAbsorptance), HeldBy(faceReflectance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingSlabOptics(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingSlabOptics = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim singlePassAbsorptanceGiven As Single
     Dim faceReflectanceGiven As Single
@@ -3239,6 +4149,19 @@ End Function
 '   Source: The slab of GlazingSlabOptics at normal incidence, solved for the absorption.
 Public Function GlazingAbsorptionProduct(ByVal normalTransmittance As Variant, _
     ByVal refractiveIndex As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(normalTransmittance), HeldBy(refractiveIndex))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = GlazingAbsorptionProduct(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingAbsorptionProduct = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim normalTransmittanceGiven As Single
     Dim refractiveIndexGiven As Single
@@ -3263,6 +4186,19 @@ End Function
 '   Source: The slab of GlazingSlabOptics at normal incidence.
 Public Function GlazingNormalTransmittance(ByVal absorptionProduct As Variant, _
     ByVal normalReflectance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(absorptionProduct), HeldBy(normalReflectance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = GlazingNormalTransmittance(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingNormalTransmittance = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim absorptionProductGiven As Single
     Dim normalReflectanceGiven As Single
@@ -3299,6 +4235,22 @@ End Function
 Public Function GlazingPaneTemperatures(ByVal insideTemperature As Variant, ByVal outsideTemperature As Variant, _
     ByVal panes As Variant, ByVal absorbed1 As Variant, ByVal absorbed2 As Variant, ByVal absorbed3 As Variant, _
     ByVal absorbed4 As Variant, ByVal absorbed5 As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(insideTemperature), HeldBy(outsideTemperature), HeldBy(panes), HeldBy(absorbed1), _
+        HeldBy(absorbed2), HeldBy(absorbed3), HeldBy(absorbed4), HeldBy(absorbed5))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 5)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingPaneTemperatures(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), _
+                    CellAt(held(6), rowAt, columnAt), CellAt(held(7), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingPaneTemperatures = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim insideTemperatureGiven As Single
     Dim outsideTemperatureGiven As Single
@@ -3361,6 +4313,19 @@ End Function
 '   third flows inwards.
 Public Function GlazingUnitDirect(ByVal shortwaveShadingCoefficient As Variant, _
     ByVal longwaveShadingCoefficient As Variant, ByVal incidence As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(shortwaveShadingCoefficient), HeldBy(longwaveShadingCoefficient), HeldBy(incidence))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingUnitDirect(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingUnitDirect = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim shortwaveShadingCoefficientGiven As Single
     Dim longwaveShadingCoefficientGiven As Single
@@ -3398,6 +4363,19 @@ End Function
 '   Source: GlazingUnitDirect, with the equivalent pane integrated as in GlazingGlassDiffuse.
 Public Function GlazingUnitDiffuse(ByVal shortwaveShadingCoefficient As Variant, _
     ByVal longwaveShadingCoefficient As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(shortwaveShadingCoefficient), HeldBy(longwaveShadingCoefficient))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingUnitDiffuse(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingUnitDiffuse = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim shortwaveShadingCoefficientGiven As Single
     Dim longwaveShadingCoefficientGiven As Single
@@ -3557,6 +4535,21 @@ End Function
 '   Source: Exchange factors by H. C. Hottel's crossed strings, and the inter-reflection between two neighbouring slats.
 Public Function GlazingSlatDirect(ByVal slatSpacing As Variant, ByVal slatWidth As Variant, _
     ByVal slatAngle As Variant, ByVal profileAngle As Variant, ByVal slatAbsorptance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(slatSpacing), HeldBy(slatWidth), HeldBy(slatAngle), HeldBy(profileAngle), _
+        HeldBy(slatAbsorptance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingSlatDirect(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingSlatDirect = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim slatSpacingGiven As Single
     Dim slatWidthGiven As Single
@@ -3605,6 +4598,21 @@ End Function
 Public Function GlazingTwoFacedSlatDirect(ByVal slatSpacing As Variant, ByVal slatWidth As Variant, _
     ByVal slatAngle As Variant, ByVal profileAngle As Variant, ByVal struckAbsorptance As Variant, _
     ByVal oppositeAbsorptance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(slatSpacing), HeldBy(slatWidth), HeldBy(slatAngle), HeldBy(profileAngle), _
+        HeldBy(struckAbsorptance), HeldBy(oppositeAbsorptance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingTwoFacedSlatDirect(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingTwoFacedSlatDirect = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim slatSpacingGiven As Single
     Dim slatWidthGiven As Single
@@ -3651,6 +4659,22 @@ End Function
 Public Function GlazingOpenSlatDirect(ByVal slatSpacing As Variant, ByVal slatWidth As Variant, _
     ByVal slatAngle As Variant, ByVal profileAngle As Variant, ByVal openShare As Variant, _
     ByVal struckAbsorptance As Variant, ByVal oppositeAbsorptance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(slatSpacing), HeldBy(slatWidth), HeldBy(slatAngle), HeldBy(profileAngle), HeldBy(openShare), _
+        HeldBy(struckAbsorptance), HeldBy(oppositeAbsorptance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingOpenSlatDirect(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), _
+                    CellAt(held(6), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingOpenSlatDirect = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim slatSpacingGiven As Single
     Dim slatWidthGiven As Single
@@ -3698,6 +4722,20 @@ End Function
 '   with the integral of the cosine over the band: radiance uniform in the profile angle.
 Public Function GlazingSlatDiffuse(ByVal slatSpacing As Variant, ByVal slatWidth As Variant, _
     ByVal slatAngle As Variant, ByVal slatAbsorptance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(slatSpacing), HeldBy(slatWidth), HeldBy(slatAngle), HeldBy(slatAbsorptance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingSlatDiffuse(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingSlatDiffuse = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim slatSpacingGiven As Single
     Dim slatWidthGiven As Single
@@ -3742,6 +4780,21 @@ End Function
 '   Source: GlazingTwoFacedSlatDirect, integrated as in GlazingSlatDiffuse.
 Public Function GlazingTwoFacedSlatDiffuse(ByVal slatSpacing As Variant, ByVal slatWidth As Variant, _
     ByVal slatAngle As Variant, ByVal struckAbsorptance As Variant, ByVal oppositeAbsorptance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(slatSpacing), HeldBy(slatWidth), HeldBy(slatAngle), HeldBy(struckAbsorptance), _
+        HeldBy(oppositeAbsorptance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingTwoFacedSlatDiffuse(CellAt(held(0), _
+                    rowAt, columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), _
+                    CellAt(held(3), rowAt, columnAt), CellAt(held(4), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingTwoFacedSlatDiffuse = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim slatSpacingGiven As Single
     Dim slatWidthGiven As Single
@@ -3787,6 +4840,21 @@ End Function
 Public Function GlazingOpenSlatDiffuse(ByVal slatSpacing As Variant, ByVal slatWidth As Variant, _
     ByVal slatAngle As Variant, ByVal openShare As Variant, ByVal struckAbsorptance As Variant, _
     ByVal oppositeAbsorptance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(slatSpacing), HeldBy(slatWidth), HeldBy(slatAngle), HeldBy(openShare), _
+        HeldBy(struckAbsorptance), HeldBy(oppositeAbsorptance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, GlazingOpenSlatDiffuse(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GlazingOpenSlatDiffuse = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim slatSpacingGiven As Single
     Dim slatWidthGiven As Single
@@ -3878,6 +4946,20 @@ End Function
 '   Source: Linear interpolation in the band table.
 Public Function ClimateBandClimate(ByVal band As Variant, ByVal month As Variant, ByVal bandSet As Variant, _
     ByVal percentage As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(band), HeldBy(month), HeldBy(bandSet), HeldBy(percentage))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 11)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateBandClimate(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateBandClimate = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim bandGiven As Long
     Dim monthGiven As Long
@@ -3931,6 +5013,20 @@ End Function
 '   Source: Linear interpolation in the band table.
 Public Function ClimateInterpolateBandRows(ByVal baseRow As Variant, ByVal lowerBand As Variant, _
     ByVal upperBand As Variant, ByVal month As Variant, ByVal bandWeight As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(baseRow), HeldBy(lowerBand), HeldBy(upperBand), HeldBy(month), HeldBy(bandWeight))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateInterpolateBandRows(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt), CellAt(held(4), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateInterpolateBandRows = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim baseRowGiven As Long
     Dim lowerBandGiven As Long
@@ -3980,6 +5076,18 @@ End Function
 '   The year has 365 days.
 '   Source: Table of customary design days, close to the 21st of each month.
 Public Function ClimateStoreDesignDay(ByVal month As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(month))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateStoreDesignDay(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateStoreDesignDay = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim monthGiven As Long
     monthGiven = LongOf(month, 1, 12, fault)
@@ -4001,6 +5109,19 @@ End Function
 '   A month outside 1 to 12 gives 0; another way of counting counts as 2.
 '   Source: Table of customary design days, close to the 21st of each month.
 Public Function ClimateStoreDesignDayByOption(ByVal month As Variant, ByVal dayKind As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(month), HeldBy(dayKind))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateStoreDesignDayByOption(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateStoreDesignDayByOption = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim monthGiven As Long
     Dim dayKindGiven As Long
@@ -4022,6 +5143,18 @@ End Function
 '   The year has 365 days.
 '   Source: Table of customary design days, close to the 21st of each month.
 Public Function ClimateDesignDay(ByVal month As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(month))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateDesignDay(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateDesignDay = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim monthGiven As Long
     monthGiven = LongOf(month, 1, 12, fault)
@@ -4043,6 +5176,19 @@ End Function
 '   A month outside 1 to 12 gives 0; another way of counting counts as 2.
 '   Source: Table of customary design days, close to the 21st of each month.
 Public Function ClimateDesignDayByOption(ByVal month As Variant, ByVal dayKind As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(month), HeldBy(dayKind))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateDesignDayByOption(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateDesignDayByOption = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim monthGiven As Long
     Dim dayKindGiven As Long
@@ -4064,6 +5210,18 @@ End Function
 '   The year has 365 days.
 '   Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
 Public Function ClimateSecondDesignDay(ByVal month As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(month))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateSecondDesignDay(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSecondDesignDay = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim monthGiven As Long
     monthGiven = LongOf(month, 1, 12, fault)
@@ -4084,6 +5242,19 @@ End Function
 '   A month outside 1 to 12 gives 0; another way of counting counts as 2.
 '   Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
 Public Function ClimateSecondDesignDayByOption(ByVal month As Variant, ByVal dayKind As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(month), HeldBy(dayKind))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateSecondDesignDayByOption(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSecondDesignDayByOption = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim monthGiven As Long
     Dim dayKindGiven As Long
@@ -4306,6 +5477,21 @@ End Function
 '   Source: Two half cosine waves.
 Public Function ClimateDailyTemperature(ByVal hour As Variant, ByVal highestTemperature As Variant, _
     ByVal lowestTemperature As Variant, ByVal hourOfHighest As Variant, ByVal hourOfLowest As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(hour), HeldBy(highestTemperature), HeldBy(lowestTemperature), HeldBy(hourOfHighest), _
+        HeldBy(hourOfLowest))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateDailyTemperature(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), _
+                    CellAt(held(4), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateDailyTemperature = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim hourGiven As Single
     Dim highestTemperatureGiven As Single
@@ -4343,6 +5529,21 @@ End Function
 '   Source: Two half cosine waves.
 Public Function ClimateDailyValue(ByVal hour As Variant, ByVal mean As Variant, ByVal amplitude As Variant, _
     ByVal firstHour As Variant, ByVal secondHour As Variant, ByVal amplitudeFactor As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(hour), HeldBy(mean), HeldBy(amplitude), HeldBy(firstHour), HeldBy(secondHour), _
+        HeldBy(amplitudeFactor))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateDailyValue(CellAt(held(0), rowAt, columnAt), CellAt(held(1), rowAt, _
+                    columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), CellAt(held(4), _
+                    rowAt, columnAt), CellAt(held(5), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateDailyValue = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim hourGiven As Single
     Dim meanGiven As Single
@@ -4381,6 +5582,19 @@ End Function
 '   Source: Polynomials through the design irradiances of a clear and a cloudy sky that building services guides print.
 Public Function ClimateDesignIrradiance(ByVal solarAltitude As Variant, ByVal siteHeight As Variant, _
     ByVal skyKind As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(solarAltitude), HeldBy(siteHeight), HeldBy(skyKind))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 2)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateDesignIrradiance(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateDesignIrradiance = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim solarAltitudeGiven As Single
     Dim siteHeightGiven As Single
@@ -4409,6 +5623,19 @@ End Function
 '   1 below 300 m, and for suns whose sine of altitude is below 0.08; the factor jumps from 1 to 1.041 or more at 300 m.
 '   Source: Linear fit to height corrections of design irradiance.
 Public Function ClimateHeightFactor(ByVal siteHeight As Variant, ByVal solarAltitude As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(siteHeight), HeldBy(solarAltitude))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateHeightFactor(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateHeightFactor = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim siteHeightGiven As Single
     Dim solarAltitudeGiven As Single
@@ -4430,6 +5657,18 @@ End Function
 '   0.967 to 1.033; greatest in the first days of January.
 '   Source: Correction of the European Solar Radiation Atlas, 1 + 0.03344 cos(day angle - 2.8 degrees).
 Public Function ClimateEccentricityFactor(ByVal day As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(day))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateEccentricityFactor(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateEccentricityFactor = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dayGiven As Long
     dayGiven = LongOf(day, 1, 366, fault)
@@ -4453,6 +5692,19 @@ End Function
 '   eccentricity of ClimateEccentricityFactor.
 Public Function ClimateClearnessIndex(ByVal day As Variant, ByVal solarAltitude As Variant, _
     ByVal globalHorizontal As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(day), HeldBy(solarAltitude), HeldBy(globalHorizontal))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateClearnessIndex(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateClearnessIndex = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dayGiven As Long
     Dim solarAltitudeGiven As Single
@@ -4503,6 +5755,23 @@ Public Function ClimateMuneerSlope(ByVal solarAltitude As Variant, ByVal solarAz
     ByVal surfaceAzimuth As Variant, ByVal tilt As Variant, ByVal beamHorizontal As Variant, _
     ByVal diffuseHorizontal As Variant, ByVal extraterrestrialHorizontal As Variant, _
     ByVal groundReflectance As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(solarAltitude), HeldBy(solarAzimuth), HeldBy(surfaceAzimuth), HeldBy(tilt), _
+        HeldBy(beamHorizontal), HeldBy(diffuseHorizontal), HeldBy(extraterrestrialHorizontal), _
+        HeldBy(groundReflectance))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateMuneerSlope(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), _
+                    CellAt(held(6), rowAt, columnAt), CellAt(held(7), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateMuneerSlope = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim solarAltitudeGiven As Single
     Dim solarAzimuthGiven As Single
@@ -4563,6 +5832,21 @@ End Function
 Public Function ClimatePerezDiffuse(ByVal solarAltitude As Variant, ByVal tilt As Variant, _
     ByVal beamHorizontal As Variant, ByVal diffuseHorizontal As Variant, ByVal incidence As Variant, _
     ByVal extraterrestrialNormal As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(solarAltitude), HeldBy(tilt), HeldBy(beamHorizontal), HeldBy(diffuseHorizontal), _
+        HeldBy(incidence), HeldBy(extraterrestrialNormal))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimatePerezDiffuse(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), _
+                    CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimatePerezDiffuse = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim solarAltitudeGiven As Single
     Dim tiltGiven As Single
@@ -4599,6 +5883,19 @@ End Function
 '   A site class outside 1 to 6 or a month outside 1 to 12 gives four zeros.
 '   Source: Table of design constants of the library.
 Public Function ClimateSiteConstants(ByVal siteClass As Variant, ByVal month As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(siteClass), HeldBy(month))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateSiteConstants(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSiteConstants = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim siteClassGiven As Long
     Dim monthGiven As Long
@@ -4640,6 +5937,20 @@ End Function
 '   (1990), with a solar constant of 1367 W/m2 and the eccentricity of ClimateEccentricityFactor.
 Public Function ClimateDiffuseTiltFactor(ByVal day As Variant, ByVal solarAltitude As Variant, _
     ByVal beamHorizontal As Variant, ByVal tilt As Variant, ByVal skyModel As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(day), HeldBy(solarAltitude), HeldBy(beamHorizontal), HeldBy(tilt), HeldBy(skyModel))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateDiffuseTiltFactor(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), _
+                    CellAt(held(4), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateDiffuseTiltFactor = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dayGiven As Long
     Dim solarAltitudeGiven As Single
@@ -4687,6 +5998,22 @@ End Function
 Public Function ClimateSlopeDiffuse(ByVal day As Variant, ByVal solarAltitude As Variant, _
     ByVal solarAzimuth As Variant, ByVal surfaceAzimuth As Variant, ByVal tilt As Variant, _
     ByVal beamHorizontal As Variant, ByVal diffuseHorizontal As Variant, ByVal skyModel As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(day), HeldBy(solarAltitude), HeldBy(solarAzimuth), HeldBy(surfaceAzimuth), HeldBy(tilt), _
+        HeldBy(beamHorizontal), HeldBy(diffuseHorizontal), HeldBy(skyModel))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateSlopeDiffuse(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), _
+                    CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), CellAt(held(6), rowAt, _
+                    columnAt), CellAt(held(7), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSlopeDiffuse = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim dayGiven As Long
     Dim solarAltitudeGiven As Single
@@ -4727,6 +6054,21 @@ End Function
 '   Source: Heat balance of an outer surface.
 Public Function ClimateSolAirTemperature(ByVal baseTemperature As Variant, ByVal surfaceCoefficient As Variant, _
     ByVal absorptance As Variant, ByVal irradiance As Variant, ByVal longWaveLoss As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(baseTemperature), HeldBy(surfaceCoefficient), HeldBy(absorptance), HeldBy(irradiance), _
+        HeldBy(longWaveLoss))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateSolAirTemperature(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), _
+                    CellAt(held(4), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSolAirTemperature = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim baseTemperatureGiven As Single
     Dim surfaceCoefficientGiven As Single
@@ -4759,6 +6101,19 @@ End Function
 '   Source: Net long-wave losses of horizontal and vertical surfaces by cloud cover, as building services guides print
 '   them; meaning of the arguments inferred from these values.
 Public Function ClimateLongWaveLoss(ByVal tilt As Variant, ByVal cloudCover As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(tilt), HeldBy(cloudCover))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateLongWaveLoss(CellAt(held(0), rowAt, columnAt), CellAt(held(1), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateLongWaveLoss = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim tiltGiven As Single
     Dim cloudCoverGiven As Single
@@ -4787,6 +6142,20 @@ End Function
 '   (1971); coefficients refitted.
 Public Function ClimateSolarTimeCorrection(ByVal clockOffset As Variant, ByVal day As Variant, _
     ByVal longitude As Variant, ByVal referenceLongitude As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(clockOffset), HeldBy(day), HeldBy(longitude), HeldBy(referenceLongitude))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = ClimateSolarTimeCorrection(CellAt(held(0), rowAt, columnAt), _
+                    CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSolarTimeCorrection = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim clockOffsetGiven As Single
     Dim dayGiven As Long
@@ -4832,6 +6201,22 @@ End Function
 Public Function ClimateAlmanacPosition(ByVal timeKind As Variant, ByVal year As Variant, ByVal month As Variant, _
     ByVal dayOfMonth As Variant, ByVal clockTime As Variant, ByVal latitude As Variant, ByVal longitude As Variant, _
     ByVal zoneMeridian As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(timeKind), HeldBy(year), HeldBy(month), HeldBy(dayOfMonth), HeldBy(clockTime), _
+        HeldBy(latitude), HeldBy(longitude), HeldBy(zoneMeridian))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 5)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateAlmanacPosition(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), _
+                    CellAt(held(6), rowAt, columnAt), CellAt(held(7), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateAlmanacPosition = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim timeKindGiven As Long
     Dim yearGiven As Long
@@ -4878,6 +6263,20 @@ End Function
 '   Source: Declination as ClimateAlmanacPosition; sunrise equation.
 Public Function ClimateAlmanacSunHours(ByVal year As Variant, ByVal month As Variant, ByVal dayOfMonth As Variant, _
     ByVal latitude As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(year), HeldBy(month), HeldBy(dayOfMonth), HeldBy(latitude))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 2)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateAlmanacSunHours(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateAlmanacSunHours = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim yearGiven As Long
     Dim monthGiven As Long
@@ -4923,6 +6322,19 @@ End Function
 '   the first-order equation of the centre.
 Public Function ClimateSolarGeometry(ByVal latitude As Variant, ByVal day As Variant, _
     ByVal solarTime As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(latitude), HeldBy(day), HeldBy(solarTime))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 5)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateSolarGeometry(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSolarGeometry = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim latitudeGiven As Single
     Dim dayGiven As Long
@@ -4969,6 +6381,20 @@ End Function
 '   Source: Vector algebra: the sun's direction in the frame of level line, slope line and outward normal.
 Public Function ClimateSurfaceAngles(ByVal solarAltitude As Variant, ByVal solarAzimuth As Variant, _
     ByVal surfaceAzimuth As Variant, ByVal tilt As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(solarAltitude), HeldBy(solarAzimuth), HeldBy(surfaceAzimuth), HeldBy(tilt))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateSurfaceAngles(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSurfaceAngles = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim solarAltitudeGiven As Single
     Dim solarAzimuthGiven As Single
@@ -5020,6 +6446,24 @@ Public Function ClimateSurfaceIrradiance(ByVal solarAltitude As Variant, ByVal s
     ByVal surfaceAzimuth As Variant, ByVal tilt As Variant, ByVal directNormal As Variant, _
     ByVal diffuseHorizontal As Variant, ByVal groundReflectance As Variant, ByVal beamFactor As Variant, _
     ByVal diffuseFactor As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(solarAltitude), HeldBy(solarAzimuth), HeldBy(surfaceAzimuth), HeldBy(tilt), _
+        HeldBy(directNormal), HeldBy(diffuseHorizontal), HeldBy(groundReflectance), HeldBy(beamFactor), _
+        HeldBy(diffuseFactor))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 3)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, ClimateSurfaceIrradiance(CellAt(held(0), rowAt, _
+                    columnAt), CellAt(held(1), rowAt, columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), _
+                    rowAt, columnAt), CellAt(held(4), rowAt, columnAt), CellAt(held(5), rowAt, columnAt), _
+                    CellAt(held(6), rowAt, columnAt), CellAt(held(7), rowAt, columnAt), CellAt(held(8), rowAt, _
+                    columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSurfaceIrradiance = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim solarAltitudeGiven As Single
     Dim solarAzimuthGiven As Single
@@ -5077,6 +6521,24 @@ Public Function ClimateSurfaceIrradianceAndIncidence(ByVal solarAltitude As Vari
     ByVal surfaceAzimuth As Variant, ByVal tilt As Variant, ByVal directNormal As Variant, _
     ByVal diffuseHorizontal As Variant, ByVal groundReflectance As Variant, ByVal beamFactor As Variant, _
     ByVal diffuseFactor As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(solarAltitude), HeldBy(solarAzimuth), HeldBy(surfaceAzimuth), HeldBy(tilt), _
+        HeldBy(directNormal), HeldBy(diffuseHorizontal), HeldBy(groundReflectance), HeldBy(beamFactor), _
+        HeldBy(diffuseFactor))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount * columnCount, 1 To 4)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                PutRow spread, (rowAt - 1) * columnCount + columnAt, _
+                    ClimateSurfaceIrradianceAndIncidence(CellAt(held(0), rowAt, columnAt), CellAt(held(1), rowAt, _
+                    columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt), CellAt(held(4), _
+                    rowAt, columnAt), CellAt(held(5), rowAt, columnAt), CellAt(held(6), rowAt, columnAt), _
+                    CellAt(held(7), rowAt, columnAt), CellAt(held(8), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        ClimateSurfaceIrradianceAndIncidence = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim solarAltitudeGiven As Single
     Dim solarAzimuthGiven As Single
@@ -5617,6 +7079,19 @@ End Function
 '   Source: Definition.
 Public Function GeometryCoincide(ByVal x1 As Variant, ByVal y1 As Variant, ByVal x2 As Variant, _
     ByVal y2 As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(x1), HeldBy(y1), HeldBy(x2), HeldBy(y2))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = GeometryCoincide(CellAt(held(0), rowAt, columnAt), CellAt(held(1), rowAt, _
+                    columnAt), CellAt(held(2), rowAt, columnAt), CellAt(held(3), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GeometryCoincide = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim x1Given As Single
     Dim y1Given As Single
@@ -5668,6 +7143,18 @@ End Function
 '   Magnitudes from 1000 on are no angles and are returned as they are.
 '   Source: Definition.
 Public Function GeometryBackAzimuth(ByVal angle As Variant) As Variant
+    Dim held As Variant, spread As Variant, rowCount As Long, columnCount As Long, rowAt As Long, columnAt As Long
+    held = Array(HeldBy(angle))
+    If Spans(held, rowCount, columnCount) Then
+        ReDim spread(1 To rowCount, 1 To columnCount)
+        For rowAt = 1 To rowCount
+            For columnAt = 1 To columnCount
+                spread(rowAt, columnAt) = GeometryBackAzimuth(CellAt(held(0), rowAt, columnAt))
+            Next columnAt
+        Next rowAt
+        GeometryBackAzimuth = spread
+        Exit Function
+    End If
     Dim fault As Long
     Dim angleGiven As Single
     angleGiven = SingleOf(angle, 0, 360, fault)

@@ -24,6 +24,24 @@ Public Sub UseUnchecked(ByVal given As Boolean)
     QuorvelUnchecked = given
 End Sub
 
+' What a range of two columns holds, which cannot be handed in: of numbers row by row.
+Private Function Tabled(ByVal numbers As Variant) As Variant
+    Dim table As Variant, k As Long
+    ReDim table(1 To (UBound(numbers) + 1) \\ 2, 1 To 2)
+    For k = 0 To UBound(numbers)
+        table(k \\ 2 + 1, k Mod 2 + 1) = numbers(k)
+    Next k
+    Tabled = table
+End Function
+
+Public Function PressuresOfTable(ByVal temperatures As Variant) As Variant
+    PressuresOfTable = PsychroVapourPressure(Tabled(temperatures), 50)
+End Function
+
+Public Function OverlapOfTables(ByVal a As Variant, ByVal b As Variant) As Variant
+    OverlapOfTables = GeometryOverlapArea(Tabled(a), Tabled(b))
+End Function
+
 ' In place of CVErr, whose values do not come out.
 Private Function Shown(ByVal fault As Long) As String
     Shown = "#" & fault
@@ -104,8 +122,8 @@ def _connected(local):
 @contextmanager
 def module(text, profile):
     """A function that calls one of the module by its name."""
-    process = subprocess.Popen(["soffice", f"-env:UserInstallation={profile.resolve().as_uri()}", "--headless", "--norestore",
-                                "--nologo", "--accept=pipe,name=quorvel_vba;urp;"], stderr=subprocess.DEVNULL)
+    options = [f"-env:UserInstallation={profile.resolve().as_uri()}", "--headless", "--norestore", "--nologo"]
+    process = subprocess.Popen(["soffice", *options, "--accept=pipe,name=quorvel_vba;urp;"], stderr=subprocess.DEVNULL)
     try:
         context = _connected(uno.getComponentContext())
         libraries = context.ServiceManager.createInstanceWithContext(

@@ -55,12 +55,14 @@ def check_example(basic, call, example):
     for of, expected in example.gives.items():
         for got, wanted in zip(results[of], expected if isinstance(expected, list) else [expected], strict=False):
             got = -float(got) if isinstance(got, bool) else got
-            hold(f"{name}, {of}: {got} and not {wanted}", not isinstance(got, str) and abs(got - wanted) <= example.within[of])
+            near = not isinstance(got, str) and abs(got - wanted) <= example.within[of]
+            hold(f"{name}, {of}: {got} and not {wanted}", near)
 
 
 def check_by_hand(basic):
     square, shifted = (0.0, 0.0, 0.0, 2.0, 2.0, 2.0, 2.0, 0.0), (1.0, 1.0, 1.0, 3.0, 3.0, 3.0, 3.0, 1.0)
-    hold("overlap", math.isclose(basic("GeometryOverlapArea", square, shifted), 1, abs_tol=1e-3))
+    for of in "GeometryOverlapArea", "OverlapOfTables":
+        hold(of, math.isclose(basic(of, square, shifted), 1, abs_tol=1e-3))
     pieces = basic("GeometryClip", square, shifted)
     hold("an L and a square", [row[0] for row in pieces] == [1] * 6 + [2] * 4)
     hold("no polygon", basic("GeometryOverlapArea", square, (1.0, 2.0)) == VALUE)
@@ -76,6 +78,12 @@ def check_by_hand(basic):
     hold("not written", basic("FabricUValue", (0.1,) * 21, (1.0,) * 21, 0.13, 0.04) == NA)
     hold("unchecked", basic("PsychroVapourPressure", 20.0, 150.0) == basic("PsychroVapourPressure", 20.0, 100.0))
     basic("UseUnchecked", False)
+    low, high = (basic("PsychroVapourPressure", temperature, 50.0) for temperature in (20.0, 22.0))
+    hold("a row", basic("PsychroVapourPressure", (20.0, 21.0, 22.0), (50.0, 150.0, 50.0)) == ((low, NA, high),))
+    hold("a table", basic("PressuresOfTable", (20.0, 22.0, "x", 20.0)) == ((low, high), (VALUE, low)))
+    suns = basic("ClimateSolarGeometry", 0.9, 172, (12.0, 25.0))
+    hold("a row for each", suns == (basic("ClimateSolarGeometry", 0.9, 172, 12.0), (NA,) * 5))
+    hold("arrays of two lengths", basic("PsychroVapourPressure", (20.0, 20.0), (50.0, 50.0, 50.0))[0][2] == VALUE)
     for humidity, shown in ((101.0, NA), (1e39, NA), ("50", VALUE), (None, VALUE), (True, VALUE)):
         hold(f"fault of {humidity}", basic("PsychroVapourPressure", 20.0, humidity) == shown)
     hold("a fraction of a day", basic("ClimateDesignDay", 2.5) == VALUE)
@@ -86,7 +94,8 @@ def main():
     build = Path(sys.argv[1]).resolve()
     subprocess.run([build / "quorvel_corpus", "--climate-file", "example.climate"], check=True)
     text = (ROOT / "bindings/vba/quorvel.bas").read_text(encoding="ascii")
-    declarations = Declarations(text, {name: ctypes.CDLL(build / f"lib{name}.so") for name in ("quorvel", "quorvel_arrays")})
+    libraries = {name: ctypes.CDLL(build / f"lib{name}.so") for name in ("quorvel", "quorvel_arrays")}
+    declarations = Declarations(text, libraries)
     found = calls(catalogue.load(ROOT / "catalogue"))
     with module(declarations.instead(text), Path("profile")) as basic:
         basic("UseBridge", declarations)
