@@ -20,6 +20,10 @@ from header import number
 __all__ = ["Call", "Count", "Parameter", "Passed", "Result", "call", "calls", "camel", "lower_camel", "selectors"]
 
 
+def _selector(arg):
+    return camel(arg.quantity) if arg.values else ""
+
+
 @dataclass(frozen=True)
 class Parameter:
     name: str
@@ -38,7 +42,7 @@ class Parameter:
     @property
     def selector(self):
         """Its enumeration, as in PsychrometerType; empty for others."""
-        return camel(self.arg.quantity) if self.arg.values else ""
+        return _selector(self.arg)
 
     @property
     def limits(self):
@@ -47,6 +51,11 @@ class Parameter:
             values = [value for value, _ in self.arg.values.values()]
             return min(values), max(values)
         return tuple(self.arg.range) or None
+
+    def allows(self, value):
+        """Whether a value, or all of a list, is valid."""
+        low, high = self.limits or (-math.inf, math.inf)
+        return self.kind == "Text" or all(low <= each <= high for each in (value if self.shape else [value]))
 
     @property
     def limits_in_words(self):
@@ -80,6 +89,10 @@ class Result:
     @property
     def shape(self):
         return self.arg.shape
+
+    @property
+    def selector(self):
+        return _selector(self.arg)
 
     @property
     def unwritten(self):
@@ -134,6 +147,17 @@ class Call:
     @property
     def name(self):
         return self.routine.name
+
+    @property
+    def elementwise(self):
+        """Whether it is of numbers alone, so that arrays of them are element by element."""
+        things = (*self.parameters, *self.results)
+        return not (self.routine.state or self.counts or any(thing.shape or thing.kind == "Text" for thing in things))
+
+    def allows(self, example):
+        """Whether all that an example gives is valid."""
+        counted = all(count.low <= example.given[count.name] <= count.high for count in self.counts)
+        return counted and all(parameter.allows(example.given[parameter.name]) for parameter in self.parameters)
 
     @property
     def structure(self):
@@ -199,5 +223,5 @@ def selectors(families):
     """The enumerations: values with identifier, number and meaning, by name, each with what it selects. Where two
     routines differ in what they say of the values, the last one speaks."""
     return {
-        parameter.selector: parameter.arg for each in calls(families)
-        for parameter in each.parameters if parameter.selector}
+        thing.selector: thing.arg for each in calls(families)
+        for thing in (*each.results, *each.parameters) if thing.selector}

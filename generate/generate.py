@@ -14,6 +14,7 @@ import array_header
 import array_kernels
 import catalogue
 import cpp_examples
+import csharp_tests
 import entry_points
 import example_table
 import exports
@@ -38,6 +39,7 @@ PRODUCTS = {
 }
 FOLDERS = {
     "cpp-examples": cpp_examples.files,
+    "csharp-tests": csharp_tests.files,
     "entry-points": entry_points.files,
     "host-headers": host_headers.files,
     "pack-kernels": array_kernels.with_packs,
@@ -57,7 +59,7 @@ def texts(options, families):
 
 
 def outdated(output, text):
-    return not output.exists() or output.read_text(encoding="utf-8") != text
+    return not output.exists() or output.read_bytes() != text.encode()
 
 
 def main():

@@ -5,11 +5,13 @@ from pathlib import Path
 
 import array_header
 import cpp_headers
+import csharp_binding
 import elementary_tables
 import header
 import incidence_bands
 import javascript_binding
 import python_package
+import vba_binding
 
 ROOT = Path(__file__).parents[1]
 sys.path.insert(0, str(ROOT / "data" / "bands"))
@@ -24,6 +26,8 @@ def texts(families):
         **{ROOT / "include/quorvel" / name: text for name, text in cpp_headers.files(families).items()},
         **{ROOT / "bindings/python/quorvel" / name: text for name, text in python_package.files(families).items()},
         **{ROOT / "bindings/javascript" / name: text for name, text in javascript_binding.files(families).items()},
+        **{ROOT / "bindings/csharp/Quorvel" / name: text for name, text in csharp_binding.files(families).items()},
+        ROOT / "bindings/vba/quorvel.bas": vba_binding.render(families),
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),
