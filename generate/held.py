@@ -6,6 +6,7 @@ from pathlib import Path
 import array_header
 import cpp_headers
 import elementary_tables
+import fortran_binding
 import header
 import incidence_bands
 import python_package
@@ -22,6 +23,7 @@ def texts(families):
         ROOT / "include/quorvel_arrays.h": array_header.header(families),
         **{ROOT / "include/quorvel" / name: text for name, text in cpp_headers.files(families).items()},
         **{ROOT / "bindings/python/quorvel" / name: text for name, text in python_package.files(families).items()},
+        **{ROOT / "bindings/fortran/src" / name: text for name, text in fortran_binding.files(families).items()},
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),

@@ -1,0 +1,17 @@
+"""Texts of the catalogue for languages whose sources are plain ASCII: degC, m2, +-."""
+
+import textwrap
+
+_PLAIN = {"°": "deg", "²": "2", "³": "3", "±": "+-"}
+
+
+def plain(text):
+    text = "".join(_PLAIN.get(character, character) for character in text).replace("deg C", "degC")
+    text.encode("ascii")  # tells of a character that is missing above
+    return text
+
+
+def wrapped(text, width, first, rest=None):
+    """Lines of at most that width, in ASCII, which begin with `first`, the others with `rest`."""
+    return textwrap.wrap(plain(text), width, initial_indent=first, subsequent_indent=first if rest is None else rest,
+                         break_long_words=False, break_on_hyphens=False)
