@@ -63,12 +63,13 @@ def _interface_of_arrays(routine):
     given, returned = columns(routine)
     named = [(name, arg, "in") for name, arg in given] + [(name, arg, "inout") for name, arg in returned]
     names = ", ".join(["count", *(f"{name}, {name}_stride" for name, _, _ in named)])
+    strides = ", ".join(f"{name}_stride" for name, _, _ in named)
     name = f"array_{routine.name}"
     lines = [*wrapped(routine.summary, WIDTH, "      !> "),
              folded(f"pure subroutine {name}({names}) bind(C, name='quorvel_{routine.name}')", 6),
              _imports([arg for _, arg, _ in named]) + ", c_size_t, c_ptrdiff_t",
              "         integer(c_size_t), intent(in), value :: count",
-             folded(f"integer(c_ptrdiff_t), intent(in), value :: {', '.join(f'{name}_stride' for name, _, _ in named)}", 9)]
+             folded(f"integer(c_ptrdiff_t), intent(in), value :: {strides}", 9)]
     lines += [_declaration(arg, name, intent) for name, arg, intent in named]
     return "\n".join([*lines, "      end subroutine", ""])
 

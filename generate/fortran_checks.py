@@ -3,7 +3,7 @@
 import math
 
 from fortran_model import (
-    EDIT, KIND_PARAMETERS, KINDS, declared, extents, fixed, folded, is_elemental, length, literal, procedure_name)
+    EDIT, KIND_PARAMETERS, KINDS, declared, extents, folded, is_elemental, length, literal, procedure_name)
 
 MODULE = """\
 !> Whether the routines take what is given: each of these subroutines has the arguments of the routine that it is
@@ -22,16 +22,13 @@ contains
 {checks}end module quorvel_checks
 """
 
-LARGEST = {"Real": "huge(0.0_sp)", "DoubleReal": "huge(0.0_dp)"}
-
-
 def _valid(parameter):
     """In words."""
     arg = parameter.arg
     if arg.values:
         return "valid " + ", ".join(f"{number} ({identifier})" for identifier, (number, _) in arg.values.items())
     if not parameter.limits_in_words:
-        return "not a number"
+        return "valid is any number"
     return f"valid {parameter.limits_in_words}" + f" {arg.unit}" * (arg.unit not in ("", "1"))
 
 
@@ -70,7 +67,8 @@ class Check:
                 first = count.lists[0]
                 yield self._fault(parameter, "expect_as_many", length(parameter), f"'{first.name}'", length(first))
             if count.lists:
-                yield self._fault(count.lists[0], "expect_count", length(count.lists[0]), str(count.low), str(count.high))
+                first = count.lists[0]
+                yield self._fault(first, "expect_count", length(first), str(count.low), str(count.high))
 
     def _values(self):
         for parameter in self.parameters:
@@ -81,18 +79,17 @@ class Check:
             if not parameter.shape:
                 yield f"if (.not. ({condition})) " + self._fault(parameter, "refuse", valid, parameter.name)
                 continue
-            rows = fixed(parameter.shape) if len(parameter.shape) > 1 else 0
-            if len(parameter.shape) > 1:
-                rows = parameter.shape[0]
-            yield self._fault(parameter, "expect_all", valid, f"[{condition}]", f"[real({parameter.name}, dp)]", str(rows))
+            rows = parameter.shape[0] if len(parameter.shape) > 1 else 0
+            values = f"[real({parameter.name}, dp)]"
+            yield self._fault(parameter, "expect_all", valid, f"[{condition}]", values, str(rows))
 
     def text(self):
         kind = "elemental" if is_elemental(self.call) else "pure"
         names = ", ".join([*(parameter.name for parameter in self.parameters), "fault"])
         lines = [folded(f"{kind} subroutine check_{self.name}({names})", 3)]
-        for parameter in self.parameters:
-            lines += declared(KINDS[parameter.kind], ["intent(in)"], parameter.name + extents(parameter.shape, True))
-        lines += declared("type(quorvel_fault)", ["intent(out)"], "fault")
+        lines += declared((KINDS[parameter.kind], ("intent(in)",), parameter.name + extents(parameter.shape, True))
+                          for parameter in self.parameters)
+        lines += ["      type(quorvel_fault), intent(out) :: fault"]
         lines += [folded(statement, 6) for statement in (*self._extents(), *self._values())]
         return "\n".join([*lines, "   end subroutine", "\n"])
 
@@ -100,4 +97,5 @@ class Check:
 def render(calls):
     checks = [Check(call) for call in calls if call.name != "clip"]
     names = ", &\n      ".join(sorted(f"check_{check.name}" for check in checks))
-    return MODULE.format(edit=EDIT, kinds=KIND_PARAMETERS, names=names, checks="".join(check.text() for check in checks))
+    texts = "".join(check.text() for check in checks)
+    return MODULE.format(edit=EDIT, kinds=KIND_PARAMETERS, names=names, checks=texts)

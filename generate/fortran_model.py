@@ -1,5 +1,6 @@
 """How Fortran says a routine: its procedures' names, kinds, extents and declarations."""
 
+import itertools
 import math
 import textwrap
 
@@ -53,13 +54,18 @@ def folded(statement, indent):
     return " &\n".join(lines).replace("\0", " ")
 
 
-def declared(kind, attributes, name, about="", indent=6):
-    """A declaration, with its documentation behind or below."""
-    line = " " * indent + ", ".join([kind, *attributes]) + f" :: {name}"
-    if not about:
-        return [line]
-    lines = wrapped(about, WIDTH, f"{line} !! ", " " * indent + "!! ")
-    return lines if lines[0] != line + " !!" else [line, *wrapped(about, WIDTH, " " * indent + "!! ")]
+def documented(kind, attributes, name, about):
+    """A declaration with its documentation behind it, and below where that is longer."""
+    pad = " " * 6
+    line = pad + ", ".join([kind, *attributes]) + f" :: {name}"
+    return wrapped(about, WIDTH, f"{line} !! ", f"{pad}!! ")
+
+
+def declared(variables):
+    """Declarations of (kind, attributes, name), of one sort together."""
+    for sort, group in itertools.groupby(variables, key=lambda variable: variable[:2]):
+        names = ", ".join(name for _, _, name in group)
+        yield folded(", ".join([sort[0], *sort[1]]) + f" :: {names}", 6)
 
 
 def literal(kind, value):

@@ -3,9 +3,9 @@ subroutines whose results are optional."""
 
 from array_header import columns, name_of
 from fortran_model import (
-    EDIT, KIND_PARAMETERS, KINDS, WIDTH, by_arrays, declared, extents, folded, is_elemental, is_function, is_offered,
-    length, literal, own, procedure_name, result_extents)
-from plain_text import wrapped
+    EDIT, KIND_PARAMETERS, KINDS, WIDTH, by_arrays, declared, documented, extents, folded, is_elemental, is_function,
+    is_offered, length, literal, own, procedure_name, result_extents)
+from plain_text import in_clear_names, wrapped
 
 UNCHECKED = """\
 !> The routines without any check: the same names and arguments as in module quorvel, and for whatever is given the
@@ -60,13 +60,13 @@ CHECKED = """\
 {edit}
 module quorvel
    {kinds}
-   use quorvel_faults, only: quorvel_fault, expect_extent
+   use quorvel_faults, only: quorvel_fault, expect_extent, expect_count
    use quorvel_selectors
    use quorvel_checks
    use quorvel_polygons
    use quorvel_climate_file
    implicit none
-   private :: sp, dp, i4, expect_extent
+   private :: sp, dp, i4, expect_extent, expect_count
 
    !> Stands for a quantity that does not exist, where the documentation of a result says so.
    real(sp), parameter :: quorvel_none = 1.0e20_sp
@@ -103,17 +103,17 @@ class Wrapper:
     def is_changed(self, parameter):
         return not self.is_function and any(result.given == parameter.name for result in self.call.results)
 
-    def declarations(self, assumed, about_parameter, about_result):
+    def variables(self, assumed):
+        """The arguments and the value, each with what it is: kind, attributes, name."""
         for parameter in self.call.parameters:
             intent = "intent(inout)" if self.is_changed(parameter) else "intent(in)"
-            name = parameter.name + extents(parameter.shape, assumed)
-            yield from declared(KINDS[parameter.kind], [intent], name, about_parameter(parameter))
+            yield parameter, (KINDS[parameter.kind], (intent,), parameter.name + extents(parameter.shape, assumed))
         for result in self.outputs:
             name = result.clear_name + extents(result.shape, assumed)
-            yield from declared(KINDS[result.kind], ["intent(out)", "optional"], name, about_result(result))
+            yield result, (KINDS[result.kind], ("intent(out)", "optional"), name)
         if self.is_function:
             result = self.call.results[0]
-            yield from declared(KINDS[result.kind], [], "answer" + result_extents(self.call, result), about_result(result))
+            yield result, (KINDS[result.kind], (), "answer" + result_extents(self.call, result))
 
 
 class Unchecked(Wrapper):
@@ -126,11 +126,10 @@ class Unchecked(Wrapper):
     def _variables(self):
         for count in self.call.counts:
             if count.lists:
-                yield f"integer(i4) :: {count.name}"
+                yield KINDS["Integer"], (), count.name
         for result in self.call.results:
             if self._place(result) == own(result):
-                kind = "Integer" if result.kind == "Logical" else result.kind
-                yield f"{KINDS[kind]} :: {own(result)}{result_extents(self.call, result)}"
+                yield KINDS[result.arg.type], (), own(result) + result_extents(self.call, result)
 
     def _prepared(self):
         for count in self.call.counts:
@@ -176,30 +175,37 @@ class Unchecked(Wrapper):
                 yield f"if (present({result.clear_name})) {result.clear_name} = {value}"
 
     def text(self):
-        nothing = lambda _: ""
         call = self._call_of_arrays() if by_arrays(self.call) else self._call_by_reference()
-        statements = [*self._variables(), *self._prepared(), call, *self._stored()]
-        lines = [self.head, *self.declarations(False, nothing, nothing)]
+        statements = [*self._prepared(), call, *self._stored()]
+        lines = [self.head, *declared([*(variable for _, variable in self.variables(False)), *self._variables()])]
         return "\n".join([*lines, *(folded(statement, 6) for statement in statements), self.foot, ""])
 
 
 class Checked(Wrapper):
+    def __init__(self, call, names):
+        super().__init__(call)
+        self.names = names
+
     def _about(self):
         routine = self.call.routine
-        paragraphs = [routine.summary, *([f"Formula: {routine.formula}"] if routine.formula else []), *routine.notes]
-        paragraphs.append(f"Source: {routine.source}")
-        if routine.export:
-            paragraphs.append(f"({routine.export} of quorvel_by_reference)")
-        for paragraph in paragraphs[:-1]:
-            yield from wrapped(paragraph, WIDTH, "   !> ")
+        yield from self._paragraph(routine.summary)
+        formula = [f"Formula: {routine.formula}"] if routine.formula else []
+        for text in [*formula, *routine.notes, f"Source: {routine.source}"]:
             yield "   !>"
-        yield from wrapped(paragraphs[-1], WIDTH, "   !> ")
+            yield from self._paragraph(text)
+        if routine.export:
+            yield f"   !> ({routine.export} of quorvel_by_reference)"
+
+    def _paragraph(self, text):
+        return wrapped(in_clear_names(text, self.names), WIDTH, "   !> ")
 
     def _extents_of_outputs(self):
         for result in self.outputs:
             for place, extent in enumerate(result.shape, 1):
-                yield (f"if (present({result.clear_name})) call expect_extent(fault, '{self.name}', '{result.clear_name}', "
-                       f"size({result.clear_name}, {place}), int({extent}))")
+                size = f"fault, '{self.name}', '{result.clear_name}', size({result.clear_name}, {place})"
+                yield f"if (present({result.clear_name})) " + (
+                    f"call expect_extent({size}, {extent})" if isinstance(extent, int) else
+                    f"call expect_count({size}, int({extent}), huge(1))")
 
     def _passed(self):
         given = [parameter.name for parameter in self.call.parameters]
@@ -210,9 +216,11 @@ class Checked(Wrapper):
         invoked = f"unchecked({self._passed()})"
         statements = [
             "type(quorvel_fault) :: fault", f"call check_{self.name}({given})", *self._extents_of_outputs(),
-            "if (fault%found) error stop fault%message", f"answer = {invoked}" if self.is_function else f"call {invoked}"]
+            "if (fault%found) error stop fault%message()",
+            f"answer = {invoked}" if self.is_function else f"call {invoked}"]
         lines = [*self._about(), self.head, f"      use quorvel_unchecked, only: unchecked => {self.name}"]
-        lines += self.declarations(True, lambda parameter: parameter.sentence, lambda result: result.sentence)
+        for thing, variable in self.variables(True):
+            lines += documented(*variable, in_clear_names(thing.sentence, self.names))
         return "\n".join([*lines, *(folded(statement, 6) for statement in statements), self.foot, ""])
 
 
@@ -224,5 +232,6 @@ def unchecked(calls):
 
 
 def checked(calls):
-    procedures = "\n".join(Checked(call).text() for call in calls if is_offered(call))
+    names = {call.routine.export: procedure_name(call) for call in calls if call.routine.export}
+    procedures = "\n".join(Checked(call, names).text() for call in calls if is_offered(call))
     return CHECKED.format(edit=EDIT, kinds=KIND_PARAMETERS, procedures=procedures)

@@ -17,6 +17,7 @@ import cpp_examples
 import entry_points
 import example_table
 import exports
+import fortran_tests
 import host_headers
 import interface
 import python_core
@@ -38,6 +39,7 @@ PRODUCTS = {
 FOLDERS = {
     "cpp-examples": cpp_examples.files,
     "entry-points": entry_points.files,
+    "fortran-tests": fortran_tests.files,
     "host-headers": host_headers.files,
     "pack-kernels": array_kernels.with_packs,
     "single-kernels": array_kernels.alone,

@@ -1,5 +1,6 @@
 """Texts of the catalogue for languages whose sources are plain ASCII: degC, m2, +-."""
 
+import re
 import textwrap
 
 _PLAIN = {"°": "deg", "²": "2", "³": "3", "±": "+-"}
@@ -15,3 +16,8 @@ def wrapped(text, width, first, rest=None):
     """Lines of at most that width, in ASCII, which begin with `first`, the others with `rest`."""
     return textwrap.wrap(plain(text), width, initial_indent=first, subsequent_indent=first if rest is None else rest,
                          break_long_words=False, break_on_hyphens=False)
+
+
+def in_clear_names(text, names):
+    """A text with clear names in place of exported ones, as `names` has them."""
+    return re.sub(r"\b[A-Z][A-Z0-9]{3,8}\b", lambda found: names.get(found[0], found[0]), text)

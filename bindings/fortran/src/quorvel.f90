@@ -12,13 +12,13 @@
 ! Produced from the catalogue of routines (catalogue/); do not edit.
 module quorvel
    use, intrinsic :: iso_fortran_env, only: sp => real32, dp => real64, i4 => int32
-   use quorvel_faults, only: quorvel_fault, expect_extent
+   use quorvel_faults, only: quorvel_fault, expect_extent, expect_count
    use quorvel_selectors
    use quorvel_checks
    use quorvel_polygons
    use quorvel_climate_file
    implicit none
-   private :: sp, dp, i4, expect_extent
+   private :: sp, dp, i4, expect_extent, expect_count
 
    !> Stands for a quantity that does not exist, where the documentation of a result says so.
    real(sp), parameter :: quorvel_none = 1.0e20_sp
@@ -33,7 +33,6 @@ contains
    !> At 0 degC it is 0.0007 kJ/kg: the constant of the fit is deliberate.
    !>
    !> Source: Polynomial fit to tables of dry air; its author is not known.
-   !>
    !> (PSHDRY of quorvel_by_reference)
    elemental function dry_air_enthalpy(temperature) result(answer)
       use quorvel_unchecked, only: unchecked => dry_air_enthalpy
@@ -41,7 +40,7 @@ contains
       real(sp) :: answer !! specific enthalpy, 0 at 0 degC [kJ/kg]
       type(quorvel_fault) :: fault
       call check_dry_air_enthalpy(temperature, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(temperature)
    end function
 
@@ -52,7 +51,6 @@ contains
    !> Within 0.5 kJ/kg of saturated steam from 0 to 60 degC (IAPWS 1995), within 7 at 100 degC.
    !>
    !> Source: Polynomial fit to tables of water vapour; its author is not known.
-   !>
    !> (PSHVAP of quorvel_by_reference)
    elemental function water_vapour_enthalpy(temperature) result(answer)
       use quorvel_unchecked, only: unchecked => water_vapour_enthalpy
@@ -60,7 +58,7 @@ contains
       real(sp) :: answer !! specific enthalpy, from liquid water at 0 degC [kJ/kg]
       type(quorvel_fault) :: fault
       call check_water_vapour_enthalpy(temperature, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(temperature)
    end function
 
@@ -69,7 +67,6 @@ contains
    !> The pieces meet, but for steps of 0.00004 kJ/kgK up at 40 degC and down at 50 degC, which are deliberate.
    !>
    !> Source: Straight lines between tabulated values for each 10 K; the author of the table is not known.
-   !>
    !> (PSCPDR of quorvel_by_reference)
    elemental function dry_air_specific_heat(temperature) result(answer)
       use quorvel_unchecked, only: unchecked => dry_air_specific_heat
@@ -77,7 +74,7 @@ contains
       real(sp) :: answer !! specific heat [kJ/kgK]
       type(quorvel_fault) :: fault
       call check_dry_air_specific_heat(temperature, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(temperature)
    end function
 
@@ -88,7 +85,6 @@ contains
    !> Constant from 20 degC up.
    !>
    !> Source: Rounded engineering values; their author is not known.
-   !>
    !> (PSCPVA of quorvel_by_reference)
    elemental function water_vapour_specific_heat(temperature) result(answer)
       use quorvel_unchecked, only: unchecked => water_vapour_specific_heat
@@ -96,7 +92,7 @@ contains
       real(sp) :: answer !! specific heat [kJ/kgK]
       type(quorvel_fault) :: fault
       call check_water_vapour_specific_heat(temperature, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(temperature)
    end function
 
@@ -108,7 +104,6 @@ contains
    !> Within 0.5 kJ/kg of the international values (IAPWS 1995) from 0 to 60 degC.
    !>
    !> Source: Straight lines between tabulated values for each 10 K; the author of the table is not known.
-   !>
    !> (PSHFG of quorvel_by_reference)
    elemental function latent_heat(temperature) result(answer)
       use quorvel_unchecked, only: unchecked => latent_heat
@@ -116,7 +111,7 @@ contains
       real(sp) :: answer !! latent heat [kJ/kg]
       type(quorvel_fault) :: fault
       call check_latent_heat(temperature, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(temperature)
    end function
 
@@ -137,7 +132,7 @@ contains
       real(sp) :: answer !! dry-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_vapour_pressure_and_relative_humidity(vapour_pressure, relative_humidity, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vapour_pressure, relative_humidity)
    end function
 
@@ -160,7 +155,7 @@ contains
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_vapour_pressure_and_percentage_saturation(vapour_pressure, percentage_saturation, &
          pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vapour_pressure, percentage_saturation, pressure)
    end function
 
@@ -183,7 +178,7 @@ contains
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_moisture_content_and_relative_humidity(moisture_content, relative_humidity, pressure, &
          fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(moisture_content, relative_humidity, pressure)
    end function
 
@@ -206,7 +201,7 @@ contains
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_moisture_content_and_percentage_saturation(moisture_content, percentage_saturation, &
          pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(moisture_content, percentage_saturation, pressure)
    end function
 
@@ -226,7 +221,7 @@ contains
       real(sp) :: answer !! dry-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_enthalpy_and_moisture_content(enthalpy, moisture_content, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(enthalpy, moisture_content)
    end function
 
@@ -247,7 +242,7 @@ contains
       real(sp) :: answer !! dry-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_enthalpy_and_vapour_pressure(enthalpy, vapour_pressure, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(enthalpy, vapour_pressure, pressure)
    end function
 
@@ -271,7 +266,7 @@ contains
       real(sp) :: answer !! dry-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_enthalpy_and_relative_humidity(enthalpy, relative_humidity, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(enthalpy, relative_humidity, pressure)
    end function
 
@@ -295,7 +290,7 @@ contains
       real(sp) :: answer !! dry-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_enthalpy_and_percentage_saturation(enthalpy, percentage_saturation, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(enthalpy, percentage_saturation, pressure)
    end function
 
@@ -318,7 +313,7 @@ contains
       real(sp) :: answer !! dry-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_wet_bulb_and_vapour_pressure(wet_bulb, vapour_pressure, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(wet_bulb, vapour_pressure, pressure, psychrometer)
    end function
 
@@ -344,7 +339,7 @@ contains
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_wet_bulb_and_moisture_content(wet_bulb, moisture_content, pressure, psychrometer, &
          fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(wet_bulb, moisture_content, pressure, psychrometer)
    end function
 
@@ -372,7 +367,7 @@ contains
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_wet_bulb_and_relative_humidity(wet_bulb, relative_humidity, pressure, psychrometer, &
          fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(wet_bulb, relative_humidity, pressure, psychrometer)
    end function
 
@@ -400,7 +395,7 @@ contains
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_wet_bulb_and_percentage_saturation(wet_bulb, percentage_saturation, pressure, &
          psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(wet_bulb, percentage_saturation, pressure, psychrometer)
    end function
 
@@ -426,7 +421,7 @@ contains
       real(sp) :: answer !! dry-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_dry_bulb_from_wet_bulb_and_enthalpy(wet_bulb, enthalpy, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(wet_bulb, enthalpy, pressure, psychrometer)
    end function
 
@@ -459,7 +454,7 @@ contains
       type(quorvel_fault) :: fault
       call check_adiabatic_mixing(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, &
          second_dry_bulb, second_moisture_content, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb, &
          second_moisture_content, dry_bulb, moisture_content, enthalpy)
    end subroutine
@@ -478,9 +473,8 @@ contains
    !>
    !> A psychrometer type below 1 counts as 1, above 2 as 2.
    !>
-   !> Source: Vapour pressure of PSVAP; the enhancement factor f is a quadratic in absolute temperature whose
-   !> coefficients are linear in pressure.
-   !>
+   !> Source: Vapour pressure of vapour_pressure_from_psychrometer; the enhancement factor f is a quadratic in absolute
+   !> temperature whose coefficients are linear in pressure.
    !> (PSGS of quorvel_by_reference)
    elemental function moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer) result(answer)
       use quorvel_unchecked, only: unchecked => moisture_content_from_psychrometer
@@ -491,7 +485,7 @@ contains
       real(sp) :: answer !! moisture content, water vapour per dry air [kg/kg]
       type(quorvel_fault) :: fault
       call check_moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, wet_bulb, pressure, psychrometer)
    end function
 
@@ -513,7 +507,7 @@ contains
       real(sp) :: answer !! moisture content, water vapour per dry air [kg/kg]
       type(quorvel_fault) :: fault
       call check_moisture_content(dry_bulb, vapour_pressure, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, vapour_pressure, pressure)
    end function
 
@@ -532,7 +526,7 @@ contains
       real(sp) :: answer !! vapour pressure [Pa]
       type(quorvel_fault) :: fault
       call check_vapour_pressure_from_moisture_content(dry_bulb, moisture_content, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, moisture_content, pressure)
    end function
 
@@ -552,7 +546,7 @@ contains
       real(sp) :: answer !! moisture content, water vapour per dry air [kg/kg]
       type(quorvel_fault) :: fault
       call check_moisture_content_from_percentage_saturation(dry_bulb, percentage_saturation, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, percentage_saturation, pressure)
    end function
 
@@ -570,7 +564,7 @@ contains
       real(sp) :: answer !! moisture content, water vapour per dry air [kg/kg]
       type(quorvel_fault) :: fault
       call check_moisture_content_from_enthalpy(dry_bulb, enthalpy, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, enthalpy)
    end function
 
@@ -589,7 +583,7 @@ contains
       real(sp) :: answer !! density of the moist air [kg/m3]
       type(quorvel_fault) :: fault
       call check_moist_air_density(dry_bulb, moisture_content, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, moisture_content, pressure)
    end function
 
@@ -601,8 +595,7 @@ contains
    !>
    !> Percentage saturation is not relative humidity, the ratio of vapour pressures, and is the lower of the two.
    !>
-   !> Source: Definition, with the saturation moisture content of PSGS.
-   !>
+   !> Source: Definition, with the saturation moisture content of moisture_content_from_psychrometer.
    !> (PSPCST of quorvel_by_reference)
    elemental function percentage_saturation(dry_bulb, moisture_content, pressure) result(answer)
       use quorvel_unchecked, only: unchecked => percentage_saturation
@@ -612,7 +605,7 @@ contains
       real(sp) :: answer !! percentage saturation [%]
       type(quorvel_fault) :: fault
       call check_percentage_saturation(dry_bulb, moisture_content, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, moisture_content, pressure)
    end function
 
@@ -632,13 +625,13 @@ contains
       real(sp) :: answer !! specific enthalpy, by mass of dry air [kJ/kg]
       type(quorvel_fault) :: fault
       call check_specific_enthalpy(dry_bulb, moisture_content, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, moisture_content)
    end function
 
    !> Specific enthalpy of moist air from the reading of a wet-and-dry-bulb psychrometer.
    !>
-   !> Formula: h = PSHDRY(t) + g PSHVAP(t), g = PSGS(t, twb, p)
+   !> Formula: h = dry_air_enthalpy(t) + g water_vapour_enthalpy(t), g = moisture_content_from_psychrometer(t, twb, p)
    !>
    !> A wet bulb at or above the dry bulb counts as saturation; the coefficient of an iced bulb is taken when the wet
    !> bulb is below 0 degC.
@@ -650,8 +643,8 @@ contains
    !>
    !> A psychrometer type below 1 counts as 1, above 2 as 2.
    !>
-   !> Source: Enthalpies of PSHDRY and PSHVAP, moisture content of PSGS.
-   !>
+   !> Source: Enthalpies of dry_air_enthalpy and water_vapour_enthalpy, moisture content of
+   !> moisture_content_from_psychrometer.
    !> (PSHWET of quorvel_by_reference)
    elemental function specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer) result(answer)
       use quorvel_unchecked, only: unchecked => specific_enthalpy_from_psychrometer
@@ -662,7 +655,7 @@ contains
       real(sp) :: answer !! specific enthalpy, by mass of dry air [kJ/kg]
       type(quorvel_fault) :: fault
       call check_specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, wet_bulb, pressure, psychrometer)
    end function
 
@@ -681,7 +674,6 @@ contains
    !>
    !> Source: Virial equation of the mixture, written for 101325 Pa (1.0045 is the enhancement factor there); its author
    !> is not known.
-   !>
    !> (PSSPVL of quorvel_by_reference)
    elemental function specific_volume(dry_bulb, moisture_content, pressure) result(answer)
       use quorvel_unchecked, only: unchecked => specific_volume
@@ -691,7 +683,7 @@ contains
       real(sp) :: answer !! specific volume, by mass of dry air [m3/kg]
       type(quorvel_fault) :: fault
       call check_specific_volume(dry_bulb, moisture_content, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, moisture_content, pressure)
    end function
 
@@ -706,8 +698,7 @@ contains
    !> Where the search would never end (a pressure so low that the water boils, an argument that is not a number), the
    !> value it has reached is returned: some ten thousand degrees.
    !>
-   !> Source: Enthalpy of PSHWET, solved by a step-and-refine search.
-   !>
+   !> Source: Enthalpy of specific_enthalpy_from_psychrometer, solved by a step-and-refine search.
    !> (PSTSAT of quorvel_by_reference)
    elemental function saturation_temperature_from_enthalpy(enthalpy, pressure) result(answer)
       use quorvel_unchecked, only: unchecked => saturation_temperature_from_enthalpy
@@ -716,7 +707,7 @@ contains
       real(sp) :: answer !! saturation temperature [degC]
       type(quorvel_fault) :: fault
       call check_saturation_temperature_from_enthalpy(enthalpy, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(enthalpy, pressure)
    end function
 
@@ -725,8 +716,8 @@ contains
    !> Formula: dp = ps(water_temperature) - pv; evaporation_rate = 2.193e-8 dp - 1.64e-5 without bathers, 4.17e-8 dp
    !> bathers / water_area + 3.28e-5 with them; latent_load = 2.45e6 evaporation_rate (water_area + wetted_area)
    !>
-   !> The vapour pressure is that of a sling psychrometer at the wet bulb of PSWBLB, and good to the step of that
-   !> search.
+   !> The vapour pressure is that of a sling psychrometer at the wet bulb of wet_bulb_from_moisture_content, and good to
+   !> the step of that search.
    !>
    !> Nothing is limited: a calm pool close to equilibrium with the air has a negative rate.
    !>
@@ -734,7 +725,6 @@ contains
    !>
    !> Source: Regressions of the kind that Biasin and Krumme gave in 1974 (unoccupied -0.059 + 0.000079 dp in kg/(m2h)),
    !> turned to kg/(m2s); fixed latent heat and convective coefficient.
-   !>
    !> (TPPOOL of quorvel_by_reference)
    elemental subroutine pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, &
       reference_temperature, bathers, reference_coefficient, pressure, evaporation_rate, latent_load, convective_load, &
@@ -758,7 +748,7 @@ contains
       type(quorvel_fault) :: fault
       call check_pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, &
          reference_temperature, bathers, reference_coefficient, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, reference_temperature, &
          bathers, reference_coefficient, pressure, evaporation_rate, latent_load, convective_load, reference_load)
    end subroutine
@@ -776,7 +766,6 @@ contains
    !>
    !> Source: Regressions of the kind that Biasin and Krumme gave in 1974 (unoccupied -0.059 + 0.000079 dp in kg/(m2h)),
    !> turned to kg/(m2s); fixed latent heat and convective coefficient.
-   !>
    !> (TPPOOL2 of quorvel_by_reference)
    elemental subroutine pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, &
       reference_temperature, bathers, reference_coefficient, pressure, evaporation_rate, latent_load, convective_load, &
@@ -801,7 +790,7 @@ contains
       type(quorvel_fault) :: fault
       call check_pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, &
          reference_temperature, bathers, reference_coefficient, pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, reference_temperature, bathers, &
          reference_coefficient, pressure, evaporation_rate, latent_load, convective_load, reference_load)
    end subroutine
@@ -818,7 +807,6 @@ contains
    !>
    !> Source: National Engineering Laboratory, Steam Tables 1964, in the reduced form that building services guides
    !> print.
-   !>
    !> (PSSVP of quorvel_by_reference)
    elemental function saturation_pressure(temperature) result(answer)
       use quorvel_unchecked, only: unchecked => saturation_pressure
@@ -826,7 +814,7 @@ contains
       real(sp) :: answer !! saturation vapour pressure [Pa]
       type(quorvel_fault) :: fault
       call check_saturation_pressure(temperature, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(temperature)
    end function
 
@@ -849,7 +837,7 @@ contains
       real(sp) :: answer !! dew-point temperature, of frost below 0 degC [degC]
       type(quorvel_fault) :: fault
       call check_dew_point(vapour_pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vapour_pressure)
    end function
 
@@ -859,8 +847,7 @@ contains
    !>
    !> Relative humidity is limited to 0 to 100 %, not rejected.
    !>
-   !> Source: Definition of relative humidity, with the saturation pressure of PSSVP.
-   !>
+   !> Source: Definition of relative humidity, with the saturation pressure of saturation_pressure.
    !> (PSVP of quorvel_by_reference)
    elemental function vapour_pressure(dry_bulb, relative_humidity) result(answer)
       use quorvel_unchecked, only: unchecked => vapour_pressure
@@ -869,7 +856,7 @@ contains
       real(sp) :: answer !! vapour pressure [Pa]
       type(quorvel_fault) :: fault
       call check_vapour_pressure(dry_bulb, relative_humidity, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, relative_humidity)
    end function
 
@@ -887,7 +874,7 @@ contains
       real(sp) :: answer !! relative humidity [%]
       type(quorvel_fault) :: fault
       call check_relative_humidity(dry_bulb, vapour_pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, vapour_pressure)
    end function
 
@@ -906,7 +893,6 @@ contains
    !> A is 0.000666 1/K for a sling psychrometer and 0.000799 for a screen one, 0.000594 and 0.00072 with an iced bulb.
    !>
    !> Source: Psychrometer equation with the customary coefficients A.
-   !>
    !> (PSVAP of quorvel_by_reference)
    elemental function vapour_pressure_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer) result(answer)
       use quorvel_unchecked, only: unchecked => vapour_pressure_from_psychrometer
@@ -917,7 +903,7 @@ contains
       real(sp) :: answer !! vapour pressure [Pa]
       type(quorvel_fault) :: fault
       call check_vapour_pressure_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, wet_bulb, pressure, psychrometer)
    end function
 
@@ -928,7 +914,6 @@ contains
    !> Two equal temperatures give that temperature. Infinite where the second is above the first by 34.61 K.
    !>
    !> Source: The derivation is not known, so the second temperature has no other meaning than the formula's.
-   !>
    !> (PSTEFF of quorvel_by_reference)
    elemental function weighted_temperature(first_temperature, second_temperature) result(answer)
       use quorvel_unchecked, only: unchecked => weighted_temperature
@@ -938,14 +923,14 @@ contains
       real(sp) :: answer !! weighted temperature [degC]
       type(quorvel_fault) :: fault
       call check_weighted_temperature(first_temperature, second_temperature, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(first_temperature, second_temperature)
    end function
 
    !> Wet-bulb temperature that a psychrometer reads at a dry-bulb temperature and relative humidity.
    !>
-   !> The coefficient of an iced bulb is taken when the dry bulb is below 0 degC, where PSVAP looks at the wet bulb; the
-   !> asymmetry is deliberate.
+   !> The coefficient of an iced bulb is taken when the dry bulb is below 0 degC, where
+   !> vapour_pressure_from_psychrometer looks at the wet bulb; the asymmetry is deliberate.
    !>
    !> A stepping search that ends within 0.1 K: the result moves in small jumps with its arguments.
    !>
@@ -954,8 +939,7 @@ contains
    !>
    !> A psychrometer type below 1 counts as 1, above 2 as 2.
    !>
-   !> Source: Psychrometer equation of PSVAP, solved by a step-and-refine search.
-   !>
+   !> Source: Psychrometer equation of vapour_pressure_from_psychrometer, solved by a step-and-refine search.
    !> (PSTWET of quorvel_by_reference)
    elemental function psychrometer_wet_bulb(dry_bulb, relative_humidity, pressure, psychrometer) result(answer)
       use quorvel_unchecked, only: unchecked => psychrometer_wet_bulb
@@ -966,7 +950,7 @@ contains
       real(sp) :: answer !! wet-bulb temperature, never above the dry bulb [degC]
       type(quorvel_fault) :: fault
       call check_psychrometer_wet_bulb(dry_bulb, relative_humidity, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, relative_humidity, pressure, psychrometer)
    end function
 
@@ -984,8 +968,8 @@ contains
    !>
    !> A psychrometer type below 1 counts as 1, above 2 as 2.
    !>
-   !> Source: Psychrometer equation of PSVAP with the moisture content of PSGS, solved by a step-and-refine search.
-   !>
+   !> Source: Psychrometer equation of vapour_pressure_from_psychrometer with the moisture content of
+   !> moisture_content_from_psychrometer, solved by a step-and-refine search.
    !> (PSTWB of quorvel_by_reference)
    elemental function wet_bulb_from_percentage_saturation(dry_bulb, percentage_saturation, pressure, psychrometer) &
       result(answer)
@@ -997,7 +981,7 @@ contains
       real(sp) :: answer !! wet-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_wet_bulb_from_percentage_saturation(dry_bulb, percentage_saturation, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, percentage_saturation, pressure, psychrometer)
    end function
 
@@ -1014,8 +998,8 @@ contains
    !>
    !> A psychrometer type below 1 counts as 1, above 2 as 2.
    !>
-   !> Source: Psychrometer equation of PSVAP with the moisture content of PSGS, solved by a step-and-refine search.
-   !>
+   !> Source: Psychrometer equation of vapour_pressure_from_psychrometer with the moisture content of
+   !> moisture_content_from_psychrometer, solved by a step-and-refine search.
    !> (PSWBLB of quorvel_by_reference)
    elemental function wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychrometer) &
       result(answer)
@@ -1027,7 +1011,7 @@ contains
       real(sp) :: answer !! wet-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, moisture_content, pressure, psychrometer)
    end function
 
@@ -1054,7 +1038,7 @@ contains
       real(sp) :: answer !! wet-bulb temperature [degC]
       type(quorvel_fault) :: fault
       call check_wet_bulb(dry_bulb, vapour_pressure, pressure, psychrometer, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(dry_bulb, vapour_pressure, pressure, psychrometer)
    end function
 
@@ -1090,7 +1074,6 @@ contains
    !> Source: Pipes, Matrix analysis of heat transfer problems, Journal of the Franklin Institute 263, 1957; Milbank and
    !> Harrington-Lynn, Thermal response and the admittance procedure, Building Research Establishment CP 61/74, 1974;
    !> ISO 13786.
-   !>
    !> (TPADMT of quorvel_by_reference)
    pure subroutine cyclic_response(thickness, conductivity, density, specific_heat, inside_resistance, &
       outside_resistance, harmonic, element_kind, admittance, admittance_lead, decrement_factor, decrement_lag, &
@@ -1117,12 +1100,12 @@ contains
       real(sp), intent(out), optional :: surface_factor !! surface factor F; not a number with more than 20 layers
       real(sp), intent(out), optional :: surface_factor_lag !! time lag of the surface factor, 0 to 24 / harmonic [h];
       !! not a number with more than 20 layers
-      real(sp), intent(out), optional :: u_value !! U-value, as TPUVAL gives it [W/m2K]; not a number with more than 20
+      real(sp), intent(out), optional :: u_value !! U-value, as u_value gives it [W/m2K]; not a number with more than 20
       !! layers
       type(quorvel_fault) :: fault
       call check_cyclic_response(thickness, conductivity, density, specific_heat, inside_resistance, &
          outside_resistance, harmonic, element_kind, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(thickness, conductivity, density, specific_heat, inside_resistance, outside_resistance, harmonic, &
          element_kind, admittance, admittance_lead, decrement_factor, decrement_lag, surface_factor, &
          surface_factor_lag, u_value)
@@ -1133,12 +1116,12 @@ contains
    !> Formula: 1 / (5.14 e1 e2 / (e1 + e2 - e1 e2) + 0.025 Nu / width), at least 0.1; Nu = 0.035 Ra^0.38, at least 1; Ra
    !> = 793.00165 width^3 / 4.4e-7
    !>
-   !> A width below 0.001 gives 0.1, where TPRCA2 and TPRCAX give 0: deliberate. Not a number stays so.
+   !> A width below 0.001 gives 0.1, where air_cavity_resistance and gas_cavity_resistance give 0: deliberate. Not a
+   !> number stays so.
    !>
    !> The emissivities e1 and e2 of the faces are 0.85 and 0.86.
    !>
-   !> Source: As TPRCA2.
-   !>
+   !> Source: As air_cavity_resistance.
    !> (TPRCAV of quorvel_by_reference)
    elemental function vertical_cavity_resistance(cavity_width) result(answer)
       use quorvel_unchecked, only: unchecked => vertical_cavity_resistance
@@ -1146,7 +1129,7 @@ contains
       real(sp) :: answer !! cavity resistance, not below 0.1 [m2K/W]
       type(quorvel_fault) :: fault
       call check_vertical_cavity_resistance(cavity_width, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(cavity_width)
    end function
 
@@ -1164,7 +1147,6 @@ contains
    !>
    !> Source: EN 673, Glass in building - Determination of thermal transmittance: C and n for vertical, inclined and
    !> horizontal cavities, and air at 10 degC with 15 K between the faces.
-   !>
    !> (TPRCA2 of quorvel_by_reference)
    elemental function air_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2) result(answer)
       use quorvel_unchecked, only: unchecked => air_cavity_resistance
@@ -1176,7 +1158,7 @@ contains
       real(sp) :: answer !! cavity resistance [m2K/W]
       type(quorvel_fault) :: fault
       call check_air_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(tilt, cavity_width, emissivity_1, emissivity_2)
    end function
 
@@ -1185,15 +1167,14 @@ contains
    !> Formula: 1 / (5.14 e1 e2 / (e1 + e2 - e1 e2) + conductivity Nu / width); Nu = C Ra^n, at least 1; Ra = 0.52
    !> specific_heat density^2 width^3 / (viscosity conductivity)
    !>
-   !> Guards and correlation as in TPRCA2.
+   !> Guards and correlation as in air_cavity_resistance.
    !>
    !> The Rayleigh number has a factor of 0.52 m/s2 for gravity times expansion times temperature difference, whatever
    !> the gas and its temperature.
    !>
    !> A negative Rayleigh number has no power: not a number.
    !>
-   !> Source: As TPRCA2.
-   !>
+   !> Source: As air_cavity_resistance.
    !> (TPRCAX of quorvel_by_reference)
    elemental function gas_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, &
       specific_heat, viscosity) result(answer)
@@ -1211,7 +1192,7 @@ contains
       type(quorvel_fault) :: fault
       call check_gas_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, &
          specific_heat, viscosity, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, specific_heat, &
          viscosity)
    end function
@@ -1228,7 +1209,6 @@ contains
    !> Results are in N s/kg, resistivities in GN s/(kg m).
    !>
    !> Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
-   !>
    !> (TPDAMP of quorvel_by_reference)
    pure function total_vapour_resistance(thickness, vapour_resistivity) result(answer)
       use quorvel_unchecked, only: unchecked => total_vapour_resistance
@@ -1239,7 +1219,7 @@ contains
       real(sp) :: answer !! total vapour resistance [N s/kg]; not a number with more than 20 layers
       type(quorvel_fault) :: fault
       call check_total_vapour_resistance(thickness, vapour_resistivity, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(thickness, vapour_resistivity)
    end function
 
@@ -1254,13 +1234,13 @@ contains
    !> Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to saturation there.
    !> Between two surfaces without any vapour resistance the vapour pressure is no number.
    !>
-   !> A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, as in TPDAMP.
+   !> A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, as in
+   !> total_vapour_resistance.
    !>
-   !> Saturation inside a layer, between its interfaces, is not looked for: see ITPCON.
+   !> Saturation inside a layer, between its interfaces, is not looked for: see condenses_within_layer.
    !>
    !> Source: Glaser's method in the stepwise form of ISO 13788: the vapour line is straight over the vapour resistance
    !> between the interfaces at which it is held to saturation.
-   !>
    !> (TPGRAD of quorvel_by_reference)
    pure subroutine condensation_profile(thickness, conductivity, vapour_resistivity, inside_resistance, &
       outside_resistance, inside_temperature, outside_temperature, inside_humidity, outside_humidity, &
@@ -1288,12 +1268,12 @@ contains
       call check_condensation_profile(thickness, conductivity, vapour_resistivity, inside_resistance, &
          outside_resistance, inside_temperature, outside_temperature, inside_humidity, outside_humidity, fault)
       if (present(interface_temperature)) call expect_extent(fault, 'condensation_profile', 'interface_temperature', &
-         size(interface_temperature, 1), int(21))
+         size(interface_temperature, 1), 21)
       if (present(interface_vapour_pressure)) call expect_extent(fault, 'condensation_profile', &
-         'interface_vapour_pressure', size(interface_vapour_pressure, 1), int(21))
+         'interface_vapour_pressure', size(interface_vapour_pressure, 1), 21)
       if (present(interface_saturation_pressure)) call expect_extent(fault, 'condensation_profile', &
-         'interface_saturation_pressure', size(interface_saturation_pressure, 1), int(21))
-      if (fault%found) error stop fault%message
+         'interface_saturation_pressure', size(interface_saturation_pressure, 1), 21)
+      if (fault%found) error stop fault%message()
       call unchecked(thickness, conductivity, vapour_resistivity, inside_resistance, outside_resistance, &
          inside_temperature, outside_temperature, inside_humidity, outside_humidity, interface_temperature, &
          interface_vapour_pressure, interface_saturation_pressure)
@@ -1310,8 +1290,7 @@ contains
    !> there with 0.
    !>
    !> Source: Straight lines of temperature and vapour pressure through a homogeneous layer, against the saturation
-   !> pressure of PSSVP.
-   !>
+   !> pressure of saturation_pressure.
    !> (ITPCON of quorvel_by_reference)
    elemental function condenses_within_layer(warm_temperature, cold_temperature, warm_vapour_pressure, &
       cold_vapour_pressure) result(answer)
@@ -1324,7 +1303,7 @@ contains
       type(quorvel_fault) :: fault
       call check_condenses_within_layer(warm_temperature, cold_temperature, warm_vapour_pressure, &
          cold_vapour_pressure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure)
    end function
 
@@ -1346,9 +1325,9 @@ contains
    !>
    !> Items of classes 2, 4 and 5: 12 field 6. Of class 5 with subtype 1 or 2: 21 to 23 fields 2 to 4.
    !>
-   !> Items of packed fields (TPCOLT), all classes but 3 and 6: 31 solar transmittance, 32 front and 33 back
-   !> reflectance, 34 and 35 front and back absorptance, from field 9; 41 to 45 the same from field 7; 54 and 55 the
-   !> long-wave fractions of the two faces, 52 and 53 one less these, from field 8.
+   !> Items of packed fields (pack_three_fractions), all classes but 3 and 6: 31 solar transmittance, 32 front and 33
+   !> back reflectance, 34 and 35 front and back absorptance, from field 9; 41 to 45 the same from field 7; 54 and 55
+   !> the long-wave fractions of the two faces, 52 and 53 one less these, from field 8.
    !>
    !> Items of every class: 71 and 72 are 1 if the list ends with a record of code 601 and 602, whichever valid record
    !> is asked about.
@@ -1357,7 +1336,6 @@ contains
    !> deliberate.
    !>
    !> Source: Layout of the element records.
-   !>
    !> (BELDAT of quorvel_by_reference)
    pure function element_property(element_records, record_number, item) result(answer)
       use quorvel_unchecked, only: unchecked => element_property
@@ -1367,7 +1345,7 @@ contains
       real(sp) :: answer !! the property, 1e20 if it does not exist [by item]; 1e20 where there is none
       type(quorvel_fault) :: fault
       call check_element_property(element_records, record_number, item, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(element_records, record_number, item)
    end function
 
@@ -1385,7 +1363,6 @@ contains
    !>
    !> Source: Alamdari and Hammond, Improved data correlations for buoyancy-driven convection in rooms, Building
    !> Services Engineering Research and Technology 4, 1983.
-   !>
    !> (TPHCON of quorvel_by_reference)
    elemental function natural_convection_coefficient(temperature_difference, characteristic_length, &
       heat_flow_direction) result(answer)
@@ -1400,16 +1377,15 @@ contains
       type(quorvel_fault) :: fault
       call check_natural_convection_coefficient(temperature_difference, characteristic_length, heat_flow_direction, &
          fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(temperature_difference, characteristic_length, heat_flow_direction)
    end function
 
    !> Packs two fractions of two decimals into one real, or unpacks them.
    !>
-   !> As TPCOLT with a third fraction of 0, which is not returned: what stands above 100 is ignored.
+   !> As pack_three_fractions with a third fraction of 0, which is not returned: what stands above 100 is ignored.
    !>
-   !> Source: As TPCOLT.
-   !>
+   !> Source: As pack_three_fractions.
    !> (TPCOLW of quorvel_by_reference)
    elemental subroutine pack_two_fractions(packing, packed_number, fraction_1, fraction_2)
       use quorvel_unchecked, only: unchecked => pack_two_fractions
@@ -1419,7 +1395,7 @@ contains
       real(sp), intent(inout) :: fraction_2 !! fraction held as units and tens; valid 0 to 0.99
       type(quorvel_fault) :: fault
       call check_pack_two_fractions(packing, packed_number, fraction_1, fraction_2, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(packing, packed_number, fraction_1, fraction_2)
    end subroutine
 
@@ -1437,8 +1413,7 @@ contains
    !>
    !> A fraction of 1.00 is carried into the next one, 1 into 2 and 2 into 3.
    !>
-   !> Source: Format of the packed property numbers of element records (BELDAT).
-   !>
+   !> Source: Format of the packed property numbers of element records (element_property).
    !> (TPCOLT of quorvel_by_reference)
    elemental subroutine pack_three_fractions(packing, packed_number, fraction_1, fraction_2, fraction_3)
       use quorvel_unchecked, only: unchecked => pack_three_fractions
@@ -1449,14 +1424,13 @@ contains
       real(sp), intent(inout) :: fraction_3 !! fraction held as hundreds and thousands; valid 0 to 0.99
       type(quorvel_fault) :: fault
       call check_pack_three_fractions(packing, packed_number, fraction_1, fraction_2, fraction_3, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(packing, packed_number, fraction_1, fraction_2, fraction_3)
    end subroutine
 
-   !> TPCOLT with its arguments in another order.
+   !> pack_three_fractions with its arguments in another order.
    !>
-   !> Source: As TPCOLT.
-   !>
+   !> Source: As pack_three_fractions.
    !> (TPCOLW2 of quorvel_by_reference)
    elemental subroutine pack_three_fractions_third_first(packing, packed_number, fraction_3, fraction_1, fraction_2)
       use quorvel_unchecked, only: unchecked => pack_three_fractions_third_first
@@ -1467,22 +1441,21 @@ contains
       real(sp), intent(inout) :: fraction_2 !! fraction held as units and tens; valid 0 to 0.99
       type(quorvel_fault) :: fault
       call check_pack_three_fractions_third_first(packing, packed_number, fraction_3, fraction_1, fraction_2, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(packing, packed_number, fraction_3, fraction_1, fraction_2)
    end subroutine
 
    !> Packs the solar absorptance of a pane and the reflectances of its faces into one real, as absorptance and
    !> transmittances, or unpacks them.
    !>
-   !> Packed as TPCOLT packs the absorptance and the transmittances 1 - absorptance - reflectance of the two faces.
-   !> Undefined values as there.
+   !> Packed as pack_three_fractions packs the absorptance and the transmittances 1 - absorptance - reflectance of the
+   !> two faces. Undefined values as there.
    !>
    !> A face that neither absorbs nor reflects transmits 1.00, which is carried into the next position.
    !>
    !> Absorptance and reflectance of a face that exceed 1 together do not come back.
    !>
-   !> Source: As TPCOLT.
-   !>
+   !> Source: As pack_three_fractions.
    !> (TPCOSW of quorvel_by_reference)
    elemental subroutine pack_pane(packing, packed_number, absorptance, reflectance_1, reflectance_2)
       use quorvel_unchecked, only: unchecked => pack_pane
@@ -1493,7 +1466,7 @@ contains
       real(sp), intent(inout) :: reflectance_2 !! reflectance of the second face; valid 0 to 1
       type(quorvel_fault) :: fault
       call check_pack_pane(packing, packed_number, absorptance, reflectance_1, reflectance_2, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(packing, packed_number, absorptance, reflectance_1, reflectance_2)
    end subroutine
 
@@ -1512,7 +1485,6 @@ contains
    !> Source: Radiation and convection side by side. The customary values of inside surfaces (0.10 up, 0.12 horizontal,
    !> 0.14 down) and of outside ones in normal and severe exposure (walls 0.06 and 0.03, roofs 0.04 and 0.02) are met to
    !> two decimals; the origin of the convective coefficients is not recorded.
-   !>
    !> (TPRSUR of quorvel_by_reference)
    elemental function surface_resistance(surface, tilt, exposure) result(answer)
       use quorvel_unchecked, only: unchecked => surface_resistance
@@ -1523,7 +1495,7 @@ contains
       real(sp) :: answer !! surface resistance [m2K/W]
       type(quorvel_fault) :: fault
       call check_surface_resistance(surface, tilt, exposure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(surface, tilt, exposure)
    end function
 
@@ -1534,14 +1506,13 @@ contains
    !>
    !> Another surface type gives 0. Another exposure counts as the nearest one.
    !>
-   !> At an emissivity of 0.9 it is TPRSUR to rounding.
+   !> At an emissivity of 0.9 it is surface_resistance to rounding.
    !>
    !> Tilt and emissivity are not tested.
    !>
-   !> a and b are those of TPRSUR.
+   !> a and b are those of surface_resistance.
    !>
-   !> Source: As TPRSUR, with black-body coefficients of 5.1 W/m2K outside and 5.7 W/m2K inside.
-   !>
+   !> Source: As surface_resistance, with black-body coefficients of 5.1 W/m2K outside and 5.7 W/m2K inside.
    !> (TPRSU2 of quorvel_by_reference)
    elemental function surface_resistance_at_emissivity(surface, tilt, exposure, emissivity) result(answer)
       use quorvel_unchecked, only: unchecked => surface_resistance_at_emissivity
@@ -1553,7 +1524,7 @@ contains
       real(sp) :: answer !! surface resistance [m2K/W]
       type(quorvel_fault) :: fault
       call check_surface_resistance_at_emissivity(surface, tilt, exposure, emissivity, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(surface, tilt, exposure, emissivity)
    end function
 
@@ -1563,12 +1534,12 @@ contains
    !>
    !> A count below 1 leaves the two surfaces alone; no array is read.
    !>
-   !> How far below 0 a thickness is makes no difference here; it does in TPDAMP and TPGRAD.
+   !> How far below 0 a thickness is makes no difference here; it does in total_vapour_resistance and
+   !> condensation_profile.
    !>
    !> A thickness that is no number gives no number.
    !>
    !> Source: Resistances in series; ISO 6946.
-   !>
    !> (TPUVAL of quorvel_by_reference)
    pure function u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2) result(answer)
       use quorvel_unchecked, only: unchecked => u_value
@@ -1581,7 +1552,7 @@ contains
       real(sp) :: answer !! U-value [W/m2K]; not a number with more than 20 layers
       type(quorvel_fault) :: fault
       call check_u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(thickness, conductivity, surface_resistance_1, surface_resistance_2)
    end function
 
@@ -1597,8 +1568,7 @@ contains
    !>
    !> An exposure below 1 counts as 1, above 3 as 3. The tilt is not limited.
    !>
-   !> Source: Surface resistances of TPRSUR, exchanged.
-   !>
+   !> Source: Surface resistances of surface_resistance, exchanged.
    !> (TPUMOD of quorvel_by_reference)
    elemental function u_value_at_tilt_and_exposure(u_value, tilt, exposure) result(answer)
       use quorvel_unchecked, only: unchecked => u_value_at_tilt_and_exposure
@@ -1610,7 +1580,7 @@ contains
       real(sp) :: answer !! U-value at that tilt and exposure [W/m2K]
       type(quorvel_fault) :: fault
       call check_u_value_at_tilt_and_exposure(u_value, tilt, exposure, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(u_value, tilt, exposure)
    end function
 
@@ -1627,12 +1597,11 @@ contains
    !>
    !> Another number of panes counts as one pane, with the emissivity of pane 3 outside.
    !>
-   !> Cavities as TPRCA2: one that it rejects has no resistance.
+   !> Cavities as air_cavity_resistance: one that it rejects has no resistance.
    !>
    !> Rsi and Rso are the resistances of the inner and the outer surface.
    !>
-   !> Source: Surface resistances of TPRSU2 and cavities of TPRCA2 in series.
-   !>
+   !> Source: Surface resistances of surface_resistance_at_emissivity and cavities of air_cavity_resistance in series.
    !> (TPWNDO of quorvel_by_reference)
    elemental subroutine window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_2, pane_kind_3, &
       emissivity_3, cavity_width_1, cavity_width_2, outer_surface, exposure, tilt, admittance, admittance_lead, &
@@ -1661,7 +1630,7 @@ contains
       type(quorvel_fault) :: fault
       call check_window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_2, pane_kind_3, &
          emissivity_3, cavity_width_1, cavity_width_2, outer_surface, exposure, tilt, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_2, pane_kind_3, emissivity_3, &
          cavity_width_1, cavity_width_2, outer_surface, exposure, tilt, admittance, admittance_lead, decrement_factor, &
          decrement_lag, surface_factor, surface_factor_lag, u_value)
@@ -1681,17 +1650,17 @@ contains
    !> held at 0, so that the three add up to more than 1. At 0.92 their unpolarised sum is 1.0018 at normal incidence,
    !> 1.0024 at 1.5 rad and 1.011 at 1.57 rad.
    !>
-   !> For nearly opaque uncoated glass the difference in WNKL cancels: at normal incidence the transmittance comes back
-   !> to within 4 % from 0.02 on and 34 % from 0.005 on; below that 0.002 gives 0 and 0.0025 gives 0.006.
+   !> For nearly opaque uncoated glass the difference in absorption_product cancels: at normal incidence the
+   !> transmittance comes back to within 4 % from 0.02 on and 34 % from 0.005 on; below that 0.002 gives 0 and 0.0025
+   !> gives 0.006.
    !>
    !> Uncoated, an angle beyond pi/2 is not tested, and the results mean nothing there.
    !>
    !> The transmittance of coated glass is not tested: where it exceeds 1 with the reflectance the three do not add up
    !> to 1.
    !>
-   !> Source: Uncoated glass: WNKL, WNRANG, WNREFL, WNABEN, WNTAR in turn. Coated glass: tabulated angular factors whose
-   !> origin is not recorded.
-   !>
+   !> Source: Uncoated glass: absorption_product, refraction_angle, surface_reflectance, single_pass_absorption,
+   !> slab_optics in turn. Coated glass: tabulated angular factors whose origin is not recorded.
    !> (WNDRGL of quorvel_by_reference)
    elemental subroutine glass_direct(normal_transmittance, normal_reflectance, incidence, parallel_transmittance, &
       parallel_absorptance, parallel_reflectance, perpendicular_transmittance, perpendicular_absorptance, &
@@ -1708,7 +1677,7 @@ contains
       real(sp), intent(out), optional :: perpendicular_reflectance !! reflectance, perpendicular
       type(quorvel_fault) :: fault
       call check_glass_direct(normal_transmittance, normal_reflectance, incidence, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(normal_transmittance, normal_reflectance, incidence, parallel_transmittance, &
          parallel_absorptance, parallel_reflectance, perpendicular_transmittance, perpendicular_absorptance, &
          perpendicular_reflectance)
@@ -1716,13 +1685,12 @@ contains
 
    !> Transmittance and absorptance of a pane for isotropic diffuse radiation.
    !>
-   !> The pane is taken exactly as by WNDRGL, coated and opaque glass included.
+   !> The pane is taken exactly as by glass_direct, coated and opaque glass included.
    !>
-   !> The bits are those of WNDRGL summed over the bands.
+   !> The bits are those of glass_direct summed over the bands.
    !>
-   !> Source: WNDRGL at the centres of 18 bands of 5 degrees, each weighted with the integral of 2 sin cos over the
-   !> band.
-   !>
+   !> Source: glass_direct at the centres of 18 bands of 5 degrees, each weighted with the integral of 2 sin cos over
+   !> the band.
    !> (WNDFGL of quorvel_by_reference)
    elemental subroutine glass_diffuse(normal_transmittance, normal_reflectance, transmittance, absorptance)
       use quorvel_unchecked, only: unchecked => glass_diffuse
@@ -1732,7 +1700,7 @@ contains
       real(sp), intent(out), optional :: absorptance !! diffuse absorptance
       type(quorvel_fault) :: fault
       call check_glass_diffuse(normal_transmittance, normal_reflectance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(normal_transmittance, normal_reflectance, transmittance, absorptance)
    end subroutine
 
@@ -1746,7 +1714,6 @@ contains
    !> A count below 1 is an empty stack, which transmits everything; no array is read.
    !>
    !> Source: First-order combination of the layers.
-   !>
    !> (WNCOM2 of quorvel_by_reference)
    pure subroutine stacked_layers(layer_transmittances, layer_reflectances, transmittance, absorptance, reflectance)
       use quorvel_unchecked, only: unchecked => stacked_layers
@@ -1757,7 +1724,7 @@ contains
       real(sp), intent(out), optional :: reflectance !! reflectance of the stack
       type(quorvel_fault) :: fault
       call check_stacked_layers(layer_transmittances, layer_reflectances, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(layer_transmittances, layer_reflectances, transmittance, absorptance, reflectance)
    end subroutine
 
@@ -1772,7 +1739,6 @@ contains
    !> That transmittance, absorptance and reflectance of a layer add up to 1 is left to the caller.
    !>
    !> Source: Tracing of one forward and one backward flux, which tends to the adding method.
-   !>
    !> (WNCOMP of quorvel_by_reference)
    pure subroutine traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, transmittance, &
       absorptance, reflectance)
@@ -1787,7 +1753,7 @@ contains
       real(sp), intent(out), optional :: reflectance !! reflectance of the stack; not a number with more than 11 layers
       type(quorvel_fault) :: fault
       call check_traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(layer_transmittances, layer_absorptances, layer_reflectances, transmittance, absorptance, &
          reflectance)
    end subroutine
@@ -1799,7 +1765,6 @@ contains
    !> Nothing is limited: a blind that transmits and reflects more than 1 gives a negative absorptance.
    !>
    !> Source: Conservation of energy.
-   !>
    !> (WNDRRO of quorvel_by_reference)
    elemental subroutine roller_blind(blind_transmittance, blind_reflectance, transmittance, absorptance, reflectance)
       use quorvel_unchecked, only: unchecked => roller_blind
@@ -1810,7 +1775,7 @@ contains
       real(sp), intent(out), optional :: reflectance !! reflectance, that of the blind
       type(quorvel_fault) :: fault
       call check_roller_blind(blind_transmittance, blind_reflectance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(blind_transmittance, blind_reflectance, transmittance, absorptance, reflectance)
    end subroutine
 
@@ -1820,8 +1785,7 @@ contains
    !>
    !> Nothing is limited: a blind that transmits and reflects more than 1 gives a negative absorptance.
    !>
-   !> Source: WNDRRO, integrated as in WNDFSL.
-   !>
+   !> Source: roller_blind, integrated as in slat_diffuse.
    !> (WNDFRO of quorvel_by_reference)
    elemental subroutine diffuse_roller_blind(blind_transmittance, blind_reflectance, transmittance, absorptance, &
       reflectance)
@@ -1833,7 +1797,7 @@ contains
       real(sp), intent(out), optional :: reflectance !! reflectance, 1 - transmittance - absorptance
       type(quorvel_fault) :: fault
       call check_diffuse_roller_blind(blind_transmittance, blind_reflectance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(blind_transmittance, blind_reflectance, transmittance, absorptance, reflectance)
    end subroutine
 
@@ -1847,7 +1811,6 @@ contains
    !> An index so far below 1 that the reflection is total gives no number.
    !>
    !> Source: Snell's law.
-   !>
    !> (WNRANG of quorvel_by_reference)
    elemental function refraction_angle(incidence, refractive_index) result(answer)
       use quorvel_unchecked, only: unchecked => refraction_angle
@@ -1856,7 +1819,7 @@ contains
       real(sp) :: answer !! refraction angle [rad]
       type(quorvel_fault) :: fault
       call check_refraction_angle(incidence, refractive_index, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(incidence, refractive_index)
    end function
 
@@ -1866,13 +1829,12 @@ contains
    !> refraction_angle
    !>
    !> Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at normal incidence,
-   !> ((1 - n) / (1 + n))^2 with the refractive index n. WNRANG tests the sine of the angle instead; the two limits
-   !> differ deliberately.
+   !> ((1 - n) / (1 + n))^2 with the refractive index n. refraction_angle tests the sine of the angle instead; the two
+   !> limits differ deliberately.
    !>
    !> The perpendicular one is written first.
    !>
    !> Source: Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter 5.
-   !>
    !> (WNREFL of quorvel_by_reference)
    elemental subroutine surface_reflectance(incidence, refraction_angle, refractive_index, parallel_reflectance, &
       perpendicular_reflectance)
@@ -1886,7 +1848,7 @@ contains
       real(sp), intent(out), optional :: perpendicular_reflectance !! reflectance, polarised perpendicular to it
       type(quorvel_fault) :: fault
       call check_surface_reflectance(incidence, refraction_angle, refractive_index, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(incidence, refraction_angle, refractive_index, parallel_reflectance, perpendicular_reflectance)
    end subroutine
 
@@ -1895,7 +1857,6 @@ contains
    !> Formula: 1 - exp(-absorption_product / cos(refraction_angle))
    !>
    !> Source: Bouguer's law of absorption.
-   !>
    !> (WNABEN of quorvel_by_reference)
    elemental function single_pass_absorption(refraction_angle, absorption_product) result(answer)
       use quorvel_unchecked, only: unchecked => single_pass_absorption
@@ -1904,7 +1865,7 @@ contains
       real(sp) :: answer !! absorbed share
       type(quorvel_fault) :: fault
       call check_single_pass_absorption(refraction_angle, absorption_product, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(refraction_angle, absorption_product)
    end function
 
@@ -1920,7 +1881,6 @@ contains
    !>
    !> Source: Stokes, On the intensity of the light reflected from or transmitted through a pile of plates, 1862; Duffie
    !> and Beckman, Solar Engineering of Thermal Processes, chapter 5.
-   !>
    !> (WNTAR of quorvel_by_reference)
    elemental subroutine slab_optics(single_pass_absorptance, face_reflectance, transmittance, absorptance, &
       reflectance)
@@ -1932,7 +1892,7 @@ contains
       real(sp), intent(out), optional :: reflectance !! reflectance
       type(quorvel_fault) :: fault
       call check_slab_optics(single_pass_absorptance, face_reflectance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(single_pass_absorptance, face_reflectance, transmittance, absorptance, reflectance)
    end subroutine
 
@@ -1942,15 +1902,14 @@ contains
    !> ((refractive_index - 1) / (refractive_index + 1))^2
    !>
    !> Evaluated as written in single precision, where a difference of roots cancels for nearly opaque glass: the
-   !> relative error of the transmittance T, given back by WNTNOR, is up to 1.5e-5 / T^2, which is 0.02 % at 0.3, 0.15 %
-   !> at 0.1 and 0.6 % at 0.05; at 0.002 and less the result is infinite.
+   !> relative error of the transmittance T, given back by normal_transmittance, is up to 1.5e-5 / T^2, which is 0.02 %
+   !> at 0.3, 0.15 % at 0.1 and 0.6 % at 0.05; at 0.002 and less the result is infinite.
    !>
    !> Above the transmittance of glass that absorbs nothing, 0.918 for an index of 1.52, the result is negative.
    !>
    !> A transmittance of 0 and an index of 1 divide by zero and give no finite number.
    !>
-   !> Source: The slab of WNTAR at normal incidence, solved for the absorption.
-   !>
+   !> Source: The slab of slab_optics at normal incidence, solved for the absorption.
    !> (WNKL of quorvel_by_reference)
    elemental function absorption_product(normal_transmittance, refractive_index) result(answer)
       use quorvel_unchecked, only: unchecked => absorption_product
@@ -1959,18 +1918,17 @@ contains
       real(sp) :: answer !! absorption coefficient times thickness
       type(quorvel_fault) :: fault
       call check_absorption_product(normal_transmittance, refractive_index, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(normal_transmittance, refractive_index)
    end function
 
-   !> Transmittance of a pane at normal incidence: the inverse of WNKL.
+   !> Transmittance of a pane at normal incidence: the inverse of absorption_product.
    !>
    !> Formula: (1 - r)^2 tau / (1 - r^2 tau^2); tau = exp(-absorption_product), r = normal_reflectance
    !>
-   !> The second argument is a reflectance, ((n - 1) / (n + 1))^2, where WNKL takes the refractive index.
+   !> The second argument is a reflectance, ((n - 1) / (n + 1))^2, where absorption_product takes the refractive index.
    !>
-   !> Source: The slab of WNTAR at normal incidence.
-   !>
+   !> Source: The slab of slab_optics at normal incidence.
    !> (WNTNOR of quorvel_by_reference)
    elemental function normal_transmittance(absorption_product, normal_reflectance) result(answer)
       use quorvel_unchecked, only: unchecked => normal_transmittance
@@ -1979,7 +1937,7 @@ contains
       real(sp) :: answer !! normal transmittance of the pane
       type(quorvel_fault) :: fault
       call check_normal_transmittance(absorption_product, normal_reflectance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(absorption_product, normal_reflectance)
    end function
 
@@ -1991,7 +1949,6 @@ contains
    !>
    !> Source: Heat balance of the panes with fixed resistances: 0.12 m2K/W at the room side, 0.06 m2K/W outdoors;
    !> coefficients rounded to two decimals.
-   !>
    !> (WNTEMP of quorvel_by_reference)
    elemental subroutine pane_temperatures(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, &
       absorbed_3, absorbed_4, absorbed_5, pane_temperature_1, pane_temperature_2, pane_temperature_3, &
@@ -2018,7 +1975,7 @@ contains
       type(quorvel_fault) :: fault
       call check_pane_temperatures(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, absorbed_3, &
          absorbed_4, absorbed_5, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, absorbed_3, absorbed_4, &
          absorbed_5, pane_temperature_1, pane_temperature_2, pane_temperature_3, pane_temperature_4, &
          pane_temperature_5)
@@ -2045,7 +2002,6 @@ contains
    !>
    !> Source: Shading coefficients relative to clear float glass of total transmittance 0.87, of whose absorbed part a
    !> third flows inwards.
-   !>
    !> (WNDRSC of quorvel_by_reference)
    elemental subroutine unit_direct(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, &
       transmittance, absorptance, reflectance)
@@ -2060,7 +2016,7 @@ contains
       !! rounding
       type(quorvel_fault) :: fault
       call check_unit_direct(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, transmittance, &
          absorptance, reflectance)
    end subroutine
@@ -2068,13 +2024,12 @@ contains
    !> Transmittance, absorptance and reflectance for isotropic diffuse radiation of a glazing unit known only by its
    !> shading coefficients.
    !>
-   !> Coefficients as in WNDRSC. If they add up to at most 1 the absorptance is 2.61 times the long-wave one, otherwise
-   !> that of the equivalent pane.
+   !> Coefficients as in unit_direct. If they add up to at most 1 the absorptance is 2.61 times the long-wave one,
+   !> otherwise that of the equivalent pane.
    !>
-   !> The absorptance is at most 0.99 - transmittance. Unlike WNDRSC, coefficients of 0 give a reflectance of 1.
+   !> The absorptance is at most 0.99 - transmittance. Unlike unit_direct, coefficients of 0 give a reflectance of 1.
    !>
-   !> Source: WNDRSC, with the equivalent pane integrated as in WNDFGL.
-   !>
+   !> Source: unit_direct, with the equivalent pane integrated as in glass_diffuse.
    !> (WNDFSC of quorvel_by_reference)
    elemental subroutine unit_diffuse(shortwave_shading_coefficient, longwave_shading_coefficient, transmittance, &
       absorptance, reflectance)
@@ -2087,19 +2042,18 @@ contains
       real(sp), intent(out), optional :: reflectance !! diffuse reflectance, 1 - transmittance - absorptance
       type(quorvel_fault) :: fault
       call check_unit_diffuse(shortwave_shading_coefficient, longwave_shading_coefficient, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(shortwave_shading_coefficient, longwave_shading_coefficient, transmittance, absorptance, &
          reflectance)
    end subroutine
 
-   !> WNDRSC, with the remainder that is neither transmitted nor absorbed split among the panes of the unit.
+   !> unit_direct, with the remainder that is neither transmitted nor absorbed split among the panes of the unit.
    !>
    !> What is split is the remainder, not the absorptance.
    !>
    !> Transmittance and absorptance are returned whatever the number of panes.
    !>
-   !> Source: WNDRSC; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not recorded.
-   !>
+   !> Source: unit_direct; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not recorded.
    !> (WNDRSM of quorvel_by_reference)
    pure subroutine unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
       transmittance, pane_shares, absorptance)
@@ -2116,19 +2070,18 @@ contains
       type(quorvel_fault) :: fault
       call check_unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
          fault)
-      if (present(pane_shares)) call expect_extent(fault, 'unit_direct_shares', 'pane_shares', size(pane_shares, 1), &
-         int(panes))
-      if (fault%found) error stop fault%message
+      if (present(pane_shares)) call expect_count(fault, 'unit_direct_shares', 'pane_shares', size(pane_shares, 1), &
+         int(panes), huge(1))
+      if (fault%found) error stop fault%message()
       call unchecked(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, transmittance, &
          pane_shares, absorptance)
    end subroutine
 
-   !> WNDFSC, with the remainder that is neither transmitted nor absorbed split among the panes of the unit.
+   !> unit_diffuse, with the remainder that is neither transmitted nor absorbed split among the panes of the unit.
    !>
-   !> The remainder is split as in WNDRSM.
+   !> The remainder is split as in unit_direct_shares.
    !>
-   !> Source: WNDFSC, with the shares of WNDRSM.
-   !>
+   !> Source: unit_diffuse, with the shares of unit_direct_shares.
    !> (WNDFSM of quorvel_by_reference)
    pure subroutine unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coefficient, panes, &
       transmittance, pane_shares, absorptance)
@@ -2143,25 +2096,24 @@ contains
       real(sp), intent(out), optional :: absorptance !! diffuse absorptance
       type(quorvel_fault) :: fault
       call check_unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coefficient, panes, fault)
-      if (present(pane_shares)) call expect_extent(fault, 'unit_diffuse_shares', 'pane_shares', size(pane_shares, 1), &
-         int(panes))
-      if (fault%found) error stop fault%message
+      if (present(pane_shares)) call expect_count(fault, 'unit_diffuse_shares', 'pane_shares', size(pane_shares, 1), &
+         int(panes), huge(1))
+      if (fault%found) error stop fault%message()
       call unchecked(shortwave_shading_coefficient, longwave_shading_coefficient, panes, transmittance, pane_shares, &
          absorptance)
    end subroutine
 
-   !> WNDRSM or WNDFSM, by a selector.
+   !> unit_direct_shares or unit_diffuse_shares, by a selector.
    !>
-   !> The remainder is split as in WNDRSM.
+   !> The remainder is split as in unit_direct_shares.
    !>
-   !> Source: WNDRSM and WNDFSM.
-   !>
+   !> Source: unit_direct_shares and unit_diffuse_shares.
    !> (WNDRS0 of quorvel_by_reference)
    pure subroutine unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coefficient, incidence, &
       panes, transmittance, pane_shares, absorptance)
       use quorvel_unchecked, only: unchecked => unit_shares
-      integer(i4), intent(in) :: radiation !! kind of radiation: 1 direct radiation (WNDRSM), 2 diffuse radiation
-      !! (WNDFSM), as any other value
+      integer(i4), intent(in) :: radiation !! kind of radiation: 1 direct radiation (unit_direct_shares), 2 diffuse
+      !! radiation (unit_diffuse_shares), as any other value
       real(sp), intent(in) :: shortwave_shading_coefficient !! short-wave shading coefficient; the total one if the
       !! long-wave one is missing; valid 0 to 1.05
       real(sp), intent(in) :: longwave_shading_coefficient !! long-wave shading coefficient, 0 if missing; valid 0 to 1
@@ -2175,9 +2127,9 @@ contains
       type(quorvel_fault) :: fault
       call check_unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
          fault)
-      if (present(pane_shares)) call expect_extent(fault, 'unit_shares', 'pane_shares', size(pane_shares, 1), &
-         int(panes))
-      if (fault%found) error stop fault%message
+      if (present(pane_shares)) call expect_count(fault, 'unit_shares', 'pane_shares', size(pane_shares, 1), &
+         int(panes), huge(1))
+      if (fault%found) error stop fault%message()
       call unchecked(radiation, shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
          transmittance, pane_shares, absorptance)
    end subroutine
@@ -2197,7 +2149,6 @@ contains
    !>
    !> Source: Exchange factors by H. C. Hottel's crossed strings, and the inter-reflection between two neighbouring
    !> slats.
-   !>
    !> (WNDRSL of quorvel_by_reference)
    elemental subroutine slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, &
       transmittance, absorptance, reflectance)
@@ -2215,14 +2166,14 @@ contains
       real(sp), intent(out), optional :: reflectance !! reflectance, 1 - transmittance - absorptance
       type(quorvel_fault) :: fault
       call check_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, transmittance, &
          absorptance, reflectance)
    end subroutine
 
    !> Transmittance, absorptance and reflectance of a blind for a beam, whose slats have two different faces.
    !>
-   !> Equal faces give the bits of WNDRSL and keep the balance.
+   !> Equal faces give the bits of slat_direct and keep the balance.
    !>
    !> Unequal faces do not: whatever is absorbed after the first reflection counts with that of the face struck, as if
    !> both faces absorbed like the one struck and reflected like the opposite one. A bright face opposite a dark one
@@ -2233,8 +2184,7 @@ contains
    !> The face struck first is the upper one where profile angle and slat angle have a positive sum and the lower one
    !> else; the absorptances are to be chosen accordingly.
    !>
-   !> Source: As WNDRSL.
-   !>
+   !> Source: As slat_direct.
    !> (WNDRS2 of quorvel_by_reference)
    elemental subroutine two_faced_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance, &
       opposite_absorptance, transmittance, absorptance, reflectance)
@@ -2254,20 +2204,19 @@ contains
       type(quorvel_fault) :: fault
       call check_two_faced_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance, &
          opposite_absorptance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance, opposite_absorptance, &
          transmittance, absorptance, reflectance)
    end subroutine
 
-   !> WNDRS2 for a blind that leaves a share of the radiation to pass untouched.
+   !> two_faced_slat_direct for a blind that leaves a share of the radiation to pass untouched.
    !>
-   !> Without an open share these are the bits of WNDRS2; a share that is not a number is none.
+   !> Without an open share these are the bits of two_faced_slat_direct; a share that is not a number is none.
    !>
    !> A beam along the blind is transmitted by the open share and absorbed as by the face struck: the share does not
    !> reduce the absorptance there, and the reflectance, 1 less both, may be negative: deliberate.
    !>
-   !> Source: As WNDRSL.
-   !>
+   !> Source: As slat_direct.
    !> (WNDRS3 of quorvel_by_reference)
    elemental subroutine open_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, open_share, &
       struck_absorptance, opposite_absorptance, transmittance, absorptance, reflectance)
@@ -2288,7 +2237,7 @@ contains
       type(quorvel_fault) :: fault
       call check_open_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance, &
          opposite_absorptance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance, &
          opposite_absorptance, transmittance, absorptance, reflectance)
    end subroutine
@@ -2296,15 +2245,14 @@ contains
    !> Transmittance and absorptance of a slatted blind for the diffuse radiation from the sky's and from the ground's
    !> side, both faces of the slats alike.
    !>
-   !> The bits are those of WNDRSL summed over the bands.
+   !> The bits are those of slat_direct summed over the bands.
    !>
    !> Slats at an angle of 5, 15, ... 85 degrees have a band within 0.01 rad of their plane, which passes whole.
    !>
    !> The opposite angle swaps sky and ground.
    !>
-   !> Source: WNDRSL at the centres of nine bands of 10 degrees on either side of the horizon, each weighted with the
-   !> integral of the cosine over the band: radiance uniform in the profile angle.
-   !>
+   !> Source: slat_direct at the centres of nine bands of 10 degrees on either side of the horizon, each weighted with
+   !> the integral of the cosine over the band: radiance uniform in the profile angle.
    !> (WNDFSL of quorvel_by_reference)
    elemental subroutine slat_diffuse(slat_spacing, slat_width, slat_angle, slat_absorptance, sky_transmittance, &
       ground_transmittance, sky_absorptance, ground_absorptance)
@@ -2321,21 +2269,20 @@ contains
       real(sp), intent(out), optional :: ground_absorptance !! absorptance for radiation from below it
       type(quorvel_fault) :: fault
       call check_slat_diffuse(slat_spacing, slat_width, slat_angle, slat_absorptance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(slat_spacing, slat_width, slat_angle, slat_absorptance, sky_transmittance, ground_transmittance, &
          sky_absorptance, ground_absorptance)
    end subroutine
 
-   !> WNDFSL for slats with two different faces.
+   !> slat_diffuse for slats with two different faces.
    !>
    !> The absorptances belong to whichever face a beam strikes first. Slats with different upper and lower faces need
    !> two calls: with the upper face struck for the results of the sky, with the lower face for those of the ground.
    !> Beams between the horizon and the plane of the slats strike the other face all the same.
    !>
-   !> Unequal faces as in WNDRS2.
+   !> Unequal faces as in two_faced_slat_direct.
    !>
-   !> Source: WNDRS2, integrated as in WNDFSL.
-   !>
+   !> Source: two_faced_slat_direct, integrated as in slat_diffuse.
    !> (WNDFS2 of quorvel_by_reference)
    elemental subroutine two_faced_slat_diffuse(slat_spacing, slat_width, slat_angle, struck_absorptance, &
       opposite_absorptance, sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance)
@@ -2354,17 +2301,16 @@ contains
       type(quorvel_fault) :: fault
       call check_two_faced_slat_diffuse(slat_spacing, slat_width, slat_angle, struck_absorptance, &
          opposite_absorptance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance, &
          sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance)
    end subroutine
 
-   !> WNDFS2 for a blind that leaves a share of the radiation to pass untouched.
+   !> two_faced_slat_diffuse for a blind that leaves a share of the radiation to pass untouched.
    !>
-   !> Faces as in WNDFS2, the open share as in WNDRS3.
+   !> Faces as in two_faced_slat_diffuse, the open share as in open_slat_direct.
    !>
-   !> Source: WNDRS3, integrated as in WNDFSL.
-   !>
+   !> Source: open_slat_direct, integrated as in slat_diffuse.
    !> (WNDFS3 of quorvel_by_reference)
    elemental subroutine open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, &
       opposite_absorptance, sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance)
@@ -2384,14 +2330,14 @@ contains
       type(quorvel_fault) :: fault
       call check_open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, &
          opposite_absorptance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, opposite_absorptance, &
          sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance)
    end subroutine
 
    !> Where a cumulative fraction of days lies among the ten bands of a month, in frequencies of the caller.
    !>
-   !> Fractions, where CLBAND takes a percentage.
+   !> Fractions, where band_climate takes a percentage.
    !>
    !> At or below the first band's frequency the weight is 0 or negative. Bands of equal frequency are skipped upwards,
    !> to band 10 at most; for a fraction equal to the frequencies of all the rest the weight is not a number.
@@ -2400,7 +2346,6 @@ contains
    !> that is not a number.
    !>
    !> Source: Search for linear interpolation.
-   !>
    !> (CLBAN1 of quorvel_by_reference)
    pure subroutine locate_band(fraction, month, frequencies, lower_band, upper_band, band_weight)
       use quorvel_unchecked, only: unchecked => locate_band
@@ -2414,7 +2359,7 @@ contains
       !! 1
       type(quorvel_fault) :: fault
       call check_locate_band(fraction, month, frequencies, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(fraction, month, frequencies, lower_band, upper_band, band_weight)
    end subroutine
 
@@ -2430,7 +2375,6 @@ contains
    !> of your own. Q1 to Q8 mean what the table's maker says; the meanings here are those of the table built in.
    !>
    !> Source: Linear interpolation in the band table.
-   !>
    !> (CLBAND of quorvel_by_reference)
    elemental subroutine band_climate(band, month, band_set, percentage, q1, q2, q3, q4, q5, q6, time_a, time_b, q7, &
       q8)
@@ -2453,7 +2397,7 @@ contains
       real(sp), intent(out), optional :: q8 !! quantity Q8: wind speed [m/s]
       type(quorvel_fault) :: fault
       call check_band_climate(band, month, band_set, percentage, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(band, month, band_set, percentage, q1, q2, q3, q4, q5, q6, time_a, time_b, q7, q8)
    end subroutine
 
@@ -2463,7 +2407,6 @@ contains
    !> to 12 as the nearest month.
    !>
    !> Source: Linear interpolation in the band table.
-   !>
    !> (CLBAN2 of quorvel_by_reference)
    elemental function interpolate_band_rows(base_row, lower_band, upper_band, month, band_weight) result(answer)
       use quorvel_unchecked, only: unchecked => interpolate_band_rows
@@ -2476,7 +2419,7 @@ contains
       real(sp) :: answer !! value, in the quantity's unit
       type(quorvel_fault) :: fault
       call check_interpolate_band_rows(base_row, lower_band, upper_band, month, band_weight, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(base_row, lower_band, upper_band, month, band_weight)
    end function
 
@@ -2488,7 +2431,6 @@ contains
    !> A row below 1 counts as 1, above 184 as 184.
    !>
    !> Source: The band table; see data/bands.
-   !>
    !> (CLBAN3 of quorvel_by_reference)
    pure function band_row(row) result(answer)
       use quorvel_unchecked, only: unchecked => band_row
@@ -2496,7 +2438,7 @@ contains
       real(sp) :: answer(12) !! values from January to December, in the row's unit
       type(quorvel_fault) :: fault
       call check_band_row(row, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(row)
    end function
 
@@ -2507,7 +2449,6 @@ contains
    !> The year has 365 days.
    !>
    !> Source: Table of customary design days, close to the 21st of each month.
-   !>
    !> (CLDAY of quorvel_by_reference)
    elemental function store_design_day(month) result(answer)
       use quorvel_unchecked, only: unchecked => store_design_day
@@ -2515,7 +2456,7 @@ contains
       integer(i4) :: answer !! design day of the year
       type(quorvel_fault) :: fault
       call check_store_design_day(month, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(month)
    end function
 
@@ -2527,7 +2468,6 @@ contains
    !> A month outside 1 to 12 gives 0; another way of counting counts as 2.
    !>
    !> Source: Table of customary design days, close to the 21st of each month.
-   !>
    !> (CLDAYEX of quorvel_by_reference)
    elemental function store_design_day_by_option(month, day_kind) result(answer)
       use quorvel_unchecked, only: unchecked => store_design_day_by_option
@@ -2536,7 +2476,7 @@ contains
       integer(i4) :: answer !! design day
       type(quorvel_fault) :: fault
       call check_store_design_day_by_option(month, day_kind, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(month, day_kind)
    end function
 
@@ -2547,7 +2487,6 @@ contains
    !> The year has 365 days.
    !>
    !> Source: Table of customary design days, close to the 21st of each month.
-   !>
    !> (ICLDAY of quorvel_by_reference)
    elemental function design_day(month) result(answer)
       use quorvel_unchecked, only: unchecked => design_day
@@ -2555,7 +2494,7 @@ contains
       integer(i4) :: answer !! design day of the year
       type(quorvel_fault) :: fault
       call check_design_day(month, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(month)
    end function
 
@@ -2567,7 +2506,6 @@ contains
    !> A month outside 1 to 12 gives 0; another way of counting counts as 2.
    !>
    !> Source: Table of customary design days, close to the 21st of each month.
-   !>
    !> (ICLDAYEX of quorvel_by_reference)
    elemental function design_day_by_option(month, day_kind) result(answer)
       use quorvel_unchecked, only: unchecked => design_day_by_option
@@ -2576,7 +2514,7 @@ contains
       integer(i4) :: answer !! design day
       type(quorvel_fault) :: fault
       call check_design_day_by_option(month, day_kind, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(month, day_kind)
    end function
 
@@ -2587,7 +2525,6 @@ contains
    !> The year has 365 days.
    !>
    !> Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
-   !>
    !> (ICLDA2 of quorvel_by_reference)
    elemental function second_design_day(month) result(answer)
       use quorvel_unchecked, only: unchecked => second_design_day
@@ -2595,7 +2532,7 @@ contains
       integer(i4) :: answer !! second design day of the year
       type(quorvel_fault) :: fault
       call check_second_design_day(month, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(month)
    end function
 
@@ -2606,7 +2543,6 @@ contains
    !> A month outside 1 to 12 gives 0; another way of counting counts as 2.
    !>
    !> Source: Table of design days: about the 29th until May, 21 June, the 4th from July.
-   !>
    !> (ICLDA2EX of quorvel_by_reference)
    elemental function second_design_day_by_option(month, day_kind) result(answer)
       use quorvel_unchecked, only: unchecked => second_design_day_by_option
@@ -2615,7 +2551,7 @@ contains
       integer(i4) :: answer !! second design day
       type(quorvel_fault) :: fault
       call check_second_design_day_by_option(month, day_kind, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(month, day_kind)
    end function
 
@@ -2632,7 +2568,6 @@ contains
    !> Pi is 3.141593 here, a step above the float nearest to it, so the extremes are met to rounding.
    !>
    !> Source: Two half cosine waves.
-   !>
    !> (CLTAO of quorvel_by_reference)
    elemental function daily_temperature(hour, highest_temperature, lowest_temperature, hour_of_highest, &
       hour_of_lowest) result(answer)
@@ -2646,7 +2581,7 @@ contains
       type(quorvel_fault) :: fault
       call check_daily_temperature(hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest, &
          fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest)
    end function
 
@@ -2658,10 +2593,9 @@ contains
    !> The order of the hours is not checked: with the second before the first, the wave that should go through midnight
    !> runs beyond its extreme.
    !>
-   !> Pi as in CLTAO.
+   !> Pi as in daily_temperature.
    !>
    !> Source: Two half cosine waves.
-   !>
    !> (CLTAOX of quorvel_by_reference)
    elemental function daily_value(hour, mean, amplitude, first_hour, second_hour, amplitude_factor) result(answer)
       use quorvel_unchecked, only: unchecked => daily_value
@@ -2675,7 +2609,7 @@ contains
       real(sp) :: answer !! value
       type(quorvel_fault) :: fault
       call check_daily_value(hour, mean, amplitude, first_hour, second_hour, amplitude_factor, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(hour, mean, amplitude, first_hour, second_hour, amplitude_factor)
    end function
 
@@ -2685,7 +2619,7 @@ contains
    !> = 1.52269 + 280.358 a - 375.111 a^2 + 253.716 a^3 - 63.3311 a^4 of the clear sky, 0.331322 + 283.1 a + 4.42111 a^2
    !> of the cloudy one; a = solar_altitude above 0.087
    !>
-   !> Both grow with the height by the factor of CLHIGH.
+   !> Both grow with the height by the factor of height_factor.
    !>
    !> Up to 0.087 rad both are proportional to the altitude, also below 0, where they are negative. The direct
    !> irradiance falls by 2 W/m2 where the polynomial takes over.
@@ -2694,7 +2628,6 @@ contains
    !>
    !> Source: Polynomials through the design irradiances of a clear and a cloudy sky that building services guides
    !> print.
-   !>
    !> (CLSNNR of quorvel_by_reference)
    elemental subroutine design_irradiance(solar_altitude, site_height, sky_kind, direct_normal, diffuse_horizontal)
       use quorvel_unchecked, only: unchecked => design_irradiance
@@ -2705,7 +2638,7 @@ contains
       real(sp), intent(out), optional :: diffuse_horizontal !! diffuse irradiance on the horizontal [W/m2]
       type(quorvel_fault) :: fault
       call check_design_irradiance(solar_altitude, site_height, sky_kind, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(solar_altitude, site_height, sky_kind, direct_normal, diffuse_horizontal)
    end subroutine
 
@@ -2717,7 +2650,6 @@ contains
    !> m.
    !>
    !> Source: Linear fit to height corrections of design irradiance.
-   !>
    !> (CLHIGH of quorvel_by_reference)
    elemental function height_factor(site_height, solar_altitude) result(answer)
       use quorvel_unchecked, only: unchecked => height_factor
@@ -2726,7 +2658,7 @@ contains
       real(sp) :: answer !! factor
       type(quorvel_fault) :: fault
       call check_height_factor(site_height, solar_altitude, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(site_height, solar_altitude)
    end function
 
@@ -2737,7 +2669,6 @@ contains
    !> 0.967 to 1.033; greatest in the first days of January.
    !>
    !> Source: Correction of the European Solar Radiation Atlas, 1 + 0.03344 cos(day angle - 2.8 degrees).
-   !>
    !> (CLETAJ of quorvel_by_reference)
    elemental function eccentricity_factor(day) result(answer)
       use quorvel_unchecked, only: unchecked => eccentricity_factor
@@ -2745,19 +2676,18 @@ contains
       real(sp) :: answer !! factor
       type(quorvel_fault) :: fault
       call check_eccentricity_factor(day, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(day)
    end function
 
    !> Global horizontal irradiance by that outside the atmosphere.
    !>
-   !> Formula: global_horizontal / (1367 CLETAJ(day) sin(solar_altitude))
+   !> Formula: global_horizontal / (1367 eccentricity_factor(day) sin(solar_altitude))
    !>
    !> An altitude of 0 divides by zero: infinite, or not a number for an irradiance of 0.
    !>
    !> Source: B. Y. H. Liu and R. C. Jordan, Solar Energy 4 (1960), with a solar constant of 1367 W/m2 and the
-   !> eccentricity of CLETAJ.
-   !>
+   !> eccentricity of eccentricity_factor.
    !> (CLMODUL of quorvel_by_reference)
    elemental function clearness_index(day, solar_altitude, global_horizontal) result(answer)
       use quorvel_unchecked, only: unchecked => clearness_index
@@ -2767,7 +2697,7 @@ contains
       real(sp) :: answer !! clearness index
       type(quorvel_fault) :: fault
       call check_clearness_index(day, solar_altitude, global_horizontal, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(day, solar_altitude, global_horizontal)
    end function
 
@@ -2797,7 +2727,6 @@ contains
    !>
    !> Source: T. Muneer, Solar radiation model for Europe, Building Services Engineering Research and Technology 11
    !> (1990); radiance of the sky after P. Moon and D. E. Spencer (1942).
-   !>
    !> (CLMUNRAD of quorvel_by_reference)
    elemental subroutine muneer_slope(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
       diffuse_horizontal, extraterrestrial_horizontal, ground_reflectance, surface_beam, surface_diffuse, &
@@ -2820,7 +2749,7 @@ contains
       type(quorvel_fault) :: fault
       call check_muneer_slope(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
          diffuse_horizontal, extraterrestrial_horizontal, ground_reflectance, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, diffuse_horizontal, &
          extraterrestrial_horizontal, ground_reflectance, surface_beam, surface_diffuse, ground_reflected, incidence)
    end subroutine
@@ -2846,7 +2775,6 @@ contains
    !> Source: R. Perez, P. Ineichen, R. Seals, J. Michalsky and R. Stewart, Modeling daylight availability and
    !> irradiance components from direct and global irradiance, Solar Energy 44 (1990): composite of all sites,
    !> coefficients with all their places. Air mass: F. Kasten and A. T. Young, Applied Optics 28 (1989).
-   !>
    !> (CLPERSKY of quorvel_by_reference)
    elemental function perez_diffuse(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, &
       extraterrestrial_normal) result(answer)
@@ -2862,7 +2790,7 @@ contains
       type(quorvel_fault) :: fault
       call check_perez_diffuse(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, &
          extraterrestrial_normal, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, &
          extraterrestrial_normal)
    end function
@@ -2875,7 +2803,6 @@ contains
    !> A site class outside 1 to 6 or a month outside 1 to 12 gives four zeros.
    !>
    !> Source: Table of design constants of the library.
-   !>
    !> (CLCONS of quorvel_by_reference)
    elemental subroutine site_constants(site_class, month, ground_reflectance, beam_factor, diffuse_factor, &
       alternative_diffuse_factor)
@@ -2888,7 +2815,7 @@ contains
       real(sp), intent(out), optional :: alternative_diffuse_factor !! factor that takes its place where it is 0
       type(quorvel_fault) :: fault
       call check_site_constants(site_class, month, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(site_class, month, ground_reflectance, beam_factor, diffuse_factor, alternative_diffuse_factor)
    end subroutine
 
@@ -2896,7 +2823,7 @@ contains
    !>
    !> Formula: cos(b / 2)^2 + a (sin(b) - b cos(b) - pi sin(b / 2)^2), b = tilt; model 0: a = 2 r / (pi (2 r + 3)),
    !> model 1: 0.00333 - 0.415 K - 0.6987 K^2, model 2: 0.00263 - 0.712 K - 0.6883 K^2; K = beam_horizontal / (1367
-   !> CLETAJ(day) sin(solar_altitude))
+   !> eccentricity_factor(day) sin(solar_altitude))
    !>
    !> Model 0 takes the radiance index r = 5.73 up to an altitude of 0, 1.68 for a beam below 5 W/m2 and -0.62
    !> otherwise; the side of the surface does not matter here.
@@ -2904,8 +2831,7 @@ contains
    !> Models 1 and 2 divide by the sine of the altitude: at 0 the factor is infinite or no number.
    !>
    !> Source: T. Muneer, Solar radiation model for Europe, Building Services Engineering Research and Technology 11
-   !> (1990), with a solar constant of 1367 W/m2 and the eccentricity of CLETAJ.
-   !>
+   !> (1990), with a solar constant of 1367 W/m2 and the eccentricity of eccentricity_factor.
    !> (CLDIFRAD of quorvel_by_reference)
    elemental function diffuse_tilt_factor(day, solar_altitude, beam_horizontal, tilt, sky_model) result(answer)
       use quorvel_unchecked, only: unchecked => diffuse_tilt_factor
@@ -2918,16 +2844,17 @@ contains
       real(sp) :: answer !! factor, 1 for a horizontal surface
       type(quorvel_fault) :: fault
       call check_diffuse_tilt_factor(day, solar_altitude, beam_horizontal, tilt, sky_model, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(day, solar_altitude, beam_horizontal, tilt, sky_model)
    end function
 
    !> Diffuse irradiance of the sky on a tilted surface by day of the year and model of the sky.
    !>
-   !> Formula: diffuse_horizontal (f (1 - K) + K cos(i) / sin(solar_altitude)); f = CLDIFRAD, i = angle of incidence
+   !> Formula: diffuse_horizontal (f (1 - K) + K cos(i) / sin(solar_altitude)); f = diffuse_tilt_factor, i = angle of
+   !> incidence
    !>
-   !> The factor of CLDIFRAD and a circumsolar part, weighted by the clearness of the beam. A sun behind the surface has
-   !> no circumsolar part, as one whose direction is not a number.
+   !> The factor of diffuse_tilt_factor and a circumsolar part, weighted by the clearness of the beam. A sun behind the
+   !> surface has no circumsolar part, as one whose direction is not a number.
    !>
    !> From a beam of 5 W/m2 on, a sun below 0.1 rad has a form of its own, which follows the clearness but not the
    !> model. The result jumps there.
@@ -2937,11 +2864,10 @@ contains
    !>
    !> Divides by the sine of the altitude: at 0 the result is infinite or no number.
    !>
-   !> K is that of CLDIFRAD.
+   !> K is that of diffuse_tilt_factor.
    !>
-   !> Source: As CLDIFRAD. Low sun: the clear sky of R. C. Temps and K. L. Coulson (Solar Energy 19, 1977) with the
-   !> modulation by T. M. Klucher (Solar Energy 23, 1979), the beam clearness in place of his factor.
-   !>
+   !> Source: As diffuse_tilt_factor. Low sun: the clear sky of R. C. Temps and K. L. Coulson (Solar Energy 19, 1977)
+   !> with the modulation by T. M. Klucher (Solar Energy 23, 1979), the beam clearness in place of his factor.
    !> (CLDIFSLO of quorvel_by_reference)
    elemental function slope_diffuse(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
       diffuse_horizontal, sky_model) result(answer)
@@ -2959,7 +2885,7 @@ contains
       type(quorvel_fault) :: fault
       call check_slope_diffuse(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
          diffuse_horizontal, sky_model, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
          diffuse_horizontal, sky_model)
    end function
@@ -2973,7 +2899,6 @@ contains
    !> A coefficient of 0 divides by zero.
    !>
    !> Source: Heat balance of an outer surface.
-   !>
    !> (CLTEO of quorvel_by_reference)
    elemental function sol_air_temperature(base_temperature, surface_coefficient, absorptance, irradiance, &
       long_wave_loss) result(answer)
@@ -2987,7 +2912,7 @@ contains
       type(quorvel_fault) :: fault
       call check_sol_air_temperature(base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss, &
          fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss)
    end function
 
@@ -3000,7 +2925,6 @@ contains
    !>
    !> Source: Net long-wave losses of horizontal and vertical surfaces by cloud cover, as building services guides print
    !> them; meaning of the arguments inferred from these values.
-   !>
    !> (CLRERD of quorvel_by_reference)
    elemental function long_wave_loss(tilt, cloud_cover) result(answer)
       use quorvel_unchecked, only: unchecked => long_wave_loss
@@ -3009,7 +2933,7 @@ contains
       real(sp) :: answer !! net loss [W/m2]
       type(quorvel_fault) :: fault
       call check_long_wave_loss(tilt, cloud_cover, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(tilt, cloud_cover)
    end function
 
@@ -3021,11 +2945,10 @@ contains
    !>
    !> The equation of time stays within 0.7 min of the true one.
    !>
-   !> The hour is rounded to 0.2618 rad here and not in CLSNGE: deliberate.
+   !> The hour is rounded to 0.2618 rad here and not in solar_geometry: deliberate.
    !>
    !> Source: Fourier series of the equation of time to the third harmonic, of the kind given by J. W. Spencer, Search 2
    !> (1971); coefficients refitted.
-   !>
    !> (CLTCOR of quorvel_by_reference)
    elemental function solar_time_correction(clock_offset, day, longitude, reference_longitude) result(answer)
       use quorvel_unchecked, only: unchecked => solar_time_correction
@@ -3037,7 +2960,7 @@ contains
       real(sp) :: answer !! correction [h]
       type(quorvel_fault) :: fault
       call check_solar_time_correction(clock_offset, day, longitude, reference_longitude, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(clock_offset, day, longitude, reference_longitude)
    end function
 
@@ -3055,7 +2978,6 @@ contains
    !>
    !> Source: Low-precision formulas of B. D. Yallop for the sun, as printed in T. Muneer, Solar Radiation and Daylight
    !> Models for the Energy Efficient Design of Buildings, 1997.
-   !>
    !> (CLYALLOP of quorvel_by_reference)
    elemental subroutine almanac_position(time_kind, year, month, day_of_month, clock_time, latitude, longitude, &
       zone_meridian, solar_altitude, solar_azimuth, declination)
@@ -3076,7 +2998,7 @@ contains
       type(quorvel_fault) :: fault
       call check_almanac_position(time_kind, year, month, day_of_month, clock_time, latitude, longitude, &
          zone_meridian, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(time_kind, year, month, day_of_month, clock_time, latitude, longitude, zone_meridian, &
          solar_altitude, solar_azimuth, declination)
    end subroutine
@@ -3085,11 +3007,10 @@ contains
    !>
    !> The centre of the sun on a level horizon without refraction, with the declination of noon at Greenwich.
    !>
-   !> Dates as in CLYALLOP. A latitude of 1.5707964, or its negative, is by rounding just beyond the pole: midnight sun
-   !> and polar night change places there.
+   !> Dates as in almanac_position. A latitude of 1.5707964, or its negative, is by rounding just beyond the pole:
+   !> midnight sun and polar night change places there.
    !>
-   !> Source: Declination as CLYALLOP; sunrise equation.
-   !>
+   !> Source: Declination as almanac_position; sunrise equation.
    !> (CLRISESET of quorvel_by_reference)
    elemental subroutine almanac_sun_hours(year, month, day_of_month, latitude, sunrise, sunset)
       use quorvel_unchecked, only: unchecked => almanac_sun_hours
@@ -3101,7 +3022,7 @@ contains
       real(sp), intent(out), optional :: sunset !! sunset; 25 when the sun does not set, 0 when it does not rise [h]
       type(quorvel_fault) :: fault
       call check_almanac_sun_hours(year, month, day_of_month, latitude, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(year, month, day_of_month, latitude, sunrise, sunset)
    end subroutine
 
@@ -3124,7 +3045,6 @@ contains
    !>
    !> Source: Spherical astronomy; sine of the declination as 0.398 times the sine of the sun's ecliptic longitude, with
    !> the first-order equation of the centre.
-   !>
    !> (CLSNGE of quorvel_by_reference)
    elemental subroutine solar_geometry(latitude, day, solar_time, declination, solar_altitude, solar_azimuth, sunrise, &
       sunset)
@@ -3141,7 +3061,7 @@ contains
       !! not a number with latitude, day or hour outside its range
       type(quorvel_fault) :: fault
       call check_solar_geometry(latitude, day, solar_time, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(latitude, day, solar_time, declination, solar_altitude, solar_azimuth, sunrise, sunset)
    end subroutine
 
@@ -3158,7 +3078,6 @@ contains
    !> The components are rounded, so angles below 0.0005 rad are not resolved.
    !>
    !> Source: Vector algebra: the sun's direction in the frame of level line, slope line and outward normal.
-   !>
    !> (CLSNSR of quorvel_by_reference)
    elemental subroutine surface_angles(solar_altitude, solar_azimuth, surface_azimuth, tilt, incidence, &
       vertical_shadow_angle, horizontal_shadow_angle)
@@ -3175,7 +3094,7 @@ contains
       !! level line, positive clockwise seen from above [rad]
       type(quorvel_fault) :: fault
       call check_surface_angles(solar_altitude, solar_azimuth, surface_azimuth, tilt, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(solar_altitude, solar_azimuth, surface_azimuth, tilt, incidence, vertical_shadow_angle, &
          horizontal_shadow_angle)
    end subroutine
@@ -3194,7 +3113,6 @@ contains
    !>
    !> Source: Cosine law; isotropic sky and ground by view factors (B. Y. H. Liu and R. C. Jordan, Solar Energy 4,
    !> 1960), with an empirical darkening to the north.
-   !>
    !> (CLSORD of quorvel_by_reference)
    elemental subroutine surface_irradiance(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, &
       diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, surface_beam, surface_diffuse, &
@@ -3215,19 +3133,18 @@ contains
       type(quorvel_fault) :: fault
       call check_surface_irradiance(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, &
          diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, &
          ground_reflectance, beam_factor, diffuse_factor, surface_beam, surface_diffuse, ground_reflected)
    end subroutine
 
-   !> Irradiance on the plane of a surface as CLSORD, and the angle of incidence.
+   !> Irradiance on the plane of a surface as surface_irradiance, and the angle of incidence.
    !>
-   !> The irradiances are those of CLSORD, bit for bit; see there.
+   !> The irradiances are those of surface_irradiance, bit for bit; see there.
    !>
-   !> CLSNSR gives the angle of incidence behind the surface too.
+   !> surface_angles gives the angle of incidence behind the surface too.
    !>
-   !> Source: As CLSORD.
-   !>
+   !> Source: As surface_irradiance.
    !> (CLSOR2 of quorvel_by_reference)
    elemental subroutine surface_irradiance_and_incidence(solar_altitude, solar_azimuth, surface_azimuth, tilt, &
       direct_normal, diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, surface_beam, &
@@ -3250,27 +3167,26 @@ contains
       type(quorvel_fault) :: fault
       call check_surface_irradiance_and_incidence(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, &
          diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, &
          ground_reflectance, beam_factor, diffuse_factor, surface_beam, surface_diffuse, ground_reflected, incidence)
    end subroutine
 
    !> Pieces and area of the overlap of two simple polygons in plan.
    !>
-   !> The overlap of HOHOLEDP with polygon 2 as A and polygon 1 as B, and with its accuracy. The pieces run in the sense
-   !> of polygon 2.
+   !> The overlap of clip with polygon 2 as A and polygon 1 as B, and with its accuracy. The pieces run in the sense of
+   !> polygon 2.
    !>
    !> A coordinate nearer to 0 than 1e-4 is taken as 0.
    !>
-   !> The outputs are all 0 where the polygons do not overlap, and where HOHOLEDP fails: a polygon that crosses itself,
-   !> more than 10 crossings, more than 50 vertices and crossings in all. Likewise for more than 5 pieces, or more than
-   !> 24 vertices in one. Of pairs of real polygons 0.75 % exceed one of these capacities.
+   !> The outputs are all 0 where the polygons do not overlap, and where clip fails: a polygon that crosses itself, more
+   !> than 10 crossings, more than 50 vertices and crossings in all. Likewise for more than 5 pieces, or more than 24
+   !> vertices in one. Of pairs of real polygons 0.75 % exceed one of these capacities.
    !>
    !> The outputs are also 0 where polygon 1 lies in polygon 2 and the two have 42 vertices or more together: what is
    !> left of polygon 2 around it does not fit. Where polygon 2 lies in polygon 1 they may have 50, as anywhere else.
    !>
-   !> Source: As HOHOLEDP.
-   !>
+   !> Source: As clip.
    !> (GEOVER of quorvel_by_reference)
    pure subroutine overlap(x_1, y_1, x_2, y_2, piece_x, piece_y, piece_vertices, area)
       use quorvel_unchecked, only: unchecked => overlap
@@ -3285,22 +3201,20 @@ contains
       real(sp), intent(out), optional :: area !! area of the overlap [m2]
       type(quorvel_fault) :: fault
       call check_overlap(x_1, y_1, x_2, y_2, fault)
-      if (present(piece_x)) call expect_extent(fault, 'overlap', 'piece_x', size(piece_x, 1), int(25))
-      if (present(piece_x)) call expect_extent(fault, 'overlap', 'piece_x', size(piece_x, 2), int(5))
-      if (present(piece_y)) call expect_extent(fault, 'overlap', 'piece_y', size(piece_y, 1), int(25))
-      if (present(piece_y)) call expect_extent(fault, 'overlap', 'piece_y', size(piece_y, 2), int(5))
-      if (present(piece_vertices)) call expect_extent(fault, 'overlap', 'piece_vertices', size(piece_vertices, 1), &
-         int(5))
-      if (fault%found) error stop fault%message
+      if (present(piece_x)) call expect_extent(fault, 'overlap', 'piece_x', size(piece_x, 1), 25)
+      if (present(piece_x)) call expect_extent(fault, 'overlap', 'piece_x', size(piece_x, 2), 5)
+      if (present(piece_y)) call expect_extent(fault, 'overlap', 'piece_y', size(piece_y, 1), 25)
+      if (present(piece_y)) call expect_extent(fault, 'overlap', 'piece_y', size(piece_y, 2), 5)
+      if (present(piece_vertices)) call expect_extent(fault, 'overlap', 'piece_vertices', size(piece_vertices, 1), 5)
+      if (fault%found) error stop fault%message()
       call unchecked(x_1, y_1, x_2, y_2, piece_x, piece_y, piece_vertices, area)
    end subroutine
 
-   !> The same as GEOVER.
+   !> The same as overlap.
    !>
-   !> As GEOVER, in all.
+   !> As overlap, in all.
    !>
-   !> Source: As HOHOLEDP.
-   !>
+   !> Source: As clip.
    !> (GEHOLE of quorvel_by_reference)
    pure subroutine overlap_alias(x_1, y_1, x_2, y_2, piece_x, piece_y, piece_vertices, area)
       use quorvel_unchecked, only: unchecked => overlap_alias
@@ -3315,13 +3229,13 @@ contains
       real(sp), intent(out), optional :: area !! area of the overlap [m2]
       type(quorvel_fault) :: fault
       call check_overlap_alias(x_1, y_1, x_2, y_2, fault)
-      if (present(piece_x)) call expect_extent(fault, 'overlap_alias', 'piece_x', size(piece_x, 1), int(25))
-      if (present(piece_x)) call expect_extent(fault, 'overlap_alias', 'piece_x', size(piece_x, 2), int(5))
-      if (present(piece_y)) call expect_extent(fault, 'overlap_alias', 'piece_y', size(piece_y, 1), int(25))
-      if (present(piece_y)) call expect_extent(fault, 'overlap_alias', 'piece_y', size(piece_y, 2), int(5))
+      if (present(piece_x)) call expect_extent(fault, 'overlap_alias', 'piece_x', size(piece_x, 1), 25)
+      if (present(piece_x)) call expect_extent(fault, 'overlap_alias', 'piece_x', size(piece_x, 2), 5)
+      if (present(piece_y)) call expect_extent(fault, 'overlap_alias', 'piece_y', size(piece_y, 1), 25)
+      if (present(piece_y)) call expect_extent(fault, 'overlap_alias', 'piece_y', size(piece_y, 2), 5)
       if (present(piece_vertices)) call expect_extent(fault, 'overlap_alias', 'piece_vertices', size(piece_vertices, &
-         1), int(5))
-      if (fault%found) error stop fault%message
+         1), 5)
+      if (fault%found) error stop fault%message()
       call unchecked(x_1, y_1, x_2, y_2, piece_x, piece_y, piece_vertices, area)
    end subroutine
 
@@ -3338,7 +3252,6 @@ contains
    !> on one line, and finding that out takes n2/2 comparisons.
    !>
    !> Source: Intercept theorem.
-   !>
    !> (IGELIN of quorvel_by_reference)
    pure function collinearity(x, y) result(answer)
       use quorvel_unchecked, only: unchecked => collinearity
@@ -3348,21 +3261,20 @@ contains
       !! of point 1
       type(quorvel_fault) :: fault
       call check_collinearity(x, y, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(x, y)
    end function
 
    !> How many points lie in a convex polygon with clockwise vertices or on its boundary, and which.
    !>
-   !> A point is enclosed when it is left of no edge, as IGEPNT sees it, or is at a vertex (to less than 1e-5 in each
-   !> coordinate) that comes before any such edge.
+   !> A point is enclosed when it is left of no edge, as side_of_line sees it, or is at a vertex (to less than 1e-5 in
+   !> each coordinate) that comes before any such edge.
    !>
    !> Points that are not numbers are left of no edge, and so enclosed.
    !>
    !> Without vertices or points the number enclosed is 0.
    !>
    !> Source: A convex polygon is the intersection of half-planes.
-   !>
    !> (GECLOS of quorvel_by_reference)
    pure subroutine count_enclosed(x, y, point_x, point_y, enclosed, enclosed_points)
       use quorvel_unchecked, only: unchecked => count_enclosed
@@ -3375,14 +3287,14 @@ contains
       integer(i4), intent(out), optional :: enclosed_points !! number of enclosed points
       type(quorvel_fault) :: fault
       call check_count_enclosed(x, y, point_x, point_y, enclosed, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(x, y, point_x, point_y, enclosed, enclosed_points)
    end subroutine
 
    !> Where a segment crosses the boundary of a polygon in plan.
    !>
-   !> The edges are tried in turn, from vertex 1 to 2 on, as GECROS does; the first one that is crossed away from the
-   !> start ends the search. A crossing beyond 100000 is none.
+   !> The edges are tried in turn, from vertex 1 to 2 on, as crossing_point does; the first one that is crossed away
+   !> from the start ends the search. A crossing beyond 100000 is none.
    !>
    !> No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is the last outcome
    !> of the search, the start or 1e20.
@@ -3393,8 +3305,7 @@ contains
    !>
    !> Otherwise the code is 0, and the point 1e20.
    !>
-   !> Source: As GECROS.
-   !>
+   !> Source: As crossing_point.
    !> (GESIDE of quorvel_by_reference)
    pure subroutine boundary_crossing(segment_start, segment_end, x, y, crossing_point, crossing_code)
       use quorvel_unchecked, only: unchecked => boundary_crossing
@@ -3409,15 +3320,15 @@ contains
       type(quorvel_fault) :: fault
       call check_boundary_crossing(segment_start, segment_end, x, y, fault)
       if (present(crossing_point)) call expect_extent(fault, 'boundary_crossing', 'crossing_point', &
-         size(crossing_point, 1), int(2))
-      if (fault%found) error stop fault%message
+         size(crossing_point, 1), 2)
+      if (fault%found) error stop fault%message()
       call unchecked(segment_start, segment_end, x, y, crossing_point, crossing_code)
    end subroutine
 
    !> Whether a point in the plane of a polygon in space lies inside or on its boundary.
    !>
    !> The first edge with whose line the point is in line (twice the area of the triangle between them at most 1e-6)
-   !> decides alone: 1 if the point is in the span of the edge, as GEINLN sees it, else 0. So a point may be found
+   !> decides alone: 1 if the point is in the span of the edge, as in_span sees it, else 0. So a point may be found
    !> outside a polygon that is not convex because it is in line with an edge.
    !>
    !> That the point is in the plane is not tested: over the middle of a square it is inside up to half the length of a
@@ -3426,7 +3337,6 @@ contains
    !> Fewer than one edge, and not a number, give 0.
    !>
    !> Source: Sum of the angles under which the point sees the edges.
-   !>
    !> (GEINSI of quorvel_by_reference)
    pure function inside(point, polygon) result(answer)
       use quorvel_unchecked, only: unchecked => inside
@@ -3435,7 +3345,7 @@ contains
       integer(i4) :: answer !! 1 inside, 0 outside
       type(quorvel_fault) :: fault
       call check_inside(point, polygon, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(point, polygon)
    end function
 
@@ -3445,7 +3355,6 @@ contains
    !> 0.001: small triangles are parallel to any.
    !>
    !> Source: Definition.
-   !>
    !> (GEPLEL of quorvel_by_reference)
    pure function parallel_planes(triangle_1, triangle_2) result(answer)
       use quorvel_unchecked, only: unchecked => parallel_planes
@@ -3454,7 +3363,7 @@ contains
       logical :: answer !! -1 if so, else 0
       type(quorvel_fault) :: fault
       call check_parallel_planes(triangle_1, triangle_2, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(triangle_1, triangle_2)
    end function
 
@@ -3465,7 +3374,6 @@ contains
    !> The sides from corner 3 to 1 are not tested.
    !>
    !> Source: Definition.
-   !>
    !> (GEPSID of quorvel_by_reference)
    pure subroutine parallel_sides(triangle_1, triangle_2, truth, side_1, side_2)
       use quorvel_unchecked, only: unchecked => parallel_sides
@@ -3477,7 +3385,7 @@ contains
       integer(i4), intent(out), optional :: side_2 !! side of triangle 2, likewise
       type(quorvel_fault) :: fault
       call check_parallel_sides(triangle_1, triangle_2, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(triangle_1, triangle_2, truth, side_1, side_2)
    end subroutine
 
@@ -3486,7 +3394,6 @@ contains
    !> So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in magnitude.
    !>
    !> Source: Definition.
-   !>
    !> (GERECT of quorvel_by_reference)
    pure function rectangular(quadrilateral) result(answer)
       use quorvel_unchecked, only: unchecked => rectangular
@@ -3494,7 +3401,7 @@ contains
       logical :: answer !! -1 if so, else 0
       type(quorvel_fault) :: fault
       call check_rectangular(quadrilateral, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(quadrilateral)
    end function
 
@@ -3508,7 +3415,6 @@ contains
    !> A triangle without area gives a tilt that is not a number.
    !>
    !> Source: Definition.
-   !>
    !> (GETILT of quorvel_by_reference)
    pure subroutine facing(triangle, azimuth, tilt)
       use quorvel_unchecked, only: unchecked => facing
@@ -3518,7 +3424,7 @@ contains
       real(dp), intent(out), optional :: tilt !! tilt: 0 horizontal facing up, 90 vertical, 180 facing down [deg]
       type(quorvel_fault) :: fault
       call check_facing(triangle, azimuth, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(triangle, azimuth, tilt)
    end subroutine
 
@@ -3533,7 +3439,6 @@ contains
    !> Coincident corners give what is not a number.
    !>
    !> Source: Definition.
-   !>
    !> (GELCAL of quorvel_by_reference)
    pure subroutine local_coordinates(quadrilateral_1, quadrilateral_2, local_1, local_2)
       use quorvel_unchecked, only: unchecked => local_coordinates
@@ -3543,18 +3448,17 @@ contains
       real(dp), intent(out), optional :: local_2(:, :) !! the second in local coordinates [m]
       type(quorvel_fault) :: fault
       call check_local_coordinates(quadrilateral_1, quadrilateral_2, fault)
-      if (present(local_1)) call expect_extent(fault, 'local_coordinates', 'local_1', size(local_1, 1), int(3))
-      if (present(local_1)) call expect_extent(fault, 'local_coordinates', 'local_1', size(local_1, 2), int(4))
-      if (present(local_2)) call expect_extent(fault, 'local_coordinates', 'local_2', size(local_2, 1), int(3))
-      if (present(local_2)) call expect_extent(fault, 'local_coordinates', 'local_2', size(local_2, 2), int(4))
-      if (fault%found) error stop fault%message
+      if (present(local_1)) call expect_extent(fault, 'local_coordinates', 'local_1', size(local_1, 1), 3)
+      if (present(local_1)) call expect_extent(fault, 'local_coordinates', 'local_1', size(local_1, 2), 4)
+      if (present(local_2)) call expect_extent(fault, 'local_coordinates', 'local_2', size(local_2, 1), 3)
+      if (present(local_2)) call expect_extent(fault, 'local_coordinates', 'local_2', size(local_2, 2), 4)
+      if (fault%found) error stop fault%message()
       call unchecked(quadrilateral_1, quadrilateral_2, local_1, local_2)
    end subroutine
 
    !> Replaces each of four points by its components along three axes.
    !>
    !> Source: Definition.
-   !>
    !> (GETRNS of quorvel_by_reference)
    pure function to_local(corners, x_axis, y_axis, z_axis) result(answer)
       use quorvel_unchecked, only: unchecked => to_local
@@ -3565,7 +3469,7 @@ contains
       real(dp) :: answer(3, 4) !! points [m]
       type(quorvel_fault) :: fault
       call check_to_local(corners, x_axis, y_axis, z_axis, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(corners, x_axis, y_axis, z_axis)
    end function
 
@@ -3577,7 +3481,6 @@ contains
    !> Any of the points may be vectors; their z is not read.
    !>
    !> Source: Elementary analytic geometry.
-   !>
    !> (GEMEET of quorvel_by_reference)
    pure function meeting_point(line_1_start, line_1_end, line_2_start, line_2_end) result(answer)
       use quorvel_unchecked, only: unchecked => meeting_point
@@ -3588,7 +3491,7 @@ contains
       real(sp) :: answer(2) !! meeting point [m]; 1e20 where there is none
       type(quorvel_fault) :: fault
       call check_meeting_point(line_1_start, line_1_end, line_2_start, line_2_end, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(line_1_start, line_1_end, line_2_start, line_2_end)
    end function
 
@@ -3599,8 +3502,7 @@ contains
    !>
    !> A segment reaches almost 0.0001 beyond its ends in x and in y.
    !>
-   !> Source: As GEMEET.
-   !>
+   !> Source: As meeting_point.
    !> (GECROS of quorvel_by_reference)
    pure function crossing_point(segment_1_start, segment_1_end, segment_2_start, segment_2_end) result(answer)
       use quorvel_unchecked, only: unchecked => crossing_point
@@ -3611,7 +3513,7 @@ contains
       real(sp) :: answer(2) !! crossing point [m]; 1e20 where there is none
       type(quorvel_fault) :: fault
       call check_crossing_point(segment_1_start, segment_1_end, segment_2_start, segment_2_end, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(segment_1_start, segment_1_end, segment_2_start, segment_2_end)
    end function
 
@@ -3622,7 +3524,6 @@ contains
    !> Not a number in y or z of the point does not exclude it.
    !>
    !> Source: Definition.
-   !>
    !> (GEINLN of quorvel_by_reference)
    pure function in_span(first_end, second_end, point) result(answer)
       use quorvel_unchecked, only: unchecked => in_span
@@ -3632,7 +3533,7 @@ contains
       real(sp) :: answer !! 1 between them or at an end, else 0
       type(quorvel_fault) :: fault
       call check_in_span(first_end, second_end, point, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(first_end, second_end, point)
    end function
 
@@ -3643,7 +3544,6 @@ contains
    !> Not a number anywhere gives 1.
    !>
    !> Source: Definition.
-   !>
    !> (GEINLN2 of quorvel_by_reference)
    pure function ahead_and_nearer(first_end, second_end, point) result(answer)
       use quorvel_unchecked, only: unchecked => ahead_and_nearer
@@ -3653,14 +3553,13 @@ contains
       real(sp) :: answer !! 1 if so, else 0
       type(quorvel_fault) :: fault
       call check_ahead_and_nearer(first_end, second_end, point, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(first_end, second_end, point)
    end function
 
    !> Whether two points in plan coincide.
    !>
    !> Source: Definition.
-   !>
    !> (GECOIN of quorvel_by_reference)
    elemental function coincide(x_1, y_1, x_2, y_2) result(answer)
       use quorvel_unchecked, only: unchecked => coincide
@@ -3671,7 +3570,7 @@ contains
       logical :: answer !! -1 if both coordinates differ by less than 1e-5, else 0
       type(quorvel_fault) :: fault
       call check_coincide(x_1, y_1, x_2, y_2, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(x_1, y_1, x_2, y_2)
    end function
 
@@ -3682,7 +3581,6 @@ contains
    !> Not a number gives 0.
    !>
    !> Source: Distance of a point from a line by its bearing.
-   !>
    !> (IGEPNT of quorvel_by_reference)
    pure function side_of_line(line_start, line_end, point) result(answer)
       use quorvel_unchecked, only: unchecked => side_of_line
@@ -3692,7 +3590,7 @@ contains
       integer(i4) :: answer !! 1 right of the line, -1 left of it, 0 nearer to it than 1e-5
       type(quorvel_fault) :: fault
       call check_side_of_line(line_start, line_end, point, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(line_start, line_end, point)
    end function
 
@@ -3703,7 +3601,6 @@ contains
    !> Magnitudes from 1000 on are no angles and are returned as they are.
    !>
    !> Source: Definition.
-   !>
    !> (BORI of quorvel_by_reference)
    elemental function back_azimuth(angle) result(answer)
       use quorvel_unchecked, only: unchecked => back_azimuth
@@ -3711,7 +3608,7 @@ contains
       real(sp) :: answer !! azimuth of the opposite direction, or angle of it [deg]
       type(quorvel_fault) :: fault
       call check_back_azimuth(angle, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(angle)
    end function
 
@@ -3720,7 +3617,6 @@ contains
    !> Formula: (sin(solar_azimuth) cos(solar_altitude), cos(solar_azimuth) cos(solar_altitude), sin(solar_altitude))
    !>
    !> Source: Spherical to rectangular coordinates.
-   !>
    !> (GESUNV of quorvel_by_reference)
    pure function direction_to(solar_altitude, solar_azimuth) result(answer)
       use quorvel_unchecked, only: unchecked => direction_to
@@ -3729,7 +3625,7 @@ contains
       real(sp) :: answer(3) !! direction
       type(quorvel_fault) :: fault
       call check_direction_to(solar_altitude, solar_azimuth, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(solar_altitude, solar_azimuth)
    end function
 
@@ -3745,7 +3641,6 @@ contains
    !> the transpose to rounding.
    !>
    !> Source: Rotation matrices; Gauss-Jordan elimination.
-   !>
    !> (GERSET of quorvel_by_reference)
    pure subroutine surface_axes(surface_azimuth, tilt, rotation_matrix, inverse_matrix)
       use quorvel_unchecked, only: unchecked => surface_axes
@@ -3757,21 +3652,20 @@ contains
       type(quorvel_fault) :: fault
       call check_surface_axes(surface_azimuth, tilt, fault)
       if (present(rotation_matrix)) call expect_extent(fault, 'surface_axes', 'rotation_matrix', size(rotation_matrix, &
-         1), int(3))
+         1), 3)
       if (present(rotation_matrix)) call expect_extent(fault, 'surface_axes', 'rotation_matrix', size(rotation_matrix, &
-         2), int(3))
+         2), 3)
       if (present(inverse_matrix)) call expect_extent(fault, 'surface_axes', 'inverse_matrix', size(inverse_matrix, &
-         1), int(3))
+         1), 3)
       if (present(inverse_matrix)) call expect_extent(fault, 'surface_axes', 'inverse_matrix', size(inverse_matrix, &
-         2), int(3))
-      if (fault%found) error stop fault%message
+         2), 3)
+      if (fault%found) error stop fault%message()
       call unchecked(surface_azimuth, tilt, rotation_matrix, inverse_matrix)
    end subroutine
 
    !> Local to global coordinates: the rotation matrix times the vector.
    !>
    !> Source: Definition.
-   !>
    !> (GERAXI of quorvel_by_reference)
    pure function local_to_global(local_vector, rotation_matrix) result(answer)
       use quorvel_unchecked, only: unchecked => local_to_global
@@ -3780,14 +3674,13 @@ contains
       real(sp) :: answer(3) !! vector in global coordinates [m]
       type(quorvel_fault) :: fault
       call check_local_to_global(local_vector, rotation_matrix, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(local_vector, rotation_matrix)
    end function
 
    !> Global to local coordinates: the transpose of the rotation matrix times the vector.
    !>
    !> Source: Definition.
-   !>
    !> (GERAX2 of quorvel_by_reference)
    pure function global_to_local(global_vector, rotation_matrix) result(answer)
       use quorvel_unchecked, only: unchecked => global_to_local
@@ -3796,7 +3689,7 @@ contains
       real(sp) :: answer(3) !! vector in local coordinates [m]
       type(quorvel_fault) :: fault
       call check_global_to_local(global_vector, rotation_matrix, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(global_vector, rotation_matrix)
    end function
 
@@ -3809,7 +3702,6 @@ contains
    !> A polygon far from the origin beside its size loses digits.
    !>
    !> Source: Shoelace formula.
-   !>
    !> (GEAPOL of quorvel_by_reference)
    pure function plan_area(x, y) result(answer)
       use quorvel_unchecked, only: unchecked => plan_area
@@ -3818,7 +3710,7 @@ contains
       real(sp) :: answer !! area [m2]
       type(quorvel_fault) :: fault
       call check_plan_area(x, y, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(x, y)
    end function
 
@@ -3826,10 +3718,9 @@ contains
    !>
    !> Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
    !>
-   !> As GEAPOL.
+   !> As plan_area.
    !>
    !> Source: Shoelace formula.
-   !>
    !> (GEAPO2 of quorvel_by_reference)
    pure function signed_plan_area(x, y) result(answer)
       use quorvel_unchecked, only: unchecked => signed_plan_area
@@ -3838,7 +3729,7 @@ contains
       real(sp) :: answer !! area, negative for anticlockwise vertices [m2]
       type(quorvel_fault) :: fault
       call check_signed_plan_area(x, y, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(x, y)
    end function
 
@@ -3851,7 +3742,6 @@ contains
    !> Fewer than one vertex give 0.
    !>
    !> Source: Elementary geometry.
-   !>
    !> (GEAPO3 of quorvel_by_reference)
    pure function area_in_space(x, y, z) result(answer)
       use quorvel_unchecked, only: unchecked => area_in_space
@@ -3861,7 +3751,7 @@ contains
       real(sp) :: answer !! area [m2]
       type(quorvel_fault) :: fault
       call check_area_in_space(x, y, z, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(x, y, z)
    end function
 
@@ -3883,7 +3773,6 @@ contains
    !> Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
    !>
    !> Source: Shoelace formula in the plane of the polygon.
-   !>
    !> (GEASO of quorvel_by_reference)
    pure subroutine polygon_orientation(polygon, area, tilt, back_azimuth)
       use quorvel_unchecked, only: unchecked => polygon_orientation
@@ -3896,7 +3785,7 @@ contains
       !! than one vertex
       type(quorvel_fault) :: fault
       call check_polygon_orientation(polygon, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       call unchecked(polygon, area, tilt, back_azimuth)
    end subroutine
 
@@ -3908,7 +3797,6 @@ contains
    !> gives 1e20 in all coordinates.
    !>
    !> Source: Elementary analytic geometry.
-   !>
    !> (GEPROJ of quorvel_by_reference)
    pure function projection(plane_point, plane_normal, point, direction) result(answer)
       use quorvel_unchecked, only: unchecked => projection
@@ -3919,7 +3807,7 @@ contains
       real(sp) :: answer(3) !! projected point [m]; 1e20 where there is none
       type(quorvel_fault) :: fault
       call check_projection(plane_point, plane_normal, point, direction, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(plane_point, plane_normal, point, direction)
    end function
 
@@ -3935,8 +3823,7 @@ contains
    !> that by rounding: at site coordinates of real buildings, about 7 % of the points whose projection lies ahead are
    !> not found.
    !>
-   !> Source: As GEPROJ.
-   !>
+   !> Source: As projection.
    !> (GEPROJ2 of quorvel_by_reference)
    pure function forward_projection(plane_point, plane_normal, point, direction) result(answer)
       use quorvel_unchecked, only: unchecked => forward_projection
@@ -3947,7 +3834,7 @@ contains
       real(sp) :: answer(3) !! projected point [m]; 1e20 where there is none
       type(quorvel_fault) :: fault
       call check_forward_projection(plane_point, plane_normal, point, direction, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(plane_point, plane_normal, point, direction)
    end function
 
@@ -3958,11 +3845,10 @@ contains
    !> A direction whose product with the normal is exactly 0 gives what the division by zero makes of it: infinities or
    !> not a number. There is no other limit for parallel directions, so that the length of the normal does not matter.
    !>
-   !> Ahead is as in GEPROJ2, and so about 7 % of the points at site coordinates of real buildings are returned as they
-   !> are, although the plane lies ahead.
+   !> Ahead is as in forward_projection, and so about 7 % of the points at site coordinates of real buildings are
+   !> returned as they are, although the plane lies ahead.
    !>
-   !> Source: As GEPROJ.
-   !>
+   !> Source: As projection.
    !> (GEPROJ3 of quorvel_by_reference)
    pure function forward_projection_or_start(plane_point, plane_normal, point, direction) result(answer)
       use quorvel_unchecked, only: unchecked => forward_projection_or_start
@@ -3973,7 +3859,7 @@ contains
       real(sp) :: answer(3) !! projected point, or the point itself [m]
       type(quorvel_fault) :: fault
       call check_forward_projection_or_start(plane_point, plane_normal, point, direction, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(plane_point, plane_normal, point, direction)
    end function
 
@@ -3982,7 +3868,6 @@ contains
    !> Formula: a1 b1 + a2 b2 + a3 b3
    !>
    !> Source: Definition.
-   !>
    !> (GEDOTP of quorvel_by_reference)
    pure function vector_dot_product(vector_a, vector_b) result(answer)
       use quorvel_unchecked, only: unchecked => vector_dot_product
@@ -3991,7 +3876,7 @@ contains
       real(sp) :: answer !! a . b [m2]
       type(quorvel_fault) :: fault
       call check_vector_dot_product(vector_a, vector_b, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vector_a, vector_b)
    end function
 
@@ -4000,7 +3885,6 @@ contains
    !> Formula: a1 b1 + a2 b2 + a3 b3
    !>
    !> Source: Definition.
-   !>
    !> (GEDTDP of quorvel_by_reference)
    pure function dot_product_in_double(vector_a, vector_b) result(answer)
       use quorvel_unchecked, only: unchecked => dot_product_in_double
@@ -4009,7 +3893,7 @@ contains
       real(dp) :: answer !! a . b [m2]
       type(quorvel_fault) :: fault
       call check_dot_product_in_double(vector_a, vector_b, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vector_a, vector_b)
    end function
 
@@ -4018,7 +3902,6 @@ contains
    !> Formula: (a2 b3 - a3 b2, a3 b1 - a1 b3, a1 b2 - a2 b1)
    !>
    !> Source: Definition.
-   !>
    !> (GEXPRO of quorvel_by_reference)
    pure function cross_product(vector_a, vector_b) result(answer)
       use quorvel_unchecked, only: unchecked => cross_product
@@ -4027,7 +3910,7 @@ contains
       real(sp) :: answer(3) !! a x b [m2]
       type(quorvel_fault) :: fault
       call check_cross_product(vector_a, vector_b, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vector_a, vector_b)
    end function
 
@@ -4036,7 +3919,6 @@ contains
    !> Formula: (a2 b3 - a3 b2, a3 b1 - a1 b3, a1 b2 - a2 b1)
    !>
    !> Source: Definition.
-   !>
    !> (GEXPDP of quorvel_by_reference)
    pure function cross_product_in_double(vector_a, vector_b) result(answer)
       use quorvel_unchecked, only: unchecked => cross_product_in_double
@@ -4045,7 +3927,7 @@ contains
       real(dp) :: answer(3) !! a x b [m2]
       type(quorvel_fault) :: fault
       call check_cross_product_in_double(vector_a, vector_b, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vector_a, vector_b)
    end function
 
@@ -4056,7 +3938,6 @@ contains
    !> Squares beyond the range of a float make the length infinite or 0: from about 1e19, below about 1e-23.
    !>
    !> Source: Definition.
-   !>
    !> (GEVMOD of quorvel_by_reference)
    pure function length(vector) result(answer)
       use quorvel_unchecked, only: unchecked => length
@@ -4064,7 +3945,7 @@ contains
       real(sp) :: answer !! length [m]
       type(quorvel_fault) :: fault
       call check_length(vector, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vector)
    end function
 
@@ -4073,7 +3954,6 @@ contains
    !> Formula: sqrt(v1^2 + v2^2 + v3^2)
    !>
    !> Source: Definition.
-   !>
    !> (GEVMDP of quorvel_by_reference)
    pure function length_in_double(vector) result(answer)
       use quorvel_unchecked, only: unchecked => length_in_double
@@ -4081,7 +3961,7 @@ contains
       real(dp) :: answer !! length [m]
       type(quorvel_fault) :: fault
       call check_length_in_double(vector, fault)
-      if (fault%found) error stop fault%message
+      if (fault%found) error stop fault%message()
       answer = unchecked(vector)
    end function
 

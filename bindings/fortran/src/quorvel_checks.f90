@@ -202,8 +202,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_vapour_pressure_and_relative_humidity(vapour_pressure, relative_humidity, &
       fault)
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: relative_humidity
+      real(sp), intent(in) :: vapour_pressure, relative_humidity
       type(quorvel_fault), intent(out) :: fault
       if (.not. (vapour_pressure >= 0.0_sp)) call refuse(fault, 'dry_bulb_from_vapour_pressure_and_relative_humidity', &
          'vapour_pressure', 'valid from 0 Pa', vapour_pressure)
@@ -214,9 +213,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_vapour_pressure_and_percentage_saturation(vapour_pressure, &
       percentage_saturation, pressure, fault)
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: vapour_pressure, percentage_saturation, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (vapour_pressure >= 0.0_sp)) call refuse(fault, &
          'dry_bulb_from_vapour_pressure_and_percentage_saturation', 'vapour_pressure', 'valid from 0 Pa', &
@@ -230,9 +227,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_moisture_content_and_relative_humidity(moisture_content, &
       relative_humidity, pressure, fault)
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: relative_humidity
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: moisture_content, relative_humidity, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (moisture_content >= 0.0_sp .and. moisture_content <= 0.1_sp)) call refuse(fault, &
          'dry_bulb_from_moisture_content_and_relative_humidity', 'moisture_content', 'valid 0 to 0.1 kg/kg', &
@@ -246,9 +241,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_moisture_content_and_percentage_saturation(moisture_content, &
       percentage_saturation, pressure, fault)
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: moisture_content, percentage_saturation, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (moisture_content >= 0.0_sp .and. moisture_content <= 0.1_sp)) call refuse(fault, &
          'dry_bulb_from_moisture_content_and_percentage_saturation', 'moisture_content', 'valid 0 to 0.1 kg/kg', &
@@ -261,8 +254,7 @@ contains
    end subroutine
 
    elemental subroutine check_dry_bulb_from_enthalpy_and_moisture_content(enthalpy, moisture_content, fault)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: moisture_content
+      real(sp), intent(in) :: enthalpy, moisture_content
       type(quorvel_fault), intent(out) :: fault
       if (.not. (enthalpy >= -10.0_sp .and. enthalpy <= 460.0_sp)) call refuse(fault, &
          'dry_bulb_from_enthalpy_and_moisture_content', 'enthalpy', 'valid -10 to 460 kJ/kg', enthalpy)
@@ -271,9 +263,7 @@ contains
    end subroutine
 
    elemental subroutine check_dry_bulb_from_enthalpy_and_vapour_pressure(enthalpy, vapour_pressure, pressure, fault)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: enthalpy, vapour_pressure, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (enthalpy >= -10.0_sp .and. enthalpy <= 460.0_sp)) call refuse(fault, &
          'dry_bulb_from_enthalpy_and_vapour_pressure', 'enthalpy', 'valid -10 to 460 kJ/kg', enthalpy)
@@ -285,9 +275,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_enthalpy_and_relative_humidity(enthalpy, relative_humidity, pressure, &
       fault)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: relative_humidity
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: enthalpy, relative_humidity, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (enthalpy >= -10.0_sp .and. enthalpy <= 460.0_sp)) call refuse(fault, &
          'dry_bulb_from_enthalpy_and_relative_humidity', 'enthalpy', 'valid -10 to 460 kJ/kg', enthalpy)
@@ -299,9 +287,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_enthalpy_and_percentage_saturation(enthalpy, percentage_saturation, &
       pressure, fault)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: enthalpy, percentage_saturation, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (enthalpy >= -10.0_sp .and. enthalpy <= 460.0_sp)) call refuse(fault, &
          'dry_bulb_from_enthalpy_and_percentage_saturation', 'enthalpy', 'valid -10 to 460 kJ/kg', enthalpy)
@@ -314,9 +300,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_wet_bulb_and_vapour_pressure(wet_bulb, vapour_pressure, pressure, &
       psychrometer, fault)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, vapour_pressure, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (wet_bulb >= -100.0_sp .and. wet_bulb <= 200.0_sp)) call refuse(fault, &
@@ -331,9 +315,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_wet_bulb_and_moisture_content(wet_bulb, moisture_content, pressure, &
       psychrometer, fault)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, moisture_content, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (wet_bulb >= -100.0_sp .and. wet_bulb <= 200.0_sp)) call refuse(fault, &
@@ -348,9 +330,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_wet_bulb_and_relative_humidity(wet_bulb, relative_humidity, pressure, &
       psychrometer, fault)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: relative_humidity
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, relative_humidity, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (wet_bulb >= -100.0_sp .and. wet_bulb <= 200.0_sp)) call refuse(fault, &
@@ -365,9 +345,7 @@ contains
 
    elemental subroutine check_dry_bulb_from_wet_bulb_and_percentage_saturation(wet_bulb, percentage_saturation, &
       pressure, psychrometer, fault)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, percentage_saturation, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (wet_bulb >= -100.0_sp .and. wet_bulb <= 200.0_sp)) call refuse(fault, &
@@ -383,9 +361,7 @@ contains
    end subroutine
 
    elemental subroutine check_dry_bulb_from_wet_bulb_and_enthalpy(wet_bulb, enthalpy, pressure, psychrometer, fault)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, enthalpy, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (wet_bulb >= -100.0_sp .and. wet_bulb <= 200.0_sp)) call refuse(fault, &
@@ -400,12 +376,8 @@ contains
 
    elemental subroutine check_adiabatic_mixing(first_air_flow, first_dry_bulb, first_moisture_content, &
       second_air_flow, second_dry_bulb, second_moisture_content, fault)
-      real(sp), intent(in) :: first_air_flow
-      real(sp), intent(in) :: first_dry_bulb
-      real(sp), intent(in) :: first_moisture_content
-      real(sp), intent(in) :: second_air_flow
-      real(sp), intent(in) :: second_dry_bulb
-      real(sp), intent(in) :: second_moisture_content
+      real(sp), intent(in) :: first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, &
+         second_dry_bulb, second_moisture_content
       type(quorvel_fault), intent(out) :: fault
       if (.not. (first_air_flow >= 0.0_sp)) call refuse(fault, 'adiabatic_mixing', 'first_air_flow', &
          'valid from 0 kg/s', first_air_flow)
@@ -422,9 +394,7 @@ contains
    end subroutine
 
    elemental subroutine check_moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, wet_bulb, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, &
@@ -438,9 +408,7 @@ contains
    end subroutine
 
    elemental subroutine check_moisture_content(dry_bulb, vapour_pressure, pressure, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, vapour_pressure, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, 'moisture_content', 'dry_bulb', &
          'valid -100 to 200 degC', dry_bulb)
@@ -451,9 +419,7 @@ contains
    end subroutine
 
    elemental subroutine check_vapour_pressure_from_moisture_content(dry_bulb, moisture_content, pressure, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, &
          'vapour_pressure_from_moisture_content', 'dry_bulb', 'valid -100 to 200 degC', dry_bulb)
@@ -465,9 +431,7 @@ contains
 
    elemental subroutine check_moisture_content_from_percentage_saturation(dry_bulb, percentage_saturation, pressure, &
       fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, percentage_saturation, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, &
          'moisture_content_from_percentage_saturation', 'dry_bulb', 'valid -100 to 200 degC', dry_bulb)
@@ -479,8 +443,7 @@ contains
    end subroutine
 
    elemental subroutine check_moisture_content_from_enthalpy(dry_bulb, enthalpy, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: enthalpy
+      real(sp), intent(in) :: dry_bulb, enthalpy
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -50.0_sp .and. dry_bulb <= 100.0_sp)) call refuse(fault, &
          'moisture_content_from_enthalpy', 'dry_bulb', 'valid -50 to 100 degC', dry_bulb)
@@ -489,9 +452,7 @@ contains
    end subroutine
 
    elemental subroutine check_moist_air_density(dry_bulb, moisture_content, pressure, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, 'moist_air_density', &
          'dry_bulb', 'valid -100 to 200 degC', dry_bulb)
@@ -502,9 +463,7 @@ contains
    end subroutine
 
    elemental subroutine check_percentage_saturation(dry_bulb, moisture_content, pressure, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, 'percentage_saturation', &
          'dry_bulb', 'valid -100 to 200 degC', dry_bulb)
@@ -515,8 +474,7 @@ contains
    end subroutine
 
    elemental subroutine check_specific_enthalpy(dry_bulb, moisture_content, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
+      real(sp), intent(in) :: dry_bulb, moisture_content
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -50.0_sp .and. dry_bulb <= 100.0_sp)) call refuse(fault, 'specific_enthalpy', 'dry_bulb', &
          'valid -50 to 100 degC', dry_bulb)
@@ -525,9 +483,7 @@ contains
    end subroutine
 
    elemental subroutine check_specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, wet_bulb, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, &
@@ -541,9 +497,7 @@ contains
    end subroutine
 
    elemental subroutine check_specific_volume(dry_bulb, moisture_content, pressure, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, 'specific_volume', 'dry_bulb', &
          'valid -100 to 200 degC', dry_bulb)
@@ -554,8 +508,7 @@ contains
    end subroutine
 
    elemental subroutine check_saturation_temperature_from_enthalpy(enthalpy, pressure, fault)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: enthalpy, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (enthalpy >= -10.0_sp .and. enthalpy <= 460.0_sp)) call refuse(fault, &
          'saturation_temperature_from_enthalpy', 'enthalpy', 'valid -10 to 460 kJ/kg', enthalpy)
@@ -565,15 +518,10 @@ contains
 
    elemental subroutine check_pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, &
       reference_temperature, bathers, reference_coefficient, pressure, fault)
-      real(sp), intent(in) :: water_area
-      real(sp), intent(in) :: wetted_area
-      real(sp), intent(in) :: water_temperature
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: reference_temperature
+      real(sp), intent(in) :: water_area, wetted_area, water_temperature, dry_bulb, moisture_content, &
+         reference_temperature
       integer(i4), intent(in) :: bathers
-      real(sp), intent(in) :: reference_coefficient
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: reference_coefficient, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (water_area >= 0.0_sp)) call refuse(fault, 'pool_evaporation', 'water_area', 'valid from 0 m2', &
          water_area)
@@ -596,15 +544,9 @@ contains
 
    elemental subroutine check_pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, dry_bulb, &
       wet_bulb, reference_temperature, bathers, reference_coefficient, pressure, fault)
-      real(sp), intent(in) :: water_area
-      real(sp), intent(in) :: wetted_area
-      real(sp), intent(in) :: water_temperature
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: reference_temperature
+      real(sp), intent(in) :: water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, reference_temperature
       integer(i4), intent(in) :: bathers
-      real(sp), intent(in) :: reference_coefficient
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: reference_coefficient, pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (water_area >= 0.0_sp)) call refuse(fault, 'pool_evaporation_from_wet_bulb', 'water_area', &
          'valid from 0 m2', water_area)
@@ -641,8 +583,7 @@ contains
    end subroutine
 
    elemental subroutine check_vapour_pressure(dry_bulb, relative_humidity, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: relative_humidity
+      real(sp), intent(in) :: dry_bulb, relative_humidity
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, 'vapour_pressure', 'dry_bulb', &
          'valid -100 to 200 degC', dry_bulb)
@@ -651,8 +592,7 @@ contains
    end subroutine
 
    elemental subroutine check_relative_humidity(dry_bulb, vapour_pressure, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: vapour_pressure
+      real(sp), intent(in) :: dry_bulb, vapour_pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, 'relative_humidity', &
          'dry_bulb', 'valid -100 to 200 degC', dry_bulb)
@@ -661,9 +601,7 @@ contains
    end subroutine
 
    elemental subroutine check_vapour_pressure_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, wet_bulb, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, &
@@ -677,8 +615,7 @@ contains
    end subroutine
 
    elemental subroutine check_weighted_temperature(first_temperature, second_temperature, fault)
-      real(sp), intent(in) :: first_temperature
-      real(sp), intent(in) :: second_temperature
+      real(sp), intent(in) :: first_temperature, second_temperature
       type(quorvel_fault), intent(out) :: fault
       if (.not. (first_temperature >= -100.0_sp .and. first_temperature <= 200.0_sp)) call refuse(fault, &
          'weighted_temperature', 'first_temperature', 'valid -100 to 200 degC', first_temperature)
@@ -687,9 +624,7 @@ contains
    end subroutine
 
    elemental subroutine check_psychrometer_wet_bulb(dry_bulb, relative_humidity, pressure, psychrometer, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: relative_humidity
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, relative_humidity, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, 'psychrometer_wet_bulb', &
@@ -704,9 +639,7 @@ contains
 
    elemental subroutine check_wet_bulb_from_percentage_saturation(dry_bulb, percentage_saturation, pressure, &
       psychrometer, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, percentage_saturation, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, &
@@ -721,9 +654,7 @@ contains
 
    elemental subroutine check_wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychrometer, &
       fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, &
@@ -737,9 +668,7 @@ contains
    end subroutine
 
    elemental subroutine check_wet_bulb(dry_bulb, vapour_pressure, pressure, psychrometer, fault)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, vapour_pressure, pressure
       integer(i4), intent(in) :: psychrometer
       type(quorvel_fault), intent(out) :: fault
       if (.not. (dry_bulb >= -100.0_sp .and. dry_bulb <= 200.0_sp)) call refuse(fault, 'wet_bulb', 'dry_bulb', &
@@ -754,21 +683,16 @@ contains
 
    pure subroutine check_cyclic_response(thickness, conductivity, density, specific_heat, inside_resistance, &
       outside_resistance, harmonic, element_kind, fault)
-      real(sp), intent(in) :: thickness(:)
-      real(sp), intent(in) :: conductivity(:)
-      real(sp), intent(in) :: density(:)
-      real(sp), intent(in) :: specific_heat(:)
-      real(sp), intent(in) :: inside_resistance
-      real(sp), intent(in) :: outside_resistance
-      integer(i4), intent(in) :: harmonic
-      integer(i4), intent(in) :: element_kind
+      real(sp), intent(in) :: thickness(:), conductivity(:), density(:), specific_heat(:), inside_resistance, &
+         outside_resistance
+      integer(i4), intent(in) :: harmonic, element_kind
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'cyclic_response', 'conductivity', size(conductivity), 'thickness', size(thickness))
       call expect_as_many(fault, 'cyclic_response', 'density', size(density), 'thickness', size(thickness))
       call expect_as_many(fault, 'cyclic_response', 'specific_heat', size(specific_heat), 'thickness', &
          size(thickness))
       call expect_count(fault, 'cyclic_response', 'thickness', size(thickness), 0, 20)
-      call expect_all(fault, 'cyclic_response', 'thickness', 'not a number', [.not. ieee_is_nan(thickness)], &
+      call expect_all(fault, 'cyclic_response', 'thickness', 'valid is any number', [.not. ieee_is_nan(thickness)], &
          [real(thickness, dp)], 0)
       call expect_all(fault, 'cyclic_response', 'conductivity', 'valid from 0 W/mK', [conductivity >= 0.0_sp], &
          [real(conductivity, dp)], 0)
@@ -793,10 +717,7 @@ contains
    end subroutine
 
    elemental subroutine check_air_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, fault)
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: cavity_width
-      real(sp), intent(in) :: emissivity_1
-      real(sp), intent(in) :: emissivity_2
+      real(sp), intent(in) :: tilt, cavity_width, emissivity_1, emissivity_2
       type(quorvel_fault), intent(out) :: fault
       if (.not. (tilt >= 0.0_sp .and. tilt <= 3.1416_sp)) call refuse(fault, 'air_cavity_resistance', 'tilt', &
          'valid 0 to 3.1416 rad', tilt)
@@ -810,14 +731,8 @@ contains
 
    elemental subroutine check_gas_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, density, &
       conductivity, specific_heat, viscosity, fault)
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: cavity_width
-      real(sp), intent(in) :: emissivity_1
-      real(sp), intent(in) :: emissivity_2
-      real(sp), intent(in) :: density
-      real(sp), intent(in) :: conductivity
-      real(sp), intent(in) :: specific_heat
-      real(sp), intent(in) :: viscosity
+      real(sp), intent(in) :: tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, specific_heat, &
+         viscosity
       type(quorvel_fault), intent(out) :: fault
       if (.not. (tilt >= 0.0_sp .and. tilt <= 3.1416_sp)) call refuse(fault, 'gas_cavity_resistance', 'tilt', &
          'valid 0 to 3.1416 rad', tilt)
@@ -838,37 +753,29 @@ contains
    end subroutine
 
    pure subroutine check_total_vapour_resistance(thickness, vapour_resistivity, fault)
-      real(sp), intent(in) :: thickness(:)
-      real(sp), intent(in) :: vapour_resistivity(:)
+      real(sp), intent(in) :: thickness(:), vapour_resistivity(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'total_vapour_resistance', 'vapour_resistivity', size(vapour_resistivity), &
          'thickness', size(thickness))
       call expect_count(fault, 'total_vapour_resistance', 'thickness', size(thickness), 0, 20)
-      call expect_all(fault, 'total_vapour_resistance', 'thickness', 'not a number', [.not. ieee_is_nan(thickness)], &
-         [real(thickness, dp)], 0)
+      call expect_all(fault, 'total_vapour_resistance', 'thickness', 'valid is any number', [.not. &
+         ieee_is_nan(thickness)], [real(thickness, dp)], 0)
       call expect_all(fault, 'total_vapour_resistance', 'vapour_resistivity', 'valid from 0 GN s/(kg m)', &
          [vapour_resistivity >= 0.0_sp], [real(vapour_resistivity, dp)], 0)
    end subroutine
 
    pure subroutine check_condensation_profile(thickness, conductivity, vapour_resistivity, inside_resistance, &
       outside_resistance, inside_temperature, outside_temperature, inside_humidity, outside_humidity, fault)
-      real(sp), intent(in) :: thickness(:)
-      real(sp), intent(in) :: conductivity(:)
-      real(sp), intent(in) :: vapour_resistivity(:)
-      real(sp), intent(in) :: inside_resistance
-      real(sp), intent(in) :: outside_resistance
-      real(sp), intent(in) :: inside_temperature
-      real(sp), intent(in) :: outside_temperature
-      real(sp), intent(in) :: inside_humidity
-      real(sp), intent(in) :: outside_humidity
+      real(sp), intent(in) :: thickness(:), conductivity(:), vapour_resistivity(:), inside_resistance, &
+         outside_resistance, inside_temperature, outside_temperature, inside_humidity, outside_humidity
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'condensation_profile', 'conductivity', size(conductivity), 'thickness', &
          size(thickness))
       call expect_as_many(fault, 'condensation_profile', 'vapour_resistivity', size(vapour_resistivity), 'thickness', &
          size(thickness))
       call expect_count(fault, 'condensation_profile', 'thickness', size(thickness), 0, 20)
-      call expect_all(fault, 'condensation_profile', 'thickness', 'not a number', [.not. ieee_is_nan(thickness)], &
-         [real(thickness, dp)], 0)
+      call expect_all(fault, 'condensation_profile', 'thickness', 'valid is any number', [.not. &
+         ieee_is_nan(thickness)], [real(thickness, dp)], 0)
       call expect_all(fault, 'condensation_profile', 'conductivity', 'valid from 0 W/mK', [conductivity >= 0.0_sp], &
          [real(conductivity, dp)], 0)
       call expect_all(fault, 'condensation_profile', 'vapour_resistivity', 'valid from 0 GN s/(kg m)', &
@@ -889,10 +796,7 @@ contains
 
    elemental subroutine check_condenses_within_layer(warm_temperature, cold_temperature, warm_vapour_pressure, &
       cold_vapour_pressure, fault)
-      real(sp), intent(in) :: warm_temperature
-      real(sp), intent(in) :: cold_temperature
-      real(sp), intent(in) :: warm_vapour_pressure
-      real(sp), intent(in) :: cold_vapour_pressure
+      real(sp), intent(in) :: warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (warm_temperature >= -100.0_sp .and. warm_temperature <= 200.0_sp)) call refuse(fault, &
          'condenses_within_layer', 'warm_temperature', 'valid -100 to 200 degC', warm_temperature)
@@ -906,12 +810,11 @@ contains
 
    pure subroutine check_element_property(element_records, record_number, item, fault)
       real(sp), intent(in) :: element_records(:, :)
-      integer(i4), intent(in) :: record_number
-      integer(i4), intent(in) :: item
+      integer(i4), intent(in) :: record_number, item
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'element_property', 'element_records', size(element_records, 1), 10)
       call expect_count(fault, 'element_property', 'element_records', size(element_records)/10, 1, 2147483647)
-      call expect_all(fault, 'element_property', 'element_records', 'not a number', [.not. &
+      call expect_all(fault, 'element_property', 'element_records', 'valid is any number', [.not. &
          ieee_is_nan(element_records)], [real(element_records, dp)], 10)
       if (.not. (record_number >= 1_i4)) call refuse(fault, 'element_property', 'record_number', 'valid from 1', &
          record_number)
@@ -921,12 +824,11 @@ contains
 
    elemental subroutine check_natural_convection_coefficient(temperature_difference, characteristic_length, &
       heat_flow_direction, fault)
-      real(sp), intent(in) :: temperature_difference
-      real(sp), intent(in) :: characteristic_length
+      real(sp), intent(in) :: temperature_difference, characteristic_length
       integer(i4), intent(in) :: heat_flow_direction
       type(quorvel_fault), intent(out) :: fault
       if (.not. (.not. ieee_is_nan(temperature_difference))) call refuse(fault, 'natural_convection_coefficient', &
-         'temperature_difference', 'not a number', temperature_difference)
+         'temperature_difference', 'valid is any number', temperature_difference)
       if (.not. (characteristic_length >= 0.0_sp)) call refuse(fault, 'natural_convection_coefficient', &
          'characteristic_length', 'valid from 0 m', characteristic_length)
       if (.not. (heat_flow_direction >= 1_i4 .and. heat_flow_direction <= 3_i4)) call refuse(fault, &
@@ -936,9 +838,7 @@ contains
 
    elemental subroutine check_pack_two_fractions(packing, packed_number, fraction_1, fraction_2, fault)
       integer(i4), intent(in) :: packing
-      real(sp), intent(in) :: packed_number
-      real(sp), intent(in) :: fraction_1
-      real(sp), intent(in) :: fraction_2
+      real(sp), intent(in) :: packed_number, fraction_1, fraction_2
       type(quorvel_fault), intent(out) :: fault
       if (.not. (packing >= 1_i4 .and. packing <= 2_i4)) call refuse(fault, 'pack_two_fractions', 'packing', &
          'valid 1 (pack), 2 (unpack)', packing)
@@ -952,10 +852,7 @@ contains
 
    elemental subroutine check_pack_three_fractions(packing, packed_number, fraction_1, fraction_2, fraction_3, fault)
       integer(i4), intent(in) :: packing
-      real(sp), intent(in) :: packed_number
-      real(sp), intent(in) :: fraction_1
-      real(sp), intent(in) :: fraction_2
-      real(sp), intent(in) :: fraction_3
+      real(sp), intent(in) :: packed_number, fraction_1, fraction_2, fraction_3
       type(quorvel_fault), intent(out) :: fault
       if (.not. (packing >= 1_i4 .and. packing <= 2_i4)) call refuse(fault, 'pack_three_fractions', 'packing', &
          'valid 1 (pack), 2 (unpack)', packing)
@@ -972,10 +869,7 @@ contains
    elemental subroutine check_pack_three_fractions_third_first(packing, packed_number, fraction_3, fraction_1, &
       fraction_2, fault)
       integer(i4), intent(in) :: packing
-      real(sp), intent(in) :: packed_number
-      real(sp), intent(in) :: fraction_3
-      real(sp), intent(in) :: fraction_1
-      real(sp), intent(in) :: fraction_2
+      real(sp), intent(in) :: packed_number, fraction_3, fraction_1, fraction_2
       type(quorvel_fault), intent(out) :: fault
       if (.not. (packing >= 1_i4 .and. packing <= 2_i4)) call refuse(fault, 'pack_three_fractions_third_first', &
          'packing', 'valid 1 (pack), 2 (unpack)', packing)
@@ -991,10 +885,7 @@ contains
 
    elemental subroutine check_pack_pane(packing, packed_number, absorptance, reflectance_1, reflectance_2, fault)
       integer(i4), intent(in) :: packing
-      real(sp), intent(in) :: packed_number
-      real(sp), intent(in) :: absorptance
-      real(sp), intent(in) :: reflectance_1
-      real(sp), intent(in) :: reflectance_2
+      real(sp), intent(in) :: packed_number, absorptance, reflectance_1, reflectance_2
       type(quorvel_fault), intent(out) :: fault
       if (.not. (packing >= 1_i4 .and. packing <= 2_i4)) call refuse(fault, 'pack_pane', 'packing', &
          'valid 1 (pack), 2 (unpack)', packing)
@@ -1038,15 +929,12 @@ contains
    end subroutine
 
    pure subroutine check_u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2, fault)
-      real(sp), intent(in) :: thickness(:)
-      real(sp), intent(in) :: conductivity(:)
-      real(sp), intent(in) :: surface_resistance_1
-      real(sp), intent(in) :: surface_resistance_2
+      real(sp), intent(in) :: thickness(:), conductivity(:), surface_resistance_1, surface_resistance_2
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'u_value', 'conductivity', size(conductivity), 'thickness', size(thickness))
       call expect_count(fault, 'u_value', 'thickness', size(thickness), 0, 20)
-      call expect_all(fault, 'u_value', 'thickness', 'not a number', [.not. ieee_is_nan(thickness)], [real(thickness, &
-         dp)], 0)
+      call expect_all(fault, 'u_value', 'thickness', 'valid is any number', [.not. ieee_is_nan(thickness)], &
+         [real(thickness, dp)], 0)
       call expect_all(fault, 'u_value', 'conductivity', 'valid from 0 W/mK', [conductivity >= 0.0_sp], &
          [real(conductivity, dp)], 0)
       if (.not. (surface_resistance_1 >= 0.0_sp)) call refuse(fault, 'u_value', 'surface_resistance_1', &
@@ -1056,8 +944,7 @@ contains
    end subroutine
 
    elemental subroutine check_u_value_at_tilt_and_exposure(u_value, tilt, exposure, fault)
-      real(sp), intent(in) :: u_value
-      real(sp), intent(in) :: tilt
+      real(sp), intent(in) :: u_value, tilt
       integer(i4), intent(in) :: exposure
       type(quorvel_fault), intent(out) :: fault
       if (.not. (u_value >= 0.0_sp)) call refuse(fault, 'u_value_at_tilt_and_exposure', 'u_value', &
@@ -1070,17 +957,13 @@ contains
 
    elemental subroutine check_window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_2, &
       pane_kind_3, emissivity_3, cavity_width_1, cavity_width_2, outer_surface, exposure, tilt, fault)
-      integer(i4), intent(in) :: panes
-      integer(i4), intent(in) :: pane_kind_1
+      integer(i4), intent(in) :: panes, pane_kind_1
       real(sp), intent(in) :: emissivity_1
       integer(i4), intent(in) :: pane_kind_2
       real(sp), intent(in) :: emissivity_2
       integer(i4), intent(in) :: pane_kind_3
-      real(sp), intent(in) :: emissivity_3
-      real(sp), intent(in) :: cavity_width_1
-      real(sp), intent(in) :: cavity_width_2
-      integer(i4), intent(in) :: outer_surface
-      integer(i4), intent(in) :: exposure
+      real(sp), intent(in) :: emissivity_3, cavity_width_1, cavity_width_2
+      integer(i4), intent(in) :: outer_surface, exposure
       real(sp), intent(in) :: tilt
       type(quorvel_fault), intent(out) :: fault
       if (.not. (panes >= 1_i4 .and. panes <= 3_i4)) call refuse(fault, 'window_parameters', 'panes', 'valid 1 to 3', &
@@ -1110,9 +993,7 @@ contains
    end subroutine
 
    elemental subroutine check_glass_direct(normal_transmittance, normal_reflectance, incidence, fault)
-      real(sp), intent(in) :: normal_transmittance
-      real(sp), intent(in) :: normal_reflectance
-      real(sp), intent(in) :: incidence
+      real(sp), intent(in) :: normal_transmittance, normal_reflectance, incidence
       type(quorvel_fault), intent(out) :: fault
       if (.not. (normal_transmittance >= 0.0_sp .and. normal_transmittance <= 0.92_sp)) call refuse(fault, &
          'glass_direct', 'normal_transmittance', 'valid 0 to 0.92', normal_transmittance)
@@ -1123,8 +1004,7 @@ contains
    end subroutine
 
    elemental subroutine check_glass_diffuse(normal_transmittance, normal_reflectance, fault)
-      real(sp), intent(in) :: normal_transmittance
-      real(sp), intent(in) :: normal_reflectance
+      real(sp), intent(in) :: normal_transmittance, normal_reflectance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (normal_transmittance >= 0.0_sp .and. normal_transmittance <= 0.92_sp)) call refuse(fault, &
          'glass_diffuse', 'normal_transmittance', 'valid 0 to 0.92', normal_transmittance)
@@ -1133,8 +1013,7 @@ contains
    end subroutine
 
    pure subroutine check_stacked_layers(layer_transmittances, layer_reflectances, fault)
-      real(sp), intent(in) :: layer_transmittances(:)
-      real(sp), intent(in) :: layer_reflectances(:)
+      real(sp), intent(in) :: layer_transmittances(:), layer_reflectances(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'stacked_layers', 'layer_reflectances', size(layer_reflectances), &
          'layer_transmittances', size(layer_transmittances))
@@ -1146,9 +1025,7 @@ contains
    end subroutine
 
    pure subroutine check_traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, fault)
-      real(sp), intent(in) :: layer_transmittances(:)
-      real(sp), intent(in) :: layer_absorptances(:)
-      real(sp), intent(in) :: layer_reflectances(:)
+      real(sp), intent(in) :: layer_transmittances(:), layer_absorptances(:), layer_reflectances(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'traced_layers', 'layer_absorptances', size(layer_absorptances), &
          'layer_transmittances', size(layer_transmittances))
@@ -1164,8 +1041,7 @@ contains
    end subroutine
 
    elemental subroutine check_roller_blind(blind_transmittance, blind_reflectance, fault)
-      real(sp), intent(in) :: blind_transmittance
-      real(sp), intent(in) :: blind_reflectance
+      real(sp), intent(in) :: blind_transmittance, blind_reflectance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (blind_transmittance >= 0.0_sp .and. blind_transmittance <= 1.0_sp)) call refuse(fault, &
          'roller_blind', 'blind_transmittance', 'valid 0 to 1', blind_transmittance)
@@ -1174,8 +1050,7 @@ contains
    end subroutine
 
    elemental subroutine check_diffuse_roller_blind(blind_transmittance, blind_reflectance, fault)
-      real(sp), intent(in) :: blind_transmittance
-      real(sp), intent(in) :: blind_reflectance
+      real(sp), intent(in) :: blind_transmittance, blind_reflectance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (blind_transmittance >= 0.0_sp .and. blind_transmittance <= 1.0_sp)) call refuse(fault, &
          'diffuse_roller_blind', 'blind_transmittance', 'valid 0 to 1', blind_transmittance)
@@ -1184,8 +1059,7 @@ contains
    end subroutine
 
    elemental subroutine check_refraction_angle(incidence, refractive_index, fault)
-      real(sp), intent(in) :: incidence
-      real(sp), intent(in) :: refractive_index
+      real(sp), intent(in) :: incidence, refractive_index
       type(quorvel_fault), intent(out) :: fault
       if (.not. (incidence >= -1.5708_sp .and. incidence <= 1.5708_sp)) call refuse(fault, 'refraction_angle', &
          'incidence', 'valid -1.5708 to 1.5708 rad', incidence)
@@ -1194,9 +1068,7 @@ contains
    end subroutine
 
    elemental subroutine check_surface_reflectance(incidence, refraction_angle, refractive_index, fault)
-      real(sp), intent(in) :: incidence
-      real(sp), intent(in) :: refraction_angle
-      real(sp), intent(in) :: refractive_index
+      real(sp), intent(in) :: incidence, refraction_angle, refractive_index
       type(quorvel_fault), intent(out) :: fault
       if (.not. (incidence >= -1.5708_sp .and. incidence <= 1.5708_sp)) call refuse(fault, 'surface_reflectance', &
          'incidence', 'valid -1.5708 to 1.5708 rad', incidence)
@@ -1207,8 +1079,7 @@ contains
    end subroutine
 
    elemental subroutine check_single_pass_absorption(refraction_angle, absorption_product, fault)
-      real(sp), intent(in) :: refraction_angle
-      real(sp), intent(in) :: absorption_product
+      real(sp), intent(in) :: refraction_angle, absorption_product
       type(quorvel_fault), intent(out) :: fault
       if (.not. (refraction_angle >= -1.5708_sp .and. refraction_angle <= 1.5708_sp)) call refuse(fault, &
          'single_pass_absorption', 'refraction_angle', 'valid -1.5708 to 1.5708 rad', refraction_angle)
@@ -1217,8 +1088,7 @@ contains
    end subroutine
 
    elemental subroutine check_slab_optics(single_pass_absorptance, face_reflectance, fault)
-      real(sp), intent(in) :: single_pass_absorptance
-      real(sp), intent(in) :: face_reflectance
+      real(sp), intent(in) :: single_pass_absorptance, face_reflectance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (single_pass_absorptance >= 0.0_sp .and. single_pass_absorptance <= 1.0_sp)) call refuse(fault, &
          'slab_optics', 'single_pass_absorptance', 'valid 0 to 1', single_pass_absorptance)
@@ -1227,8 +1097,7 @@ contains
    end subroutine
 
    elemental subroutine check_absorption_product(normal_transmittance, refractive_index, fault)
-      real(sp), intent(in) :: normal_transmittance
-      real(sp), intent(in) :: refractive_index
+      real(sp), intent(in) :: normal_transmittance, refractive_index
       type(quorvel_fault), intent(out) :: fault
       if (.not. (normal_transmittance >= 0.0_sp .and. normal_transmittance <= 0.92_sp)) call refuse(fault, &
          'absorption_product', 'normal_transmittance', 'valid 0 to 0.92', normal_transmittance)
@@ -1237,8 +1106,7 @@ contains
    end subroutine
 
    elemental subroutine check_normal_transmittance(absorption_product, normal_reflectance, fault)
-      real(sp), intent(in) :: absorption_product
-      real(sp), intent(in) :: normal_reflectance
+      real(sp), intent(in) :: absorption_product, normal_reflectance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (absorption_product >= 0.0_sp .and. absorption_product <= 20.0_sp)) call refuse(fault, &
          'normal_transmittance', 'absorption_product', 'valid 0 to 20', absorption_product)
@@ -1248,14 +1116,9 @@ contains
 
    elemental subroutine check_pane_temperatures(inside_temperature, outside_temperature, panes, absorbed_1, &
       absorbed_2, absorbed_3, absorbed_4, absorbed_5, fault)
-      real(sp), intent(in) :: inside_temperature
-      real(sp), intent(in) :: outside_temperature
+      real(sp), intent(in) :: inside_temperature, outside_temperature
       integer(i4), intent(in) :: panes
-      real(sp), intent(in) :: absorbed_1
-      real(sp), intent(in) :: absorbed_2
-      real(sp), intent(in) :: absorbed_3
-      real(sp), intent(in) :: absorbed_4
-      real(sp), intent(in) :: absorbed_5
+      real(sp), intent(in) :: absorbed_1, absorbed_2, absorbed_3, absorbed_4, absorbed_5
       type(quorvel_fault), intent(out) :: fault
       if (.not. (inside_temperature >= -100.0_sp .and. inside_temperature <= 200.0_sp)) call refuse(fault, &
          'pane_temperatures', 'inside_temperature', 'valid -100 to 200 degC', inside_temperature)
@@ -1277,9 +1140,7 @@ contains
 
    elemental subroutine check_unit_direct(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, &
       fault)
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
-      real(sp), intent(in) :: incidence
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient, incidence
       type(quorvel_fault), intent(out) :: fault
       if (.not. (shortwave_shading_coefficient >= 0.0_sp .and. shortwave_shading_coefficient <= 1.05_sp)) call &
          refuse(fault, 'unit_direct', 'shortwave_shading_coefficient', 'valid 0 to 1.05', &
@@ -1291,8 +1152,7 @@ contains
    end subroutine
 
    elemental subroutine check_unit_diffuse(shortwave_shading_coefficient, longwave_shading_coefficient, fault)
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient
       type(quorvel_fault), intent(out) :: fault
       if (.not. (shortwave_shading_coefficient >= 0.0_sp .and. shortwave_shading_coefficient <= 1.05_sp)) call &
          refuse(fault, 'unit_diffuse', 'shortwave_shading_coefficient', 'valid 0 to 1.05', &
@@ -1303,9 +1163,7 @@ contains
 
    pure subroutine check_unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, &
       panes, fault)
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
-      real(sp), intent(in) :: incidence
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient, incidence
       integer(i4), intent(in) :: panes
       type(quorvel_fault), intent(out) :: fault
       if (.not. (shortwave_shading_coefficient >= 0.0_sp .and. shortwave_shading_coefficient <= 1.05_sp)) call &
@@ -1322,8 +1180,7 @@ contains
 
    pure subroutine check_unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coefficient, panes, &
       fault)
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient
       integer(i4), intent(in) :: panes
       type(quorvel_fault), intent(out) :: fault
       if (.not. (shortwave_shading_coefficient >= 0.0_sp .and. shortwave_shading_coefficient <= 1.05_sp)) call &
@@ -1339,9 +1196,7 @@ contains
    pure subroutine check_unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coefficient, &
       incidence, panes, fault)
       integer(i4), intent(in) :: radiation
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
-      real(sp), intent(in) :: incidence
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient, incidence
       integer(i4), intent(in) :: panes
       type(quorvel_fault), intent(out) :: fault
       if (.not. (radiation >= 1_i4 .and. radiation <= 2_i4)) call refuse(fault, 'unit_shares', 'radiation', &
@@ -1358,11 +1213,7 @@ contains
 
    elemental subroutine check_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, &
       fault)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: profile_angle
-      real(sp), intent(in) :: slat_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (slat_spacing >= 0.0_sp)) call refuse(fault, 'slat_direct', 'slat_spacing', 'valid from 0 m', &
          slat_spacing)
@@ -1377,12 +1228,8 @@ contains
 
    elemental subroutine check_two_faced_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, &
       struck_absorptance, opposite_absorptance, fault)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: profile_angle
-      real(sp), intent(in) :: struck_absorptance
-      real(sp), intent(in) :: opposite_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance, &
+         opposite_absorptance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (slat_spacing >= 0.0_sp)) call refuse(fault, 'two_faced_slat_direct', 'slat_spacing', &
          'valid from 0 m', slat_spacing)
@@ -1400,13 +1247,8 @@ contains
 
    elemental subroutine check_open_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, open_share, &
       struck_absorptance, opposite_absorptance, fault)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: profile_angle
-      real(sp), intent(in) :: open_share
-      real(sp), intent(in) :: struck_absorptance
-      real(sp), intent(in) :: opposite_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance, &
+         opposite_absorptance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (slat_spacing >= 0.0_sp)) call refuse(fault, 'open_slat_direct', 'slat_spacing', 'valid from 0 m', &
          slat_spacing)
@@ -1425,10 +1267,7 @@ contains
    end subroutine
 
    elemental subroutine check_slat_diffuse(slat_spacing, slat_width, slat_angle, slat_absorptance, fault)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: slat_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, slat_absorptance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (slat_spacing >= 0.0_sp)) call refuse(fault, 'slat_diffuse', 'slat_spacing', 'valid from 0 m', &
          slat_spacing)
@@ -1441,11 +1280,7 @@ contains
 
    elemental subroutine check_two_faced_slat_diffuse(slat_spacing, slat_width, slat_angle, struck_absorptance, &
       opposite_absorptance, fault)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: struck_absorptance
-      real(sp), intent(in) :: opposite_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (slat_spacing >= 0.0_sp)) call refuse(fault, 'two_faced_slat_diffuse', 'slat_spacing', &
          'valid from 0 m', slat_spacing)
@@ -1461,12 +1296,8 @@ contains
 
    elemental subroutine check_open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, &
       opposite_absorptance, fault)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: open_share
-      real(sp), intent(in) :: struck_absorptance
-      real(sp), intent(in) :: opposite_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, &
+         opposite_absorptance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (slat_spacing >= 0.0_sp)) call refuse(fault, 'open_slat_diffuse', 'slat_spacing', 'valid from 0 m', &
          slat_spacing)
@@ -1498,9 +1329,7 @@ contains
    end subroutine
 
    elemental subroutine check_band_climate(band, month, band_set, percentage, fault)
-      integer(i4), intent(in) :: band
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: band_set
+      integer(i4), intent(in) :: band, month, band_set
       real(sp), intent(in) :: percentage
       type(quorvel_fault), intent(out) :: fault
       if (.not. (band >= 0_i4 .and. band <= 10_i4)) call refuse(fault, 'band_climate', 'band', 'valid 0 to 10', band)
@@ -1513,10 +1342,7 @@ contains
    end subroutine
 
    elemental subroutine check_interpolate_band_rows(base_row, lower_band, upper_band, month, band_weight, fault)
-      integer(i4), intent(in) :: base_row
-      integer(i4), intent(in) :: lower_band
-      integer(i4), intent(in) :: upper_band
-      integer(i4), intent(in) :: month
+      integer(i4), intent(in) :: base_row, lower_band, upper_band, month
       real(sp), intent(in) :: band_weight
       type(quorvel_fault), intent(out) :: fault
       if (.not. (base_row >= 0_i4 .and. base_row <= 174_i4)) call refuse(fault, 'interpolate_band_rows', 'base_row', &
@@ -1545,8 +1371,7 @@ contains
    end subroutine
 
    elemental subroutine check_store_design_day_by_option(month, day_kind, fault)
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_kind
+      integer(i4), intent(in) :: month, day_kind
       type(quorvel_fault), intent(out) :: fault
       if (.not. (month >= 1_i4 .and. month <= 12_i4)) call refuse(fault, 'store_design_day_by_option', 'month', &
          'valid 1 to 12', month)
@@ -1562,8 +1387,7 @@ contains
    end subroutine
 
    elemental subroutine check_design_day_by_option(month, day_kind, fault)
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_kind
+      integer(i4), intent(in) :: month, day_kind
       type(quorvel_fault), intent(out) :: fault
       if (.not. (month >= 1_i4 .and. month <= 12_i4)) call refuse(fault, 'design_day_by_option', 'month', &
          'valid 1 to 12', month)
@@ -1579,8 +1403,7 @@ contains
    end subroutine
 
    elemental subroutine check_second_design_day_by_option(month, day_kind, fault)
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_kind
+      integer(i4), intent(in) :: month, day_kind
       type(quorvel_fault), intent(out) :: fault
       if (.not. (month >= 1_i4 .and. month <= 12_i4)) call refuse(fault, 'second_design_day_by_option', 'month', &
          'valid 1 to 12', month)
@@ -1589,8 +1412,7 @@ contains
    end subroutine
 
    pure subroutine check_station_records(station, month, station_records, fault)
-      integer(i4), intent(in) :: station
-      integer(i4), intent(in) :: month
+      integer(i4), intent(in) :: station, month
       real(sp), intent(in) :: station_records(:, :)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'station_records', 'station_records', size(station_records, 1), 11)
@@ -1598,16 +1420,12 @@ contains
       if (.not. (station >= 1_i4)) call refuse(fault, 'station_records', 'station', 'valid from 1', station)
       if (.not. (month >= 0_i4 .and. month <= 12_i4)) call refuse(fault, 'station_records', 'month', 'valid 0 to 12', &
          month)
-      call expect_all(fault, 'station_records', 'station_records', 'not a number', [.not. &
+      call expect_all(fault, 'station_records', 'station_records', 'valid is any number', [.not. &
          ieee_is_nan(station_records)], [real(station_records, dp)], 11)
    end subroutine
 
    elemental subroutine check_station_climate(file_unit, station, band, month, band_set, percentage, fault)
-      integer(i4), intent(in) :: file_unit
-      integer(i4), intent(in) :: station
-      integer(i4), intent(in) :: band
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: band_set
+      integer(i4), intent(in) :: file_unit, station, band, month, band_set
       real(sp), intent(in) :: percentage
       type(quorvel_fault), intent(out) :: fault
       if (.not. (file_unit >= 31_i4 .and. file_unit <= 31_i4)) call refuse(fault, 'station_climate', 'file_unit', &
@@ -1634,10 +1452,7 @@ contains
    end subroutine
 
    elemental subroutine check_interpolate_station_rows(base_row, lower_band, upper_band, month, band_weight, fault)
-      integer(i4), intent(in) :: base_row
-      integer(i4), intent(in) :: lower_band
-      integer(i4), intent(in) :: upper_band
-      integer(i4), intent(in) :: month
+      integer(i4), intent(in) :: base_row, lower_band, upper_band, month
       real(sp), intent(in) :: band_weight
       type(quorvel_fault), intent(out) :: fault
       if (.not. (base_row >= 2_i4 .and. base_row <= 154_i4)) call refuse(fault, 'interpolate_station_rows', &
@@ -1660,11 +1475,7 @@ contains
 
    elemental subroutine check_daily_temperature(hour, highest_temperature, lowest_temperature, hour_of_highest, &
       hour_of_lowest, fault)
-      real(sp), intent(in) :: hour
-      real(sp), intent(in) :: highest_temperature
-      real(sp), intent(in) :: lowest_temperature
-      real(sp), intent(in) :: hour_of_highest
-      real(sp), intent(in) :: hour_of_lowest
+      real(sp), intent(in) :: hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest
       type(quorvel_fault), intent(out) :: fault
       if (.not. (hour >= 0.0_sp .and. hour <= 24.0_sp)) call refuse(fault, 'daily_temperature', 'hour', &
          'valid 0 to 24 h', hour)
@@ -1679,29 +1490,23 @@ contains
    end subroutine
 
    elemental subroutine check_daily_value(hour, mean, amplitude, first_hour, second_hour, amplitude_factor, fault)
-      real(sp), intent(in) :: hour
-      real(sp), intent(in) :: mean
-      real(sp), intent(in) :: amplitude
-      real(sp), intent(in) :: first_hour
-      real(sp), intent(in) :: second_hour
-      real(sp), intent(in) :: amplitude_factor
+      real(sp), intent(in) :: hour, mean, amplitude, first_hour, second_hour, amplitude_factor
       type(quorvel_fault), intent(out) :: fault
       if (.not. (hour >= 0.0_sp .and. hour <= 24.0_sp)) call refuse(fault, 'daily_value', 'hour', 'valid 0 to 24 h', &
          hour)
-      if (.not. (.not. ieee_is_nan(mean))) call refuse(fault, 'daily_value', 'mean', 'not a number', mean)
-      if (.not. (.not. ieee_is_nan(amplitude))) call refuse(fault, 'daily_value', 'amplitude', 'not a number', &
+      if (.not. (.not. ieee_is_nan(mean))) call refuse(fault, 'daily_value', 'mean', 'valid is any number', mean)
+      if (.not. (.not. ieee_is_nan(amplitude))) call refuse(fault, 'daily_value', 'amplitude', 'valid is any number', &
          amplitude)
       if (.not. (first_hour >= 0.0_sp .and. first_hour <= 24.0_sp)) call refuse(fault, 'daily_value', 'first_hour', &
          'valid 0 to 24 h', first_hour)
       if (.not. (second_hour >= 0.0_sp .and. second_hour <= 24.0_sp)) call refuse(fault, 'daily_value', 'second_hour', &
          'valid 0 to 24 h', second_hour)
       if (.not. (.not. ieee_is_nan(amplitude_factor))) call refuse(fault, 'daily_value', 'amplitude_factor', &
-         'not a number', amplitude_factor)
+         'valid is any number', amplitude_factor)
    end subroutine
 
    elemental subroutine check_design_irradiance(solar_altitude, site_height, sky_kind, fault)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: site_height
+      real(sp), intent(in) :: solar_altitude, site_height
       integer(i4), intent(in) :: sky_kind
       type(quorvel_fault), intent(out) :: fault
       if (.not. (solar_altitude >= 0.0_sp .and. solar_altitude <= 1.5707964_sp)) call refuse(fault, &
@@ -1713,8 +1518,7 @@ contains
    end subroutine
 
    elemental subroutine check_height_factor(site_height, solar_altitude, fault)
-      real(sp), intent(in) :: site_height
-      real(sp), intent(in) :: solar_altitude
+      real(sp), intent(in) :: site_height, solar_altitude
       type(quorvel_fault), intent(out) :: fault
       if (.not. (site_height >= 0.0_sp .and. site_height <= 4000.0_sp)) call refuse(fault, 'height_factor', &
          'site_height', 'valid 0 to 4000 m', site_height)
@@ -1731,8 +1535,7 @@ contains
 
    elemental subroutine check_clearness_index(day, solar_altitude, global_horizontal, fault)
       integer(i4), intent(in) :: day
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: global_horizontal
+      real(sp), intent(in) :: solar_altitude, global_horizontal
       type(quorvel_fault), intent(out) :: fault
       if (.not. (day >= 1_i4 .and. day <= 366_i4)) call refuse(fault, 'clearness_index', 'day', 'valid 1 to 366', day)
       if (.not. (solar_altitude >= 0.0_sp .and. solar_altitude <= 1.5707964_sp)) call refuse(fault, 'clearness_index', &
@@ -1743,14 +1546,8 @@ contains
 
    elemental subroutine check_muneer_slope(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
       diffuse_horizontal, extraterrestrial_horizontal, ground_reflectance, fault)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: beam_horizontal
-      real(sp), intent(in) :: diffuse_horizontal
-      real(sp), intent(in) :: extraterrestrial_horizontal
-      real(sp), intent(in) :: ground_reflectance
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
+         diffuse_horizontal, extraterrestrial_horizontal, ground_reflectance
       type(quorvel_fault), intent(out) :: fault
       if (.not. (solar_altitude >= 0.0_sp .and. solar_altitude <= 1.5707964_sp)) call refuse(fault, 'muneer_slope', &
          'solar_altitude', 'valid 0 to 1.5707964 rad', solar_altitude)
@@ -1773,12 +1570,8 @@ contains
 
    elemental subroutine check_perez_diffuse(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, &
       extraterrestrial_normal, fault)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: beam_horizontal
-      real(sp), intent(in) :: diffuse_horizontal
-      real(sp), intent(in) :: incidence
-      real(sp), intent(in) :: extraterrestrial_normal
+      real(sp), intent(in) :: solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, &
+         extraterrestrial_normal
       type(quorvel_fault), intent(out) :: fault
       if (.not. (solar_altitude >= 0.0_sp .and. solar_altitude <= 1.5707964_sp)) call refuse(fault, 'perez_diffuse', &
          'solar_altitude', 'valid 0 to 1.5707964 rad', solar_altitude)
@@ -1795,8 +1588,7 @@ contains
    end subroutine
 
    elemental subroutine check_site_constants(site_class, month, fault)
-      integer(i4), intent(in) :: site_class
-      integer(i4), intent(in) :: month
+      integer(i4), intent(in) :: site_class, month
       type(quorvel_fault), intent(out) :: fault
       if (.not. (site_class >= 1_i4 .and. site_class <= 6_i4)) call refuse(fault, 'site_constants', 'site_class', &
          'valid 1 to 6', site_class)
@@ -1806,9 +1598,7 @@ contains
 
    elemental subroutine check_diffuse_tilt_factor(day, solar_altitude, beam_horizontal, tilt, sky_model, fault)
       integer(i4), intent(in) :: day
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: beam_horizontal
-      real(sp), intent(in) :: tilt
+      real(sp), intent(in) :: solar_altitude, beam_horizontal, tilt
       integer(i4), intent(in) :: sky_model
       type(quorvel_fault), intent(out) :: fault
       if (.not. (day >= 1_i4 .and. day <= 366_i4)) call refuse(fault, 'diffuse_tilt_factor', 'day', 'valid 1 to 366', &
@@ -1826,12 +1616,8 @@ contains
    elemental subroutine check_slope_diffuse(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, &
       beam_horizontal, diffuse_horizontal, sky_model, fault)
       integer(i4), intent(in) :: day
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: beam_horizontal
-      real(sp), intent(in) :: diffuse_horizontal
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
+         diffuse_horizontal
       integer(i4), intent(in) :: sky_model
       type(quorvel_fault), intent(out) :: fault
       if (.not. (day >= 1_i4 .and. day <= 366_i4)) call refuse(fault, 'slope_diffuse', 'day', 'valid 1 to 366', day)
@@ -1853,11 +1639,7 @@ contains
 
    elemental subroutine check_sol_air_temperature(base_temperature, surface_coefficient, absorptance, irradiance, &
       long_wave_loss, fault)
-      real(sp), intent(in) :: base_temperature
-      real(sp), intent(in) :: surface_coefficient
-      real(sp), intent(in) :: absorptance
-      real(sp), intent(in) :: irradiance
-      real(sp), intent(in) :: long_wave_loss
+      real(sp), intent(in) :: base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss
       type(quorvel_fault), intent(out) :: fault
       if (.not. (base_temperature >= -100.0_sp .and. base_temperature <= 200.0_sp)) call refuse(fault, &
          'sol_air_temperature', 'base_temperature', 'valid -100 to 200 degC', base_temperature)
@@ -1872,8 +1654,7 @@ contains
    end subroutine
 
    elemental subroutine check_long_wave_loss(tilt, cloud_cover, fault)
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: cloud_cover
+      real(sp), intent(in) :: tilt, cloud_cover
       type(quorvel_fault), intent(out) :: fault
       if (.not. (tilt >= 0.0_sp .and. tilt <= 3.1416_sp)) call refuse(fault, 'long_wave_loss', 'tilt', &
          'valid 0 to 3.1416 rad', tilt)
@@ -1884,11 +1665,10 @@ contains
    elemental subroutine check_solar_time_correction(clock_offset, day, longitude, reference_longitude, fault)
       real(sp), intent(in) :: clock_offset
       integer(i4), intent(in) :: day
-      real(sp), intent(in) :: longitude
-      real(sp), intent(in) :: reference_longitude
+      real(sp), intent(in) :: longitude, reference_longitude
       type(quorvel_fault), intent(out) :: fault
       if (.not. (.not. ieee_is_nan(clock_offset))) call refuse(fault, 'solar_time_correction', 'clock_offset', &
-         'not a number', clock_offset)
+         'valid is any number', clock_offset)
       if (.not. (day >= 1_i4 .and. day <= 366_i4)) call refuse(fault, 'solar_time_correction', 'day', &
          'valid 1 to 366', day)
       if (.not. (longitude >= -3.1416_sp .and. longitude <= 3.1416_sp)) call refuse(fault, 'solar_time_correction', &
@@ -1899,14 +1679,8 @@ contains
 
    elemental subroutine check_almanac_position(time_kind, year, month, day_of_month, clock_time, latitude, longitude, &
       zone_meridian, fault)
-      integer(i4), intent(in) :: time_kind
-      integer(i4), intent(in) :: year
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_of_month
-      real(sp), intent(in) :: clock_time
-      real(sp), intent(in) :: latitude
-      real(sp), intent(in) :: longitude
-      real(sp), intent(in) :: zone_meridian
+      integer(i4), intent(in) :: time_kind, year, month, day_of_month
+      real(sp), intent(in) :: clock_time, latitude, longitude, zone_meridian
       type(quorvel_fault), intent(out) :: fault
       if (.not. (time_kind >= 1_i4 .and. time_kind <= 3_i4)) call refuse(fault, 'almanac_position', 'time_kind', &
          'valid 1 (solar), 2 (zone), 3 (dated_solar)', time_kind)
@@ -1927,9 +1701,7 @@ contains
    end subroutine
 
    elemental subroutine check_almanac_sun_hours(year, month, day_of_month, latitude, fault)
-      integer(i4), intent(in) :: year
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_of_month
+      integer(i4), intent(in) :: year, month, day_of_month
       real(sp), intent(in) :: latitude
       type(quorvel_fault), intent(out) :: fault
       if (.not. (year >= 1976_i4 .and. year <= 2099_i4)) call refuse(fault, 'almanac_sun_hours', 'year', &
@@ -1955,10 +1727,7 @@ contains
    end subroutine
 
    elemental subroutine check_surface_angles(solar_altitude, solar_azimuth, surface_azimuth, tilt, fault)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt
       type(quorvel_fault), intent(out) :: fault
       if (.not. (solar_altitude >= -1.5707964_sp .and. solar_altitude <= 1.5707964_sp)) call refuse(fault, &
          'surface_angles', 'solar_altitude', 'valid -1.5707964 to 1.5707964 rad', solar_altitude)
@@ -1972,15 +1741,8 @@ contains
 
    elemental subroutine check_surface_irradiance(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, &
       diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, fault)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: direct_normal
-      real(sp), intent(in) :: diffuse_horizontal
-      real(sp), intent(in) :: ground_reflectance
-      real(sp), intent(in) :: beam_factor
-      real(sp), intent(in) :: diffuse_factor
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, &
+         ground_reflectance, beam_factor, diffuse_factor
       type(quorvel_fault), intent(out) :: fault
       if (.not. (solar_altitude >= 0.0_sp .and. solar_altitude <= 1.5707964_sp)) call refuse(fault, &
          'surface_irradiance', 'solar_altitude', 'valid 0 to 1.5707964 rad', solar_altitude)
@@ -2004,15 +1766,8 @@ contains
 
    elemental subroutine check_surface_irradiance_and_incidence(solar_altitude, solar_azimuth, surface_azimuth, tilt, &
       direct_normal, diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, fault)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: direct_normal
-      real(sp), intent(in) :: diffuse_horizontal
-      real(sp), intent(in) :: ground_reflectance
-      real(sp), intent(in) :: beam_factor
-      real(sp), intent(in) :: diffuse_factor
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, &
+         ground_reflectance, beam_factor, diffuse_factor
       type(quorvel_fault), intent(out) :: fault
       if (.not. (solar_altitude >= 0.0_sp .and. solar_altitude <= 1.5707964_sp)) call refuse(fault, &
          'surface_irradiance_and_incidence', 'solar_altitude', 'valid 0 to 1.5707964 rad', solar_altitude)
@@ -2035,52 +1790,46 @@ contains
    end subroutine
 
    pure subroutine check_overlap(x_1, y_1, x_2, y_2, fault)
-      real(sp), intent(in) :: x_1(:)
-      real(sp), intent(in) :: y_1(:)
-      real(sp), intent(in) :: x_2(:)
-      real(sp), intent(in) :: y_2(:)
+      real(sp), intent(in) :: x_1(:), y_1(:), x_2(:), y_2(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'overlap', 'y_1', size(y_1), 'x_1', size(x_1))
       call expect_count(fault, 'overlap', 'x_1', size(x_1), 3, 2147483647)
       call expect_as_many(fault, 'overlap', 'y_2', size(y_2), 'x_2', size(x_2))
       call expect_count(fault, 'overlap', 'x_2', size(x_2), 3, 2147483647)
-      call expect_all(fault, 'overlap', 'x_1', 'not a number', [.not. ieee_is_nan(x_1)], [real(x_1, dp)], 0)
-      call expect_all(fault, 'overlap', 'y_1', 'not a number', [.not. ieee_is_nan(y_1)], [real(y_1, dp)], 0)
-      call expect_all(fault, 'overlap', 'x_2', 'not a number', [.not. ieee_is_nan(x_2)], [real(x_2, dp)], 0)
-      call expect_all(fault, 'overlap', 'y_2', 'not a number', [.not. ieee_is_nan(y_2)], [real(y_2, dp)], 0)
+      call expect_all(fault, 'overlap', 'x_1', 'valid is any number', [.not. ieee_is_nan(x_1)], [real(x_1, dp)], 0)
+      call expect_all(fault, 'overlap', 'y_1', 'valid is any number', [.not. ieee_is_nan(y_1)], [real(y_1, dp)], 0)
+      call expect_all(fault, 'overlap', 'x_2', 'valid is any number', [.not. ieee_is_nan(x_2)], [real(x_2, dp)], 0)
+      call expect_all(fault, 'overlap', 'y_2', 'valid is any number', [.not. ieee_is_nan(y_2)], [real(y_2, dp)], 0)
    end subroutine
 
    pure subroutine check_overlap_alias(x_1, y_1, x_2, y_2, fault)
-      real(sp), intent(in) :: x_1(:)
-      real(sp), intent(in) :: y_1(:)
-      real(sp), intent(in) :: x_2(:)
-      real(sp), intent(in) :: y_2(:)
+      real(sp), intent(in) :: x_1(:), y_1(:), x_2(:), y_2(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'overlap_alias', 'y_1', size(y_1), 'x_1', size(x_1))
       call expect_count(fault, 'overlap_alias', 'x_1', size(x_1), 3, 2147483647)
       call expect_as_many(fault, 'overlap_alias', 'y_2', size(y_2), 'x_2', size(x_2))
       call expect_count(fault, 'overlap_alias', 'x_2', size(x_2), 3, 2147483647)
-      call expect_all(fault, 'overlap_alias', 'x_1', 'not a number', [.not. ieee_is_nan(x_1)], [real(x_1, dp)], 0)
-      call expect_all(fault, 'overlap_alias', 'y_1', 'not a number', [.not. ieee_is_nan(y_1)], [real(y_1, dp)], 0)
-      call expect_all(fault, 'overlap_alias', 'x_2', 'not a number', [.not. ieee_is_nan(x_2)], [real(x_2, dp)], 0)
-      call expect_all(fault, 'overlap_alias', 'y_2', 'not a number', [.not. ieee_is_nan(y_2)], [real(y_2, dp)], 0)
+      call expect_all(fault, 'overlap_alias', 'x_1', 'valid is any number', [.not. ieee_is_nan(x_1)], [real(x_1, dp)], &
+         0)
+      call expect_all(fault, 'overlap_alias', 'y_1', 'valid is any number', [.not. ieee_is_nan(y_1)], [real(y_1, dp)], &
+         0)
+      call expect_all(fault, 'overlap_alias', 'x_2', 'valid is any number', [.not. ieee_is_nan(x_2)], [real(x_2, dp)], &
+         0)
+      call expect_all(fault, 'overlap_alias', 'y_2', 'valid is any number', [.not. ieee_is_nan(y_2)], [real(y_2, dp)], &
+         0)
    end subroutine
 
    pure subroutine check_collinearity(x, y, fault)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
+      real(sp), intent(in) :: x(:), y(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'collinearity', 'y', size(y), 'x', size(x))
       call expect_count(fault, 'collinearity', 'x', size(x), 1, 2147483647)
-      call expect_all(fault, 'collinearity', 'x', 'not a number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
-      call expect_all(fault, 'collinearity', 'y', 'not a number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
+      call expect_all(fault, 'collinearity', 'x', 'valid is any number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
+      call expect_all(fault, 'collinearity', 'y', 'valid is any number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
    end subroutine
 
    pure subroutine check_count_enclosed(x, y, point_x, point_y, enclosed, fault)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
-      real(sp), intent(in) :: point_x(:)
-      real(sp), intent(in) :: point_y(:)
+      real(sp), intent(in) :: x(:), y(:), point_x(:), point_y(:)
       integer(i4), intent(in) :: enclosed(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'count_enclosed', 'y', size(y), 'x', size(x))
@@ -2088,71 +1837,68 @@ contains
       call expect_as_many(fault, 'count_enclosed', 'point_y', size(point_y), 'point_x', size(point_x))
       call expect_as_many(fault, 'count_enclosed', 'enclosed', size(enclosed), 'point_x', size(point_x))
       call expect_count(fault, 'count_enclosed', 'point_x', size(point_x), 1, 2147483647)
-      call expect_all(fault, 'count_enclosed', 'x', 'not a number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
-      call expect_all(fault, 'count_enclosed', 'y', 'not a number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
-      call expect_all(fault, 'count_enclosed', 'point_x', 'not a number', [.not. ieee_is_nan(point_x)], [real(point_x, &
-         dp)], 0)
-      call expect_all(fault, 'count_enclosed', 'point_y', 'not a number', [.not. ieee_is_nan(point_y)], [real(point_y, &
-         dp)], 0)
+      call expect_all(fault, 'count_enclosed', 'x', 'valid is any number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
+      call expect_all(fault, 'count_enclosed', 'y', 'valid is any number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
+      call expect_all(fault, 'count_enclosed', 'point_x', 'valid is any number', [.not. ieee_is_nan(point_x)], &
+         [real(point_x, dp)], 0)
+      call expect_all(fault, 'count_enclosed', 'point_y', 'valid is any number', [.not. ieee_is_nan(point_y)], &
+         [real(point_y, dp)], 0)
       call expect_all(fault, 'count_enclosed', 'enclosed', 'valid 0 (outside), 1 (inside)', [enclosed >= 0_i4 .and. &
          enclosed <= 1_i4], [real(enclosed, dp)], 0)
    end subroutine
 
    pure subroutine check_boundary_crossing(segment_start, segment_end, x, y, fault)
-      real(sp), intent(in) :: segment_start(:)
-      real(sp), intent(in) :: segment_end(:)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
+      real(sp), intent(in) :: segment_start(:), segment_end(:), x(:), y(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'boundary_crossing', 'segment_start', size(segment_start, 1), 2)
       call expect_extent(fault, 'boundary_crossing', 'segment_end', size(segment_end, 1), 2)
       call expect_as_many(fault, 'boundary_crossing', 'y', size(y), 'x', size(x))
       call expect_count(fault, 'boundary_crossing', 'x', size(x), 3, 2147483647)
-      call expect_all(fault, 'boundary_crossing', 'segment_start', 'not a number', [.not. ieee_is_nan(segment_start)], &
-         [real(segment_start, dp)], 0)
-      call expect_all(fault, 'boundary_crossing', 'segment_end', 'not a number', [.not. ieee_is_nan(segment_end)], &
-         [real(segment_end, dp)], 0)
-      call expect_all(fault, 'boundary_crossing', 'x', 'not a number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
-      call expect_all(fault, 'boundary_crossing', 'y', 'not a number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
+      call expect_all(fault, 'boundary_crossing', 'segment_start', 'valid is any number', [.not. &
+         ieee_is_nan(segment_start)], [real(segment_start, dp)], 0)
+      call expect_all(fault, 'boundary_crossing', 'segment_end', 'valid is any number', [.not. &
+         ieee_is_nan(segment_end)], [real(segment_end, dp)], 0)
+      call expect_all(fault, 'boundary_crossing', 'x', 'valid is any number', [.not. ieee_is_nan(x)], [real(x, dp)], &
+         0)
+      call expect_all(fault, 'boundary_crossing', 'y', 'valid is any number', [.not. ieee_is_nan(y)], [real(y, dp)], &
+         0)
    end subroutine
 
    pure subroutine check_inside(point, polygon, fault)
-      real(sp), intent(in) :: point(:)
-      real(sp), intent(in) :: polygon(:, :)
+      real(sp), intent(in) :: point(:), polygon(:, :)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'inside', 'point', size(point, 1), 3)
       call expect_extent(fault, 'inside', 'polygon', size(polygon, 1), 3)
       call expect_count(fault, 'inside', 'polygon', size(polygon)/3, 4, 2147483647)
-      call expect_all(fault, 'inside', 'point', 'not a number', [.not. ieee_is_nan(point)], [real(point, dp)], 0)
-      call expect_all(fault, 'inside', 'polygon', 'not a number', [.not. ieee_is_nan(polygon)], [real(polygon, dp)], &
-         3)
+      call expect_all(fault, 'inside', 'point', 'valid is any number', [.not. ieee_is_nan(point)], [real(point, dp)], &
+         0)
+      call expect_all(fault, 'inside', 'polygon', 'valid is any number', [.not. ieee_is_nan(polygon)], [real(polygon, &
+         dp)], 3)
    end subroutine
 
    pure subroutine check_parallel_planes(triangle_1, triangle_2, fault)
-      real(dp), intent(in) :: triangle_1(:, :)
-      real(dp), intent(in) :: triangle_2(:, :)
+      real(dp), intent(in) :: triangle_1(:, :), triangle_2(:, :)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'parallel_planes', 'triangle_1', size(triangle_1, 1), 3)
       call expect_extent(fault, 'parallel_planes', 'triangle_1', size(triangle_1, 2), 3)
       call expect_extent(fault, 'parallel_planes', 'triangle_2', size(triangle_2, 1), 3)
       call expect_extent(fault, 'parallel_planes', 'triangle_2', size(triangle_2, 2), 3)
-      call expect_all(fault, 'parallel_planes', 'triangle_1', 'not a number', [.not. ieee_is_nan(triangle_1)], &
+      call expect_all(fault, 'parallel_planes', 'triangle_1', 'valid is any number', [.not. ieee_is_nan(triangle_1)], &
          [real(triangle_1, dp)], 3)
-      call expect_all(fault, 'parallel_planes', 'triangle_2', 'not a number', [.not. ieee_is_nan(triangle_2)], &
+      call expect_all(fault, 'parallel_planes', 'triangle_2', 'valid is any number', [.not. ieee_is_nan(triangle_2)], &
          [real(triangle_2, dp)], 3)
    end subroutine
 
    pure subroutine check_parallel_sides(triangle_1, triangle_2, fault)
-      real(dp), intent(in) :: triangle_1(:, :)
-      real(dp), intent(in) :: triangle_2(:, :)
+      real(dp), intent(in) :: triangle_1(:, :), triangle_2(:, :)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'parallel_sides', 'triangle_1', size(triangle_1, 1), 3)
       call expect_extent(fault, 'parallel_sides', 'triangle_1', size(triangle_1, 2), 3)
       call expect_extent(fault, 'parallel_sides', 'triangle_2', size(triangle_2, 1), 3)
       call expect_extent(fault, 'parallel_sides', 'triangle_2', size(triangle_2, 2), 3)
-      call expect_all(fault, 'parallel_sides', 'triangle_1', 'not a number', [.not. ieee_is_nan(triangle_1)], &
+      call expect_all(fault, 'parallel_sides', 'triangle_1', 'valid is any number', [.not. ieee_is_nan(triangle_1)], &
          [real(triangle_1, dp)], 3)
-      call expect_all(fault, 'parallel_sides', 'triangle_2', 'not a number', [.not. ieee_is_nan(triangle_2)], &
+      call expect_all(fault, 'parallel_sides', 'triangle_2', 'valid is any number', [.not. ieee_is_nan(triangle_2)], &
          [real(triangle_2, dp)], 3)
    end subroutine
 
@@ -2161,151 +1907,135 @@ contains
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'rectangular', 'quadrilateral', size(quadrilateral, 1), 3)
       call expect_extent(fault, 'rectangular', 'quadrilateral', size(quadrilateral, 2), 4)
-      call expect_all(fault, 'rectangular', 'quadrilateral', 'not a number', [.not. ieee_is_nan(quadrilateral)], &
-         [real(quadrilateral, dp)], 3)
+      call expect_all(fault, 'rectangular', 'quadrilateral', 'valid is any number', [.not. &
+         ieee_is_nan(quadrilateral)], [real(quadrilateral, dp)], 3)
    end subroutine
 
    pure subroutine check_facing(triangle, azimuth, fault)
-      real(dp), intent(in) :: triangle(:, :)
-      real(dp), intent(in) :: azimuth
+      real(dp), intent(in) :: triangle(:, :), azimuth
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'facing', 'triangle', size(triangle, 1), 3)
       call expect_extent(fault, 'facing', 'triangle', size(triangle, 2), 3)
-      call expect_all(fault, 'facing', 'triangle', 'not a number', [.not. ieee_is_nan(triangle)], [real(triangle, &
-         dp)], 3)
+      call expect_all(fault, 'facing', 'triangle', 'valid is any number', [.not. ieee_is_nan(triangle)], &
+         [real(triangle, dp)], 3)
       if (.not. (azimuth >= 0.0_dp .and. azimuth <= 6.2832_dp)) call refuse(fault, 'facing', 'azimuth', &
          'valid 0 to 6.2832 deg', azimuth)
    end subroutine
 
    pure subroutine check_local_coordinates(quadrilateral_1, quadrilateral_2, fault)
-      real(dp), intent(in) :: quadrilateral_1(:, :)
-      real(dp), intent(in) :: quadrilateral_2(:, :)
+      real(dp), intent(in) :: quadrilateral_1(:, :), quadrilateral_2(:, :)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'local_coordinates', 'quadrilateral_1', size(quadrilateral_1, 1), 3)
       call expect_extent(fault, 'local_coordinates', 'quadrilateral_1', size(quadrilateral_1, 2), 4)
       call expect_extent(fault, 'local_coordinates', 'quadrilateral_2', size(quadrilateral_2, 1), 3)
       call expect_extent(fault, 'local_coordinates', 'quadrilateral_2', size(quadrilateral_2, 2), 4)
-      call expect_all(fault, 'local_coordinates', 'quadrilateral_1', 'not a number', [.not. &
+      call expect_all(fault, 'local_coordinates', 'quadrilateral_1', 'valid is any number', [.not. &
          ieee_is_nan(quadrilateral_1)], [real(quadrilateral_1, dp)], 3)
-      call expect_all(fault, 'local_coordinates', 'quadrilateral_2', 'not a number', [.not. &
+      call expect_all(fault, 'local_coordinates', 'quadrilateral_2', 'valid is any number', [.not. &
          ieee_is_nan(quadrilateral_2)], [real(quadrilateral_2, dp)], 3)
    end subroutine
 
    pure subroutine check_to_local(corners, x_axis, y_axis, z_axis, fault)
-      real(dp), intent(in) :: corners(:, :)
-      real(dp), intent(in) :: x_axis(:)
-      real(dp), intent(in) :: y_axis(:)
-      real(dp), intent(in) :: z_axis(:)
+      real(dp), intent(in) :: corners(:, :), x_axis(:), y_axis(:), z_axis(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'to_local', 'corners', size(corners, 1), 3)
       call expect_extent(fault, 'to_local', 'corners', size(corners, 2), 4)
       call expect_extent(fault, 'to_local', 'x_axis', size(x_axis, 1), 3)
       call expect_extent(fault, 'to_local', 'y_axis', size(y_axis, 1), 3)
       call expect_extent(fault, 'to_local', 'z_axis', size(z_axis, 1), 3)
-      call expect_all(fault, 'to_local', 'corners', 'not a number', [.not. ieee_is_nan(corners)], [real(corners, dp)], &
-         3)
-      call expect_all(fault, 'to_local', 'x_axis', 'not a number', [.not. ieee_is_nan(x_axis)], [real(x_axis, dp)], 0)
-      call expect_all(fault, 'to_local', 'y_axis', 'not a number', [.not. ieee_is_nan(y_axis)], [real(y_axis, dp)], 0)
-      call expect_all(fault, 'to_local', 'z_axis', 'not a number', [.not. ieee_is_nan(z_axis)], [real(z_axis, dp)], 0)
+      call expect_all(fault, 'to_local', 'corners', 'valid is any number', [.not. ieee_is_nan(corners)], &
+         [real(corners, dp)], 3)
+      call expect_all(fault, 'to_local', 'x_axis', 'valid is any number', [.not. ieee_is_nan(x_axis)], [real(x_axis, &
+         dp)], 0)
+      call expect_all(fault, 'to_local', 'y_axis', 'valid is any number', [.not. ieee_is_nan(y_axis)], [real(y_axis, &
+         dp)], 0)
+      call expect_all(fault, 'to_local', 'z_axis', 'valid is any number', [.not. ieee_is_nan(z_axis)], [real(z_axis, &
+         dp)], 0)
    end subroutine
 
    pure subroutine check_meeting_point(line_1_start, line_1_end, line_2_start, line_2_end, fault)
-      real(sp), intent(in) :: line_1_start(:)
-      real(sp), intent(in) :: line_1_end(:)
-      real(sp), intent(in) :: line_2_start(:)
-      real(sp), intent(in) :: line_2_end(:)
+      real(sp), intent(in) :: line_1_start(:), line_1_end(:), line_2_start(:), line_2_end(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'meeting_point', 'line_1_start', size(line_1_start, 1), 2)
       call expect_extent(fault, 'meeting_point', 'line_1_end', size(line_1_end, 1), 2)
       call expect_extent(fault, 'meeting_point', 'line_2_start', size(line_2_start, 1), 2)
       call expect_extent(fault, 'meeting_point', 'line_2_end', size(line_2_end, 1), 2)
-      call expect_all(fault, 'meeting_point', 'line_1_start', 'not a number', [.not. ieee_is_nan(line_1_start)], &
-         [real(line_1_start, dp)], 0)
-      call expect_all(fault, 'meeting_point', 'line_1_end', 'not a number', [.not. ieee_is_nan(line_1_end)], &
+      call expect_all(fault, 'meeting_point', 'line_1_start', 'valid is any number', [.not. &
+         ieee_is_nan(line_1_start)], [real(line_1_start, dp)], 0)
+      call expect_all(fault, 'meeting_point', 'line_1_end', 'valid is any number', [.not. ieee_is_nan(line_1_end)], &
          [real(line_1_end, dp)], 0)
-      call expect_all(fault, 'meeting_point', 'line_2_start', 'not a number', [.not. ieee_is_nan(line_2_start)], &
-         [real(line_2_start, dp)], 0)
-      call expect_all(fault, 'meeting_point', 'line_2_end', 'not a number', [.not. ieee_is_nan(line_2_end)], &
+      call expect_all(fault, 'meeting_point', 'line_2_start', 'valid is any number', [.not. &
+         ieee_is_nan(line_2_start)], [real(line_2_start, dp)], 0)
+      call expect_all(fault, 'meeting_point', 'line_2_end', 'valid is any number', [.not. ieee_is_nan(line_2_end)], &
          [real(line_2_end, dp)], 0)
    end subroutine
 
    pure subroutine check_crossing_point(segment_1_start, segment_1_end, segment_2_start, segment_2_end, fault)
-      real(sp), intent(in) :: segment_1_start(:)
-      real(sp), intent(in) :: segment_1_end(:)
-      real(sp), intent(in) :: segment_2_start(:)
-      real(sp), intent(in) :: segment_2_end(:)
+      real(sp), intent(in) :: segment_1_start(:), segment_1_end(:), segment_2_start(:), segment_2_end(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'crossing_point', 'segment_1_start', size(segment_1_start, 1), 2)
       call expect_extent(fault, 'crossing_point', 'segment_1_end', size(segment_1_end, 1), 2)
       call expect_extent(fault, 'crossing_point', 'segment_2_start', size(segment_2_start, 1), 2)
       call expect_extent(fault, 'crossing_point', 'segment_2_end', size(segment_2_end, 1), 2)
-      call expect_all(fault, 'crossing_point', 'segment_1_start', 'not a number', [.not. &
+      call expect_all(fault, 'crossing_point', 'segment_1_start', 'valid is any number', [.not. &
          ieee_is_nan(segment_1_start)], [real(segment_1_start, dp)], 0)
-      call expect_all(fault, 'crossing_point', 'segment_1_end', 'not a number', [.not. ieee_is_nan(segment_1_end)], &
-         [real(segment_1_end, dp)], 0)
-      call expect_all(fault, 'crossing_point', 'segment_2_start', 'not a number', [.not. &
+      call expect_all(fault, 'crossing_point', 'segment_1_end', 'valid is any number', [.not. &
+         ieee_is_nan(segment_1_end)], [real(segment_1_end, dp)], 0)
+      call expect_all(fault, 'crossing_point', 'segment_2_start', 'valid is any number', [.not. &
          ieee_is_nan(segment_2_start)], [real(segment_2_start, dp)], 0)
-      call expect_all(fault, 'crossing_point', 'segment_2_end', 'not a number', [.not. ieee_is_nan(segment_2_end)], &
-         [real(segment_2_end, dp)], 0)
+      call expect_all(fault, 'crossing_point', 'segment_2_end', 'valid is any number', [.not. &
+         ieee_is_nan(segment_2_end)], [real(segment_2_end, dp)], 0)
    end subroutine
 
    pure subroutine check_in_span(first_end, second_end, point, fault)
-      real(sp), intent(in) :: first_end(:)
-      real(sp), intent(in) :: second_end(:)
-      real(sp), intent(in) :: point(:)
+      real(sp), intent(in) :: first_end(:), second_end(:), point(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'in_span', 'first_end', size(first_end, 1), 3)
       call expect_extent(fault, 'in_span', 'second_end', size(second_end, 1), 3)
       call expect_extent(fault, 'in_span', 'point', size(point, 1), 3)
-      call expect_all(fault, 'in_span', 'first_end', 'not a number', [.not. ieee_is_nan(first_end)], [real(first_end, &
-         dp)], 0)
-      call expect_all(fault, 'in_span', 'second_end', 'not a number', [.not. ieee_is_nan(second_end)], &
+      call expect_all(fault, 'in_span', 'first_end', 'valid is any number', [.not. ieee_is_nan(first_end)], &
+         [real(first_end, dp)], 0)
+      call expect_all(fault, 'in_span', 'second_end', 'valid is any number', [.not. ieee_is_nan(second_end)], &
          [real(second_end, dp)], 0)
-      call expect_all(fault, 'in_span', 'point', 'not a number', [.not. ieee_is_nan(point)], [real(point, dp)], 0)
+      call expect_all(fault, 'in_span', 'point', 'valid is any number', [.not. ieee_is_nan(point)], [real(point, dp)], &
+         0)
    end subroutine
 
    pure subroutine check_ahead_and_nearer(first_end, second_end, point, fault)
-      real(sp), intent(in) :: first_end(:)
-      real(sp), intent(in) :: second_end(:)
-      real(sp), intent(in) :: point(:)
+      real(sp), intent(in) :: first_end(:), second_end(:), point(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'ahead_and_nearer', 'first_end', size(first_end, 1), 3)
       call expect_extent(fault, 'ahead_and_nearer', 'second_end', size(second_end, 1), 3)
       call expect_extent(fault, 'ahead_and_nearer', 'point', size(point, 1), 3)
-      call expect_all(fault, 'ahead_and_nearer', 'first_end', 'not a number', [.not. ieee_is_nan(first_end)], &
+      call expect_all(fault, 'ahead_and_nearer', 'first_end', 'valid is any number', [.not. ieee_is_nan(first_end)], &
          [real(first_end, dp)], 0)
-      call expect_all(fault, 'ahead_and_nearer', 'second_end', 'not a number', [.not. ieee_is_nan(second_end)], &
+      call expect_all(fault, 'ahead_and_nearer', 'second_end', 'valid is any number', [.not. ieee_is_nan(second_end)], &
          [real(second_end, dp)], 0)
-      call expect_all(fault, 'ahead_and_nearer', 'point', 'not a number', [.not. ieee_is_nan(point)], [real(point, &
-         dp)], 0)
+      call expect_all(fault, 'ahead_and_nearer', 'point', 'valid is any number', [.not. ieee_is_nan(point)], &
+         [real(point, dp)], 0)
    end subroutine
 
    elemental subroutine check_coincide(x_1, y_1, x_2, y_2, fault)
-      real(sp), intent(in) :: x_1
-      real(sp), intent(in) :: y_1
-      real(sp), intent(in) :: x_2
-      real(sp), intent(in) :: y_2
+      real(sp), intent(in) :: x_1, y_1, x_2, y_2
       type(quorvel_fault), intent(out) :: fault
-      if (.not. (.not. ieee_is_nan(x_1))) call refuse(fault, 'coincide', 'x_1', 'not a number', x_1)
-      if (.not. (.not. ieee_is_nan(y_1))) call refuse(fault, 'coincide', 'y_1', 'not a number', y_1)
-      if (.not. (.not. ieee_is_nan(x_2))) call refuse(fault, 'coincide', 'x_2', 'not a number', x_2)
-      if (.not. (.not. ieee_is_nan(y_2))) call refuse(fault, 'coincide', 'y_2', 'not a number', y_2)
+      if (.not. (.not. ieee_is_nan(x_1))) call refuse(fault, 'coincide', 'x_1', 'valid is any number', x_1)
+      if (.not. (.not. ieee_is_nan(y_1))) call refuse(fault, 'coincide', 'y_1', 'valid is any number', y_1)
+      if (.not. (.not. ieee_is_nan(x_2))) call refuse(fault, 'coincide', 'x_2', 'valid is any number', x_2)
+      if (.not. (.not. ieee_is_nan(y_2))) call refuse(fault, 'coincide', 'y_2', 'valid is any number', y_2)
    end subroutine
 
    pure subroutine check_side_of_line(line_start, line_end, point, fault)
-      real(sp), intent(in) :: line_start(:)
-      real(sp), intent(in) :: line_end(:)
-      real(sp), intent(in) :: point(:)
+      real(sp), intent(in) :: line_start(:), line_end(:), point(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'side_of_line', 'line_start', size(line_start, 1), 2)
       call expect_extent(fault, 'side_of_line', 'line_end', size(line_end, 1), 2)
       call expect_extent(fault, 'side_of_line', 'point', size(point, 1), 2)
-      call expect_all(fault, 'side_of_line', 'line_start', 'not a number', [.not. ieee_is_nan(line_start)], &
+      call expect_all(fault, 'side_of_line', 'line_start', 'valid is any number', [.not. ieee_is_nan(line_start)], &
          [real(line_start, dp)], 0)
-      call expect_all(fault, 'side_of_line', 'line_end', 'not a number', [.not. ieee_is_nan(line_end)], &
+      call expect_all(fault, 'side_of_line', 'line_end', 'valid is any number', [.not. ieee_is_nan(line_end)], &
          [real(line_end, dp)], 0)
-      call expect_all(fault, 'side_of_line', 'point', 'not a number', [.not. ieee_is_nan(point)], [real(point, dp)], &
-         0)
+      call expect_all(fault, 'side_of_line', 'point', 'valid is any number', [.not. ieee_is_nan(point)], [real(point, &
+         dp)], 0)
    end subroutine
 
    elemental subroutine check_back_azimuth(angle, fault)
@@ -2316,8 +2046,7 @@ contains
    end subroutine
 
    pure subroutine check_direction_to(solar_altitude, solar_azimuth, fault)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
+      real(sp), intent(in) :: solar_altitude, solar_azimuth
       type(quorvel_fault), intent(out) :: fault
       if (.not. (solar_altitude >= -1.5708_sp .and. solar_altitude <= 1.5708_sp)) call refuse(fault, 'direction_to', &
          'solar_altitude', 'valid -1.5708 to 1.5708 rad', solar_altitude)
@@ -2326,8 +2055,7 @@ contains
    end subroutine
 
    pure subroutine check_surface_axes(surface_azimuth, tilt, fault)
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
+      real(sp), intent(in) :: surface_azimuth, tilt
       type(quorvel_fault), intent(out) :: fault
       if (.not. (surface_azimuth >= 0.0_sp .and. surface_azimuth <= 6.2832_sp)) call refuse(fault, 'surface_axes', &
          'surface_azimuth', 'valid 0 to 6.2832 rad', surface_azimuth)
@@ -2336,62 +2064,56 @@ contains
    end subroutine
 
    pure subroutine check_local_to_global(local_vector, rotation_matrix, fault)
-      real(sp), intent(in) :: local_vector(:)
-      real(sp), intent(in) :: rotation_matrix(:, :)
+      real(sp), intent(in) :: local_vector(:), rotation_matrix(:, :)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'local_to_global', 'local_vector', size(local_vector, 1), 3)
       call expect_extent(fault, 'local_to_global', 'rotation_matrix', size(rotation_matrix, 1), 3)
       call expect_extent(fault, 'local_to_global', 'rotation_matrix', size(rotation_matrix, 2), 3)
-      call expect_all(fault, 'local_to_global', 'local_vector', 'not a number', [.not. ieee_is_nan(local_vector)], &
-         [real(local_vector, dp)], 0)
+      call expect_all(fault, 'local_to_global', 'local_vector', 'valid is any number', [.not. &
+         ieee_is_nan(local_vector)], [real(local_vector, dp)], 0)
       call expect_all(fault, 'local_to_global', 'rotation_matrix', 'valid -1 to 1', [rotation_matrix >= -1.0_sp .and. &
          rotation_matrix <= 1.0_sp], [real(rotation_matrix, dp)], 3)
    end subroutine
 
    pure subroutine check_global_to_local(global_vector, rotation_matrix, fault)
-      real(sp), intent(in) :: global_vector(:)
-      real(sp), intent(in) :: rotation_matrix(:, :)
+      real(sp), intent(in) :: global_vector(:), rotation_matrix(:, :)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'global_to_local', 'global_vector', size(global_vector, 1), 3)
       call expect_extent(fault, 'global_to_local', 'rotation_matrix', size(rotation_matrix, 1), 3)
       call expect_extent(fault, 'global_to_local', 'rotation_matrix', size(rotation_matrix, 2), 3)
-      call expect_all(fault, 'global_to_local', 'global_vector', 'not a number', [.not. ieee_is_nan(global_vector)], &
-         [real(global_vector, dp)], 0)
+      call expect_all(fault, 'global_to_local', 'global_vector', 'valid is any number', [.not. &
+         ieee_is_nan(global_vector)], [real(global_vector, dp)], 0)
       call expect_all(fault, 'global_to_local', 'rotation_matrix', 'valid -1 to 1', [rotation_matrix >= -1.0_sp .and. &
          rotation_matrix <= 1.0_sp], [real(rotation_matrix, dp)], 3)
    end subroutine
 
    pure subroutine check_plan_area(x, y, fault)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
+      real(sp), intent(in) :: x(:), y(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'plan_area', 'y', size(y), 'x', size(x))
       call expect_count(fault, 'plan_area', 'x', size(x), 3, 2147483647)
-      call expect_all(fault, 'plan_area', 'x', 'not a number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
-      call expect_all(fault, 'plan_area', 'y', 'not a number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
+      call expect_all(fault, 'plan_area', 'x', 'valid is any number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
+      call expect_all(fault, 'plan_area', 'y', 'valid is any number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
    end subroutine
 
    pure subroutine check_signed_plan_area(x, y, fault)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
+      real(sp), intent(in) :: x(:), y(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'signed_plan_area', 'y', size(y), 'x', size(x))
       call expect_count(fault, 'signed_plan_area', 'x', size(x), 3, 2147483647)
-      call expect_all(fault, 'signed_plan_area', 'x', 'not a number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
-      call expect_all(fault, 'signed_plan_area', 'y', 'not a number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
+      call expect_all(fault, 'signed_plan_area', 'x', 'valid is any number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
+      call expect_all(fault, 'signed_plan_area', 'y', 'valid is any number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
    end subroutine
 
    pure subroutine check_area_in_space(x, y, z, fault)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
-      real(sp), intent(in) :: z(:)
+      real(sp), intent(in) :: x(:), y(:), z(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_as_many(fault, 'area_in_space', 'y', size(y), 'x', size(x))
       call expect_as_many(fault, 'area_in_space', 'z', size(z), 'x', size(x))
       call expect_count(fault, 'area_in_space', 'x', size(x), 3, 2147483647)
-      call expect_all(fault, 'area_in_space', 'x', 'not a number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
-      call expect_all(fault, 'area_in_space', 'y', 'not a number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
-      call expect_all(fault, 'area_in_space', 'z', 'not a number', [.not. ieee_is_nan(z)], [real(z, dp)], 0)
+      call expect_all(fault, 'area_in_space', 'x', 'valid is any number', [.not. ieee_is_nan(x)], [real(x, dp)], 0)
+      call expect_all(fault, 'area_in_space', 'y', 'valid is any number', [.not. ieee_is_nan(y)], [real(y, dp)], 0)
+      call expect_all(fault, 'area_in_space', 'z', 'valid is any number', [.not. ieee_is_nan(z)], [real(z, dp)], 0)
    end subroutine
 
    pure subroutine check_polygon_orientation(polygon, fault)
@@ -2399,130 +2121,119 @@ contains
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'polygon_orientation', 'polygon', size(polygon, 1), 3)
       call expect_count(fault, 'polygon_orientation', 'polygon', size(polygon)/3, 3, 2147483647)
-      call expect_all(fault, 'polygon_orientation', 'polygon', 'not a number', [.not. ieee_is_nan(polygon)], &
+      call expect_all(fault, 'polygon_orientation', 'polygon', 'valid is any number', [.not. ieee_is_nan(polygon)], &
          [real(polygon, dp)], 3)
    end subroutine
 
    pure subroutine check_projection(plane_point, plane_normal, point, direction, fault)
-      real(sp), intent(in) :: plane_point(:)
-      real(sp), intent(in) :: plane_normal(:)
-      real(sp), intent(in) :: point(:)
-      real(sp), intent(in) :: direction(:)
+      real(sp), intent(in) :: plane_point(:), plane_normal(:), point(:), direction(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'projection', 'plane_point', size(plane_point, 1), 3)
       call expect_extent(fault, 'projection', 'plane_normal', size(plane_normal, 1), 3)
       call expect_extent(fault, 'projection', 'point', size(point, 1), 3)
       call expect_extent(fault, 'projection', 'direction', size(direction, 1), 3)
-      call expect_all(fault, 'projection', 'plane_point', 'not a number', [.not. ieee_is_nan(plane_point)], &
+      call expect_all(fault, 'projection', 'plane_point', 'valid is any number', [.not. ieee_is_nan(plane_point)], &
          [real(plane_point, dp)], 0)
-      call expect_all(fault, 'projection', 'plane_normal', 'not a number', [.not. ieee_is_nan(plane_normal)], &
+      call expect_all(fault, 'projection', 'plane_normal', 'valid is any number', [.not. ieee_is_nan(plane_normal)], &
          [real(plane_normal, dp)], 0)
-      call expect_all(fault, 'projection', 'point', 'not a number', [.not. ieee_is_nan(point)], [real(point, dp)], 0)
-      call expect_all(fault, 'projection', 'direction', 'not a number', [.not. ieee_is_nan(direction)], &
+      call expect_all(fault, 'projection', 'point', 'valid is any number', [.not. ieee_is_nan(point)], [real(point, &
+         dp)], 0)
+      call expect_all(fault, 'projection', 'direction', 'valid is any number', [.not. ieee_is_nan(direction)], &
          [real(direction, dp)], 0)
    end subroutine
 
    pure subroutine check_forward_projection(plane_point, plane_normal, point, direction, fault)
-      real(sp), intent(in) :: plane_point(:)
-      real(sp), intent(in) :: plane_normal(:)
-      real(sp), intent(in) :: point(:)
-      real(sp), intent(in) :: direction(:)
+      real(sp), intent(in) :: plane_point(:), plane_normal(:), point(:), direction(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'forward_projection', 'plane_point', size(plane_point, 1), 3)
       call expect_extent(fault, 'forward_projection', 'plane_normal', size(plane_normal, 1), 3)
       call expect_extent(fault, 'forward_projection', 'point', size(point, 1), 3)
       call expect_extent(fault, 'forward_projection', 'direction', size(direction, 1), 3)
-      call expect_all(fault, 'forward_projection', 'plane_point', 'not a number', [.not. ieee_is_nan(plane_point)], &
-         [real(plane_point, dp)], 0)
-      call expect_all(fault, 'forward_projection', 'plane_normal', 'not a number', [.not. ieee_is_nan(plane_normal)], &
-         [real(plane_normal, dp)], 0)
-      call expect_all(fault, 'forward_projection', 'point', 'not a number', [.not. ieee_is_nan(point)], [real(point, &
-         dp)], 0)
-      call expect_all(fault, 'forward_projection', 'direction', 'not a number', [.not. ieee_is_nan(direction)], &
+      call expect_all(fault, 'forward_projection', 'plane_point', 'valid is any number', [.not. &
+         ieee_is_nan(plane_point)], [real(plane_point, dp)], 0)
+      call expect_all(fault, 'forward_projection', 'plane_normal', 'valid is any number', [.not. &
+         ieee_is_nan(plane_normal)], [real(plane_normal, dp)], 0)
+      call expect_all(fault, 'forward_projection', 'point', 'valid is any number', [.not. ieee_is_nan(point)], &
+         [real(point, dp)], 0)
+      call expect_all(fault, 'forward_projection', 'direction', 'valid is any number', [.not. ieee_is_nan(direction)], &
          [real(direction, dp)], 0)
    end subroutine
 
    pure subroutine check_forward_projection_or_start(plane_point, plane_normal, point, direction, fault)
-      real(sp), intent(in) :: plane_point(:)
-      real(sp), intent(in) :: plane_normal(:)
-      real(sp), intent(in) :: point(:)
-      real(sp), intent(in) :: direction(:)
+      real(sp), intent(in) :: plane_point(:), plane_normal(:), point(:), direction(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'forward_projection_or_start', 'plane_point', size(plane_point, 1), 3)
       call expect_extent(fault, 'forward_projection_or_start', 'plane_normal', size(plane_normal, 1), 3)
       call expect_extent(fault, 'forward_projection_or_start', 'point', size(point, 1), 3)
       call expect_extent(fault, 'forward_projection_or_start', 'direction', size(direction, 1), 3)
-      call expect_all(fault, 'forward_projection_or_start', 'plane_point', 'not a number', [.not. &
+      call expect_all(fault, 'forward_projection_or_start', 'plane_point', 'valid is any number', [.not. &
          ieee_is_nan(plane_point)], [real(plane_point, dp)], 0)
-      call expect_all(fault, 'forward_projection_or_start', 'plane_normal', 'not a number', [.not. &
+      call expect_all(fault, 'forward_projection_or_start', 'plane_normal', 'valid is any number', [.not. &
          ieee_is_nan(plane_normal)], [real(plane_normal, dp)], 0)
-      call expect_all(fault, 'forward_projection_or_start', 'point', 'not a number', [.not. ieee_is_nan(point)], &
-         [real(point, dp)], 0)
-      call expect_all(fault, 'forward_projection_or_start', 'direction', 'not a number', [.not. &
+      call expect_all(fault, 'forward_projection_or_start', 'point', 'valid is any number', [.not. &
+         ieee_is_nan(point)], [real(point, dp)], 0)
+      call expect_all(fault, 'forward_projection_or_start', 'direction', 'valid is any number', [.not. &
          ieee_is_nan(direction)], [real(direction, dp)], 0)
    end subroutine
 
    pure subroutine check_vector_dot_product(vector_a, vector_b, fault)
-      real(sp), intent(in) :: vector_a(:)
-      real(sp), intent(in) :: vector_b(:)
+      real(sp), intent(in) :: vector_a(:), vector_b(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'vector_dot_product', 'vector_a', size(vector_a, 1), 3)
       call expect_extent(fault, 'vector_dot_product', 'vector_b', size(vector_b, 1), 3)
-      call expect_all(fault, 'vector_dot_product', 'vector_a', 'not a number', [.not. ieee_is_nan(vector_a)], &
+      call expect_all(fault, 'vector_dot_product', 'vector_a', 'valid is any number', [.not. ieee_is_nan(vector_a)], &
          [real(vector_a, dp)], 0)
-      call expect_all(fault, 'vector_dot_product', 'vector_b', 'not a number', [.not. ieee_is_nan(vector_b)], &
+      call expect_all(fault, 'vector_dot_product', 'vector_b', 'valid is any number', [.not. ieee_is_nan(vector_b)], &
          [real(vector_b, dp)], 0)
    end subroutine
 
    pure subroutine check_dot_product_in_double(vector_a, vector_b, fault)
-      real(dp), intent(in) :: vector_a(:)
-      real(dp), intent(in) :: vector_b(:)
+      real(dp), intent(in) :: vector_a(:), vector_b(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'dot_product_in_double', 'vector_a', size(vector_a, 1), 3)
       call expect_extent(fault, 'dot_product_in_double', 'vector_b', size(vector_b, 1), 3)
-      call expect_all(fault, 'dot_product_in_double', 'vector_a', 'not a number', [.not. ieee_is_nan(vector_a)], &
-         [real(vector_a, dp)], 0)
-      call expect_all(fault, 'dot_product_in_double', 'vector_b', 'not a number', [.not. ieee_is_nan(vector_b)], &
-         [real(vector_b, dp)], 0)
+      call expect_all(fault, 'dot_product_in_double', 'vector_a', 'valid is any number', [.not. &
+         ieee_is_nan(vector_a)], [real(vector_a, dp)], 0)
+      call expect_all(fault, 'dot_product_in_double', 'vector_b', 'valid is any number', [.not. &
+         ieee_is_nan(vector_b)], [real(vector_b, dp)], 0)
    end subroutine
 
    pure subroutine check_cross_product(vector_a, vector_b, fault)
-      real(sp), intent(in) :: vector_a(:)
-      real(sp), intent(in) :: vector_b(:)
+      real(sp), intent(in) :: vector_a(:), vector_b(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'cross_product', 'vector_a', size(vector_a, 1), 3)
       call expect_extent(fault, 'cross_product', 'vector_b', size(vector_b, 1), 3)
-      call expect_all(fault, 'cross_product', 'vector_a', 'not a number', [.not. ieee_is_nan(vector_a)], &
+      call expect_all(fault, 'cross_product', 'vector_a', 'valid is any number', [.not. ieee_is_nan(vector_a)], &
          [real(vector_a, dp)], 0)
-      call expect_all(fault, 'cross_product', 'vector_b', 'not a number', [.not. ieee_is_nan(vector_b)], &
+      call expect_all(fault, 'cross_product', 'vector_b', 'valid is any number', [.not. ieee_is_nan(vector_b)], &
          [real(vector_b, dp)], 0)
    end subroutine
 
    pure subroutine check_cross_product_in_double(vector_a, vector_b, fault)
-      real(dp), intent(in) :: vector_a(:)
-      real(dp), intent(in) :: vector_b(:)
+      real(dp), intent(in) :: vector_a(:), vector_b(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'cross_product_in_double', 'vector_a', size(vector_a, 1), 3)
       call expect_extent(fault, 'cross_product_in_double', 'vector_b', size(vector_b, 1), 3)
-      call expect_all(fault, 'cross_product_in_double', 'vector_a', 'not a number', [.not. ieee_is_nan(vector_a)], &
-         [real(vector_a, dp)], 0)
-      call expect_all(fault, 'cross_product_in_double', 'vector_b', 'not a number', [.not. ieee_is_nan(vector_b)], &
-         [real(vector_b, dp)], 0)
+      call expect_all(fault, 'cross_product_in_double', 'vector_a', 'valid is any number', [.not. &
+         ieee_is_nan(vector_a)], [real(vector_a, dp)], 0)
+      call expect_all(fault, 'cross_product_in_double', 'vector_b', 'valid is any number', [.not. &
+         ieee_is_nan(vector_b)], [real(vector_b, dp)], 0)
    end subroutine
 
    pure subroutine check_length(vector, fault)
       real(sp), intent(in) :: vector(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'length', 'vector', size(vector, 1), 3)
-      call expect_all(fault, 'length', 'vector', 'not a number', [.not. ieee_is_nan(vector)], [real(vector, dp)], 0)
+      call expect_all(fault, 'length', 'vector', 'valid is any number', [.not. ieee_is_nan(vector)], [real(vector, &
+         dp)], 0)
    end subroutine
 
    pure subroutine check_length_in_double(vector, fault)
       real(dp), intent(in) :: vector(:)
       type(quorvel_fault), intent(out) :: fault
       call expect_extent(fault, 'length_in_double', 'vector', size(vector, 1), 3)
-      call expect_all(fault, 'length_in_double', 'vector', 'not a number', [.not. ieee_is_nan(vector)], [real(vector, &
-         dp)], 0)
+      call expect_all(fault, 'length_in_double', 'vector', 'valid is any number', [.not. ieee_is_nan(vector)], &
+         [real(vector, dp)], 0)
    end subroutine
 
 end module quorvel_checks

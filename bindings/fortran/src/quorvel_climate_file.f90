@@ -4,6 +4,7 @@ module quorvel_climate_file
    use, intrinsic :: iso_c_binding
    use, intrinsic :: iso_fortran_env, only: sp => real32, i4 => int32
    use quorvel_faults, only: quorvel_fault, set_fault
+   use quorvel_selectors, only: file_unit_opened_last
    use quorvel_checks
    implicit none
    private
@@ -124,7 +125,7 @@ contains
       type(quorvel_fault), intent(out), optional :: fault
       type(quorvel_fault) :: found
       real(sp) :: times(2)
-      call check_station_climate(1_i4, station, band, month, band_set, percentage, found)
+      call check_station_climate(file_unit_opened_last, station, band, month, band_set, percentage, found)
       times = 0
       if (is_ready(self, found)) call expect_readable(self, found, station, c_station_climate( &
          self%handle, station, band, month, band_set, percentage, climate%q, times))
@@ -219,7 +220,7 @@ contains
       if (present(fault)) then
          fault = found
       else if (found%found) then
-         error stop found%message
+         error stop found%message()
       end if
    end subroutine
 end module quorvel_climate_file

@@ -8,7 +8,10 @@ module quorvel_faults
 
    type :: quorvel_fault
       logical :: found = .false.
-      character(len=240) :: message = '' !! names the routine, the argument, its value and what is valid
+      ! Has no value unless one is found: to clear it would take longer than most routines do.
+      character(len=240), private :: text
+   contains
+      procedure :: message
    end type
 
    !> A value that is not valid.
@@ -18,12 +21,20 @@ module quorvel_faults
 
 contains
 
+   !> Names the routine, the argument, its value and what is valid; empty without a fault.
+   pure function message(self)
+      class(quorvel_fault), intent(in) :: self
+      character(len=:), allocatable :: message
+      message = ''
+      if (self%found) message = trim(self%text)
+   end function
+
    elemental subroutine set_fault(fault, routine, text)
       type(quorvel_fault), intent(inout) :: fault
       character(len=*), intent(in) :: routine, text
       if (fault%found) return
       fault%found = .true.
-      fault%message = 'quorvel: '//routine//': '//text
+      fault%text = 'quorvel: '//routine//': '//text
    end subroutine
 
    elemental subroutine refuse_double_real(fault, routine, argument, valid, value)
@@ -102,12 +113,31 @@ contains
       write (text, '(i0)') value
    end function
 
-   !> To seven digits, without zeros at the end.
+   !> With as few digits as tell it from others of its kind.
    pure function number(value) result(text)
       real(dp), intent(in) :: value
       character(len=24) :: text
+      character(len=8) :: form
+      real(dp) :: read_back
+      logical :: is_single
+      integer :: digits
+      is_single = real(real(value, sp), dp) == value
+      do digits = 6, 17
+         write (form, '(a, i0, a)') '(g0.', digits, ')'
+         write (text, form) value
+         if (.not. abs(value) <= huge(value)) return
+         read (text, *) read_back
+         if (read_back == value .or. (is_single .and. real(read_back, sp) == real(value, sp))) exit
+      end do
+      text = without_zeros(text)
+   end function
+
+   !> At the end of a number with a point.
+   pure function without_zeros(number) result(text)
+      character(len=*), intent(in) :: number
+      character(len=len(number)) :: text
       integer :: last
-      write (text, '(g0.7)') value
+      text = number
       if (scan(text, '.') == 0 .or. scan(text, 'E') > 0) return
       last = verify(text, '0 ', back=.true.)
       if (text(last:last) == '.') last = last - 1

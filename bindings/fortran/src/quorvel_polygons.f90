@@ -46,7 +46,7 @@ contains
       if (.not. own_fault%found) call clip_in_enough_room(a, b, clipped)
       if (clipped%status /= 0) call set_fault(own_fault, 'clip', trim(reason(clipped%status)))
       if (present(fault)) fault = own_fault
-      if (own_fault%found .and. .not. present(fault)) error stop own_fault%message
+      if (own_fault%found .and. .not. present(fault)) error stop own_fault%message()
       if (own_fault%found) then
          allocate (difference(0), overlap(0))
       else

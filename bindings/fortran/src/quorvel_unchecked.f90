@@ -196,8 +196,7 @@ contains
 
    elemental function dry_bulb_from_vapour_pressure_and_relative_humidity(vapour_pressure, relative_humidity) &
       result(answer)
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: relative_humidity
+      real(sp), intent(in) :: vapour_pressure, relative_humidity
       real(sp) :: answer
       call array_dry_bulb_from_vapour_pressure_and_relative_humidity(1_c_size_t, vapour_pressure, 0_c_ptrdiff_t, &
          relative_humidity, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
@@ -205,9 +204,7 @@ contains
 
    elemental function dry_bulb_from_vapour_pressure_and_percentage_saturation(vapour_pressure, percentage_saturation, &
       pressure) result(answer)
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: vapour_pressure, percentage_saturation, pressure
       real(sp) :: answer
       call array_dry_bulb_from_vapour_pressure_and_percentage_saturation(1_c_size_t, vapour_pressure, 0_c_ptrdiff_t, &
          percentage_saturation, 0_c_ptrdiff_t, pressure, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
@@ -215,9 +212,7 @@ contains
 
    elemental function dry_bulb_from_moisture_content_and_relative_humidity(moisture_content, relative_humidity, &
       pressure) result(answer)
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: relative_humidity
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: moisture_content, relative_humidity, pressure
       real(sp) :: answer
       call array_dry_bulb_from_moisture_content_and_relative_humidity(1_c_size_t, moisture_content, 0_c_ptrdiff_t, &
          relative_humidity, 0_c_ptrdiff_t, pressure, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
@@ -225,26 +220,21 @@ contains
 
    elemental function dry_bulb_from_moisture_content_and_percentage_saturation(moisture_content, &
       percentage_saturation, pressure) result(answer)
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: moisture_content, percentage_saturation, pressure
       real(sp) :: answer
       call array_dry_bulb_from_moisture_content_and_percentage_saturation(1_c_size_t, moisture_content, 0_c_ptrdiff_t, &
          percentage_saturation, 0_c_ptrdiff_t, pressure, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
    end function
 
    elemental function dry_bulb_from_enthalpy_and_moisture_content(enthalpy, moisture_content) result(answer)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: moisture_content
+      real(sp), intent(in) :: enthalpy, moisture_content
       real(sp) :: answer
       call array_dry_bulb_from_enthalpy_and_moisture_content(1_c_size_t, enthalpy, 0_c_ptrdiff_t, moisture_content, &
          0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
    end function
 
    elemental function dry_bulb_from_enthalpy_and_vapour_pressure(enthalpy, vapour_pressure, pressure) result(answer)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: enthalpy, vapour_pressure, pressure
       real(sp) :: answer
       call array_dry_bulb_from_enthalpy_and_vapour_pressure(1_c_size_t, enthalpy, 0_c_ptrdiff_t, vapour_pressure, &
          0_c_ptrdiff_t, pressure, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
@@ -252,9 +242,7 @@ contains
 
    elemental function dry_bulb_from_enthalpy_and_relative_humidity(enthalpy, relative_humidity, pressure) &
       result(answer)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: relative_humidity
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: enthalpy, relative_humidity, pressure
       real(sp) :: answer
       call array_dry_bulb_from_enthalpy_and_relative_humidity(1_c_size_t, enthalpy, 0_c_ptrdiff_t, relative_humidity, &
          0_c_ptrdiff_t, pressure, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
@@ -262,9 +250,7 @@ contains
 
    elemental function dry_bulb_from_enthalpy_and_percentage_saturation(enthalpy, percentage_saturation, pressure) &
       result(answer)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: enthalpy, percentage_saturation, pressure
       real(sp) :: answer
       call array_dry_bulb_from_enthalpy_and_percentage_saturation(1_c_size_t, enthalpy, 0_c_ptrdiff_t, &
          percentage_saturation, 0_c_ptrdiff_t, pressure, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
@@ -272,9 +258,7 @@ contains
 
    elemental function dry_bulb_from_wet_bulb_and_vapour_pressure(wet_bulb, vapour_pressure, pressure, psychrometer) &
       result(answer)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, vapour_pressure, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       call array_dry_bulb_from_wet_bulb_and_vapour_pressure(1_c_size_t, wet_bulb, 0_c_ptrdiff_t, vapour_pressure, &
@@ -283,9 +267,7 @@ contains
 
    elemental function dry_bulb_from_wet_bulb_and_moisture_content(wet_bulb, moisture_content, pressure, psychrometer) &
       result(answer)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, moisture_content, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       call array_dry_bulb_from_wet_bulb_and_moisture_content(1_c_size_t, wet_bulb, 0_c_ptrdiff_t, moisture_content, &
@@ -294,9 +276,7 @@ contains
 
    elemental function dry_bulb_from_wet_bulb_and_relative_humidity(wet_bulb, relative_humidity, pressure, &
       psychrometer) result(answer)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: relative_humidity
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, relative_humidity, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       call array_dry_bulb_from_wet_bulb_and_relative_humidity(1_c_size_t, wet_bulb, 0_c_ptrdiff_t, relative_humidity, &
@@ -305,9 +285,7 @@ contains
 
    elemental function dry_bulb_from_wet_bulb_and_percentage_saturation(wet_bulb, percentage_saturation, pressure, &
       psychrometer) result(answer)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, percentage_saturation, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       call array_dry_bulb_from_wet_bulb_and_percentage_saturation(1_c_size_t, wet_bulb, 0_c_ptrdiff_t, &
@@ -316,9 +294,7 @@ contains
    end function
 
    elemental function dry_bulb_from_wet_bulb_and_enthalpy(wet_bulb, enthalpy, pressure, psychrometer) result(answer)
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: wet_bulb, enthalpy, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       call array_dry_bulb_from_wet_bulb_and_enthalpy(1_c_size_t, wet_bulb, 0_c_ptrdiff_t, enthalpy, 0_c_ptrdiff_t, &
@@ -327,18 +303,10 @@ contains
 
    elemental subroutine adiabatic_mixing(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, &
       second_dry_bulb, second_moisture_content, dry_bulb, moisture_content, enthalpy)
-      real(sp), intent(in) :: first_air_flow
-      real(sp), intent(in) :: first_dry_bulb
-      real(sp), intent(in) :: first_moisture_content
-      real(sp), intent(in) :: second_air_flow
-      real(sp), intent(in) :: second_dry_bulb
-      real(sp), intent(in) :: second_moisture_content
-      real(sp), intent(out), optional :: dry_bulb
-      real(sp), intent(out), optional :: moisture_content
-      real(sp), intent(out), optional :: enthalpy
-      real(sp) :: own_dry_bulb
-      real(sp) :: own_moisture_content
-      real(sp) :: own_enthalpy
+      real(sp), intent(in) :: first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, &
+         second_dry_bulb, second_moisture_content
+      real(sp), intent(out), optional :: dry_bulb, moisture_content, enthalpy
+      real(sp) :: own_dry_bulb, own_moisture_content, own_enthalpy
       call array_adiabatic_mixing(1_c_size_t, first_air_flow, 0_c_ptrdiff_t, first_dry_bulb, 0_c_ptrdiff_t, &
          first_moisture_content, 0_c_ptrdiff_t, second_air_flow, 0_c_ptrdiff_t, second_dry_bulb, 0_c_ptrdiff_t, &
          second_moisture_content, 0_c_ptrdiff_t, own_dry_bulb, 0_c_ptrdiff_t, own_moisture_content, 0_c_ptrdiff_t, &
@@ -349,27 +317,21 @@ contains
    end subroutine
 
    elemental function moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, wet_bulb, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       answer = PSGS(dry_bulb, wet_bulb, pressure, psychrometer)
    end function
 
    elemental function moisture_content(dry_bulb, vapour_pressure, pressure) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, vapour_pressure, pressure
       real(sp) :: answer
       call array_moisture_content(1_c_size_t, dry_bulb, 0_c_ptrdiff_t, vapour_pressure, 0_c_ptrdiff_t, pressure, &
          0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
    end function
 
    elemental function vapour_pressure_from_moisture_content(dry_bulb, moisture_content, pressure) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       real(sp) :: answer
       call array_vapour_pressure_from_moisture_content(1_c_size_t, dry_bulb, 0_c_ptrdiff_t, moisture_content, &
          0_c_ptrdiff_t, pressure, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
@@ -377,67 +339,54 @@ contains
 
    elemental function moisture_content_from_percentage_saturation(dry_bulb, percentage_saturation, pressure) &
       result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, percentage_saturation, pressure
       real(sp) :: answer
       call array_moisture_content_from_percentage_saturation(1_c_size_t, dry_bulb, 0_c_ptrdiff_t, &
          percentage_saturation, 0_c_ptrdiff_t, pressure, 0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
    end function
 
    elemental function moisture_content_from_enthalpy(dry_bulb, enthalpy) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: enthalpy
+      real(sp), intent(in) :: dry_bulb, enthalpy
       real(sp) :: answer
       call array_moisture_content_from_enthalpy(1_c_size_t, dry_bulb, 0_c_ptrdiff_t, enthalpy, 0_c_ptrdiff_t, answer, &
          0_c_ptrdiff_t)
    end function
 
    elemental function moist_air_density(dry_bulb, moisture_content, pressure) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       real(sp) :: answer
       call array_moist_air_density(1_c_size_t, dry_bulb, 0_c_ptrdiff_t, moisture_content, 0_c_ptrdiff_t, pressure, &
          0_c_ptrdiff_t, answer, 0_c_ptrdiff_t)
    end function
 
    elemental function percentage_saturation(dry_bulb, moisture_content, pressure) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       real(sp) :: answer
       answer = PSPCST(dry_bulb, moisture_content, pressure)
    end function
 
    elemental function specific_enthalpy(dry_bulb, moisture_content) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
+      real(sp), intent(in) :: dry_bulb, moisture_content
       real(sp) :: answer
       call array_specific_enthalpy(1_c_size_t, dry_bulb, 0_c_ptrdiff_t, moisture_content, 0_c_ptrdiff_t, answer, &
          0_c_ptrdiff_t)
    end function
 
    elemental function specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, wet_bulb, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       answer = PSHWET(dry_bulb, wet_bulb, pressure, psychrometer)
    end function
 
    elemental function specific_volume(dry_bulb, moisture_content, pressure) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       real(sp) :: answer
       answer = PSSPVL(dry_bulb, moisture_content, pressure)
    end function
 
    elemental function saturation_temperature_from_enthalpy(enthalpy, pressure) result(answer)
-      real(sp), intent(in) :: enthalpy
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: enthalpy, pressure
       real(sp) :: answer
       answer = PSTSAT(enthalpy, pressure)
    end function
@@ -445,23 +394,12 @@ contains
    elemental subroutine pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, &
       reference_temperature, bathers, reference_coefficient, pressure, evaporation_rate, latent_load, convective_load, &
       reference_load)
-      real(sp), intent(in) :: water_area
-      real(sp), intent(in) :: wetted_area
-      real(sp), intent(in) :: water_temperature
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: reference_temperature
+      real(sp), intent(in) :: water_area, wetted_area, water_temperature, dry_bulb, moisture_content, &
+         reference_temperature
       integer(i4), intent(in) :: bathers
-      real(sp), intent(in) :: reference_coefficient
-      real(sp), intent(in) :: pressure
-      real(sp), intent(out), optional :: evaporation_rate
-      real(sp), intent(out), optional :: latent_load
-      real(sp), intent(out), optional :: convective_load
-      real(sp), intent(out), optional :: reference_load
-      real(sp) :: own_evaporation_rate
-      real(sp) :: own_latent_load
-      real(sp) :: own_convective_load
-      real(sp) :: own_reference_load
+      real(sp), intent(in) :: reference_coefficient, pressure
+      real(sp), intent(out), optional :: evaporation_rate, latent_load, convective_load, reference_load
+      real(sp) :: own_evaporation_rate, own_latent_load, own_convective_load, own_reference_load
       call TPPOOL(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, reference_temperature, &
          bathers, reference_coefficient, pressure, own_evaporation_rate, own_latent_load, own_convective_load, &
          own_reference_load)
@@ -474,23 +412,11 @@ contains
    elemental subroutine pool_evaporation_from_wet_bulb(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, &
       reference_temperature, bathers, reference_coefficient, pressure, evaporation_rate, latent_load, convective_load, &
       reference_load)
-      real(sp), intent(in) :: water_area
-      real(sp), intent(in) :: wetted_area
-      real(sp), intent(in) :: water_temperature
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: reference_temperature
+      real(sp), intent(in) :: water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, reference_temperature
       integer(i4), intent(in) :: bathers
-      real(sp), intent(in) :: reference_coefficient
-      real(sp), intent(in) :: pressure
-      real(sp), intent(out), optional :: evaporation_rate
-      real(sp), intent(out), optional :: latent_load
-      real(sp), intent(out), optional :: convective_load
-      real(sp), intent(out), optional :: reference_load
-      real(sp) :: own_evaporation_rate
-      real(sp) :: own_latent_load
-      real(sp) :: own_convective_load
-      real(sp) :: own_reference_load
+      real(sp), intent(in) :: reference_coefficient, pressure
+      real(sp), intent(out), optional :: evaporation_rate, latent_load, convective_load, reference_load
+      real(sp) :: own_evaporation_rate, own_latent_load, own_convective_load, own_reference_load
       call TPPOOL2(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, reference_temperature, bathers, &
          reference_coefficient, pressure, own_evaporation_rate, own_latent_load, own_convective_load, &
          own_reference_load)
@@ -513,40 +439,33 @@ contains
    end function
 
    elemental function vapour_pressure(dry_bulb, relative_humidity) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: relative_humidity
+      real(sp), intent(in) :: dry_bulb, relative_humidity
       real(sp) :: answer
       answer = PSVP(dry_bulb, relative_humidity)
    end function
 
    elemental function relative_humidity(dry_bulb, vapour_pressure) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: vapour_pressure
+      real(sp), intent(in) :: dry_bulb, vapour_pressure
       real(sp) :: answer
       call array_relative_humidity(1_c_size_t, dry_bulb, 0_c_ptrdiff_t, vapour_pressure, 0_c_ptrdiff_t, answer, &
          0_c_ptrdiff_t)
    end function
 
    elemental function vapour_pressure_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: wet_bulb
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, wet_bulb, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       answer = PSVAP(dry_bulb, wet_bulb, pressure, psychrometer)
    end function
 
    elemental function weighted_temperature(first_temperature, second_temperature) result(answer)
-      real(sp), intent(in) :: first_temperature
-      real(sp), intent(in) :: second_temperature
+      real(sp), intent(in) :: first_temperature, second_temperature
       real(sp) :: answer
       answer = PSTEFF(first_temperature, second_temperature)
    end function
 
    elemental function psychrometer_wet_bulb(dry_bulb, relative_humidity, pressure, psychrometer) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: relative_humidity
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, relative_humidity, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       answer = PSTWET(dry_bulb, relative_humidity, pressure, psychrometer)
@@ -554,9 +473,7 @@ contains
 
    elemental function wet_bulb_from_percentage_saturation(dry_bulb, percentage_saturation, pressure, psychrometer) &
       result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: percentage_saturation
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, percentage_saturation, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       answer = PSTWB(dry_bulb, percentage_saturation, pressure, psychrometer)
@@ -564,18 +481,14 @@ contains
 
    elemental function wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychrometer) &
       result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: moisture_content
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, moisture_content, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       answer = PSWBLB(dry_bulb, moisture_content, pressure, psychrometer)
    end function
 
    elemental function wet_bulb(dry_bulb, vapour_pressure, pressure, psychrometer) result(answer)
-      real(sp), intent(in) :: dry_bulb
-      real(sp), intent(in) :: vapour_pressure
-      real(sp), intent(in) :: pressure
+      real(sp), intent(in) :: dry_bulb, vapour_pressure, pressure
       integer(i4), intent(in) :: psychrometer
       real(sp) :: answer
       call array_wet_bulb(1_c_size_t, dry_bulb, 0_c_ptrdiff_t, vapour_pressure, 0_c_ptrdiff_t, pressure, &
@@ -585,29 +498,14 @@ contains
    pure subroutine cyclic_response(thickness, conductivity, density, specific_heat, inside_resistance, &
       outside_resistance, harmonic, element_kind, admittance, admittance_lead, decrement_factor, decrement_lag, &
       surface_factor, surface_factor_lag, u_value)
-      real(sp), intent(in) :: thickness(:)
-      real(sp), intent(in) :: conductivity(:)
-      real(sp), intent(in) :: density(:)
-      real(sp), intent(in) :: specific_heat(:)
-      real(sp), intent(in) :: inside_resistance
-      real(sp), intent(in) :: outside_resistance
-      integer(i4), intent(in) :: harmonic
-      integer(i4), intent(in) :: element_kind
-      real(sp), intent(out), optional :: admittance
-      real(sp), intent(out), optional :: admittance_lead
-      real(sp), intent(out), optional :: decrement_factor
-      real(sp), intent(out), optional :: decrement_lag
-      real(sp), intent(out), optional :: surface_factor
-      real(sp), intent(out), optional :: surface_factor_lag
-      real(sp), intent(out), optional :: u_value
+      real(sp), intent(in) :: thickness(:), conductivity(:), density(:), specific_heat(:), inside_resistance, &
+         outside_resistance
+      integer(i4), intent(in) :: harmonic, element_kind
+      real(sp), intent(out), optional :: admittance, admittance_lead, decrement_factor, decrement_lag, surface_factor, &
+         surface_factor_lag, u_value
       integer(i4) :: layers
-      real(sp) :: own_admittance
-      real(sp) :: own_admittance_lead
-      real(sp) :: own_decrement_factor
-      real(sp) :: own_decrement_lag
-      real(sp) :: own_surface_factor
-      real(sp) :: own_surface_factor_lag
-      real(sp) :: own_u_value
+      real(sp) :: own_admittance, own_admittance_lead, own_decrement_factor, own_decrement_lag, own_surface_factor, &
+         own_surface_factor_lag, own_u_value
       layers = shortest([size(thickness), size(conductivity), size(density), size(specific_heat)])
       own_admittance = no_real
       own_admittance_lead = no_real
@@ -635,31 +533,21 @@ contains
    end function
 
    elemental function air_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2) result(answer)
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: cavity_width
-      real(sp), intent(in) :: emissivity_1
-      real(sp), intent(in) :: emissivity_2
+      real(sp), intent(in) :: tilt, cavity_width, emissivity_1, emissivity_2
       real(sp) :: answer
       answer = TPRCA2(tilt, cavity_width, emissivity_1, emissivity_2)
    end function
 
    elemental function gas_cavity_resistance(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, &
       specific_heat, viscosity) result(answer)
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: cavity_width
-      real(sp), intent(in) :: emissivity_1
-      real(sp), intent(in) :: emissivity_2
-      real(sp), intent(in) :: density
-      real(sp), intent(in) :: conductivity
-      real(sp), intent(in) :: specific_heat
-      real(sp), intent(in) :: viscosity
+      real(sp), intent(in) :: tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, specific_heat, &
+         viscosity
       real(sp) :: answer
       answer = TPRCAX(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, specific_heat, viscosity)
    end function
 
    pure function total_vapour_resistance(thickness, vapour_resistivity) result(answer)
-      real(sp), intent(in) :: thickness(:)
-      real(sp), intent(in) :: vapour_resistivity(:)
+      real(sp), intent(in) :: thickness(:), vapour_resistivity(:)
       real(sp) :: answer
       integer(i4) :: layers
       layers = shortest([size(thickness), size(vapour_resistivity)])
@@ -670,22 +558,13 @@ contains
    pure subroutine condensation_profile(thickness, conductivity, vapour_resistivity, inside_resistance, &
       outside_resistance, inside_temperature, outside_temperature, inside_humidity, outside_humidity, &
       interface_temperature, interface_vapour_pressure, interface_saturation_pressure)
-      real(sp), intent(in) :: thickness(:)
-      real(sp), intent(in) :: conductivity(:)
-      real(sp), intent(in) :: vapour_resistivity(:)
-      real(sp), intent(in) :: inside_resistance
-      real(sp), intent(in) :: outside_resistance
-      real(sp), intent(in) :: inside_temperature
-      real(sp), intent(in) :: outside_temperature
-      real(sp), intent(in) :: inside_humidity
-      real(sp), intent(in) :: outside_humidity
-      real(sp), intent(out), optional :: interface_temperature(21)
-      real(sp), intent(out), optional :: interface_vapour_pressure(21)
-      real(sp), intent(out), optional :: interface_saturation_pressure(21)
+      real(sp), intent(in) :: thickness(:), conductivity(:), vapour_resistivity(:), inside_resistance, &
+         outside_resistance, inside_temperature, outside_temperature, inside_humidity, outside_humidity
+      real(sp), intent(out), optional :: interface_temperature(21), interface_vapour_pressure(21), &
+         interface_saturation_pressure(21)
       integer(i4) :: layers
-      real(sp) :: own_interface_temperature(21)
-      real(sp) :: own_interface_vapour_pressure(21)
-      real(sp) :: own_interface_saturation_pressure(21)
+      real(sp) :: own_interface_temperature(21), own_interface_vapour_pressure(21), &
+         own_interface_saturation_pressure(21)
       layers = shortest([size(thickness), size(conductivity), size(vapour_resistivity)])
       own_interface_temperature = no_real
       own_interface_vapour_pressure = no_real
@@ -700,18 +579,14 @@ contains
 
    elemental function condenses_within_layer(warm_temperature, cold_temperature, warm_vapour_pressure, &
       cold_vapour_pressure) result(answer)
-      real(sp), intent(in) :: warm_temperature
-      real(sp), intent(in) :: cold_temperature
-      real(sp), intent(in) :: warm_vapour_pressure
-      real(sp), intent(in) :: cold_vapour_pressure
+      real(sp), intent(in) :: warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure
       integer(i4) :: answer
       answer = ITPCON(warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure)
    end function
 
    pure function element_property(element_records, record_number, item) result(answer)
       real(sp), intent(in) :: element_records(:, :)
-      integer(i4), intent(in) :: record_number
-      integer(i4), intent(in) :: item
+      integer(i4), intent(in) :: record_number, item
       real(sp) :: answer
       integer(i4) :: record_count
       record_count = shortest([size(element_records)/10])
@@ -720,8 +595,7 @@ contains
 
    elemental function natural_convection_coefficient(temperature_difference, characteristic_length, &
       heat_flow_direction) result(answer)
-      real(sp), intent(in) :: temperature_difference
-      real(sp), intent(in) :: characteristic_length
+      real(sp), intent(in) :: temperature_difference, characteristic_length
       integer(i4), intent(in) :: heat_flow_direction
       real(sp) :: answer
       answer = TPHCON(temperature_difference, characteristic_length, heat_flow_direction)
@@ -729,36 +603,25 @@ contains
 
    elemental subroutine pack_two_fractions(packing, packed_number, fraction_1, fraction_2)
       integer(i4), intent(in) :: packing
-      real(sp), intent(inout) :: packed_number
-      real(sp), intent(inout) :: fraction_1
-      real(sp), intent(inout) :: fraction_2
+      real(sp), intent(inout) :: packed_number, fraction_1, fraction_2
       call TPCOLW(packing, packed_number, fraction_1, fraction_2)
    end subroutine
 
    elemental subroutine pack_three_fractions(packing, packed_number, fraction_1, fraction_2, fraction_3)
       integer(i4), intent(in) :: packing
-      real(sp), intent(inout) :: packed_number
-      real(sp), intent(inout) :: fraction_1
-      real(sp), intent(inout) :: fraction_2
-      real(sp), intent(inout) :: fraction_3
+      real(sp), intent(inout) :: packed_number, fraction_1, fraction_2, fraction_3
       call TPCOLT(packing, packed_number, fraction_1, fraction_2, fraction_3)
    end subroutine
 
    elemental subroutine pack_three_fractions_third_first(packing, packed_number, fraction_3, fraction_1, fraction_2)
       integer(i4), intent(in) :: packing
-      real(sp), intent(inout) :: packed_number
-      real(sp), intent(inout) :: fraction_3
-      real(sp), intent(inout) :: fraction_1
-      real(sp), intent(inout) :: fraction_2
+      real(sp), intent(inout) :: packed_number, fraction_3, fraction_1, fraction_2
       call TPCOLW2(packing, packed_number, fraction_3, fraction_1, fraction_2)
    end subroutine
 
    elemental subroutine pack_pane(packing, packed_number, absorptance, reflectance_1, reflectance_2)
       integer(i4), intent(in) :: packing
-      real(sp), intent(inout) :: packed_number
-      real(sp), intent(inout) :: absorptance
-      real(sp), intent(inout) :: reflectance_1
-      real(sp), intent(inout) :: reflectance_2
+      real(sp), intent(inout) :: packed_number, absorptance, reflectance_1, reflectance_2
       call TPCOSW(packing, packed_number, absorptance, reflectance_1, reflectance_2)
    end subroutine
 
@@ -780,10 +643,7 @@ contains
    end function
 
    pure function u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2) result(answer)
-      real(sp), intent(in) :: thickness(:)
-      real(sp), intent(in) :: conductivity(:)
-      real(sp), intent(in) :: surface_resistance_1
-      real(sp), intent(in) :: surface_resistance_2
+      real(sp), intent(in) :: thickness(:), conductivity(:), surface_resistance_1, surface_resistance_2
       real(sp) :: answer
       integer(i4) :: layers
       layers = shortest([size(thickness), size(conductivity)])
@@ -792,8 +652,7 @@ contains
    end function
 
    elemental function u_value_at_tilt_and_exposure(u_value, tilt, exposure) result(answer)
-      real(sp), intent(in) :: u_value
-      real(sp), intent(in) :: tilt
+      real(sp), intent(in) :: u_value, tilt
       integer(i4), intent(in) :: exposure
       real(sp) :: answer
       answer = TPUMOD(u_value, tilt, exposure)
@@ -802,32 +661,18 @@ contains
    elemental subroutine window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_2, pane_kind_3, &
       emissivity_3, cavity_width_1, cavity_width_2, outer_surface, exposure, tilt, admittance, admittance_lead, &
       decrement_factor, decrement_lag, surface_factor, surface_factor_lag, u_value)
-      integer(i4), intent(in) :: panes
-      integer(i4), intent(in) :: pane_kind_1
+      integer(i4), intent(in) :: panes, pane_kind_1
       real(sp), intent(in) :: emissivity_1
       integer(i4), intent(in) :: pane_kind_2
       real(sp), intent(in) :: emissivity_2
       integer(i4), intent(in) :: pane_kind_3
-      real(sp), intent(in) :: emissivity_3
-      real(sp), intent(in) :: cavity_width_1
-      real(sp), intent(in) :: cavity_width_2
-      integer(i4), intent(in) :: outer_surface
-      integer(i4), intent(in) :: exposure
+      real(sp), intent(in) :: emissivity_3, cavity_width_1, cavity_width_2
+      integer(i4), intent(in) :: outer_surface, exposure
       real(sp), intent(in) :: tilt
-      real(sp), intent(out), optional :: admittance
-      real(sp), intent(out), optional :: admittance_lead
-      real(sp), intent(out), optional :: decrement_factor
-      real(sp), intent(out), optional :: decrement_lag
-      real(sp), intent(out), optional :: surface_factor
-      real(sp), intent(out), optional :: surface_factor_lag
-      real(sp), intent(out), optional :: u_value
-      real(sp) :: own_admittance
-      real(sp) :: own_admittance_lead
-      real(sp) :: own_decrement_factor
-      real(sp) :: own_decrement_lag
-      real(sp) :: own_surface_factor
-      real(sp) :: own_surface_factor_lag
-      real(sp) :: own_u_value
+      real(sp), intent(out), optional :: admittance, admittance_lead, decrement_factor, decrement_lag, surface_factor, &
+         surface_factor_lag, u_value
+      real(sp) :: own_admittance, own_admittance_lead, own_decrement_factor, own_decrement_lag, own_surface_factor, &
+         own_surface_factor_lag, own_u_value
       call TPWNDO(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_2, pane_kind_3, emissivity_3, &
          cavity_width_1, cavity_width_2, outer_surface, exposure, tilt, 0.0_sp, own_admittance, own_admittance_lead, &
          own_decrement_factor, own_decrement_lag, own_surface_factor, own_surface_factor_lag, own_u_value)
@@ -843,21 +688,11 @@ contains
    elemental subroutine glass_direct(normal_transmittance, normal_reflectance, incidence, parallel_transmittance, &
       parallel_absorptance, parallel_reflectance, perpendicular_transmittance, perpendicular_absorptance, &
       perpendicular_reflectance)
-      real(sp), intent(in) :: normal_transmittance
-      real(sp), intent(in) :: normal_reflectance
-      real(sp), intent(in) :: incidence
-      real(sp), intent(out), optional :: parallel_transmittance
-      real(sp), intent(out), optional :: parallel_absorptance
-      real(sp), intent(out), optional :: parallel_reflectance
-      real(sp), intent(out), optional :: perpendicular_transmittance
-      real(sp), intent(out), optional :: perpendicular_absorptance
-      real(sp), intent(out), optional :: perpendicular_reflectance
-      real(sp) :: own_parallel_transmittance
-      real(sp) :: own_parallel_absorptance
-      real(sp) :: own_parallel_reflectance
-      real(sp) :: own_perpendicular_transmittance
-      real(sp) :: own_perpendicular_absorptance
-      real(sp) :: own_perpendicular_reflectance
+      real(sp), intent(in) :: normal_transmittance, normal_reflectance, incidence
+      real(sp), intent(out), optional :: parallel_transmittance, parallel_absorptance, parallel_reflectance, &
+         perpendicular_transmittance, perpendicular_absorptance, perpendicular_reflectance
+      real(sp) :: own_parallel_transmittance, own_parallel_absorptance, own_parallel_reflectance, &
+         own_perpendicular_transmittance, own_perpendicular_absorptance, own_perpendicular_reflectance
       call WNDRGL(normal_transmittance, normal_reflectance, incidence, own_parallel_transmittance, &
          own_parallel_absorptance, own_parallel_reflectance, own_perpendicular_transmittance, &
          own_perpendicular_absorptance, own_perpendicular_reflectance)
@@ -870,27 +705,19 @@ contains
    end subroutine
 
    elemental subroutine glass_diffuse(normal_transmittance, normal_reflectance, transmittance, absorptance)
-      real(sp), intent(in) :: normal_transmittance
-      real(sp), intent(in) :: normal_reflectance
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
+      real(sp), intent(in) :: normal_transmittance, normal_reflectance
+      real(sp), intent(out), optional :: transmittance, absorptance
+      real(sp) :: own_transmittance, own_absorptance
       call WNDFGL(normal_transmittance, normal_reflectance, own_transmittance, own_absorptance)
       if (present(transmittance)) transmittance = own_transmittance
       if (present(absorptance)) absorptance = own_absorptance
    end subroutine
 
    pure subroutine stacked_layers(layer_transmittances, layer_reflectances, transmittance, absorptance, reflectance)
-      real(sp), intent(in) :: layer_transmittances(:)
-      real(sp), intent(in) :: layer_reflectances(:)
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
+      real(sp), intent(in) :: layer_transmittances(:), layer_reflectances(:)
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
       integer(i4) :: layers
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       layers = shortest([size(layer_transmittances), size(layer_reflectances)])
       call WNCOM2(layers, layer_transmittances, 0.0_sp, layer_reflectances, own_transmittance, own_absorptance, &
          own_reflectance)
@@ -901,16 +728,10 @@ contains
 
    pure subroutine traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, transmittance, &
       absorptance, reflectance)
-      real(sp), intent(in) :: layer_transmittances(:)
-      real(sp), intent(in) :: layer_absorptances(:)
-      real(sp), intent(in) :: layer_reflectances(:)
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
+      real(sp), intent(in) :: layer_transmittances(:), layer_absorptances(:), layer_reflectances(:)
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
       integer(i4) :: layers
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       layers = shortest([size(layer_transmittances), size(layer_absorptances), size(layer_reflectances)])
       own_transmittance = no_real
       own_absorptance = no_real
@@ -923,14 +744,9 @@ contains
    end subroutine
 
    elemental subroutine roller_blind(blind_transmittance, blind_reflectance, transmittance, absorptance, reflectance)
-      real(sp), intent(in) :: blind_transmittance
-      real(sp), intent(in) :: blind_reflectance
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp), intent(in) :: blind_transmittance, blind_reflectance
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       call WNDRRO(blind_transmittance, blind_reflectance, 0.0_sp, own_transmittance, own_absorptance, own_reflectance)
       if (present(transmittance)) transmittance = own_transmittance
       if (present(absorptance)) absorptance = own_absorptance
@@ -939,14 +755,9 @@ contains
 
    elemental subroutine diffuse_roller_blind(blind_transmittance, blind_reflectance, transmittance, absorptance, &
       reflectance)
-      real(sp), intent(in) :: blind_transmittance
-      real(sp), intent(in) :: blind_reflectance
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp), intent(in) :: blind_transmittance, blind_reflectance
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       call WNDFRO(blind_transmittance, blind_reflectance, own_transmittance, own_absorptance, own_reflectance)
       if (present(transmittance)) transmittance = own_transmittance
       if (present(absorptance)) absorptance = own_absorptance
@@ -954,21 +765,16 @@ contains
    end subroutine
 
    elemental function refraction_angle(incidence, refractive_index) result(answer)
-      real(sp), intent(in) :: incidence
-      real(sp), intent(in) :: refractive_index
+      real(sp), intent(in) :: incidence, refractive_index
       real(sp) :: answer
       answer = WNRANG(incidence, refractive_index)
    end function
 
    elemental subroutine surface_reflectance(incidence, refraction_angle, refractive_index, parallel_reflectance, &
       perpendicular_reflectance)
-      real(sp), intent(in) :: incidence
-      real(sp), intent(in) :: refraction_angle
-      real(sp), intent(in) :: refractive_index
-      real(sp), intent(out), optional :: parallel_reflectance
-      real(sp), intent(out), optional :: perpendicular_reflectance
-      real(sp) :: own_parallel_reflectance
-      real(sp) :: own_perpendicular_reflectance
+      real(sp), intent(in) :: incidence, refraction_angle, refractive_index
+      real(sp), intent(out), optional :: parallel_reflectance, perpendicular_reflectance
+      real(sp) :: own_parallel_reflectance, own_perpendicular_reflectance
       call WNREFL(incidence, refraction_angle, refractive_index, own_parallel_reflectance, &
          own_perpendicular_reflectance)
       if (present(parallel_reflectance)) parallel_reflectance = own_parallel_reflectance
@@ -976,22 +782,16 @@ contains
    end subroutine
 
    elemental function single_pass_absorption(refraction_angle, absorption_product) result(answer)
-      real(sp), intent(in) :: refraction_angle
-      real(sp), intent(in) :: absorption_product
+      real(sp), intent(in) :: refraction_angle, absorption_product
       real(sp) :: answer
       answer = WNABEN(refraction_angle, absorption_product, 0.0_sp)
    end function
 
    elemental subroutine slab_optics(single_pass_absorptance, face_reflectance, transmittance, absorptance, &
       reflectance)
-      real(sp), intent(in) :: single_pass_absorptance
-      real(sp), intent(in) :: face_reflectance
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp), intent(in) :: single_pass_absorptance, face_reflectance
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       call WNTAR(single_pass_absorptance, face_reflectance, own_transmittance, own_absorptance, own_reflectance)
       if (present(transmittance)) transmittance = own_transmittance
       if (present(absorptance)) absorptance = own_absorptance
@@ -999,15 +799,13 @@ contains
    end subroutine
 
    elemental function absorption_product(normal_transmittance, refractive_index) result(answer)
-      real(sp), intent(in) :: normal_transmittance
-      real(sp), intent(in) :: refractive_index
+      real(sp), intent(in) :: normal_transmittance, refractive_index
       real(sp) :: answer
       answer = WNKL(normal_transmittance, refractive_index)
    end function
 
    elemental function normal_transmittance(absorption_product, normal_reflectance) result(answer)
-      real(sp), intent(in) :: absorption_product
-      real(sp), intent(in) :: normal_reflectance
+      real(sp), intent(in) :: absorption_product, normal_reflectance
       real(sp) :: answer
       answer = WNTNOR(absorption_product, normal_reflectance)
    end function
@@ -1015,24 +813,13 @@ contains
    elemental subroutine pane_temperatures(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, &
       absorbed_3, absorbed_4, absorbed_5, pane_temperature_1, pane_temperature_2, pane_temperature_3, &
       pane_temperature_4, pane_temperature_5)
-      real(sp), intent(in) :: inside_temperature
-      real(sp), intent(in) :: outside_temperature
+      real(sp), intent(in) :: inside_temperature, outside_temperature
       integer(i4), intent(in) :: panes
-      real(sp), intent(in) :: absorbed_1
-      real(sp), intent(in) :: absorbed_2
-      real(sp), intent(in) :: absorbed_3
-      real(sp), intent(in) :: absorbed_4
-      real(sp), intent(in) :: absorbed_5
-      real(sp), intent(out), optional :: pane_temperature_1
-      real(sp), intent(out), optional :: pane_temperature_2
-      real(sp), intent(out), optional :: pane_temperature_3
-      real(sp), intent(out), optional :: pane_temperature_4
-      real(sp), intent(out), optional :: pane_temperature_5
-      real(sp) :: own_pane_temperature_1
-      real(sp) :: own_pane_temperature_2
-      real(sp) :: own_pane_temperature_3
-      real(sp) :: own_pane_temperature_4
-      real(sp) :: own_pane_temperature_5
+      real(sp), intent(in) :: absorbed_1, absorbed_2, absorbed_3, absorbed_4, absorbed_5
+      real(sp), intent(out), optional :: pane_temperature_1, pane_temperature_2, pane_temperature_3, &
+         pane_temperature_4, pane_temperature_5
+      real(sp) :: own_pane_temperature_1, own_pane_temperature_2, own_pane_temperature_3, own_pane_temperature_4, &
+         own_pane_temperature_5
       own_pane_temperature_1 = no_real
       own_pane_temperature_2 = no_real
       own_pane_temperature_3 = no_real
@@ -1050,15 +837,9 @@ contains
 
    elemental subroutine unit_direct(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, &
       transmittance, absorptance, reflectance)
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
-      real(sp), intent(in) :: incidence
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient, incidence
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       call WNDRSC(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, own_transmittance, &
          own_absorptance, own_reflectance)
       if (present(transmittance)) transmittance = own_transmittance
@@ -1068,14 +849,9 @@ contains
 
    elemental subroutine unit_diffuse(shortwave_shading_coefficient, longwave_shading_coefficient, transmittance, &
       absorptance, reflectance)
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       call WNDFSC(shortwave_shading_coefficient, longwave_shading_coefficient, own_transmittance, own_absorptance, &
          own_reflectance)
       if (present(transmittance)) transmittance = own_transmittance
@@ -1085,16 +861,10 @@ contains
 
    pure subroutine unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
       transmittance, pane_shares, absorptance)
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
-      real(sp), intent(in) :: incidence
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient, incidence
       integer(i4), intent(in) :: panes
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: pane_shares(:)
-      real(sp), intent(out), optional :: absorptance
-      real(sp) :: own_transmittance
-      real(sp) :: own_pane_shares(max(0_i4, min(panes, 5_i4)))
-      real(sp) :: own_absorptance
+      real(sp), intent(out), optional :: transmittance, pane_shares(:), absorptance
+      real(sp) :: own_transmittance, own_pane_shares(max(0_i4, min(panes, 5_i4))), own_absorptance
       own_pane_shares = no_real
       call WNDRSM(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, own_transmittance, &
          own_pane_shares, own_absorptance)
@@ -1105,15 +875,10 @@ contains
 
    pure subroutine unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coefficient, panes, &
       transmittance, pane_shares, absorptance)
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient
       integer(i4), intent(in) :: panes
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: pane_shares(:)
-      real(sp), intent(out), optional :: absorptance
-      real(sp) :: own_transmittance
-      real(sp) :: own_pane_shares(max(0_i4, min(panes, 5_i4)))
-      real(sp) :: own_absorptance
+      real(sp), intent(out), optional :: transmittance, pane_shares(:), absorptance
+      real(sp) :: own_transmittance, own_pane_shares(max(0_i4, min(panes, 5_i4))), own_absorptance
       own_pane_shares = no_real
       call WNDFSM(shortwave_shading_coefficient, longwave_shading_coefficient, panes, own_transmittance, &
          own_pane_shares, own_absorptance)
@@ -1125,16 +890,10 @@ contains
    pure subroutine unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coefficient, incidence, &
       panes, transmittance, pane_shares, absorptance)
       integer(i4), intent(in) :: radiation
-      real(sp), intent(in) :: shortwave_shading_coefficient
-      real(sp), intent(in) :: longwave_shading_coefficient
-      real(sp), intent(in) :: incidence
+      real(sp), intent(in) :: shortwave_shading_coefficient, longwave_shading_coefficient, incidence
       integer(i4), intent(in) :: panes
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: pane_shares(:)
-      real(sp), intent(out), optional :: absorptance
-      real(sp) :: own_transmittance
-      real(sp) :: own_pane_shares(max(0_i4, min(panes, 5_i4)))
-      real(sp) :: own_absorptance
+      real(sp), intent(out), optional :: transmittance, pane_shares(:), absorptance
+      real(sp) :: own_transmittance, own_pane_shares(max(0_i4, min(panes, 5_i4))), own_absorptance
       own_pane_shares = no_real
       call WNDRS0(radiation, shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
          own_transmittance, own_pane_shares, own_absorptance)
@@ -1145,17 +904,9 @@ contains
 
    elemental subroutine slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, &
       transmittance, absorptance, reflectance)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: profile_angle
-      real(sp), intent(in) :: slat_absorptance
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       call WNDRSL(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, own_transmittance, &
          own_absorptance, own_reflectance)
       if (present(transmittance)) transmittance = own_transmittance
@@ -1165,18 +916,10 @@ contains
 
    elemental subroutine two_faced_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance, &
       opposite_absorptance, transmittance, absorptance, reflectance)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: profile_angle
-      real(sp), intent(in) :: struck_absorptance
-      real(sp), intent(in) :: opposite_absorptance
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance, &
+         opposite_absorptance
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       call WNDRS2(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance, opposite_absorptance, &
          own_transmittance, own_absorptance, own_reflectance)
       if (present(transmittance)) transmittance = own_transmittance
@@ -1186,19 +929,10 @@ contains
 
    elemental subroutine open_slat_direct(slat_spacing, slat_width, slat_angle, profile_angle, open_share, &
       struck_absorptance, opposite_absorptance, transmittance, absorptance, reflectance)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: profile_angle
-      real(sp), intent(in) :: open_share
-      real(sp), intent(in) :: struck_absorptance
-      real(sp), intent(in) :: opposite_absorptance
-      real(sp), intent(out), optional :: transmittance
-      real(sp), intent(out), optional :: absorptance
-      real(sp), intent(out), optional :: reflectance
-      real(sp) :: own_transmittance
-      real(sp) :: own_absorptance
-      real(sp) :: own_reflectance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance, &
+         opposite_absorptance
+      real(sp), intent(out), optional :: transmittance, absorptance, reflectance
+      real(sp) :: own_transmittance, own_absorptance, own_reflectance
       call WNDRS3(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance, &
          opposite_absorptance, own_transmittance, own_absorptance, own_reflectance)
       if (present(transmittance)) transmittance = own_transmittance
@@ -1208,18 +942,9 @@ contains
 
    elemental subroutine slat_diffuse(slat_spacing, slat_width, slat_angle, slat_absorptance, sky_transmittance, &
       ground_transmittance, sky_absorptance, ground_absorptance)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: slat_absorptance
-      real(sp), intent(out), optional :: sky_transmittance
-      real(sp), intent(out), optional :: ground_transmittance
-      real(sp), intent(out), optional :: sky_absorptance
-      real(sp), intent(out), optional :: ground_absorptance
-      real(sp) :: own_sky_transmittance
-      real(sp) :: own_ground_transmittance
-      real(sp) :: own_sky_absorptance
-      real(sp) :: own_ground_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, slat_absorptance
+      real(sp), intent(out), optional :: sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance
+      real(sp) :: own_sky_transmittance, own_ground_transmittance, own_sky_absorptance, own_ground_absorptance
       call WNDFSL(slat_spacing, slat_width, slat_angle, slat_absorptance, own_sky_transmittance, &
          own_ground_transmittance, own_sky_absorptance, own_ground_absorptance)
       if (present(sky_transmittance)) sky_transmittance = own_sky_transmittance
@@ -1230,19 +955,9 @@ contains
 
    elemental subroutine two_faced_slat_diffuse(slat_spacing, slat_width, slat_angle, struck_absorptance, &
       opposite_absorptance, sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: struck_absorptance
-      real(sp), intent(in) :: opposite_absorptance
-      real(sp), intent(out), optional :: sky_transmittance
-      real(sp), intent(out), optional :: ground_transmittance
-      real(sp), intent(out), optional :: sky_absorptance
-      real(sp), intent(out), optional :: ground_absorptance
-      real(sp) :: own_sky_transmittance
-      real(sp) :: own_ground_transmittance
-      real(sp) :: own_sky_absorptance
-      real(sp) :: own_ground_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance
+      real(sp), intent(out), optional :: sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance
+      real(sp) :: own_sky_transmittance, own_ground_transmittance, own_sky_absorptance, own_ground_absorptance
       call WNDFS2(slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance, &
          own_sky_transmittance, own_ground_transmittance, own_sky_absorptance, own_ground_absorptance)
       if (present(sky_transmittance)) sky_transmittance = own_sky_transmittance
@@ -1253,20 +968,10 @@ contains
 
    elemental subroutine open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, &
       opposite_absorptance, sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance)
-      real(sp), intent(in) :: slat_spacing
-      real(sp), intent(in) :: slat_width
-      real(sp), intent(in) :: slat_angle
-      real(sp), intent(in) :: open_share
-      real(sp), intent(in) :: struck_absorptance
-      real(sp), intent(in) :: opposite_absorptance
-      real(sp), intent(out), optional :: sky_transmittance
-      real(sp), intent(out), optional :: ground_transmittance
-      real(sp), intent(out), optional :: sky_absorptance
-      real(sp), intent(out), optional :: ground_absorptance
-      real(sp) :: own_sky_transmittance
-      real(sp) :: own_ground_transmittance
-      real(sp) :: own_sky_absorptance
-      real(sp) :: own_ground_absorptance
+      real(sp), intent(in) :: slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, &
+         opposite_absorptance
+      real(sp), intent(out), optional :: sky_transmittance, ground_transmittance, sky_absorptance, ground_absorptance
+      real(sp) :: own_sky_transmittance, own_ground_transmittance, own_sky_absorptance, own_ground_absorptance
       call WNDFS3(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, opposite_absorptance, &
          own_sky_transmittance, own_ground_transmittance, own_sky_absorptance, own_ground_absorptance)
       if (present(sky_transmittance)) sky_transmittance = own_sky_transmittance
@@ -1279,11 +984,9 @@ contains
       real(sp), intent(in) :: fraction
       integer(i4), intent(in) :: month
       real(sp), intent(in) :: frequencies(12, 10)
-      integer(i4), intent(out), optional :: lower_band
-      integer(i4), intent(out), optional :: upper_band
+      integer(i4), intent(out), optional :: lower_band, upper_band
       real(sp), intent(out), optional :: band_weight
-      integer(i4) :: own_lower_band
-      integer(i4) :: own_upper_band
+      integer(i4) :: own_lower_band, own_upper_band
       real(sp) :: own_band_weight
       call CLBAN1(fraction, month, frequencies, own_lower_band, own_upper_band, own_band_weight)
       if (present(lower_band)) lower_band = own_lower_band
@@ -1293,30 +996,10 @@ contains
 
    elemental subroutine band_climate(band, month, band_set, percentage, q1, q2, q3, q4, q5, q6, time_a, time_b, q7, &
       q8)
-      integer(i4), intent(in) :: band
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: band_set
+      integer(i4), intent(in) :: band, month, band_set
       real(sp), intent(inout) :: percentage
-      real(sp), intent(out), optional :: q1
-      real(sp), intent(out), optional :: q2
-      real(sp), intent(out), optional :: q3
-      real(sp), intent(out), optional :: q4
-      real(sp), intent(out), optional :: q5
-      real(sp), intent(out), optional :: q6
-      real(sp), intent(out), optional :: time_a
-      real(sp), intent(out), optional :: time_b
-      real(sp), intent(out), optional :: q7
-      real(sp), intent(out), optional :: q8
-      real(sp) :: own_q1
-      real(sp) :: own_q2
-      real(sp) :: own_q3
-      real(sp) :: own_q4
-      real(sp) :: own_q5
-      real(sp) :: own_q6
-      real(sp) :: own_time_a
-      real(sp) :: own_time_b
-      real(sp) :: own_q7
-      real(sp) :: own_q8
+      real(sp), intent(out), optional :: q1, q2, q3, q4, q5, q6, time_a, time_b, q7, q8
+      real(sp) :: own_q1, own_q2, own_q3, own_q4, own_q5, own_q6, own_time_a, own_time_b, own_q7, own_q8
       call CLBAND(band, month, band_set, percentage, own_q1, own_q2, own_q3, own_q4, own_q5, own_q6, own_time_a, &
          own_time_b, own_q7, own_q8)
       if (present(q1)) q1 = own_q1
@@ -1332,10 +1015,7 @@ contains
    end subroutine
 
    elemental function interpolate_band_rows(base_row, lower_band, upper_band, month, band_weight) result(answer)
-      integer(i4), intent(in) :: base_row
-      integer(i4), intent(in) :: lower_band
-      integer(i4), intent(in) :: upper_band
-      integer(i4), intent(in) :: month
+      integer(i4), intent(in) :: base_row, lower_band, upper_band, month
       real(sp), intent(in) :: band_weight
       real(sp) :: answer
       call CLBAN2(base_row, lower_band, upper_band, month, band_weight, answer)
@@ -1354,8 +1034,7 @@ contains
    end function
 
    elemental function store_design_day_by_option(month, day_kind) result(answer)
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_kind
+      integer(i4), intent(in) :: month, day_kind
       integer(i4) :: answer
       call CLDAYEX(month, answer, day_kind)
    end function
@@ -1367,8 +1046,7 @@ contains
    end function
 
    elemental function design_day_by_option(month, day_kind) result(answer)
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_kind
+      integer(i4), intent(in) :: month, day_kind
       integer(i4) :: answer
       answer = ICLDAYEX(month, day_kind)
    end function
@@ -1380,50 +1058,36 @@ contains
    end function
 
    elemental function second_design_day_by_option(month, day_kind) result(answer)
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_kind
+      integer(i4), intent(in) :: month, day_kind
       integer(i4) :: answer
       answer = ICLDA2EX(month, day_kind)
    end function
 
    elemental function daily_temperature(hour, highest_temperature, lowest_temperature, hour_of_highest, &
       hour_of_lowest) result(answer)
-      real(sp), intent(in) :: hour
-      real(sp), intent(in) :: highest_temperature
-      real(sp), intent(in) :: lowest_temperature
-      real(sp), intent(in) :: hour_of_highest
-      real(sp), intent(in) :: hour_of_lowest
+      real(sp), intent(in) :: hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest
       real(sp) :: answer
       answer = CLTAO(hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest)
    end function
 
    elemental function daily_value(hour, mean, amplitude, first_hour, second_hour, amplitude_factor) result(answer)
-      real(sp), intent(in) :: hour
-      real(sp), intent(in) :: mean
-      real(sp), intent(in) :: amplitude
-      real(sp), intent(in) :: first_hour
-      real(sp), intent(in) :: second_hour
-      real(sp), intent(in) :: amplitude_factor
+      real(sp), intent(in) :: hour, mean, amplitude, first_hour, second_hour, amplitude_factor
       real(sp) :: answer
       answer = CLTAOX(hour, mean, amplitude, first_hour, second_hour, amplitude_factor)
    end function
 
    elemental subroutine design_irradiance(solar_altitude, site_height, sky_kind, direct_normal, diffuse_horizontal)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: site_height
+      real(sp), intent(in) :: solar_altitude, site_height
       integer(i4), intent(in) :: sky_kind
-      real(sp), intent(out), optional :: direct_normal
-      real(sp), intent(out), optional :: diffuse_horizontal
-      real(sp) :: own_direct_normal
-      real(sp) :: own_diffuse_horizontal
+      real(sp), intent(out), optional :: direct_normal, diffuse_horizontal
+      real(sp) :: own_direct_normal, own_diffuse_horizontal
       call CLSNNR(solar_altitude, 0.0_sp, site_height, sky_kind, own_direct_normal, own_diffuse_horizontal)
       if (present(direct_normal)) direct_normal = own_direct_normal
       if (present(diffuse_horizontal)) diffuse_horizontal = own_diffuse_horizontal
    end subroutine
 
    elemental function height_factor(site_height, solar_altitude) result(answer)
-      real(sp), intent(in) :: site_height
-      real(sp), intent(in) :: solar_altitude
+      real(sp), intent(in) :: site_height, solar_altitude
       real(sp) :: answer
       answer = CLHIGH(site_height, solar_altitude)
    end function
@@ -1436,8 +1100,7 @@ contains
 
    elemental function clearness_index(day, solar_altitude, global_horizontal) result(answer)
       integer(i4), intent(in) :: day
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: global_horizontal
+      real(sp), intent(in) :: solar_altitude, global_horizontal
       real(sp) :: answer
       answer = CLMODUL(day, solar_altitude, global_horizontal)
    end function
@@ -1445,22 +1108,10 @@ contains
    elemental subroutine muneer_slope(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
       diffuse_horizontal, extraterrestrial_horizontal, ground_reflectance, surface_beam, surface_diffuse, &
       ground_reflected, incidence)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: beam_horizontal
-      real(sp), intent(in) :: diffuse_horizontal
-      real(sp), intent(in) :: extraterrestrial_horizontal
-      real(sp), intent(in) :: ground_reflectance
-      real(sp), intent(out), optional :: surface_beam
-      real(sp), intent(out), optional :: surface_diffuse
-      real(sp), intent(out), optional :: ground_reflected
-      real(sp), intent(out), optional :: incidence
-      real(sp) :: own_surface_beam
-      real(sp) :: own_surface_diffuse
-      real(sp) :: own_ground_reflected
-      real(sp) :: own_incidence
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
+         diffuse_horizontal, extraterrestrial_horizontal, ground_reflectance
+      real(sp), intent(out), optional :: surface_beam, surface_diffuse, ground_reflected, incidence
+      real(sp) :: own_surface_beam, own_surface_diffuse, own_ground_reflected, own_incidence
       call CLMUNRAD(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, diffuse_horizontal, &
          extraterrestrial_horizontal, ground_reflectance, own_surface_beam, own_surface_diffuse, own_ground_reflected, &
          own_incidence)
@@ -1472,12 +1123,8 @@ contains
 
    elemental function perez_diffuse(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, &
       extraterrestrial_normal) result(answer)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: beam_horizontal
-      real(sp), intent(in) :: diffuse_horizontal
-      real(sp), intent(in) :: incidence
-      real(sp), intent(in) :: extraterrestrial_normal
+      real(sp), intent(in) :: solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, &
+         extraterrestrial_normal
       real(sp) :: answer
       call CLPERSKY(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, answer, incidence, &
          extraterrestrial_normal)
@@ -1485,16 +1132,9 @@ contains
 
    elemental subroutine site_constants(site_class, month, ground_reflectance, beam_factor, diffuse_factor, &
       alternative_diffuse_factor)
-      integer(i4), intent(in) :: site_class
-      integer(i4), intent(in) :: month
-      real(sp), intent(out), optional :: ground_reflectance
-      real(sp), intent(out), optional :: beam_factor
-      real(sp), intent(out), optional :: diffuse_factor
-      real(sp), intent(out), optional :: alternative_diffuse_factor
-      real(sp) :: own_ground_reflectance
-      real(sp) :: own_beam_factor
-      real(sp) :: own_diffuse_factor
-      real(sp) :: own_alternative_diffuse_factor
+      integer(i4), intent(in) :: site_class, month
+      real(sp), intent(out), optional :: ground_reflectance, beam_factor, diffuse_factor, alternative_diffuse_factor
+      real(sp) :: own_ground_reflectance, own_beam_factor, own_diffuse_factor, own_alternative_diffuse_factor
       call CLCONS(site_class, month, own_ground_reflectance, own_beam_factor, own_diffuse_factor, &
          own_alternative_diffuse_factor)
       if (present(ground_reflectance)) ground_reflectance = own_ground_reflectance
@@ -1505,9 +1145,7 @@ contains
 
    elemental function diffuse_tilt_factor(day, solar_altitude, beam_horizontal, tilt, sky_model) result(answer)
       integer(i4), intent(in) :: day
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: beam_horizontal
-      real(sp), intent(in) :: tilt
+      real(sp), intent(in) :: solar_altitude, beam_horizontal, tilt
       integer(i4), intent(in) :: sky_model
       real(sp) :: answer
       answer = CLDIFRAD(day, solar_altitude, beam_horizontal, 0.0_sp, tilt, sky_model)
@@ -1516,12 +1154,8 @@ contains
    elemental function slope_diffuse(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
       diffuse_horizontal, sky_model) result(answer)
       integer(i4), intent(in) :: day
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: beam_horizontal
-      real(sp), intent(in) :: diffuse_horizontal
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
+         diffuse_horizontal
       integer(i4), intent(in) :: sky_model
       real(sp) :: answer
       answer = CLDIFSLO(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, &
@@ -1530,18 +1164,13 @@ contains
 
    elemental function sol_air_temperature(base_temperature, surface_coefficient, absorptance, irradiance, &
       long_wave_loss) result(answer)
-      real(sp), intent(in) :: base_temperature
-      real(sp), intent(in) :: surface_coefficient
-      real(sp), intent(in) :: absorptance
-      real(sp), intent(in) :: irradiance
-      real(sp), intent(in) :: long_wave_loss
+      real(sp), intent(in) :: base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss
       real(sp) :: answer
       answer = CLTEO(base_temperature, surface_coefficient, absorptance, 0.0_sp, 0.0_sp, irradiance, long_wave_loss)
    end function
 
    elemental function long_wave_loss(tilt, cloud_cover) result(answer)
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: cloud_cover
+      real(sp), intent(in) :: tilt, cloud_cover
       real(sp) :: answer
       answer = CLRERD(tilt, cloud_cover)
    end function
@@ -1549,28 +1178,18 @@ contains
    elemental function solar_time_correction(clock_offset, day, longitude, reference_longitude) result(answer)
       real(sp), intent(in) :: clock_offset
       integer(i4), intent(in) :: day
-      real(sp), intent(in) :: longitude
-      real(sp), intent(in) :: reference_longitude
+      real(sp), intent(in) :: longitude, reference_longitude
       real(sp) :: answer
       answer = CLTCOR(clock_offset, day, longitude, reference_longitude)
    end function
 
    elemental subroutine almanac_position(time_kind, year, month, day_of_month, clock_time, latitude, longitude, &
       zone_meridian, solar_altitude, solar_azimuth, declination)
-      integer(i4), intent(in) :: time_kind
-      integer(i4), intent(in) :: year
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_of_month
-      real(sp), intent(in) :: clock_time
-      real(sp), intent(in) :: latitude
-      real(sp), intent(inout) :: longitude
-      real(sp), intent(inout) :: zone_meridian
-      real(sp), intent(out), optional :: solar_altitude
-      real(sp), intent(out), optional :: solar_azimuth
-      real(sp), intent(out), optional :: declination
-      real(sp) :: own_solar_altitude
-      real(sp) :: own_solar_azimuth
-      real(sp) :: own_declination
+      integer(i4), intent(in) :: time_kind, year, month, day_of_month
+      real(sp), intent(in) :: clock_time, latitude
+      real(sp), intent(inout) :: longitude, zone_meridian
+      real(sp), intent(out), optional :: solar_altitude, solar_azimuth, declination
+      real(sp) :: own_solar_altitude, own_solar_azimuth, own_declination
       call CLYALLOP(time_kind, year, month, day_of_month, clock_time, latitude, longitude, zone_meridian, &
          own_solar_altitude, own_solar_azimuth, own_declination)
       if (present(solar_altitude)) solar_altitude = own_solar_altitude
@@ -1579,14 +1198,10 @@ contains
    end subroutine
 
    elemental subroutine almanac_sun_hours(year, month, day_of_month, latitude, sunrise, sunset)
-      integer(i4), intent(in) :: year
-      integer(i4), intent(in) :: month
-      integer(i4), intent(in) :: day_of_month
+      integer(i4), intent(in) :: year, month, day_of_month
       real(sp), intent(in) :: latitude
-      real(sp), intent(out), optional :: sunrise
-      real(sp), intent(out), optional :: sunset
-      real(sp) :: own_sunrise
-      real(sp) :: own_sunset
+      real(sp), intent(out), optional :: sunrise, sunset
+      real(sp) :: own_sunrise, own_sunset
       call CLRISESET(year, month, day_of_month, latitude, own_sunrise, own_sunset)
       if (present(sunrise)) sunrise = own_sunrise
       if (present(sunset)) sunset = own_sunset
@@ -1597,16 +1212,8 @@ contains
       real(sp), intent(in) :: latitude
       integer(i4), intent(in) :: day
       real(sp), intent(in) :: solar_time
-      real(sp), intent(out), optional :: declination
-      real(sp), intent(out), optional :: solar_altitude
-      real(sp), intent(out), optional :: solar_azimuth
-      real(sp), intent(out), optional :: sunrise
-      real(sp), intent(out), optional :: sunset
-      real(sp) :: own_declination
-      real(sp) :: own_solar_altitude
-      real(sp) :: own_solar_azimuth
-      real(sp) :: own_sunrise
-      real(sp) :: own_sunset
+      real(sp), intent(out), optional :: declination, solar_altitude, solar_azimuth, sunrise, sunset
+      real(sp) :: own_declination, own_solar_altitude, own_solar_azimuth, own_sunrise, own_sunset
       own_sunrise = no_real
       own_sunset = no_real
       call CLSNGE(latitude, day, solar_time, own_declination, own_solar_altitude, own_solar_azimuth, own_sunrise, &
@@ -1620,16 +1227,9 @@ contains
 
    elemental subroutine surface_angles(solar_altitude, solar_azimuth, surface_azimuth, tilt, incidence, &
       vertical_shadow_angle, horizontal_shadow_angle)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(out), optional :: incidence
-      real(sp), intent(out), optional :: vertical_shadow_angle
-      real(sp), intent(out), optional :: horizontal_shadow_angle
-      real(sp) :: own_incidence
-      real(sp) :: own_vertical_shadow_angle
-      real(sp) :: own_horizontal_shadow_angle
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt
+      real(sp), intent(out), optional :: incidence, vertical_shadow_angle, horizontal_shadow_angle
+      real(sp) :: own_incidence, own_vertical_shadow_angle, own_horizontal_shadow_angle
       call CLSNSR(solar_altitude, solar_azimuth, surface_azimuth, tilt, own_incidence, own_vertical_shadow_angle, &
          own_horizontal_shadow_angle)
       if (present(incidence)) incidence = own_incidence
@@ -1640,21 +1240,10 @@ contains
    elemental subroutine surface_irradiance(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, &
       diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, surface_beam, surface_diffuse, &
       ground_reflected)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: direct_normal
-      real(sp), intent(in) :: diffuse_horizontal
-      real(sp), intent(in) :: ground_reflectance
-      real(sp), intent(in) :: beam_factor
-      real(sp), intent(in) :: diffuse_factor
-      real(sp), intent(out), optional :: surface_beam
-      real(sp), intent(out), optional :: surface_diffuse
-      real(sp), intent(out), optional :: ground_reflected
-      real(sp) :: own_surface_beam
-      real(sp) :: own_surface_diffuse
-      real(sp) :: own_ground_reflected
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, &
+         ground_reflectance, beam_factor, diffuse_factor
+      real(sp), intent(out), optional :: surface_beam, surface_diffuse, ground_reflected
+      real(sp) :: own_surface_beam, own_surface_diffuse, own_ground_reflected
       call CLSORD(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, &
          ground_reflectance, beam_factor, diffuse_factor, own_surface_beam, own_surface_diffuse, own_ground_reflected)
       if (present(surface_beam)) surface_beam = own_surface_beam
@@ -1665,23 +1254,10 @@ contains
    elemental subroutine surface_irradiance_and_incidence(solar_altitude, solar_azimuth, surface_azimuth, tilt, &
       direct_normal, diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, surface_beam, &
       surface_diffuse, ground_reflected, incidence)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(in) :: direct_normal
-      real(sp), intent(in) :: diffuse_horizontal
-      real(sp), intent(in) :: ground_reflectance
-      real(sp), intent(in) :: beam_factor
-      real(sp), intent(in) :: diffuse_factor
-      real(sp), intent(out), optional :: surface_beam
-      real(sp), intent(out), optional :: surface_diffuse
-      real(sp), intent(out), optional :: ground_reflected
-      real(sp), intent(out), optional :: incidence
-      real(sp) :: own_surface_beam
-      real(sp) :: own_surface_diffuse
-      real(sp) :: own_ground_reflected
-      real(sp) :: own_incidence
+      real(sp), intent(in) :: solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, &
+         ground_reflectance, beam_factor, diffuse_factor
+      real(sp), intent(out), optional :: surface_beam, surface_diffuse, ground_reflected, incidence
+      real(sp) :: own_surface_beam, own_surface_diffuse, own_ground_reflected, own_incidence
       call CLSOR2(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal, &
          ground_reflectance, beam_factor, diffuse_factor, own_surface_beam, own_surface_diffuse, own_ground_reflected, &
          own_incidence)
@@ -1692,18 +1268,12 @@ contains
    end subroutine
 
    pure subroutine overlap(x_1, y_1, x_2, y_2, piece_x, piece_y, piece_vertices, area)
-      real(sp), intent(in) :: x_1(:)
-      real(sp), intent(in) :: y_1(:)
-      real(sp), intent(in) :: x_2(:)
-      real(sp), intent(in) :: y_2(:)
-      real(sp), intent(out), optional :: piece_x(25, 5)
-      real(sp), intent(out), optional :: piece_y(25, 5)
+      real(sp), intent(in) :: x_1(:), y_1(:), x_2(:), y_2(:)
+      real(sp), intent(out), optional :: piece_x(25, 5), piece_y(25, 5)
       integer(i4), intent(out), optional :: piece_vertices(5)
       real(sp), intent(out), optional :: area
-      integer(i4) :: vertices_1
-      integer(i4) :: vertices_2
-      real(sp) :: own_piece_x(25, 5)
-      real(sp) :: own_piece_y(25, 5)
+      integer(i4) :: vertices_1, vertices_2
+      real(sp) :: own_piece_x(25, 5), own_piece_y(25, 5)
       integer(i4) :: own_piece_vertices(5)
       real(sp) :: own_area
       vertices_1 = shortest([size(x_1), size(y_1)])
@@ -1716,18 +1286,12 @@ contains
    end subroutine
 
    pure subroutine overlap_alias(x_1, y_1, x_2, y_2, piece_x, piece_y, piece_vertices, area)
-      real(sp), intent(in) :: x_1(:)
-      real(sp), intent(in) :: y_1(:)
-      real(sp), intent(in) :: x_2(:)
-      real(sp), intent(in) :: y_2(:)
-      real(sp), intent(out), optional :: piece_x(25, 5)
-      real(sp), intent(out), optional :: piece_y(25, 5)
+      real(sp), intent(in) :: x_1(:), y_1(:), x_2(:), y_2(:)
+      real(sp), intent(out), optional :: piece_x(25, 5), piece_y(25, 5)
       integer(i4), intent(out), optional :: piece_vertices(5)
       real(sp), intent(out), optional :: area
-      integer(i4) :: vertices_1
-      integer(i4) :: vertices_2
-      real(sp) :: own_piece_x(25, 5)
-      real(sp) :: own_piece_y(25, 5)
+      integer(i4) :: vertices_1, vertices_2
+      real(sp) :: own_piece_x(25, 5), own_piece_y(25, 5)
       integer(i4) :: own_piece_vertices(5)
       real(sp) :: own_area
       vertices_1 = shortest([size(x_1), size(y_1)])
@@ -1740,24 +1304,17 @@ contains
    end subroutine
 
    pure function collinearity(x, y) result(answer)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
-      integer(i4) :: answer
-      integer(i4) :: points
+      real(sp), intent(in) :: x(:), y(:)
+      integer(i4) :: answer, points
       points = shortest([size(x), size(y)])
       answer = IGELIN(x, y, points)
    end function
 
    pure subroutine count_enclosed(x, y, point_x, point_y, enclosed, enclosed_points)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
-      real(sp), intent(in) :: point_x(:)
-      real(sp), intent(in) :: point_y(:)
+      real(sp), intent(in) :: x(:), y(:), point_x(:), point_y(:)
       integer(i4), intent(inout) :: enclosed(:)
       integer(i4), intent(out), optional :: enclosed_points
-      integer(i4) :: vertices
-      integer(i4) :: points
-      integer(i4) :: own_enclosed_points
+      integer(i4) :: vertices, points, own_enclosed_points
       vertices = shortest([size(x), size(y)])
       points = shortest([size(point_x), size(point_y), size(enclosed)])
       call GECLOS(x, y, vertices, point_x, point_y, points, enclosed, own_enclosed_points)
@@ -1765,10 +1322,7 @@ contains
    end subroutine
 
    pure subroutine boundary_crossing(segment_start, segment_end, x, y, crossing_point, crossing_code)
-      real(sp), intent(in) :: segment_start(2)
-      real(sp), intent(in) :: segment_end(2)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
+      real(sp), intent(in) :: segment_start(2), segment_end(2), x(:), y(:)
       real(sp), intent(out), optional :: crossing_point(2)
       integer(i4), intent(out), optional :: crossing_code
       integer(i4) :: vertices
@@ -1781,30 +1335,23 @@ contains
    end subroutine
 
    pure function inside(point, polygon) result(answer)
-      real(sp), intent(in) :: point(3)
-      real(sp), intent(in) :: polygon(:, :)
-      integer(i4) :: answer
-      integer(i4) :: vertices
+      real(sp), intent(in) :: point(3), polygon(:, :)
+      integer(i4) :: answer, vertices
       vertices = shortest([size(polygon)/3])
       call GEINSI(point, polygon, vertices, answer)
    end function
 
    pure function parallel_planes(triangle_1, triangle_2) result(answer)
-      real(dp), intent(in) :: triangle_1(3, 3)
-      real(dp), intent(in) :: triangle_2(3, 3)
+      real(dp), intent(in) :: triangle_1(3, 3), triangle_2(3, 3)
       logical :: answer
       answer = GEPLEL(triangle_1, triangle_2) /= 0
    end function
 
    pure subroutine parallel_sides(triangle_1, triangle_2, truth, side_1, side_2)
-      real(dp), intent(in) :: triangle_1(3, 3)
-      real(dp), intent(in) :: triangle_2(3, 3)
+      real(dp), intent(in) :: triangle_1(3, 3), triangle_2(3, 3)
       logical, intent(out), optional :: truth
-      integer(i4), intent(out), optional :: side_1
-      integer(i4), intent(out), optional :: side_2
-      integer(i4) :: own_truth
-      integer(i4) :: own_side_1
-      integer(i4) :: own_side_2
+      integer(i4), intent(out), optional :: side_1, side_2
+      integer(i4) :: own_truth, own_side_1, own_side_2
       call array_parallel_sides(1_c_size_t, triangle_1, 0_c_ptrdiff_t, triangle_2, 0_c_ptrdiff_t, own_truth, &
          0_c_ptrdiff_t, own_side_1, 0_c_ptrdiff_t, own_side_2, 0_c_ptrdiff_t)
       if (present(truth)) truth = own_truth /= 0
@@ -1828,74 +1375,53 @@ contains
    end subroutine
 
    pure subroutine local_coordinates(quadrilateral_1, quadrilateral_2, local_1, local_2)
-      real(dp), intent(in) :: quadrilateral_1(3, 4)
-      real(dp), intent(in) :: quadrilateral_2(3, 4)
-      real(dp), intent(out), optional :: local_1(3, 4)
-      real(dp), intent(out), optional :: local_2(3, 4)
-      real(dp) :: own_local_1(3, 4)
-      real(dp) :: own_local_2(3, 4)
+      real(dp), intent(in) :: quadrilateral_1(3, 4), quadrilateral_2(3, 4)
+      real(dp), intent(out), optional :: local_1(3, 4), local_2(3, 4)
+      real(dp) :: own_local_1(3, 4), own_local_2(3, 4)
       call GELCAL(quadrilateral_1, quadrilateral_2, own_local_1, own_local_2)
       if (present(local_1)) local_1 = own_local_1
       if (present(local_2)) local_2 = own_local_2
    end subroutine
 
    pure function to_local(corners, x_axis, y_axis, z_axis) result(answer)
-      real(dp), intent(in) :: corners(3, 4)
-      real(dp), intent(in) :: x_axis(3)
-      real(dp), intent(in) :: y_axis(3)
-      real(dp), intent(in) :: z_axis(3)
+      real(dp), intent(in) :: corners(3, 4), x_axis(3), y_axis(3), z_axis(3)
       real(dp) :: answer(3, 4)
       answer = corners
       call GETRNS(answer, x_axis, y_axis, z_axis)
    end function
 
    pure function meeting_point(line_1_start, line_1_end, line_2_start, line_2_end) result(answer)
-      real(sp), intent(in) :: line_1_start(2)
-      real(sp), intent(in) :: line_1_end(2)
-      real(sp), intent(in) :: line_2_start(2)
-      real(sp), intent(in) :: line_2_end(2)
+      real(sp), intent(in) :: line_1_start(2), line_1_end(2), line_2_start(2), line_2_end(2)
       real(sp) :: answer(2)
       call GEMEET(line_1_start, line_1_end, line_2_start, line_2_end, answer)
    end function
 
    pure function crossing_point(segment_1_start, segment_1_end, segment_2_start, segment_2_end) result(answer)
-      real(sp), intent(in) :: segment_1_start(2)
-      real(sp), intent(in) :: segment_1_end(2)
-      real(sp), intent(in) :: segment_2_start(2)
-      real(sp), intent(in) :: segment_2_end(2)
+      real(sp), intent(in) :: segment_1_start(2), segment_1_end(2), segment_2_start(2), segment_2_end(2)
       real(sp) :: answer(2)
       call GECROS(segment_1_start, segment_1_end, segment_2_start, segment_2_end, answer)
    end function
 
    pure function in_span(first_end, second_end, point) result(answer)
-      real(sp), intent(in) :: first_end(3)
-      real(sp), intent(in) :: second_end(3)
-      real(sp), intent(in) :: point(3)
+      real(sp), intent(in) :: first_end(3), second_end(3), point(3)
       real(sp) :: answer
       answer = GEINLN(first_end, second_end, point)
    end function
 
    pure function ahead_and_nearer(first_end, second_end, point) result(answer)
-      real(sp), intent(in) :: first_end(3)
-      real(sp), intent(in) :: second_end(3)
-      real(sp), intent(in) :: point(3)
+      real(sp), intent(in) :: first_end(3), second_end(3), point(3)
       real(sp) :: answer
       answer = GEINLN2(first_end, second_end, point)
    end function
 
    elemental function coincide(x_1, y_1, x_2, y_2) result(answer)
-      real(sp), intent(in) :: x_1
-      real(sp), intent(in) :: y_1
-      real(sp), intent(in) :: x_2
-      real(sp), intent(in) :: y_2
+      real(sp), intent(in) :: x_1, y_1, x_2, y_2
       logical :: answer
       answer = GECOIN(x_1, y_1, x_2, y_2) /= 0
    end function
 
    pure function side_of_line(line_start, line_end, point) result(answer)
-      real(sp), intent(in) :: line_start(2)
-      real(sp), intent(in) :: line_end(2)
-      real(sp), intent(in) :: point(2)
+      real(sp), intent(in) :: line_start(2), line_end(2), point(2)
       integer(i4) :: answer
       answer = IGEPNT(line_start, line_end, point)
    end function
@@ -1907,41 +1433,34 @@ contains
    end function
 
    pure function direction_to(solar_altitude, solar_azimuth) result(answer)
-      real(sp), intent(in) :: solar_altitude
-      real(sp), intent(in) :: solar_azimuth
+      real(sp), intent(in) :: solar_altitude, solar_azimuth
       real(sp) :: answer(3)
       call GESUNV(solar_altitude, solar_azimuth, answer)
    end function
 
    pure subroutine surface_axes(surface_azimuth, tilt, rotation_matrix, inverse_matrix)
-      real(sp), intent(in) :: surface_azimuth
-      real(sp), intent(in) :: tilt
-      real(sp), intent(out), optional :: rotation_matrix(3, 3)
-      real(sp), intent(out), optional :: inverse_matrix(3, 3)
-      real(sp) :: own_rotation_matrix(3, 3)
-      real(sp) :: own_inverse_matrix(3, 3)
+      real(sp), intent(in) :: surface_azimuth, tilt
+      real(sp), intent(out), optional :: rotation_matrix(3, 3), inverse_matrix(3, 3)
+      real(sp) :: own_rotation_matrix(3, 3), own_inverse_matrix(3, 3)
       call GERSET(surface_azimuth, tilt, own_rotation_matrix, own_inverse_matrix)
       if (present(rotation_matrix)) rotation_matrix = own_rotation_matrix
       if (present(inverse_matrix)) inverse_matrix = own_inverse_matrix
    end subroutine
 
    pure function local_to_global(local_vector, rotation_matrix) result(answer)
-      real(sp), intent(in) :: local_vector(3)
-      real(sp), intent(in) :: rotation_matrix(3, 3)
+      real(sp), intent(in) :: local_vector(3), rotation_matrix(3, 3)
       real(sp) :: answer(3)
       call GERAXI(local_vector, rotation_matrix, answer)
    end function
 
    pure function global_to_local(global_vector, rotation_matrix) result(answer)
-      real(sp), intent(in) :: global_vector(3)
-      real(sp), intent(in) :: rotation_matrix(3, 3)
+      real(sp), intent(in) :: global_vector(3), rotation_matrix(3, 3)
       real(sp) :: answer(3)
       call GERAX2(global_vector, rotation_matrix, answer)
    end function
 
    pure function plan_area(x, y) result(answer)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
+      real(sp), intent(in) :: x(:), y(:)
       real(sp) :: answer
       integer(i4) :: vertices
       vertices = shortest([size(x), size(y)])
@@ -1949,8 +1468,7 @@ contains
    end function
 
    pure function signed_plan_area(x, y) result(answer)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
+      real(sp), intent(in) :: x(:), y(:)
       real(sp) :: answer
       integer(i4) :: vertices
       vertices = shortest([size(x), size(y)])
@@ -1958,9 +1476,7 @@ contains
    end function
 
    pure function area_in_space(x, y, z) result(answer)
-      real(sp), intent(in) :: x(:)
-      real(sp), intent(in) :: y(:)
-      real(sp), intent(in) :: z(:)
+      real(sp), intent(in) :: x(:), y(:), z(:)
       real(sp) :: answer
       integer(i4) :: vertices
       vertices = shortest([size(x), size(y), size(z)])
@@ -1969,13 +1485,9 @@ contains
 
    pure subroutine polygon_orientation(polygon, area, tilt, back_azimuth)
       real(sp), intent(in) :: polygon(:, :)
-      real(sp), intent(out), optional :: area
-      real(sp), intent(out), optional :: tilt
-      real(sp), intent(out), optional :: back_azimuth
+      real(sp), intent(out), optional :: area, tilt, back_azimuth
       integer(i4) :: vertices
-      real(sp) :: own_area
-      real(sp) :: own_tilt
-      real(sp) :: own_back_azimuth
+      real(sp) :: own_area, own_tilt, own_back_azimuth
       vertices = shortest([size(polygon)/3])
       own_tilt = no_real
       own_back_azimuth = no_real
@@ -1986,56 +1498,43 @@ contains
    end subroutine
 
    pure function projection(plane_point, plane_normal, point, direction) result(answer)
-      real(sp), intent(in) :: plane_point(3)
-      real(sp), intent(in) :: plane_normal(3)
-      real(sp), intent(in) :: point(3)
-      real(sp), intent(in) :: direction(3)
+      real(sp), intent(in) :: plane_point(3), plane_normal(3), point(3), direction(3)
       real(sp) :: answer(3)
       call GEPROJ(plane_point, plane_normal, point, direction, answer)
    end function
 
    pure function forward_projection(plane_point, plane_normal, point, direction) result(answer)
-      real(sp), intent(in) :: plane_point(3)
-      real(sp), intent(in) :: plane_normal(3)
-      real(sp), intent(in) :: point(3)
-      real(sp), intent(in) :: direction(3)
+      real(sp), intent(in) :: plane_point(3), plane_normal(3), point(3), direction(3)
       real(sp) :: answer(3)
       call GEPROJ2(plane_point, plane_normal, point, direction, answer)
    end function
 
    pure function forward_projection_or_start(plane_point, plane_normal, point, direction) result(answer)
-      real(sp), intent(in) :: plane_point(3)
-      real(sp), intent(in) :: plane_normal(3)
-      real(sp), intent(in) :: point(3)
-      real(sp), intent(in) :: direction(3)
+      real(sp), intent(in) :: plane_point(3), plane_normal(3), point(3), direction(3)
       real(sp) :: answer(3)
       call GEPROJ3(plane_point, plane_normal, point, direction, answer)
    end function
 
    pure function vector_dot_product(vector_a, vector_b) result(answer)
-      real(sp), intent(in) :: vector_a(3)
-      real(sp), intent(in) :: vector_b(3)
+      real(sp), intent(in) :: vector_a(3), vector_b(3)
       real(sp) :: answer
       answer = GEDOTP(vector_a, vector_b)
    end function
 
    pure function dot_product_in_double(vector_a, vector_b) result(answer)
-      real(dp), intent(in) :: vector_a(3)
-      real(dp), intent(in) :: vector_b(3)
+      real(dp), intent(in) :: vector_a(3), vector_b(3)
       real(dp) :: answer
       answer = GEDTDP(vector_a, vector_b)
    end function
 
    pure function cross_product(vector_a, vector_b) result(answer)
-      real(sp), intent(in) :: vector_a(3)
-      real(sp), intent(in) :: vector_b(3)
+      real(sp), intent(in) :: vector_a(3), vector_b(3)
       real(sp) :: answer(3)
       call GEXPRO(vector_a, vector_b, answer)
    end function
 
    pure function cross_product_in_double(vector_a, vector_b) result(answer)
-      real(dp), intent(in) :: vector_a(3)
-      real(dp), intent(in) :: vector_b(3)
+      real(dp), intent(in) :: vector_a(3), vector_b(3)
       real(dp) :: answer(3)
       call GEXPDP(vector_a, vector_b, answer)
    end function
