@@ -4,10 +4,10 @@ corpus.txt says how many bytes of the corpus bits.f90 reads of each routine."""
 import math
 
 import binding_model
+import corpus_layout
 from fortran_model import KINDS, folded, is_function, is_offered, literal, own, procedure_name
 
 CASES = 2000
-BEYOND = 2  # the corpus has room for so many more than it draws
 
 PROGRAM = """\
 program {name}
@@ -23,7 +23,6 @@ contains
 {procedures}end program {name}
 """
 
-WORDS = {"Real": 1, "DoubleReal": 2, "Integer": 1, "Text": 16}
 UNTOUCHED = {"Real": "untouched", "DoubleReal": "untouched_pair", "Integer": "untouched_integer"}
 
 
@@ -36,30 +35,13 @@ def _call(routine, names):
     return f"{routine.export}({passed})" if routine.result else f"call {routine.export}({passed})"
 
 
-class Bits:
+class Bits(corpus_layout.Layout):
     """Reads the cases of a routine, calls it by reference, then its wrapper where the counts are in order."""
-
-    def __init__(self, call):
-        self.call, self.routine = call, call.routine
-        self.given = [arg for arg in self.routine.args if arg.dir != "out"]
-        self.changed = [arg for arg in self.routine.args if arg.dir != "in"]
-        self.highest = {arg.name: int(arg.draw[1]) + BEYOND for arg in self.given if arg.draw}
-
-    def _room(self, arg):
-        if arg.type == "Text":
-            return [4 * WORDS["Text"]]
-        return [extent if isinstance(extent, int) else self.highest[extent] for extent in arg.shape]
-
-    def bytes(self):
-        results = [self.routine.result] if self.routine.result else []
-        return 4 * CASES * sum(
-            WORDS[arg.type] * (1 if arg.type == "Text" else math.prod(self._room(arg)))
-            for arg in (*self.given, *self.changed, *results))
 
     def _declarations(self):
         for arg, prefix in [(arg, "") for arg in self.given] + [
                 (arg, prefix) for arg in self.changed for prefix in ("got_", "left_")]:
-            room = self._room(arg)
+            room = self.room(arg)
             yield f"{_kind(arg)} :: {prefix}{arg.name}" + (f"({', '.join(map(str, room))})" if room else "")
         if self.routine.result:
             yield f"{_kind(self.routine.result)} :: left_result"
@@ -112,11 +94,6 @@ class Bits:
             return f"({got} .eqv. {left} /= 0)"
         return f"agrees({got}, {left})" + f" .or. is_untouched({left})" * bool(result.unwritten)
 
-    def _counts_are_in_order(self):
-        return " .and. ".join(
-            f"{count.name} >= {count.low} .and. {count.name} <= {min(count.high, self.highest[count.name])}"
-            for count in self.call.counts)
-
     def _read(self):
         left = ["left_result"] * bool(self.routine.result) + [f"left_{arg.name}" for arg in self.changed]
         yield f"read (unit) {', '.join(arg.name for arg in self.given)}"
@@ -126,7 +103,7 @@ class Bits:
         if not is_offered(self.call):
             return []
         lines = [*self._prepare(), *self._by_wrapper()]
-        order = self._counts_are_in_order()
+        order = " .and. ".join(f"{name} >= {low} .and. {name} <= {high}" for name, low, high in self.orders())
         return [f"if ({order}) then", *(f"   {line}" for line in lines), "end if"] if order else lines
 
     def text(self):
@@ -251,7 +228,7 @@ def files(families):
         Example(call, example, number)
         for call in calls for number, example in enumerate(call.routine.examples, 1)]
     return {
-        "corpus.txt": "".join(f"{each.routine.export} {each.bytes()}\n" for each in bits),
+        "corpus.txt": corpus_layout.sizes(calls, CASES),
         "bits.f90": _program("bits", ["quorvel_unchecked"], [f"bits_of_{each.routine.export}" for each in bits],
                              [each.text() for each in bits]),
         "examples.f90": _program("examples", ["quorvel_faults, only: quorvel_fault"],
