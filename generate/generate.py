@@ -20,6 +20,7 @@ import exports
 import fortran_tests
 import host_headers
 import interface
+import pascal_tests
 import python_core
 import routine_table
 
@@ -40,6 +41,7 @@ FOLDERS = {
     "cpp-examples": cpp_examples.files,
     "entry-points": entry_points.files,
     "fortran-tests": fortran_tests.files,
+    "pascal-tests": pascal_tests.files,
     "host-headers": host_headers.files,
     "pack-kernels": array_kernels.with_packs,
     "single-kernels": array_kernels.alone,

@@ -9,6 +9,7 @@ import elementary_tables
 import fortran_binding
 import header
 import incidence_bands
+import pascal_binding
 import python_package
 
 ROOT = Path(__file__).parents[1]
@@ -24,6 +25,7 @@ def texts(families):
         **{ROOT / "include/quorvel" / name: text for name, text in cpp_headers.files(families).items()},
         **{ROOT / "bindings/python/quorvel" / name: text for name, text in python_package.files(families).items()},
         **{ROOT / "bindings/fortran/src" / name: text for name, text in fortran_binding.files(families).items()},
+        **{ROOT / "bindings/pascal/src" / name: text for name, text in pascal_binding.files(families).items()},
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),
