@@ -54,12 +54,12 @@ def _declaration(routine):
 
 def _declaration_of_arrays(routine):
     given, returned = columns(routine)
-    named = [(camel(name), arg, is_output) for side, is_output in ((given, False), (returned, True)) for name, arg in side]
+    named = [(camel(name), arg, False) for name, arg in given] + [(camel(name), arg, True) for name, arg in returned]
     parameters = [f"{_parameter(arg, name, is_output)}; {name}Stride: PtrInt" for name, arg, is_output in named]
     # The value of a function cannot be called Result.
     listed = "; ".join(["Count: SizeUInt", *parameters]).replace("Result", "Answer")
-    name = f"quorvel_{routine.name}"
-    return f"{comment([routine.summary])}\n{folded(f'function {name}({listed}): LongInt; cdecl; external ArrayLibrary;')}\n"
+    declaration = folded(f"function quorvel_{routine.name}({listed}): LongInt; cdecl; external ArrayLibrary;")
+    return f"{comment([routine.summary])}\n{declaration}\n"
 
 
 def render(calls):

@@ -13,9 +13,9 @@ from plain_text import in_clear_names
 UNCHECKED = """\
 {edit}
 
-{{ The routines without any check: the same functions as in unit Quorvel, and for whatever is given the bits that C gets.
-  Of lists of unequal lengths the shortest counts; arrays of a fixed length must have it. What a routine leaves as it was
-  is not a number (a LongInt: 0), or as it was given. }}
+{{ The routines without any check: the same functions as in unit Quorvel, and for whatever is given the bits that C
+  gets. Of lists of unequal lengths the shortest counts; arrays of a fixed length must have it. What a routine leaves as
+  it was is not a number (a LongInt: 0), or as it was given. }}
 unit QuorvelUnchecked;
 
 {{$mode objfpc}}{{$R-}}{{$Q-}}{{$T-}}
@@ -41,12 +41,12 @@ CHECKED = """\
 
 {{ Quorvel: building-physics and building-services calculations.
 
-  What is given must lie in the ranges that are told with each function, and be a number; where it does not, EQuorvelError
-  says so. QuorvelUnchecked has the same functions without any check.
+  What is given must lie in the ranges that are told with each function, and be a number; where it does not,
+  EQuorvelError says so. QuorvelUnchecked has the same functions without any check.
 
-  Angles are in radians; azimuths run from north, clockwise seen from above (east pi/2, south pi); tilt and solar altitude
-  are measured from the horizontal. All functions may be called from any thread, whatever exceptions of floating point are
-  unmasked: they mask them, and leave them as they found them. }}
+  Angles are in radians; azimuths run from north, clockwise seen from above (east pi/2, south pi); tilt and solar
+  altitude are measured from the horizontal. All functions may be called from any thread, whatever exceptions of
+  floating point are unmasked: they mask them, and leave them as they found them. }}
 unit Quorvel;
 
 {{$mode objfpc}}{{$R-}}{{$Q-}}{{$T-}}
@@ -112,10 +112,10 @@ class Unchecked:
             yield f"{place} := nil;"
             yield f"SetLength({place}, {self._count(result)});"
         if result.given and arg.shape:
-            size = f"System.Length({place}) * SizeOf({element(arg)})" if is_list(arg) else f"SizeOf({place})"
-            at = "[0]" * is_list(arg)
-            yield f"Move({first(camel(result.given), arg)}^, {first(place, arg, True)}^, {size});" if not at else (
-                f"if System.Length({place}) > 0 then Move({camel(result.given)}[0], {place}[0], {size});")
+            count = f"System.Length({place})" if is_list(arg) else str(fixed(arg))
+            kind = element(arg) if is_list(arg) else TYPES[arg.type]
+            given = first(camel(result.given), arg, len(arg.shape) > 1)
+            yield f"Move({given}^, {first(place, arg, True)}^, {count} * SizeOf({kind}));"
         elif result.given:
             yield f"{place} := {camel(result.given)};"
         elif result.unwritten and arg.shape:
@@ -187,15 +187,14 @@ class Checked:
         if len(self.call.results) == 1:
             results = [f"Result: {self.call.results[0].sentence}"]
         else:
-            results = [f"{camel(each.clear_name)}: {each.sentence}" for each in self.call.results]
-            results[0] = f"Result.{results[0]}"
-            results[1:] = [f"Result.{text}" for text in results[1:]]
+            results = [f"Result.{camel(each.clear_name)}: {each.sentence}" for each in self.call.results]
         source = [f"Source: {routine.source}"] + [f"({routine.export} of QuorvelByReference)"] * bool(routine.export)
         texts = [routine.summary, *parameters, *results, *formula, *routine.notes, *source]
         return comment([in_clear_names(text, self.names) for text in texts])
 
     def _check(self, parameter, procedure, *more):
-        return f"{procedure}({', '.join([f'{chr(39)}{self.name}{chr(39)}', f'{chr(39)}{camel(parameter.name)}{chr(39)}', *more])});"
+        names = [f"'{self.name}'", f"'{camel(parameter.name)}'"]
+        return f"{procedure}({', '.join([*names, *more])});"
 
     def _lengths(self):
         for parameter in self.call.parameters:
@@ -206,7 +205,8 @@ class Checked:
                 other = count.lists[0]
                 yield self._check(parameter, "ExpectAsMany", length(parameter), f"'{camel(other.name)}'", length(other))
             if count.lists:
-                yield self._check(count.lists[0], "ExpectCount", length(count.lists[0]), str(count.low), str(count.high))
+                counted = count.lists[0]
+                yield self._check(counted, "ExpectCount", length(counted), str(count.low), str(count.high))
 
     def _valid(self, parameter):
         arg = parameter.arg
@@ -229,8 +229,9 @@ class Checked:
                 value = f"Ord({name})" if parameter.selector else name
                 yield self._check(parameter, f"Expect{TYPES[arg.type]}", value, *limits)
                 continue
-            count = (length(parameter) + f" * {fixed(arg)}" * (fixed(arg) > 1)) if is_list(arg) else str(fixed(arg))
-            yield self._check(parameter, f"Expect{TYPES[arg.type]}s", first(name, arg, len(arg.shape) > 1), count, *limits)
+            count = " * ".join([str(fixed(arg))] + [length(parameter)] * is_list(arg)).removeprefix("1 * ")
+            at = first(name, arg, len(arg.shape) > 1)
+            yield self._check(parameter, f"Expect{TYPES[arg.type]}s", at, count, *limits)
 
     def text(self):
         statements = [*self._lengths(), *self._values()]

@@ -80,7 +80,8 @@ class Bits(corpus_layout.Layout):
     def _call(self):
         for arg in self.changed:
             name = camel(arg.name)
-            yield f"Got{name} := {name};" if arg.dir == "inout" else f"FillChar(Got{name}, SizeOf(Got{name}), Untouched);"
+            blank = f"FillChar(Got{name}, SizeOf(Got{name}), Untouched);"
+            yield f"Got{name} := {name};" if arg.dir == "inout" else blank
         call = _by_reference(self.routine, lambda arg: ("Got" if arg.dir != "in" else "") + camel(arg.name))
         yield "State := MaskExceptions;"
         yield f"{'GotResult := ' * bool(self.routine.result)}{call};"
@@ -113,12 +114,14 @@ class Bits(corpus_layout.Layout):
     def text(self):
         case = [*self._read(), *self._call()]
         if is_offered(self.call):
-            order = " and ".join(f"({camel(name)} >= {low}) and ({camel(name)} <= {high})" for name, low, high in self.orders())
+            order = " and ".join(
+                f"({camel(name)} >= {low}) and ({camel(name)} <= {high})" for name, low, high in self.orders())
             lines = list(self._function())
             case += [f"if {order} then", "begin", *(f"  {line}" for line in lines), "end;"] if order else lines
         statements = [f"OpenCorpus('{self.routine.export}');", *["OpenExample;"] * bool(self.routine.state)]
         statements += ["while MoreCases do", "begin", *(f"  {line}" for line in case), "end;"]
-        return _procedure(f"BitsOf{self.routine.export}", [*self._declarations(), "  State: TFloatingPointState;"], statements)
+        declarations = [*self._declarations(), "  State: TFloatingPointState;"]
+        return _procedure(f"BitsOf{self.routine.export}", declarations, statements)
 
 
 def _all(value):
@@ -197,7 +200,8 @@ class Example:
     def text(self):
         call, given = self.call, self.example.given
         if is_offered(call):
-            constants = [self._variable(each.arg, given[each.name]) for each in call.parameters if self._is_constant(each)]
+            tables = filter(self._is_constant, call.parameters)
+            constants = [self._variable(each.arg, given[each.name]) for each in tables]
             declarations = [*["const"] * bool(constants), *constants, "var", f"  Own: {function_type(call)};"]
             return _procedure(self.name, declarations, self._function())
         declarations = [self._variable(arg, given.get(arg.name, [0] * self._room(arg) if arg.shape else 0))

@@ -42,8 +42,8 @@ module quorvel_climate_file
          import :: c_ptr
          type(c_ptr), value :: file
       end subroutine
-      integer(c_int32_t) function c_station_climate(file, station, band, month, band_set, percentage, quantities, times) &
-         bind(C, name='quorvel_climate_file_station_climate')
+      integer(c_int32_t) function c_station_climate(file, station, band, month, band_set, percentage, quantities, &
+         times) bind(C, name='quorvel_climate_file_station_climate')
          import :: c_ptr, c_int32_t, c_float
          type(c_ptr), value :: file
          integer(c_int32_t), value :: station, band, month, band_set
@@ -153,7 +153,8 @@ contains
    end subroutine
 
    !> Value between the rows base_row + lower_band and base_row + upper_band of a station. (CLBNF2)
-   subroutine interpolate_station_rows(self, station, base_row, lower_band, upper_band, month, band_weight, value, fault)
+   subroutine interpolate_station_rows(self, station, base_row, lower_band, upper_band, month, band_weight, value, &
+                                       fault)
       class(climate_file), intent(in) :: self
       integer(i4), intent(in) :: station, base_row, lower_band, upper_band, month
       real(sp), intent(in) :: band_weight
@@ -209,8 +210,9 @@ contains
       integer(i4), intent(in) :: station
       integer(c_int32_t), intent(in) :: status
       character(len=11) :: number
+      if (status == 0) return
       write (number, '(i0)') station
-      if (status /= 0) call set_fault(found, 'climate_file', 'station '//trim(number)//' of '//self%name//' cannot be read')
+      call set_fault(found, 'climate_file', 'station '//trim(number)//' of '//self%name//' cannot be read')
    end subroutine
 
    !> To the caller, or to whoever runs the program.

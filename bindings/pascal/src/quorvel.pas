@@ -2,12 +2,12 @@
 
 { Quorvel: building-physics and building-services calculations.
 
-  What is given must lie in the ranges that are told with each function, and be a number; where it does not, EQuorvelError
-  says so. QuorvelUnchecked has the same functions without any check.
+  What is given must lie in the ranges that are told with each function, and be a number; where it does not,
+  EQuorvelError says so. QuorvelUnchecked has the same functions without any check.
 
-  Angles are in radians; azimuths run from north, clockwise seen from above (east pi/2, south pi); tilt and solar altitude
-  are measured from the horizontal. All functions may be called from any thread, whatever exceptions of floating point are
-  unmasked: they mask them, and leave them as they found them. }
+  Angles are in radians; azimuths run from north, clockwise seen from above (east pi/2, south pi); tilt and solar
+  altitude are measured from the horizontal. All functions may be called from any thread, whatever exceptions of
+  floating point are unmasked: they mask them, and leave them as they found them. }
 unit Quorvel;
 
 {$mode objfpc}{$R-}{$Q-}{$T-}
@@ -2834,7 +2834,7 @@ end;
 function ElementProperty(const ElementRecords: array of TSingle10; RecordNumber: LongInt; Item: LongInt): Single;
 begin
   ExpectCount('ElementProperty', 'ElementRecords', System.Length(ElementRecords), 1, 2147483647);
-  ExpectSingles('ElementProperty', 'ElementRecords', PSingle(@ElementRecords[0]), System.Length(ElementRecords) * 10,
+  ExpectSingles('ElementProperty', 'ElementRecords', PSingle(@ElementRecords[0]), 10 * System.Length(ElementRecords),
     -Infinity, Infinity, 'valid is any number');
   ExpectLongInt('ElementProperty', 'RecordNumber', RecordNumber, 1, 2147483647, 'valid from 1');
   ExpectLongInt('ElementProperty', 'Item', Item, 1, 72, 'valid 1 to 72');
@@ -3574,7 +3574,7 @@ begin
   ExpectLength('Inside', 'Point', System.Length(Point), 3);
   ExpectCount('Inside', 'Polygon', System.Length(Polygon), 4, 2147483647);
   ExpectSingles('Inside', 'Point', PSingle(@Point[0]), 3, -Infinity, Infinity, 'valid is any number');
-  ExpectSingles('Inside', 'Polygon', PSingle(@Polygon[0]), System.Length(Polygon) * 3, -Infinity, Infinity,
+  ExpectSingles('Inside', 'Polygon', PSingle(@Polygon[0]), 3 * System.Length(Polygon), -Infinity, Infinity,
     'valid is any number');
   Result := QuorvelUnchecked.Inside(Point, Polygon);
 end;
@@ -3776,7 +3776,7 @@ end;
 function PolygonOrientation(const Polygon: array of TSingle3): TPolygonOrientation;
 begin
   ExpectCount('PolygonOrientation', 'Polygon', System.Length(Polygon), 3, 2147483647);
-  ExpectSingles('PolygonOrientation', 'Polygon', PSingle(@Polygon[0]), System.Length(Polygon) * 3, -Infinity, Infinity,
+  ExpectSingles('PolygonOrientation', 'Polygon', PSingle(@Polygon[0]), 3 * System.Length(Polygon), -Infinity, Infinity,
     'valid is any number');
   Result := QuorvelUnchecked.PolygonOrientation(Polygon);
 end;

@@ -1,7 +1,7 @@
 { What lies between Pascal and the library: the exceptions of floating point, and the length of lists.
 
-  Free Pascal unmasks three exceptions of floating point, with which a program ends where the library, as C does, goes on
-  with what is not a number. They are masked around each call, so that a program's own arithmetic keeps what it has. }
+  Free Pascal unmasks three exceptions of floating point, with which a program ends where the library, as C does, goes
+  on with what is not a number. They are masked around each call, so that a program's own arithmetic keeps what it has. }
 unit QuorvelFloatingPoint;
 
 {$mode objfpc}{$R-}{$Q-}{$asmmode intel}
@@ -13,7 +13,10 @@ uses
 
 type
 {$ifdef cpux86_64}
-  TFloatingPointState = LongWord;
+  TFloatingPointState = record
+    Mxcsr: LongWord;
+    ControlWord: Word; { of the x87, with which the library for Windows takes remainders }
+  end;
 {$else}
   TFloatingPointState = TFPUExceptionMask;
 {$endif}
@@ -32,27 +35,34 @@ function Shortest(const Lengths: array of SizeInt): LongInt;
 implementation
 
 {$ifdef cpux86_64}
-{ SetExceptionMask would take ten times as long, and change for a moment with what new threads begin. }
+{ SetExceptionMask would take longer, and change for a moment with what new threads begin. }
 function MaskExceptions: TFloatingPointState;
 const
-  AllMasks = $1F80;
+  AllOfMxcsr = $1F80;
+  AllOfX87 = $3F;
 var
-  State: LongWord;
+  State, Masked: TFloatingPointState;
 begin
   asm
-    stmxcsr State
+    stmxcsr State.Mxcsr
+    fnstcw State.ControlWord
+  end;
+  Masked.Mxcsr := State.Mxcsr or AllOfMxcsr;
+  Masked.ControlWord := State.ControlWord or AllOfX87;
+  asm
+    ldmxcsr Masked.Mxcsr
+    fldcw Masked.ControlWord
   end;
   Result := State;
-  State := State or AllMasks;
-  asm
-    ldmxcsr State
-  end;
 end;
 
+{ What the x87 was held from telling is forgotten: it would tell it with its next instruction. }
 procedure RestoreExceptions(State: TFloatingPointState);
 begin
   asm
-    ldmxcsr State
+    ldmxcsr State.Mxcsr
+    fnclex
+    fldcw State.ControlWord
   end;
 end;
 {$else}

@@ -1,8 +1,8 @@
 { Produced from the catalogue of routines (catalogue/); do not edit. }
 
-{ The routines without any check: the same functions as in unit Quorvel, and for whatever is given the bits that C gets.
-  Of lists of unequal lengths the shortest counts; arrays of a fixed length must have it. What a routine leaves as it was
-  is not a number (a LongInt: 0), or as it was given. }
+{ The routines without any check: the same functions as in unit Quorvel, and for whatever is given the bits that C
+  gets. Of lists of unequal lengths the shortest counts; arrays of a fixed length must have it. What a routine leaves as
+  it was is not a number (a LongInt: 0), or as it was given. }
 unit QuorvelUnchecked;
 
 {$mode objfpc}{$R-}{$Q-}{$T-}
@@ -1495,8 +1495,7 @@ begin
   Points := Shortest([System.Length(PointX), System.Length(PointY), System.Length(Enclosed)]);
   Result.Enclosed := nil;
   SetLength(Result.Enclosed, Points);
-  if System.Length(Result.Enclosed) > 0 then Move(Enclosed[0], Result.Enclosed[0], System.Length(Result.Enclosed) *
-    SizeOf(LongInt));
+  Move(PLongInt(@Enclosed[0])^, PLongInt(@Result.Enclosed[0])^, System.Length(Result.Enclosed) * SizeOf(LongInt));
   State := MaskExceptions;
   GECLOS(PSingle(@X[0]), PSingle(@Y[0]), Vertices, PSingle(@PointX[0]), PSingle(@PointY[0]), Points,
     PLongInt(@Result.Enclosed[0]), Result.EnclosedPoints);
@@ -1578,7 +1577,7 @@ function ToLocal(const Corners: TDouble4x3; const XAxis: array of Double; const 
 var
   State: TFloatingPointState;
 begin
-  Move(PDouble(@Corners)^, PDouble(@Result)^, SizeOf(Result));
+  Move(PDouble(@Corners)^, PDouble(@Result)^, 12 * SizeOf(Double));
   State := MaskExceptions;
   GETRNS(PDouble(@Result), PDouble(@XAxis[0]), PDouble(@YAxis[0]), PDouble(@ZAxis[0]));
   RestoreExceptions(State);
