@@ -55,5 +55,6 @@ def files(families):
         "quorveltypes.pas": _types(families, calls),
         "quorvelbyreference.pas": pascal_by_reference.render(calls),
         "quorvelunchecked.pas": pascal_functions.unchecked(calls),
+        "quorvelclimatechecks.pas": pascal_functions.climate_checks(calls),
         "quorvel.pas": pascal_functions.checked(calls),
     }

@@ -7,7 +7,7 @@ from array_header import columns, name_of
 from binding_model import camel
 from pascal_model import (
     EDIT, TYPES, comment, element, first, fixed, folded, function_name, head, is_list, is_offered, length, literal,
-    passed_names)
+    parameter_list, passed_names)
 from plain_text import in_clear_names
 
 UNCHECKED = """\
@@ -71,6 +71,31 @@ uses
   Math, QuorvelUnchecked;
 
 {functions}
+end.
+"""
+
+
+CLIMATE_CHECKS = """\
+{edit}
+
+{{ Whether what is asked of a climate data file lies in its ranges. }}
+unit QuorvelClimateChecks;
+
+{{$mode objfpc}}{{$H+}}{{$R-}}{{$T-}}
+
+interface
+
+uses
+  QuorvelTypes;
+
+{heads}
+
+implementation
+
+uses
+  Math, QuorvelFaults;
+
+{procedures}
 end.
 """
 
@@ -219,7 +244,7 @@ class Checked:
     def _values(self):
         for parameter in self.call.parameters:
             arg, name = parameter.arg, camel(parameter.name)
-            if arg.type == "Integer" and not parameter.limits:
+            if arg.type == "Text" or (arg.type == "Integer" and not parameter.limits):
                 continue
             low, high = parameter.limits or (-math.inf, math.inf)
             if arg.type == "Integer":
@@ -232,6 +257,15 @@ class Checked:
             count = " * ".join([str(fixed(arg))] + [length(parameter)] * is_list(arg)).removeprefix("1 * ")
             at = first(name, arg, len(arg.shape) > 1)
             yield self._check(parameter, f"Expect{TYPES[arg.type]}s", at, count, *limits)
+
+    def check_head(self):
+        listed = parameter_list(each for each in self.call.parameters if each.kind != "Text")
+        return folded(f"procedure Check{self.name}{listed};")
+
+    def check(self):
+        """A procedure that only looks at them."""
+        body = "\n".join(folded(statement, 2) for statement in (*self._lengths(), *self._values()))
+        return f"{self.check_head()}\nbegin\n{body}\nend;\n"
 
     def text(self):
         statements = [*self._lengths(), *self._values()]
@@ -252,3 +286,9 @@ def checked(calls):
     functions = [Checked(call, names) for call in calls if is_offered(call)]
     heads = "\n\n".join(f"{each.about()}\n{head(each.call)}" for each in functions)
     return CHECKED.format(edit=EDIT, heads=heads, functions="\n".join(each.text() for each in functions))
+
+
+def climate_checks(calls):
+    checks = [Checked(call, {}) for call in calls if call.routine.state]
+    return CLIMATE_CHECKS.format(edit=EDIT, heads="\n".join(each.check_head() for each in checks),
+                                 procedures="\n".join(each.check() for each in checks))

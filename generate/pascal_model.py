@@ -93,12 +93,15 @@ def function_type(call):
     return f"T{camel(call.name)}" if len(call.results) > 1 else result_type(call.results[0])
 
 
+def parameter_list(parameters):
+    """In brackets; empty without any."""
+    listed = [f"{'const ' * bool(each.shape)}{camel(each.name)}: {parameter_type(each)}" for each in parameters]
+    return f"({'; '.join(listed)})" if listed else ""
+
+
 def head(call):
     """The declaration of a function."""
-    parameters = [
-        f"{'const ' * bool(each.shape)}{camel(each.name)}: {parameter_type(each)}" for each in call.parameters]
-    listed = f"({'; '.join(parameters)})" if parameters else ""
-    return folded(f"function {function_name(call)}{listed}: {function_type(call)};")
+    return folded(f"function {function_name(call)}{parameter_list(call.parameters)}: {function_type(call)};")
 
 
 def passed_names(call):

@@ -6,7 +6,7 @@ unit QuorvelClimateFile;
 interface
 
 uses
-  SysUtils, QuorvelTypes, QuorvelFaults;
+  SysUtils, QuorvelTypes;
 
 type
   { Climate of a month: the quantities of the file, in its units (Q1 and Q2 not below 0, Q7 from 0 to 1), and hours of
@@ -38,7 +38,6 @@ type
     FHandle: Pointer;
     FFileName: string;
     procedure ExpectRead(Station, Status: LongInt);
-    procedure ExpectMonth(const Routine: string; Station, Month: LongInt);
   public
     constructor Create(const AFileName: string);
     destructor Destroy; override;
@@ -59,7 +58,7 @@ type
 implementation
 
 uses
-  Math, QuorvelByReference, QuorvelFloatingPoint;
+  QuorvelByReference, QuorvelClimateChecks, QuorvelFloatingPoint;
 
 function quorvel_climate_file_open(Path: PAnsiChar; out Status: LongInt): Pointer; cdecl; external ArrayLibrary;
 procedure quorvel_climate_file_close(Handle: Pointer); cdecl; external ArrayLibrary;
@@ -95,12 +94,6 @@ begin
     raise EClimateFileError.CreateFmt('climate data file %s: station %d cannot be read', [FFileName, Station]);
 end;
 
-procedure TClimateFile.ExpectMonth(const Routine: string; Station, Month: LongInt);
-begin
-  ExpectLongInt(Routine, 'Station', Station, 1, High(LongInt), 'valid from 1');
-  ExpectLongInt(Routine, 'Month', Month, 1, 12, 'valid 1 to 12');
-end;
-
 function TClimateFile.StationClimate(Station, Band, Month: LongInt; BandSet: TBandSet;
   Percentage: Single): TClimateOfMonth;
 var
@@ -108,9 +101,7 @@ var
   State: TFloatingPointState;
   Status: LongInt;
 begin
-  ExpectMonth('StationClimate', Station, Month);
-  ExpectLongInt('StationClimate', 'Band', Band, 0, 10, 'valid 0 to 10');
-  ExpectSingle('StationClimate', 'Percentage', Percentage, 0, 100, 'valid 0 to 100 %');
+  CheckStationClimate(TFileUnit.OpenedLast, Station, Band, Month, BandSet, Percentage);
   State := MaskExceptions;
   Status := quorvel_climate_file_station_climate(FHandle, Station, Band, Month, Ord(BandSet), Percentage, @Result.Q,
     @Times);
@@ -126,8 +117,7 @@ var
   State: TFloatingPointState;
   Status: LongInt;
 begin
-  ExpectMonth('LocateStationBand', Station, Month);
-  ExpectSingle('LocateStationBand', 'Fraction', Fraction, 0, 1, 'valid 0 to 1');
+  CheckLocateStationBand(Fraction, Month);
   State := MaskExceptions;
   Status := quorvel_climate_file_locate_station_band(FHandle, Station, Ord(BandSet), Fraction, Month, Result.LowerBand,
     Result.UpperBand, Result.BandWeight);
@@ -141,11 +131,7 @@ var
   State: TFloatingPointState;
   Status: LongInt;
 begin
-  ExpectMonth('InterpolateStationRows', Station, Month);
-  ExpectLongInt('InterpolateStationRows', 'BaseRow', BaseRow, 2, 154, 'valid 2 to 154');
-  ExpectLongInt('InterpolateStationRows', 'LowerBand', LowerBand, 1, 10, 'valid 1 to 10');
-  ExpectLongInt('InterpolateStationRows', 'UpperBand', UpperBand, 1, 10, 'valid 1 to 10');
-  ExpectSingle('InterpolateStationRows', 'BandWeight', BandWeight, -1, 1, 'valid -1 to 1');
+  CheckInterpolateStationRows(BaseRow, LowerBand, UpperBand, Month, BandWeight);
   State := MaskExceptions;
   Status := quorvel_climate_file_interpolate_station_rows(FHandle, Station, BaseRow, LowerBand, UpperBand, Month,
     BandWeight, Result);
@@ -155,8 +141,7 @@ end;
 
 function TClimateFile.StationRow(Station, Row: LongInt): TMonths;
 begin
-  ExpectLongInt('StationRow', 'Station', Station, 1, High(LongInt), 'valid from 1');
-  ExpectLongInt('StationRow', 'Row', Row, 1, 171, 'valid 1 to 171');
+  CheckStationRow(Row);
   ExpectRead(Station, quorvel_climate_file_station_row(FHandle, Station, Row, @Result));
 end;
 
@@ -165,8 +150,7 @@ var
   State: TFloatingPointState;
   Status: LongInt;
 begin
-  ExpectLongInt('GetStationRecords', 'Station', Station, 1, High(LongInt), 'valid from 1');
-  ExpectLongInt('GetStationRecords', 'Month', Month, 0, 12, 'valid 0 to 12');
+  CheckStationRecords(Station, Month, TSingle12x11(Records));
   State := MaskExceptions;
   Status := quorvel_climate_file_station_records(FHandle, Station, Month, @Records);
   RestoreExceptions(State);

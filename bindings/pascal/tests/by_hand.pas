@@ -42,6 +42,18 @@ procedure TwoVertices; begin Quorvel.PlanArea([0, 4], [0, 3]) end;
 procedure BadLayer; begin Quorvel.UValue([0.1, 0.2, 0.1], [1, 1, -1], 0.12, 0.06) end;
 procedure ShortVector; begin Quorvel.VectorLength([3, 4]) end;
 
+procedure NoSuchRow;
+var
+  F: TClimateFile;
+begin
+  F := TClimateFile.Create('example.climate');
+  try
+    F.StationRow(1, 172);
+  finally
+    F.Free;
+  end;
+end;
+
 procedure Errors;
 begin
   ExpectError(@TooHot, 'SaturationPressure: Temperature is 250; valid -100 to 200 degC');
@@ -138,6 +150,7 @@ begin
   except
     on EClimateFileError do Expect(True, '');
   end;
+  ExpectError(@NoSuchRow, 'StationRow: Row is 172; valid 1 to 171');
   F := TClimateFile.Create('example.climate');
   try
     Climate := F.StationClimate(7, 3, 5, TBandSet.Second);
