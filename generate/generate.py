@@ -18,8 +18,10 @@ import csharp_tests
 import entry_points
 import example_table
 import exports
+import fortran_tests
 import host_headers
 import interface
+import pascal_tests
 import python_core
 import routine_table
 
@@ -41,6 +43,8 @@ FOLDERS = {
     "cpp-examples": cpp_examples.files,
     "csharp-tests": csharp_tests.files,
     "entry-points": entry_points.files,
+    "fortran-tests": fortran_tests.files,
+    "pascal-tests": pascal_tests.files,
     "host-headers": host_headers.files,
     "pack-kernels": array_kernels.with_packs,
     "single-kernels": array_kernels.alone,

@@ -7,9 +7,11 @@ import array_header
 import cpp_headers
 import csharp_binding
 import elementary_tables
+import fortran_binding
 import header
 import incidence_bands
 import javascript_binding
+import pascal_binding
 import python_package
 import vba_binding
 
@@ -28,6 +30,8 @@ def texts(families):
         **{ROOT / "bindings/javascript" / name: text for name, text in javascript_binding.files(families).items()},
         **{ROOT / "bindings/csharp/Quorvel" / name: text for name, text in csharp_binding.files(families).items()},
         ROOT / "bindings/vba/quorvel.bas": vba_binding.render(families),
+        **{ROOT / "bindings/fortran/src" / name: text for name, text in fortran_binding.files(families).items()},
+        **{ROOT / "bindings/pascal/src" / name: text for name, text in pascal_binding.files(families).items()},
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),
