@@ -4,6 +4,7 @@ import sys
 from pathlib import Path
 
 import array_header
+import calc_binding
 import cpp_headers
 import elementary_tables
 import header
@@ -22,6 +23,7 @@ def texts(families):
         ROOT / "include/quorvel_arrays.h": array_header.header(families),
         **{ROOT / "include/quorvel" / name: text for name, text in cpp_headers.files(families).items()},
         **{ROOT / "bindings/python/quorvel" / name: text for name, text in python_package.files(families).items()},
+        **{ROOT / "bindings/calc/addin" / name: text for name, text in calc_binding.files(families).items()},
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),
