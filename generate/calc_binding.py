@@ -206,7 +206,7 @@ def _result(result):
 def _shape(described):
     # Matrices have their rows in the rows of the sheet, whatever their order in memory.
     turned = described.arg.quantity == "rotation_matrix"
-    return [f"shape={described.shape!r}"] * bool(described.shape) + ["turned=True"] * turned
+    return [f"shape={tuple(described.shape)!r}"] * bool(described.shape) + ["turned=True"] * turned
 
 
 def _tuple(items):

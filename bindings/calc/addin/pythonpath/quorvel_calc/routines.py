@@ -483,10 +483,10 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'cyclic_response', 'cyclicResponse',
         parameters=(
-            Parameter('thickness', 'Real', unit='m', shape=['layers']),
-            Parameter('conductivity', 'Real', unit='W/mK', limits=(0, inf), shape=['layers']),
-            Parameter('density', 'Real', unit='kg/m³', limits=(0, inf), shape=['layers']),
-            Parameter('specific_heat', 'Real', unit='J/kgK', limits=(0, inf), shape=['layers']),
+            Parameter('thickness', 'Real', unit='m', shape=('layers',)),
+            Parameter('conductivity', 'Real', unit='W/mK', limits=(0, inf), shape=('layers',)),
+            Parameter('density', 'Real', unit='kg/m³', limits=(0, inf), shape=('layers',)),
+            Parameter('specific_heat', 'Real', unit='J/kgK', limits=(0, inf), shape=('layers',)),
             Parameter('inside_resistance', 'Real', unit='m²K/W', limits=(0, inf)),
             Parameter('outside_resistance', 'Real', unit='m²K/W', limits=(0, inf)),
             Parameter('harmonic', 'Integer', limits=(0, inf)),
@@ -542,8 +542,8 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'total_vapour_resistance', 'totalVapourResistance',
         parameters=(
-            Parameter('thickness', 'Real', unit='m', shape=['layers']),
-            Parameter('vapour_resistivity', 'Real', unit='GN s/(kg m)', limits=(0, inf), shape=['layers']),
+            Parameter('thickness', 'Real', unit='m', shape=('layers',)),
+            Parameter('vapour_resistivity', 'Real', unit='GN s/(kg m)', limits=(0, inf), shape=('layers',)),
         ),
         results=(
             Result('vapour_resistance', 'Real'),
@@ -552,9 +552,9 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'condensation_profile', 'condensationProfile',
         parameters=(
-            Parameter('thickness', 'Real', unit='m', shape=['layers']),
-            Parameter('conductivity', 'Real', unit='W/mK', limits=(0, inf), shape=['layers']),
-            Parameter('vapour_resistivity', 'Real', unit='GN s/(kg m)', limits=(0, inf), shape=['layers']),
+            Parameter('thickness', 'Real', unit='m', shape=('layers',)),
+            Parameter('conductivity', 'Real', unit='W/mK', limits=(0, inf), shape=('layers',)),
+            Parameter('vapour_resistivity', 'Real', unit='GN s/(kg m)', limits=(0, inf), shape=('layers',)),
             Parameter('inside_resistance', 'Real', unit='m²K/W', limits=(0, inf)),
             Parameter('outside_resistance', 'Real', unit='m²K/W', limits=(0, inf)),
             Parameter('inside_temperature', 'Real', unit='°C', limits=(-100, 200)),
@@ -563,9 +563,9 @@ ROUTINES = {routine.name: routine for routine in (
             Parameter('outside_humidity', 'Real', unit='%', limits=(0, 100)),
         ),
         results=(
-            Result('interface_temperature', 'Real', shape=[21]),
-            Result('interface_vapour_pressure', 'Real', shape=[21]),
-            Result('interface_saturation_pressure', 'Real', shape=[21]),
+            Result('interface_temperature', 'Real', shape=(21,)),
+            Result('interface_vapour_pressure', 'Real', shape=(21,)),
+            Result('interface_saturation_pressure', 'Real', shape=(21,)),
         ),
     ),
     Routine(
@@ -583,7 +583,7 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'element_property', 'elementProperty',
         parameters=(
-            Parameter('element_records', 'Real', unit='by field', shape=[10, 'record_count']),
+            Parameter('element_records', 'Real', unit='by field', shape=(10, 'record_count')),
             Parameter('record_number', 'Integer', limits=(1, inf)),
             Parameter('item', 'Integer', limits=(1, 72)),
         ),
@@ -690,8 +690,8 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'u_value', 'uValue',
         parameters=(
-            Parameter('thickness', 'Real', unit='m', shape=['layers']),
-            Parameter('conductivity', 'Real', unit='W/mK', limits=(0, inf), shape=['layers']),
+            Parameter('thickness', 'Real', unit='m', shape=('layers',)),
+            Parameter('conductivity', 'Real', unit='W/mK', limits=(0, inf), shape=('layers',)),
             Parameter('surface_resistance_1', 'Real', unit='m²K/W', limits=(0, inf)),
             Parameter('surface_resistance_2', 'Real', unit='m²K/W', limits=(0, inf)),
         ),
@@ -766,8 +766,8 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'stacked_layers', 'stackedLayers',
         parameters=(
-            Parameter('layer_transmittances', 'Real', limits=(0, 1), shape=['layers']),
-            Parameter('layer_reflectances', 'Real', limits=(0, 1), shape=['layers']),
+            Parameter('layer_transmittances', 'Real', limits=(0, 1), shape=('layers',)),
+            Parameter('layer_reflectances', 'Real', limits=(0, 1), shape=('layers',)),
         ),
         results=(
             Result('transmittance', 'Real'),
@@ -778,9 +778,9 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'traced_layers', 'tracedLayers',
         parameters=(
-            Parameter('layer_transmittances', 'Real', limits=(0, 1), shape=['layers']),
-            Parameter('layer_absorptances', 'Real', limits=(0, 1), shape=['layers']),
-            Parameter('layer_reflectances', 'Real', limits=(0, 1), shape=['layers']),
+            Parameter('layer_transmittances', 'Real', limits=(0, 1), shape=('layers',)),
+            Parameter('layer_absorptances', 'Real', limits=(0, 1), shape=('layers',)),
+            Parameter('layer_reflectances', 'Real', limits=(0, 1), shape=('layers',)),
         ),
         results=(
             Result('transmittance', 'Real'),
@@ -931,7 +931,7 @@ ROUTINES = {routine.name: routine for routine in (
         ),
         results=(
             Result('transmittance', 'Real'),
-            Result('pane_shares', 'Real', shape=['panes']),
+            Result('pane_shares', 'Real', shape=('panes',)),
             Result('absorptance', 'Real'),
         ),
     ),
@@ -944,7 +944,7 @@ ROUTINES = {routine.name: routine for routine in (
         ),
         results=(
             Result('transmittance', 'Real'),
-            Result('pane_shares', 'Real', shape=['panes']),
+            Result('pane_shares', 'Real', shape=('panes',)),
             Result('absorptance', 'Real'),
         ),
     ),
@@ -959,7 +959,7 @@ ROUTINES = {routine.name: routine for routine in (
         ),
         results=(
             Result('transmittance', 'Real'),
-            Result('pane_shares', 'Real', shape=['panes']),
+            Result('pane_shares', 'Real', shape=('panes',)),
             Result('absorptance', 'Real'),
         ),
     ),
@@ -1064,7 +1064,7 @@ ROUTINES = {routine.name: routine for routine in (
         parameters=(
             Parameter('fraction', 'Real', limits=(0, 1)),
             Parameter('month', 'Integer', limits=(1, 12)),
-            Parameter('frequencies', 'Real', limits=(0, 1), shape=[12, 10]),
+            Parameter('frequencies', 'Real', limits=(0, 1), shape=(12, 10)),
         ),
         results=(
             Result('lower_band', 'Integer'),
@@ -1113,7 +1113,7 @@ ROUTINES = {routine.name: routine for routine in (
             Parameter('row', 'Integer', limits=(1, 184)),
         ),
         results=(
-            Result('values', 'Real', shape=[12]),
+            Result('values', 'Real', shape=(12,)),
         ),
     ),
     Routine(
@@ -1179,10 +1179,10 @@ ROUTINES = {routine.name: routine for routine in (
             Parameter('file_name', 'Text'),
             Parameter('station', 'Integer', limits=(1, inf)),
             Parameter('month', 'Integer', limits=(0, 12)),
-            Parameter('station_records', 'Real', shape=[11, 12]),
+            Parameter('station_records', 'Real', shape=(11, 12)),
         ),
         results=(
-            Result('new_station_records', 'Real', shape=[11, 12]),
+            Result('new_station_records', 'Real', shape=(11, 12)),
         ),
     ),
     Routine(
@@ -1245,7 +1245,7 @@ ROUTINES = {routine.name: routine for routine in (
             Parameter('row', 'Integer', limits=(1, 171)),
         ),
         results=(
-            Result('values', 'Real', shape=[12]),
+            Result('values', 'Real', shape=(12,)),
         ),
     ),
     Routine(
@@ -1531,38 +1531,38 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'overlap', 'overlap',
         parameters=(
-            Parameter('x_1', 'Real', unit='m', shape=['vertices_1']),
-            Parameter('y_1', 'Real', unit='m', shape=['vertices_1']),
-            Parameter('x_2', 'Real', unit='m', shape=['vertices_2']),
-            Parameter('y_2', 'Real', unit='m', shape=['vertices_2']),
+            Parameter('x_1', 'Real', unit='m', shape=('vertices_1',)),
+            Parameter('y_1', 'Real', unit='m', shape=('vertices_1',)),
+            Parameter('x_2', 'Real', unit='m', shape=('vertices_2',)),
+            Parameter('y_2', 'Real', unit='m', shape=('vertices_2',)),
         ),
         results=(
-            Result('piece_x', 'Real', shape=[25, 5]),
-            Result('piece_y', 'Real', shape=[25, 5]),
-            Result('piece_vertices', 'Integer', shape=[5]),
+            Result('piece_x', 'Real', shape=(25, 5)),
+            Result('piece_y', 'Real', shape=(25, 5)),
+            Result('piece_vertices', 'Integer', shape=(5,)),
             Result('area', 'Real'),
         ),
     ),
     Routine(
         'overlap_alias', 'overlapAlias',
         parameters=(
-            Parameter('x_1', 'Real', unit='m', shape=['vertices_1']),
-            Parameter('y_1', 'Real', unit='m', shape=['vertices_1']),
-            Parameter('x_2', 'Real', unit='m', shape=['vertices_2']),
-            Parameter('y_2', 'Real', unit='m', shape=['vertices_2']),
+            Parameter('x_1', 'Real', unit='m', shape=('vertices_1',)),
+            Parameter('y_1', 'Real', unit='m', shape=('vertices_1',)),
+            Parameter('x_2', 'Real', unit='m', shape=('vertices_2',)),
+            Parameter('y_2', 'Real', unit='m', shape=('vertices_2',)),
         ),
         results=(
-            Result('piece_x', 'Real', shape=[25, 5]),
-            Result('piece_y', 'Real', shape=[25, 5]),
-            Result('piece_vertices', 'Integer', shape=[5]),
+            Result('piece_x', 'Real', shape=(25, 5)),
+            Result('piece_y', 'Real', shape=(25, 5)),
+            Result('piece_vertices', 'Integer', shape=(5,)),
             Result('area', 'Real'),
         ),
     ),
     Routine(
         'collinearity', 'collinearity',
         parameters=(
-            Parameter('x', 'Real', unit='m', shape=['points']),
-            Parameter('y', 'Real', unit='m', shape=['points']),
+            Parameter('x', 'Real', unit='m', shape=('points',)),
+            Parameter('y', 'Real', unit='m', shape=('points',)),
         ),
         results=(
             Result('result', 'Integer'),
@@ -1571,35 +1571,35 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'count_enclosed', 'countEnclosed',
         parameters=(
-            Parameter('x', 'Real', unit='m', shape=['vertices']),
-            Parameter('y', 'Real', unit='m', shape=['vertices']),
-            Parameter('point_x', 'Real', unit='m', shape=['points']),
-            Parameter('point_y', 'Real', unit='m', shape=['points']),
-            Parameter('enclosed', 'Integer', limits=(0, 1), words={'outside': 0, 'inside': 1}, shape=['points']),
+            Parameter('x', 'Real', unit='m', shape=('vertices',)),
+            Parameter('y', 'Real', unit='m', shape=('vertices',)),
+            Parameter('point_x', 'Real', unit='m', shape=('points',)),
+            Parameter('point_y', 'Real', unit='m', shape=('points',)),
+            Parameter('enclosed', 'Integer', limits=(0, 1), words={'outside': 0, 'inside': 1}, shape=('points',)),
         ),
         results=(
-            Result('new_enclosed', 'Integer', shape=['points']),
+            Result('new_enclosed', 'Integer', shape=('points',)),
             Result('enclosed_points', 'Integer'),
         ),
     ),
     Routine(
         'boundary_crossing', 'boundaryCrossing',
         parameters=(
-            Parameter('segment_start', 'Real', unit='m', shape=[2]),
-            Parameter('segment_end', 'Real', unit='m', shape=[2]),
-            Parameter('x', 'Real', unit='m', shape=['vertices']),
-            Parameter('y', 'Real', unit='m', shape=['vertices']),
+            Parameter('segment_start', 'Real', unit='m', shape=(2,)),
+            Parameter('segment_end', 'Real', unit='m', shape=(2,)),
+            Parameter('x', 'Real', unit='m', shape=('vertices',)),
+            Parameter('y', 'Real', unit='m', shape=('vertices',)),
         ),
         results=(
-            Result('crossing_point', 'Real', shape=[2], none=True),
+            Result('crossing_point', 'Real', shape=(2,), none=True),
             Result('crossing_code', 'Integer'),
         ),
     ),
     Routine(
         'inside', 'inside',
         parameters=(
-            Parameter('point', 'Real', unit='m', shape=[3]),
-            Parameter('polygon', 'Real', unit='m', shape=[3, 'vertices']),
+            Parameter('point', 'Real', unit='m', shape=(3,)),
+            Parameter('polygon', 'Real', unit='m', shape=(3, 'vertices')),
         ),
         results=(
             Result('inside', 'Integer'),
@@ -1608,8 +1608,8 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'parallel_planes', 'parallelPlanes',
         parameters=(
-            Parameter('triangle_1', 'DoubleReal', unit='m', shape=[3, 3]),
-            Parameter('triangle_2', 'DoubleReal', unit='m', shape=[3, 3]),
+            Parameter('triangle_1', 'DoubleReal', unit='m', shape=(3, 3)),
+            Parameter('triangle_2', 'DoubleReal', unit='m', shape=(3, 3)),
         ),
         results=(
             Result('result', 'Logical'),
@@ -1618,8 +1618,8 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'parallel_sides', 'parallelSides',
         parameters=(
-            Parameter('triangle_1', 'DoubleReal', unit='m', shape=[3, 3]),
-            Parameter('triangle_2', 'DoubleReal', unit='m', shape=[3, 3]),
+            Parameter('triangle_1', 'DoubleReal', unit='m', shape=(3, 3)),
+            Parameter('triangle_2', 'DoubleReal', unit='m', shape=(3, 3)),
         ),
         results=(
             Result('result', 'Logical'),
@@ -1630,7 +1630,7 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'rectangular', 'rectangular',
         parameters=(
-            Parameter('quadrilateral', 'DoubleReal', unit='m', shape=[3, 4]),
+            Parameter('quadrilateral', 'DoubleReal', unit='m', shape=(3, 4)),
         ),
         results=(
             Result('result', 'Logical'),
@@ -1639,7 +1639,7 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'facing', 'facing',
         parameters=(
-            Parameter('triangle', 'DoubleReal', unit='m', shape=[3, 3]),
+            Parameter('triangle', 'DoubleReal', unit='m', shape=(3, 3)),
             Parameter('azimuth', 'DoubleReal', unit='°', limits=(0, 6.2832)),
         ),
         results=(
@@ -1650,56 +1650,56 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'local_coordinates', 'localCoordinates',
         parameters=(
-            Parameter('quadrilateral_1', 'DoubleReal', unit='m', shape=[3, 4]),
-            Parameter('quadrilateral_2', 'DoubleReal', unit='m', shape=[3, 4]),
+            Parameter('quadrilateral_1', 'DoubleReal', unit='m', shape=(3, 4)),
+            Parameter('quadrilateral_2', 'DoubleReal', unit='m', shape=(3, 4)),
         ),
         results=(
-            Result('local_1', 'DoubleReal', shape=[3, 4]),
-            Result('local_2', 'DoubleReal', shape=[3, 4]),
+            Result('local_1', 'DoubleReal', shape=(3, 4)),
+            Result('local_2', 'DoubleReal', shape=(3, 4)),
         ),
     ),
     Routine(
         'to_local', 'toLocal',
         parameters=(
-            Parameter('corners', 'DoubleReal', unit='m', shape=[3, 4]),
-            Parameter('x_axis', 'DoubleReal', shape=[3]),
-            Parameter('y_axis', 'DoubleReal', shape=[3]),
-            Parameter('z_axis', 'DoubleReal', shape=[3]),
+            Parameter('corners', 'DoubleReal', unit='m', shape=(3, 4)),
+            Parameter('x_axis', 'DoubleReal', shape=(3,)),
+            Parameter('y_axis', 'DoubleReal', shape=(3,)),
+            Parameter('z_axis', 'DoubleReal', shape=(3,)),
         ),
         results=(
-            Result('new_corners', 'DoubleReal', shape=[3, 4]),
+            Result('new_corners', 'DoubleReal', shape=(3, 4)),
         ),
     ),
     Routine(
         'meeting_point', 'meetingPoint',
         parameters=(
-            Parameter('line_1_start', 'Real', unit='m', shape=[2]),
-            Parameter('line_1_end', 'Real', unit='m', shape=[2]),
-            Parameter('line_2_start', 'Real', unit='m', shape=[2]),
-            Parameter('line_2_end', 'Real', unit='m', shape=[2]),
+            Parameter('line_1_start', 'Real', unit='m', shape=(2,)),
+            Parameter('line_1_end', 'Real', unit='m', shape=(2,)),
+            Parameter('line_2_start', 'Real', unit='m', shape=(2,)),
+            Parameter('line_2_end', 'Real', unit='m', shape=(2,)),
         ),
         results=(
-            Result('meeting_point', 'Real', shape=[2], none=True),
+            Result('meeting_point', 'Real', shape=(2,), none=True),
         ),
     ),
     Routine(
         'crossing_point', 'crossingPoint',
         parameters=(
-            Parameter('segment_1_start', 'Real', unit='m', shape=[2]),
-            Parameter('segment_1_end', 'Real', unit='m', shape=[2]),
-            Parameter('segment_2_start', 'Real', unit='m', shape=[2]),
-            Parameter('segment_2_end', 'Real', unit='m', shape=[2]),
+            Parameter('segment_1_start', 'Real', unit='m', shape=(2,)),
+            Parameter('segment_1_end', 'Real', unit='m', shape=(2,)),
+            Parameter('segment_2_start', 'Real', unit='m', shape=(2,)),
+            Parameter('segment_2_end', 'Real', unit='m', shape=(2,)),
         ),
         results=(
-            Result('crossing_point', 'Real', shape=[2], none=True),
+            Result('crossing_point', 'Real', shape=(2,), none=True),
         ),
     ),
     Routine(
         'in_span', 'inSpan',
         parameters=(
-            Parameter('first_end', 'Real', unit='m', shape=[3]),
-            Parameter('second_end', 'Real', unit='m', shape=[3]),
-            Parameter('point', 'Real', unit='m', shape=[3]),
+            Parameter('first_end', 'Real', unit='m', shape=(3,)),
+            Parameter('second_end', 'Real', unit='m', shape=(3,)),
+            Parameter('point', 'Real', unit='m', shape=(3,)),
         ),
         results=(
             Result('result', 'Real'),
@@ -1708,9 +1708,9 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'ahead_and_nearer', 'aheadAndNearer',
         parameters=(
-            Parameter('first_end', 'Real', unit='m', shape=[3]),
-            Parameter('second_end', 'Real', unit='m', shape=[3]),
-            Parameter('point', 'Real', unit='m', shape=[3]),
+            Parameter('first_end', 'Real', unit='m', shape=(3,)),
+            Parameter('second_end', 'Real', unit='m', shape=(3,)),
+            Parameter('point', 'Real', unit='m', shape=(3,)),
         ),
         results=(
             Result('result', 'Real'),
@@ -1731,9 +1731,9 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'side_of_line', 'sideOfLine',
         parameters=(
-            Parameter('line_start', 'Real', unit='m', shape=[2]),
-            Parameter('line_end', 'Real', unit='m', shape=[2]),
-            Parameter('point', 'Real', unit='m', shape=[2]),
+            Parameter('line_start', 'Real', unit='m', shape=(2,)),
+            Parameter('line_end', 'Real', unit='m', shape=(2,)),
+            Parameter('point', 'Real', unit='m', shape=(2,)),
         ),
         results=(
             Result('result', 'Integer'),
@@ -1755,7 +1755,7 @@ ROUTINES = {routine.name: routine for routine in (
             Parameter('solar_azimuth', 'Real', unit='rad', limits=(0, 6.2832)),
         ),
         results=(
-            Result('direction', 'Real', shape=[3]),
+            Result('direction', 'Real', shape=(3,)),
         ),
     ),
     Routine(
@@ -1765,35 +1765,35 @@ ROUTINES = {routine.name: routine for routine in (
             Parameter('tilt', 'Real', unit='rad', limits=(0, 3.1416)),
         ),
         results=(
-            Result('rotation_matrix', 'Real', shape=[3, 3], turned=True),
-            Result('inverse_matrix', 'Real', shape=[3, 3], turned=True),
+            Result('rotation_matrix', 'Real', shape=(3, 3), turned=True),
+            Result('inverse_matrix', 'Real', shape=(3, 3), turned=True),
         ),
     ),
     Routine(
         'local_to_global', 'localToGlobal',
         parameters=(
-            Parameter('local_vector', 'Real', unit='m', shape=[3]),
-            Parameter('rotation_matrix', 'Real', limits=(-1, 1), shape=[3, 3], turned=True),
+            Parameter('local_vector', 'Real', unit='m', shape=(3,)),
+            Parameter('rotation_matrix', 'Real', limits=(-1, 1), shape=(3, 3), turned=True),
         ),
         results=(
-            Result('global_vector', 'Real', shape=[3]),
+            Result('global_vector', 'Real', shape=(3,)),
         ),
     ),
     Routine(
         'global_to_local', 'globalToLocal',
         parameters=(
-            Parameter('global_vector', 'Real', unit='m', shape=[3]),
-            Parameter('rotation_matrix', 'Real', limits=(-1, 1), shape=[3, 3], turned=True),
+            Parameter('global_vector', 'Real', unit='m', shape=(3,)),
+            Parameter('rotation_matrix', 'Real', limits=(-1, 1), shape=(3, 3), turned=True),
         ),
         results=(
-            Result('local_vector', 'Real', shape=[3]),
+            Result('local_vector', 'Real', shape=(3,)),
         ),
     ),
     Routine(
         'plan_area', 'planArea',
         parameters=(
-            Parameter('x', 'Real', unit='m', shape=['vertices']),
-            Parameter('y', 'Real', unit='m', shape=['vertices']),
+            Parameter('x', 'Real', unit='m', shape=('vertices',)),
+            Parameter('y', 'Real', unit='m', shape=('vertices',)),
         ),
         results=(
             Result('result', 'Real'),
@@ -1802,8 +1802,8 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'signed_plan_area', 'signedPlanArea',
         parameters=(
-            Parameter('x', 'Real', unit='m', shape=['vertices']),
-            Parameter('y', 'Real', unit='m', shape=['vertices']),
+            Parameter('x', 'Real', unit='m', shape=('vertices',)),
+            Parameter('y', 'Real', unit='m', shape=('vertices',)),
         ),
         results=(
             Result('result', 'Real'),
@@ -1812,9 +1812,9 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'area_in_space', 'areaInSpace',
         parameters=(
-            Parameter('x', 'Real', unit='m', shape=['vertices']),
-            Parameter('y', 'Real', unit='m', shape=['vertices']),
-            Parameter('z', 'Real', unit='m', shape=['vertices']),
+            Parameter('x', 'Real', unit='m', shape=('vertices',)),
+            Parameter('y', 'Real', unit='m', shape=('vertices',)),
+            Parameter('z', 'Real', unit='m', shape=('vertices',)),
         ),
         results=(
             Result('result', 'Real'),
@@ -1823,7 +1823,7 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'polygon_orientation', 'polygonOrientation',
         parameters=(
-            Parameter('polygon', 'Real', unit='m', shape=[3, 'vertices']),
+            Parameter('polygon', 'Real', unit='m', shape=(3, 'vertices')),
         ),
         results=(
             Result('area', 'Real'),
@@ -1834,44 +1834,44 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'projection', 'projection',
         parameters=(
-            Parameter('plane_point', 'Real', unit='m', shape=[3]),
-            Parameter('plane_normal', 'Real', shape=[3]),
-            Parameter('point', 'Real', unit='m', shape=[3]),
-            Parameter('direction', 'Real', shape=[3]),
+            Parameter('plane_point', 'Real', unit='m', shape=(3,)),
+            Parameter('plane_normal', 'Real', shape=(3,)),
+            Parameter('point', 'Real', unit='m', shape=(3,)),
+            Parameter('direction', 'Real', shape=(3,)),
         ),
         results=(
-            Result('projected_point', 'Real', shape=[3], none=True),
+            Result('projected_point', 'Real', shape=(3,), none=True),
         ),
     ),
     Routine(
         'forward_projection', 'forwardProjection',
         parameters=(
-            Parameter('plane_point', 'Real', unit='m', shape=[3]),
-            Parameter('plane_normal', 'Real', shape=[3]),
-            Parameter('point', 'Real', unit='m', shape=[3]),
-            Parameter('direction', 'Real', shape=[3]),
+            Parameter('plane_point', 'Real', unit='m', shape=(3,)),
+            Parameter('plane_normal', 'Real', shape=(3,)),
+            Parameter('point', 'Real', unit='m', shape=(3,)),
+            Parameter('direction', 'Real', shape=(3,)),
         ),
         results=(
-            Result('projected_point', 'Real', shape=[3], none=True),
+            Result('projected_point', 'Real', shape=(3,), none=True),
         ),
     ),
     Routine(
         'forward_projection_or_start', 'forwardProjectionOrStart',
         parameters=(
-            Parameter('plane_point', 'Real', unit='m', shape=[3]),
-            Parameter('plane_normal', 'Real', shape=[3]),
-            Parameter('point', 'Real', unit='m', shape=[3]),
-            Parameter('direction', 'Real', shape=[3]),
+            Parameter('plane_point', 'Real', unit='m', shape=(3,)),
+            Parameter('plane_normal', 'Real', shape=(3,)),
+            Parameter('point', 'Real', unit='m', shape=(3,)),
+            Parameter('direction', 'Real', shape=(3,)),
         ),
         results=(
-            Result('projected_point', 'Real', shape=[3]),
+            Result('projected_point', 'Real', shape=(3,)),
         ),
     ),
     Routine(
         'dot_product', 'dotProduct',
         parameters=(
-            Parameter('vector_a', 'Real', unit='m', shape=[3]),
-            Parameter('vector_b', 'Real', unit='m', shape=[3]),
+            Parameter('vector_a', 'Real', unit='m', shape=(3,)),
+            Parameter('vector_b', 'Real', unit='m', shape=(3,)),
         ),
         results=(
             Result('result', 'Real'),
@@ -1880,8 +1880,8 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'dot_product_in_double', 'dotProductInDouble',
         parameters=(
-            Parameter('vector_a', 'DoubleReal', unit='m', shape=[3]),
-            Parameter('vector_b', 'DoubleReal', unit='m', shape=[3]),
+            Parameter('vector_a', 'DoubleReal', unit='m', shape=(3,)),
+            Parameter('vector_b', 'DoubleReal', unit='m', shape=(3,)),
         ),
         results=(
             Result('result', 'DoubleReal'),
@@ -1890,27 +1890,27 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'cross_product', 'crossProduct',
         parameters=(
-            Parameter('vector_a', 'Real', unit='m', shape=[3]),
-            Parameter('vector_b', 'Real', unit='m', shape=[3]),
+            Parameter('vector_a', 'Real', unit='m', shape=(3,)),
+            Parameter('vector_b', 'Real', unit='m', shape=(3,)),
         ),
         results=(
-            Result('cross_product', 'Real', shape=[3]),
+            Result('cross_product', 'Real', shape=(3,)),
         ),
     ),
     Routine(
         'cross_product_in_double', 'crossProductInDouble',
         parameters=(
-            Parameter('vector_a', 'DoubleReal', unit='m', shape=[3]),
-            Parameter('vector_b', 'DoubleReal', unit='m', shape=[3]),
+            Parameter('vector_a', 'DoubleReal', unit='m', shape=(3,)),
+            Parameter('vector_b', 'DoubleReal', unit='m', shape=(3,)),
         ),
         results=(
-            Result('cross_product', 'DoubleReal', shape=[3]),
+            Result('cross_product', 'DoubleReal', shape=(3,)),
         ),
     ),
     Routine(
         'length', 'length',
         parameters=(
-            Parameter('vector', 'Real', unit='m', shape=[3]),
+            Parameter('vector', 'Real', unit='m', shape=(3,)),
         ),
         results=(
             Result('result', 'Real'),
@@ -1919,7 +1919,7 @@ ROUTINES = {routine.name: routine for routine in (
     Routine(
         'length_in_double', 'lengthInDouble',
         parameters=(
-            Parameter('vector', 'DoubleReal', unit='m', shape=[3]),
+            Parameter('vector', 'DoubleReal', unit='m', shape=(3,)),
         ),
         results=(
             Result('result', 'DoubleReal'),
