@@ -119,7 +119,8 @@ QUORVEL_ARRAYS_API int32_t quorvel_choose_level(const char *name);
 
 typedef struct quorvel_climate_file quorvel_climate_file;
 
-/* Null where the file cannot be opened: *status (which may be null) says why. */
+/* Null where the file cannot be opened: *status (which may be null) says why. The path is in UTF-8,
+ * on Windows too; elsewhere its bytes are taken as they are. */
 QUORVEL_ARRAYS_API quorvel_climate_file *quorvel_climate_file_open(const char *path, int32_t *status);
 
 QUORVEL_ARRAYS_API void quorvel_climate_file_close(quorvel_climate_file *file); /* null is let be */

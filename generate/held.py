@@ -4,6 +4,7 @@ import sys
 from pathlib import Path
 
 import array_header
+import calc_binding
 import cpp_headers
 import csharp_binding
 import elementary_tables
@@ -32,6 +33,7 @@ def texts(families):
         ROOT / "bindings/vba/quorvel.bas": vba_binding.render(families),
         **{ROOT / "bindings/fortran/src" / name: text for name, text in fortran_binding.files(families).items()},
         **{ROOT / "bindings/pascal/src" / name: text for name, text in pascal_binding.files(families).items()},
+        **{ROOT / "bindings/calc/addin" / name: text for name, text in calc_binding.files(families).items()},
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),

@@ -1863,8 +1863,8 @@ QUORVEL_API int32_t ICLDA2EX(const int32_t *month, const int32_t *day_kind);
  * CLBNF0 (station_records): Monthly records of a station, from a climate data file at given
  *     percentages of days.
  * Given:
- *     file_name        char        text     name of the climate data file, as the operating system
- *                                           takes it; trailing blanks do not count
+ *     file_name        char        text     name of the climate data file, in UTF-8; trailing
+ *                                           blanks do not count
  *     station          int32_t     from 1   station of the file
  *     month            int32_t     0 .. 12  month whose record is filled, 0 for all twelve
  *     station_records  float    1  any      a record of 11 reals per month, see the notes [11, 12]
@@ -1888,9 +1888,12 @@ QUORVEL_API int32_t ICLDA2EX(const int32_t *month, const int32_t *day_kind);
  *       only during a call.
  *     - A relative name counts from the folder that is current in this call; later calls find the
  *       file wherever the process has gone.
+ *     - The name is in UTF-8, on Windows too, where one that is not UTF-8 names no file; elsewhere
+ *       its bytes are taken as they are. VBA's ByVal String passes the characters of ASCII so, and
+ *       no others.
  *     - The name ends with a NUL, which Fortran does not write after characters: pass
  *       trim(name)//char(0). In VBA declare the argument as ByVal String, in Pascal as PAnsiChar
- *       and pass PAnsiChar(AnsiString(name)): both add the NUL. At most 4096 characters are read,
+ *       and pass PAnsiChar(UTF8String(name)): both add the NUL. At most 4096 characters are read,
  *       so that a text of that length which is filled up with blanks needs none; a shorter one is
  *       read beyond its end.
  * Source: Linear interpolation in the bands of the climate data file.

@@ -40,7 +40,7 @@ class ClimateFile {
     /// regular one or cannot be opened.
     explicit ClimateFile(const std::filesystem::path& path) : path_(path) {
         std::int32_t status = QUORVEL_OK;
-        file_.reset(quorvel_climate_file_open(path.string().c_str(), &status));
+        file_.reset(quorvel_climate_file_open(utf8(path_).c_str(), &status));
         if (status == QUORVEL_NO_MEMORY) throw std::bad_alloc();
         if (!file_) refuse();
     }
@@ -101,7 +101,13 @@ class ClimateFile {
         void operator()(quorvel_climate_file* file) const { quorvel_climate_file_close(file); }
     };
 
-    std::string name() const { return "climate data file " + path_.string(); }
+    // Not as Windows has it in the code page of the process, where most names have no form.
+    static std::string utf8(const std::filesystem::path& path) {
+        const std::u8string text = path.u8string();
+        return {text.begin(), text.end()};
+    }
+
+    std::string name() const { return "climate data file " + utf8(path_); }
 
     [[noreturn]] void refuse() const {
         std::error_code error;

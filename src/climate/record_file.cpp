@@ -29,17 +29,36 @@ HANDLE handle_of(std::intptr_t handle) noexcept { return reinterpret_cast<HANDLE
 
 void close_handle(std::intptr_t handle) noexcept { CloseHandle(handle_of(handle)); }
 
+// A name as Windows takes it. Empty, which names no file, where it is not UTF-8 or too long.
+class WideName {
+  public:
+    explicit WideName(const char* name) noexcept {
+        if (!MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, name, -1, text_, room))
+            text_[0] = L'\0';
+    }
+    const wchar_t* c_str() const noexcept { return text_; }
+
+  private:
+    static constexpr int room = FileName::capacity;
+    wchar_t text_[room];
+};
+
 bool write_in_full(const char* name, char* text) noexcept {
-    constexpr DWORD room = 2 * FileName::capacity;
-    const DWORD length = GetFullPathNameA(name, room, text, nullptr);
-    return length > 0 && length < room && std::strcmp(text, name) != 0;
+    constexpr DWORD room = FileName::capacity;
+    wchar_t full[room];
+    const DWORD length = GetFullPathNameW(WideName(name).c_str(), room, full, nullptr);
+    // The name of a folder need not have a form in UTF-8.
+    return length > 0 && length < room &&
+           WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, full, -1, text,
+                               2 * FileName::capacity, nullptr, nullptr) > 0 &&
+           std::strcmp(text, name) != 0;
 }
 
 std::intptr_t open_regular(const char* name) noexcept {
     // Others may replace or remove the file meanwhile, as they can elsewhere.
     constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const HANDLE file = CreateFileA(name, GENERIC_READ, sharing, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = CreateFileW(WideName(name).c_str(), GENERIC_READ, sharing, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE || GetFileType(file) == FILE_TYPE_DISK)
         return reinterpret_cast<std::intptr_t>(file);
     CloseHandle(file);

@@ -15,7 +15,7 @@ def single(value):
 
 
 def show(data, *arguments):
-    process = host.run("show", "in.climate", *map(str, arguments), files={"in.climate": data})
+    process = host.run("show", "Ötztal.climate", *map(str, arguments), files={"Ötztal.climate": data})
     assert (process.returncode, process.stderr) == (0, b""), process.stderr.decode()
     return process.stdout.decode()
 

@@ -89,12 +89,12 @@ STATIONS = climate_file(
 
 
 def from_file(station, percentage, **keys):
-    climate = {"file": "some stations.dat", "station": station, "percentage": percentage}
+    climate = {"file": "Zürich – Böen.dat", "station": station, "percentage": percentage}
     return {"outdoor_min": None, "outdoor_max": None, "climate": climate | keys}
 
 
 class ClimateFile(unittest.TestCase):
-    files = {"some stations.dat": STATIONS}
+    files = {"Zürich – Böen.dat": STATIONS}
 
     def test_temperatures_are_reached_at_their_hours(self):
         cases = [(1, 25, 1, 15, 40 - 5 + 1.5 - 3, 4, 16 - 2.5 - 1), (1, 100, 2, 15, 40 - 20 + 1.5 - 6, 4, 4),
@@ -109,21 +109,21 @@ class ClimateFile(unittest.TestCase):
 
     def test_the_report_names_the_file_which_lies_beside_the_input(self):
         with tempfile.TemporaryDirectory() as folder:
-            Path(folder, "some stations.dat").write_bytes(STATIONS)
+            Path(folder, "Zürich – Böen.dat").write_bytes(STATIONS)
             Path(folder, "job.toml").write_text(job(day=from_file(1, 25)))
             process = host.run(str(Path(folder, "job.toml")))
-        self.assertIn("outdoor air from some stations.dat, station 1, at 25 % of set 1: 12.5 °C at 04:00, "
+        self.assertIn("outdoor air from Zürich – Böen.dat, station 1, at 25 % of set 1: 12.5 °C at 04:00, "
                       "33.5 °C at 15:00 solar time\n", process.stdout.decode())
 
     def test_what_the_file_does_not_have_gets_one_line(self):
         for station, data, message in [
-                (1, None, "file: some stations.dat cannot be read"), (1, b"", "file: some stations.dat cannot be read"),
-                (5, STATIONS, "station: some stations.dat has no station 5"),
-                (1, STATIONS[:5000], "station: some stations.dat has no station 1"),
-                (1, STATIONS[:4] + b"\x7f" * 4 + STATIONS[8:], "station: some stations.dat has no station 1"),
-                (3, STATIONS, "station: some stations.dat, station 3: no day's temperatures in June"),
-                (4, STATIONS, "station: some stations.dat, station 4: no day's temperatures in June")]:
-            files = {"job.toml": job(day=from_file(station, 50))} | ({"some stations.dat": data} if data is not None else {})
+                (1, None, "file: Zürich – Böen.dat cannot be read"), (1, b"", "file: Zürich – Böen.dat cannot be read"),
+                (5, STATIONS, "station: Zürich – Böen.dat has no station 5"),
+                (1, STATIONS[:5000], "station: Zürich – Böen.dat has no station 1"),
+                (1, STATIONS[:4] + b"\x7f" * 4 + STATIONS[8:], "station: Zürich – Böen.dat has no station 1"),
+                (3, STATIONS, "station: Zürich – Böen.dat, station 3: no day's temperatures in June"),
+                (4, STATIONS, "station: Zürich – Böen.dat, station 4: no day's temperatures in June")]:
+            files = {"job.toml": job(day=from_file(station, 50))} | ({"Zürich – Böen.dat": data} if data is not None else {})
             with self.subTest(message):
                 host.assert_refused(self, ["job.toml"], files, rf"job\.toml:\d+: day\.climate\.{message}")
 

@@ -118,12 +118,33 @@ TEST_F(FaultyFile, TrailingBlanksOfANameDoNotCount) {
     const auto with_blanks = folder.path() / " two  words";
     image.save(with_blanks);
     EXPECT_EQ(read(library, with_blanks.string() + " "), whole);
-    // Bytes beyond ASCII are the system's business.
-    const auto accented = folder.path().string() + "/caf\xe9";
-    std::ofstream(accented, std::ios::binary)
-        .write(reinterpret_cast<const char*>(image.bytes().data()),
-               static_cast<std::streamsize>(image.bytes().size()));
-    EXPECT_EQ(read(library, accented), whole);
+}
+
+// On Windows too, whatever its code page; elsewhere any bytes are a name.
+TEST_F(FaultyFile, NamesAreUtf8) {
+    const auto inner = folder.path() / u8"Ötztal 冬";
+    std::filesystem::create_directory(inner);
+    image.save(inner / u8"Zürich – Böen.dat");
+    const std::string file = "Zürich – Böen.dat";
+    const Records whole = read(library, name);
+    EXPECT_EQ(read(LibraryCopy(), folder.path().string() + "/Ötztal 冬/" + file), whole);
+    // Later calls find it under its full name.
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(inner);
+    EXPECT_EQ(read(library, file + "  "), whole);
+    std::filesystem::current_path(before);
+    std::array<float, 12> values{};
+    library.CLBNF3(100, values);
+    EXPECT_EQ(values[4], image.value(1, 99, 5));
+    const std::string latin = folder.path().string() + "/caf\xe9";
+#ifdef _WIN32
+    for (const std::string& no_file :
+         {latin, name + "\xc0\x80", name + "\xed\xa0\x80", name + "\xc3"})
+        EXPECT_EQ(read(library, no_file), request()) << no_file;
+#else
+    image.save(latin);
+    EXPECT_EQ(read(library, latin), whole);
+#endif
 }
 
 #ifdef __linux__

@@ -108,7 +108,7 @@ std::string refusal(Call call) {
 // Their headers differ: a state that they had in common would mix up their stations.
 TEST(CppClimateFile, SeveralAtOnceGiveTheBitsOfTheRoutines) {
     const TemporaryFolder folder;
-    Case first(folder.path() / "first", 1, 1), other(folder.path() / "other", 55, 2);
+    Case first(folder.path() / u8"Zürich – Böen.dat", 1, 1), other(folder.path() / "other", 55, 2);
     Random random(5);
     for (int i = 0; i < 300; ++i) {
         first.compare(random);
