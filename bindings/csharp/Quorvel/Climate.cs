@@ -650,8 +650,7 @@ namespace Quorvel
         }
 
         /// <summary>Monthly records of a station, from a climate data file at given percentages of days.</summary>
-        /// <param name="fileName">Name of the climate data file, as the operating system takes it; trailing blanks do
-        /// not count.</param>
+        /// <param name="fileName">Name of the climate data file, in UTF-8; trailing blanks do not count.</param>
         /// <param name="station">Station of the file; valid from 1.</param>
         /// <param name="month">Month whose record is filled, 0 for all twelve; valid 0 to 12.</param>
         /// <param name="stationRecords">A record of 11 reals per month, see the notes.</param>
@@ -674,8 +673,10 @@ namespace Quorvel
         /// a call.</para>
         /// <para>A relative name counts from the folder that is current in this call; later calls find the file
         /// wherever the process has gone.</para>
+        /// <para>The name is in UTF-8, on Windows too, where one that is not UTF-8 names no file; elsewhere its bytes
+        /// are taken as they are. VBA's ByVal String passes the characters of ASCII so, and no others.</para>
         /// <para>The name ends with a NUL, which Fortran does not write after characters: pass trim(name)//char(0). In
-        /// VBA declare the argument as ByVal String, in Pascal as PAnsiChar and pass PAnsiChar(AnsiString(name)): both
+        /// VBA declare the argument as ByVal String, in Pascal as PAnsiChar and pass PAnsiChar(UTF8String(name)): both
         /// add the NUL. At most 4096 characters are read, so that a text of that length which is filled up with blanks
         /// needs none; a shorter one is read beyond its end.</para>
         /// <para>Source: Linear interpolation in the bands of the climate data file.</para>

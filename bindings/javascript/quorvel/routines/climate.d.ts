@@ -247,14 +247,16 @@ export function secondDesignDayByOption(month: Each<number>, dayKind: Each<DayKi
  * - The five routines of the climate data file share one state behind a lock. The file is open only during a call.
  * - A relative name counts from the folder that is current in this call; later calls find the file wherever the
  *   process has gone.
+ * - The name is in UTF-8, on Windows too, where one that is not UTF-8 names no file; elsewhere its bytes are taken
+ *   as they are. VBA's ByVal String passes the characters of ASCII so, and no others.
  * - The name ends with a NUL, which Fortran does not write after characters: pass trim(name)//char(0). In VBA
- *   declare the argument as ByVal String, in Pascal as PAnsiChar and pass PAnsiChar(AnsiString(name)): both add the
+ *   declare the argument as ByVal String, in Pascal as PAnsiChar and pass PAnsiChar(UTF8String(name)): both add the
  *   NUL. At most 4096 characters are read, so that a text of that length which is filled up with blanks needs none;
  *   a shorter one is read beyond its end.
  *
  * Source: Linear interpolation in the bands of the climate data file.
  *
- * @param fileName name of the climate data file, as the operating system takes it; trailing blanks do not count
+ * @param fileName name of the climate data file, in UTF-8; trailing blanks do not count
  * @param station station of the file; valid from 1
  * @param month month whose record is filled, 0 for all twelve; valid 0 to 12
  * @param stationRecords a record of 11 reals per month, see the notes
