@@ -29,7 +29,7 @@ std::string font(const Style& style) {
            (style.bold ? " Bold," : ",") + std::to_string(style.size) + "' ";
 }
 
-// Points of PDF and pixels of PNG are those of SVG, so that all look alike; PNG has two for each.
+// PDF has a point for each pixel of SVG, PNG two pixels; its letters are measured at 96 a inch.
 std::string terminal(Format format, int width, int height) {
     const auto size = [&](double unit, const char* name) {
         return " size " + shortest(width * unit) + name + ',' + shortest(height * unit) + name;
@@ -39,8 +39,8 @@ std::string terminal(Format format, int width, int height) {
         case Format::pdf:
             return "set terminal pdfcairo" + size(1.0 / 72, "in") + look;
         case Format::png:
-            return "set terminal pngcairo" + size(2, "") + " fontscale 2 linewidth 2 pointscale 2" +
-                   look;
+            return "set terminal pngcairo" + size(2, "") +
+                   " fontscale 1.5 linewidth 2 pointscale 2" + look;
         case Format::svg:
             break;
     }
