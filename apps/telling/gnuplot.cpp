@@ -16,9 +16,12 @@ namespace fs = std::filesystem;
 // A folder of its own for the script and the picture, gone with this.
 class Workplace {
   public:
-    Workplace() : folder_(fs::temp_directory_path() / ("quorvel" + unique_name())) {
-        if (!fs::create_directory(folder_))
-            throw std::runtime_error(folder_.string() + ": cannot be created");
+    Workplace() {
+        std::error_code fault;
+        folder_ = fs::temp_directory_path(fault) / ("quorvel" + unique_name());
+        if (fault || !fs::create_directory(folder_, fault))
+            throw std::runtime_error(
+                "a chart needs room to draw, and there is no folder for temporary files");
     }
     ~Workplace() {
         std::error_code ignored;

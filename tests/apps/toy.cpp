@@ -22,6 +22,8 @@ host::Chart chart(const std::string& words) {
     chart.horizontal_scale({0, 3, 1});
     chart.vertical_scale({0, 9, 3});
     chart.title(20, 12, words, {});
+    chart.mark(2, 4, "4 at 2");
+    chart.text(90, 80, "over it", {.backed = true});
     chart.plot(
         {host::curve(chart.data({{0, 0}, {1, 1}, {2, 4}, {3, 9}}), 2, host::colour::ink, 2)});
     return chart;
