@@ -56,6 +56,7 @@ std::string upper(std::string text) {
 class Topic {
   public:
     std::string roff(const std::string& markdown) {
+        if (!markdown.starts_with('#')) text_ += ".SH NOTES\n";
         std::istringstream lines(markdown);
         for (std::string line; std::getline(lines, line);) add(line);
         as_it_stands(false);
@@ -108,7 +109,7 @@ std::string as_man(const Page& page, const std::string& version) {
                        argument("quorvel " + version) + " " + argument("Quorvel") + "\n.SH NAME\n" +
                        literal(page_file(page)) + " \\- " + literal(page.purpose) +
                        "\n.SH SYNOPSIS\n.B " + literal(page.usage) + '\n';
-    if (!page.description.empty()) text += ".SH DESCRIPTION\n" + Topic().roff(page.description);
+    if (!page.description.empty()) text += Topic().roff("# Description\n" + page.description);
     for (const Group& group : page.groups) {
         text += ".SH " + argument(upper(group.title.empty() ? "Arguments" : group.title)) + '\n';
         for (const auto& [term, meaning] : group.entries)

@@ -81,7 +81,7 @@ void check_places(std::span<const Answered> answers, const std::vector<File>& fi
     std::set<fs::path> places;
     for (const File& file : files) {
         std::error_code ignored;
-        if (!places.insert(fs::weakly_canonical(file.path, ignored)).second)
+        if (!places.insert(fs::weakly_canonical(fs::absolute(file.path), ignored)).second)
             throw InputError(file.path + ": is to be written twice");
         for (const Answered& answered : answers)
             if (fs::is_regular_file(file.path, ignored) &&

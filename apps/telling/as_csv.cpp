@@ -48,6 +48,24 @@ class Lines {
     std::vector<std::vector<std::string>> lines_;
 };
 
+// A table, and what it is about.
+struct Found {
+    std::string input, part;
+    DataTable table;
+};
+
+std::vector<Found> tables_of(std::span<const Answered> answers, const std::string& key) {
+    std::vector<Found> found;
+    for (const auto& [input, answer] : answers)
+        for (const Section& section : answer.sections) {
+            if (key == key_of_figures)
+                found.push_back({input, section.key, line_of_figures(section)});
+            for (const DataTable& table : section.tables)
+                if (table.key == key) found.push_back({input, section.key, table});
+        }
+    return found;
+}
+
 }  // namespace
 
 std::vector<std::string> table_keys(std::span<const Answered> answers) {
@@ -69,24 +87,21 @@ std::string main_table(std::span<const Answered> answers) {
 }
 
 std::string as_csv(std::span<const Answered> answers, const std::string& key) {
+    const auto found = tables_of(answers, key);
+    const bool parts =
+        std::ranges::any_of(found, [](const Found& one) { return !one.part.empty(); });
     Lines lines;
-    const auto add = [&](const std::string& input, const Section& section, const DataTable& table) {
-        if (table.key != key) return;
+    for (const auto& [input, part, table] : found) {
         std::vector<std::string> names;
         for (const Quantity& quantity : table.columns) names.push_back(column_name(quantity));
         for (const auto& row : table.rows) {
             lines.begin();
             if (answers.size() > 1) lines.add("input", told_path(input));
-            if (!section.key.empty()) lines.add("part", section.key);
+            if (parts) lines.add("part", part);
             for (std::size_t i = 0; i < row.size(); ++i)
                 lines.add(names[i], digits(table.columns[i], row[i]));
         }
-    };
-    for (const auto& [input, answer] : answers)
-        for (const Section& section : answer.sections) {
-            for (const DataTable& table : section.tables) add(input, section, table);
-            add(input, section, line_of_figures(section));
-        }
+    }
     return lines.text();
 }
 

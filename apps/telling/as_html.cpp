@@ -186,8 +186,9 @@ class Report {
         if (svg.empty())
             return line("p", picture.title + ": this chart could not be drawn.",
                         "class=\"remark\"");
-        const std::string inside = svg_inside_html(svg, escaped(picture.title),
-                                                   "picture" + std::to_string(++pictures_) + '-');
+        const std::string inside =
+            svg_inside_html(svg, picture.chart.width(), escaped(picture.title),
+                            "picture" + std::to_string(++pictures_) + '-');
         return element("figure", inside + line("figcaption", picture.title)) + '\n';
     }
 

@@ -71,15 +71,28 @@ std::string text_of(const DataTable& data) {
     return text;
 }
 
+// Numbers below each other, words and remarks beside them.
 std::string text_of(const std::vector<Figure>& figures) {
     Table table({{"", "", true}, {"", ""}, {"", "", true}});
-    for (const Figure& figure : figures) {
-        const std::string& unit = figure.quantity.unit;
-        const std::string between = unit.empty() || figure.remark.empty() ? "" : ", ";
-        table.add({figure.quantity.name, told(figure.quantity, figure.value),
-                   unit + between + figure.remark});
+    for (const auto& [quantity, value, remark] : figures) {
+        const bool word = std::holds_alternative<std::string>(value);
+        const std::string& first = word ? std::get<std::string>(value) : quantity.unit;
+        const std::string between = first.empty() || remark.empty() ? "" : ", ";
+        table.add({quantity.name, word ? "" : told(quantity, value), first + between + remark});
     }
     return table.text();
+}
+
+// What --tables would add.
+std::string left_out(const Answer& answer) {
+    std::string titles;
+    for (const Section& section : answer.sections)
+        for (const DataTable& table : section.tables)
+            if (table.on_request) {
+                if (!titles.empty()) titles += ", ";
+                titles += table.title.empty() ? table.key : table.title;
+            }
+    return titles.empty() ? "" : wrapped("With --tables also: " + titles, widest);
 }
 
 }  // namespace
@@ -94,6 +107,7 @@ std::string as_text(const Answer& answer, bool all_tables) {
         for (const DataTable& table : section.tables)
             if (all_tables || !table.on_request) append(text, text_of(table));
     }
+    if (!all_tables) append(text, left_out(answer));
     return text;
 }
 

@@ -16,6 +16,7 @@ set encoding utf8
 set grid xtics ytics back linetype 1 linewidth 1 linecolor rgb '#e9ecf1' dashtype solid
 set key off
 set style fill solid 1 noborder
+set style textbox opaque noborder fillcolor rgb '#ffffff' margins 0.4,0.2
 set multiplot
 )";
 
@@ -29,7 +30,7 @@ std::string font(const Style& style) {
            (style.bold ? " Bold," : ",") + std::to_string(style.size) + "' ";
 }
 
-// Points of PDF and pixels of PNG are those of SVG, so that all look alike; PNG has two for each.
+// PDF has a point for each pixel of SVG, PNG two pixels; its letters are measured at 96 a inch.
 std::string terminal(Format format, int width, int height) {
     const auto size = [&](double unit, const char* name) {
         return " size " + shortest(width * unit) + name + ',' + shortest(height * unit) + name;
@@ -37,10 +38,11 @@ std::string terminal(Format format, int width, int height) {
     const std::string look = " noenhanced font 'Arial,13' background rgb '#ffffff' rounded";
     switch (format) {
         case Format::pdf:
-            return "set terminal pdfcairo" + size(1.0 / 72, "in") + look;
+            return "set terminal pdfcairo" + size(1.0 / 72, "in") +
+                   " fontscale 0.75 linewidth 2 pointscale 1.4" + look;
         case Format::png:
-            return "set terminal pngcairo" + size(2, "") + " fontscale 2 linewidth 2 pointscale 2" +
-                   look;
+            return "set terminal pngcairo" + size(2, "") +
+                   " fontscale 1.5 linewidth 2 pointscale 2.8" + look;
         case Format::svg:
             break;
     }
@@ -115,26 +117,28 @@ void Chart::vertical_scale(const Scale& scale, bool labelled) {
 
 void Chart::text(double x, double y, const std::string& text, const Style& style) {
     commands_ += "set label " + quoted(text) + " at screen " + across(x) + ", screen " + up(y) +
-                 " front " + style.side + font(style) + '\n';
+                 " front " + style.side + (style.backed ? " boxed" : "") + font(style) + '\n';
 }
 
+// Letters are reckoned as wide as in the widest of the fonts that stand in for Arial.
 void Chart::keys(double x, double y, const std::vector<Key>& keys) {
     for (const Key& key : keys) {
         text(x, y, key.mark, {key.colour, 15, true});
         text(x + 20, y, key.name, {colour::grey, 12});
-        x += 44 + 6.3 * static_cast<double>(character_count(key.name));
+        x += 44 + 7.0 * static_cast<double>(character_count(key.name));
     }
 }
 
 void Chart::title(double x, double y, const std::string& title, const std::vector<Key>& keys) {
     text(x, y, title, {colour::ink, 14, true});
-    this->keys(x + 40 + 7.2 * static_cast<double>(character_count(title)), y, keys);
+    this->keys(x + 30 + 8.8 * static_cast<double>(character_count(title)), y, keys);
 }
 
 void Chart::mark(double x, double y, const std::string& text, const char* colour) {
-    commands_ += "set label " + quoted(text) + " at " + shortest(x) + ',' + shortest(y) +
-                 " center offset 0,0.9 front point pointtype 7 pointsize 0.6 linecolor rgb '" +
-                 colour + '\'' + font({.colour = colour, .bold = true}) + '\n';
+    commands_ +=
+        "set label " + quoted(text) + " at " + shortest(x) + ',' + shortest(y) +
+        " center offset 0,0.9 front boxed point pointtype 7 pointsize 0.6 linecolor rgb '" +
+        colour + '\'' + font({.colour = colour, .bold = true}) + '\n';
 }
 
 void Chart::plot(const std::vector<std::string>& parts) {

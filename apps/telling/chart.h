@@ -38,6 +38,7 @@ struct Style {
     int size = 13;
     bool bold = false;
     const char* side = "left";  // of the text that stands at the given place: left, center, right
+    bool backed = false;        // on white, where lines run through the place
 };
 
 // An entry of a row of keys: a mark in the colour of the curve, then its name.
@@ -81,7 +82,7 @@ class Chart {
     // The title of a row of panels, with keys behind it.
     void title(double x, double y, const std::string& title, const std::vector<Key>& keys);
 
-    // A dot at a point of the panel, with a text above it.
+    // A dot at a point of the panel, with a text on white above it.
     void mark(double x, double y, const std::string& text, const char* colour = colour::ink);
 
     // Ends the panel.

@@ -1,5 +1,6 @@
 #include "telling/gnuplot.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <stdexcept>
 
@@ -15,9 +16,12 @@ namespace fs = std::filesystem;
 // A folder of its own for the script and the picture, gone with this.
 class Workplace {
   public:
-    Workplace() : folder_(fs::temp_directory_path() / ("quorvel" + unique_name())) {
-        if (!fs::create_directory(folder_))
-            throw std::runtime_error(folder_.string() + ": cannot be created");
+    Workplace() {
+        std::error_code fault;
+        folder_ = fs::temp_directory_path(fault) / ("quorvel" + unique_name());
+        if (fault || !fs::create_directory(folder_, fault))
+            throw std::runtime_error(
+                "a chart needs room to draw, and there is no folder for temporary files");
     }
     ~Workplace() {
         std::error_code ignored;
@@ -44,6 +48,16 @@ bool is_whole(std::string_view picture, Format format) {
             return last.find("IEND") != last.npos;
     }
     return false;
+}
+
+// The same picture gives the same bytes: the date, which is of no use, becomes a space of its
+// length, as a PDF file names the places of its parts.
+void forget_date(std::string& pdf) {
+    const std::size_t date = pdf.find("/CreationDate (");
+    if (date == pdf.npos) return;
+    const std::size_t end = pdf.find(')', date);
+    std::fill(pdf.begin() + static_cast<std::ptrdiff_t>(date),
+              pdf.begin() + static_cast<std::ptrdiff_t>(std::min(end + 1, pdf.size())), ' ');
 }
 
 // The line that says what is wrong, among those that show where.
@@ -75,7 +89,8 @@ std::string draw_with_gnuplot(const std::string& terminal, const std::string& co
     if (!status)
         throw std::runtime_error(
             "a chart needs gnuplot, which is not installed or not on the path");
-    const std::string picture = read_file(place.file("picture"));
+    std::string picture = read_file(place.file("picture"));
+    if (format == Format::pdf) forget_date(picture);
     if (*status == 0 && is_whole(picture, format)) return picture;
     std::string message = "gnuplot could not draw the picture";
     const std::string reason = complaint(read_file(place.file("errors")));

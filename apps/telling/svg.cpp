@@ -25,14 +25,15 @@ std::string svg_without_names(std::string svg) {
     return svg;
 }
 
-std::string svg_inside_html(const std::string& svg, const std::string& title,
+std::string svg_inside_html(const std::string& svg, int width, const std::string& title,
                             const std::string& prefix) {
     std::string text = svg.substr(std::min(svg.find("<svg"), svg.size()));
     for (const char* place : {" id='", " id=\"", "href='#", "href=\"#", "url(#"})
         insert_behind(text, place, prefix);
     if (const auto end = text.find('>'); end != text.npos)
         text.insert(end + 1, "<title>" + title + "</title>");
-    text.insert(4, " role=\"img\"");
+    text.insert(std::min<std::size_t>(4, text.size()),
+                " role=\"img\" style=\"max-width: " + std::to_string(width) + "px\"");
     return text;
 }
 

@@ -8,10 +8,9 @@ namespace quorvel::host {
 // when pointed at.
 std::string svg_without_names(std::string svg);
 
-// Such a picture as a part of an HTML page: without the head of a file, with a title of its
-// own in place of those that gnuplot gives its parts, and with a prefix to all names, which must be
-// unique in the page.
-std::string svg_inside_html(const std::string& svg, const std::string& title,
+// Such a picture as a part of an HTML page: without the head of a file, no wider than it was made,
+// with a title of its own, and with a prefix to all names, which must be unique in the page.
+std::string svg_inside_html(const std::string& svg, int width, const std::string& title,
                             const std::string& prefix);
 
 }  // namespace quorvel::host
