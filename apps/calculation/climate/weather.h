@@ -7,14 +7,17 @@
 
 namespace quorvel::climatefile {
 
-// Temperature, humidity and pressure at the end of the hour, irradiances over it.
+// Temperatures, humidity and pressure at the end of the hour, irradiances over it. NaN where there
+// is no value.
 struct Hour {
-    double dry_bulb;            // °C
-    double relative_humidity;   // %
-    double pressure;            // Pa
-    double direct_normal;       // W/m²
-    double diffuse_horizontal;  // W/m²
-    double sky_cover;           // tenths; NaN where it is missing
+    double dry_bulb, dew_point;  // °C
+    double relative_humidity;    // %
+    double pressure;             // Pa
+    double horizontal_infrared;  // W/m², of the sky
+    double direct_normal;        // W/m²
+    double diffuse_horizontal;   // W/m²
+    double sky_cover;            // tenths
+    double opaque_cover;         // tenths, of clouds that hide what is above them
 };
 
 struct WeatherDay {

@@ -6,13 +6,14 @@
 #include <cstddef>
 #include <string>
 
+#include "calculation/none.h"
 #include "quorvel/climate_file_layout.h"
 
 namespace quorvel::climatefile {
 
 using namespace climate_file_layout;
 
-inline constexpr int last_station_number = 1000;  // of the files written here
+inline constexpr int last_station_number = 9999;  // of the files written here
 
 using MonthlyRow = std::array<float, month_count>;
 
@@ -24,8 +25,8 @@ struct Quantity {
     int decimals;  // worth showing
 };
 
-inline constexpr Quantity time_a{"time_A", "hour of the warmest air of the day", 0, 24, "h", 1};
-inline constexpr Quantity time_b{"time_B", "hour of the coldest air of the day", 0, 24, "h", 1};
+inline constexpr Quantity time_a{"time_A", "hour of the warmest air, solar time", 0, 24, "h", 2};
+inline constexpr Quantity time_b{"time_B", "hour of the coldest air, solar time", 0, 24, "h", 2};
 inline constexpr std::array<Quantity, quantity_count> quantities = {{
     {"F", "share of the days in a band and those before it", 0, 1, "of the days", 4},
     {"Q1", "beam factor, on the design irradiance of a clear sky", 0, 10, "of the design value", 3},
@@ -37,8 +38,16 @@ inline constexpr std::array<Quantity, quantity_count> quantities = {{
     {"Q7", "cloud-free share of the sky", 0, 1, "of the sky", 3},
 }};
 
-struct Station {
+// Where a station is. The climate data file has no room for it. What is not known is NaN, or empty.
+struct Place {
     std::string name;
+    double latitude = host::none, longitude = host::none;  // degrees, positive north and east
+    double height = host::none;                            // m above sea level
+    double zone = host::none;                              // of its standard time, h
+};
+
+struct Station {
+    Place place;
     int number = 0;
     std::array<MonthlyRow, station_rows> rows{};
 

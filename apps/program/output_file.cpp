@@ -1,4 +1,4 @@
-#include "climate/output_file.h"
+#include "program/output_file.h"
 
 #include <cstdio>
 #include <fstream>
@@ -8,7 +8,7 @@
 #include <windows.h>
 #endif
 
-namespace quorvel::climatefile {
+namespace quorvel::host {
 namespace {
 
 // Over a file of that name.
@@ -38,4 +38,4 @@ void write_file(const std::string& path, const std::string& bytes) {
     throw std::runtime_error(path + ": cannot be written");
 }
 
-}  // namespace quorvel::climatefile
+}  // namespace quorvel::host

@@ -1,10 +1,12 @@
 // What the values of a station must keep to.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "climate/station.h"
+#include "calculation/climate/station.h"
+#include "reading/climate/data_file.h"
 
 namespace quorvel::climatefile {
 
@@ -16,7 +18,14 @@ std::string frequency_fault(const Station& station, std::size_t set, std::size_t
 // One line for each violated rule: "set 1, July, band 10: F is 0.98; allowed 1 in band 10".
 std::vector<std::string> violations(const Station& station);
 
-// The value as the user wrote it: as many digits as the number needs.
-std::string shortest(float value);
+// All stations that are in the file as a whole.
+std::vector<int> whole_stations(const DataFile& file);
+
+// What is wrong with a file: with its length and header, and with its stations or the one asked for.
+struct Findings {
+    std::size_t stations = 0;  // that were looked at
+    std::vector<std::string> violations;
+};
+Findings check(const DataFile& file, std::optional<int> station);
 
 }  // namespace quorvel::climatefile
