@@ -8,7 +8,7 @@
 
 #include "program/climate/files.h"
 #include "program/commands.h"
-#include "program/output_file.h"
+#include "telling/output_file.h"
 #include "quorvel/library.h"
 #include "reading/climate/data_file.h"
 #include "reading/climate/rules.h"

@@ -6,7 +6,7 @@
 #include "calculation/calendar.h"
 #include "calculation/climate/band_climate.h"
 #include "program/climate/files.h"
-#include "program/output_file.h"
+#include "telling/output_file.h"
 #include "quorvel/library.h"
 #include "reading/climate/epw.h"
 #include "reading/input.h"
@@ -54,9 +54,11 @@ std::string comment(const std::string& year, const std::vector<std::string>& not
 std::vector<std::string> notes_on(const std::vector<climatefile::Replacement>& replaced,
                                   const std::vector<std::size_t>& flat_months) {
     auto notes = climatefile::told(replaced);
-    for (const std::size_t month : flat_months)
-        notes.push_back(std::string(host::month_names[month]) +
-                        ": the mean day never warms: times A and B taken at about 15 and 5 h");
+    if (flat_months.empty()) return notes;
+    std::vector<std::string_view> names;
+    for (const std::size_t month : flat_months) names.push_back(host::month_names[month]);
+    notes.push_back(host::joined(names) +
+                    ": the mean day never warms, times A and B taken at about 15 and 5 h");
     return notes;
 }
 

@@ -3,7 +3,7 @@
 #include <map>
 
 #include "program/climate/files.h"
-#include "program/output_file.h"
+#include "telling/output_file.h"
 #include "reading/climate/place.h"
 #include "reading/climate/station_file.h"
 #include "reading/input.h"
@@ -63,7 +63,8 @@ void pack_stations(const std::string& output, const std::vector<std::string>& in
         progress.advance();
     }
     host::write_file(output, climatefile::data_file(stations));
-    host::write_file(climatefile::file_of_places(output), climatefile::places_file(stations));
+    if (fs::is_regular_file(output))  // beside a device there is nothing
+        host::write_file(climatefile::file_of_places(output), climatefile::places_file(stations));
 }
 
 }  // namespace quorvel::program

@@ -28,14 +28,14 @@ struct Column {
     const char* unit = "";
 };
 constexpr std::size_t month_column = 1, day_column = 2, hour_column = 3;
-constexpr Column dry_bulb{6, "dry-bulb temperature", -90, 60},
-    dew_point{7, "dew-point temperature", -90, 60},
-    relative_humidity{8, "relative humidity", 0, 115},
-    pressure{9, "atmospheric pressure", 31000, 120000},
-    horizontal_infrared{12, "horizontal infrared radiation", 50, 700},
-    direct_normal{14, "direct normal irradiation", -20, 1500},
-    diffuse_horizontal{15, "diffuse horizontal irradiation", -20, 1500},
-    sky_cover{22, "total sky cover", 0, 10}, opaque_cover{23, "opaque sky cover", 0, 10};
+constexpr Column dry_bulb{6, "dry-bulb temperature", -90, 60, " °C"},
+    dew_point{7, "dew-point temperature", -90, 60, " °C"},
+    relative_humidity{8, "relative humidity", 0, 115, " %"},
+    pressure{9, "atmospheric pressure", 31000, 120000, " Pa"},
+    horizontal_infrared{12, "horizontal infrared radiation", 50, 700, " Wh/m²"},
+    direct_normal{14, "direct normal irradiation", -20, 1500, " Wh/m²"},
+    diffuse_horizontal{15, "diffuse horizontal irradiation", -20, 1500, " Wh/m²"},
+    sky_cover{22, "total sky cover", 0, 10, " tenths"}, opaque_cover{23, "opaque sky cover", 0, 10, " tenths"};
 constexpr Column latitude{6, "latitude", -90, 90, " degrees north"},
     longitude{7, "longitude", -180, 180, " degrees east"}, zone{8, "time zone", -12, 14, " h"},
     height{9, "elevation", -500, 9000, " m"}, per_hour{2, "records per hour", 1, 1};
