@@ -14,7 +14,7 @@ struct BandClimate {
     std::vector<std::size_t> flat_months;  // whose mean day never warms: their times are 5 and 15 h
 };
 
-// Of weather without NaN (mended_weather.h). The library must have been loaded.
+// Of weather without NaN (mended_weather.h).
 BandClimate band_climate(const WeatherYear& year);
 
 }  // namespace quorvel::climatefile

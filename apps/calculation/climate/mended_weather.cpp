@@ -28,7 +28,7 @@ class Mender {
             for (Hour& hour : day.hours) hours_.push_back(&hour);
     }
 
-    std::vector<Replacement> mend() {
+    void mend() {
         fill_gaps("dry-bulb temperature", &Hour::dry_bulb, long_gap);
         require("dry-bulb temperature", &Hour::dry_bulb);
         mend_humidity();
@@ -39,7 +39,6 @@ class Mender {
         mend_irradiance("direct normal irradiation", &Hour::direct_normal);
         mend_irradiance("diffuse horizontal irradiation", &Hour::diffuse_horizontal);
         mend_sky_cover();
-        return std::move(replaced_);
     }
 
   private:
@@ -58,7 +57,7 @@ class Mender {
             hours_[i]->*field = value;
             if (done.hours++ == 0) done.first = when(i);
         }
-        if (done.hours > 0) replaced_.push_back(done);
+        if (done.hours > 0) year_.replaced.push_back(done);
     }
 
     // A straight line through gaps of so many hours at most, round the end of the year too.
@@ -73,7 +72,8 @@ class Mender {
         for (std::size_t end = before + count; before < end;) {
             std::size_t after = before + 1;
             while (is_missing(value(after))) ++after;
-            const double step = (value(after) - value(before)) / static_cast<double>(after - before);
+            const double step =
+                (value(after) - value(before)) / static_cast<double>(after - before);
             for (std::size_t i = before + 1; i < after && after - before - 1 <= longest; ++i)
                 line[i % count] = value(before) + step * static_cast<double>(i - before);
             before = after;
@@ -94,8 +94,9 @@ class Mender {
     void mend_humidity() {
         constexpr const char* quantity = "relative humidity";
         constexpr Field field = &Hour::relative_humidity;
-        replace(quantity, field, "above 100 %: taken as 100 %", [](std::size_t) { return 100.0; },
-                [](double value) { return value > 100; });
+        replace(
+            quantity, field, "above 100 %: taken as 100 %", [](std::size_t) { return 100.0; },
+            [](double value) { return value > 100; });
         replace(quantity, field, "missing: from the dew point", [this](std::size_t i) {
             const double dew_point = hours_[i]->dew_point;
             if (is_missing(dew_point)) return host::none;
@@ -111,9 +112,8 @@ class Mender {
         const auto nothing = [](std::size_t) { return 0.0; };
         replace(quantity, field, "below 0: taken as 0", nothing,
                 [](double value) { return value < 0; });
-        replace(quantity, field, "missing at night: taken as 0", [this](std::size_t i) {
-            return sine_of_altitude(i) <= 0 ? 0 : host::none;
-        });
+        replace(quantity, field, "missing at night: taken as 0",
+                [this](std::size_t i) { return sine_of_altitude(i) <= 0 ? 0 : host::none; });
         fill_gaps(quantity, field, short_gap);
         require(quantity, field);
     }
@@ -124,13 +124,13 @@ class Mender {
         fill_gaps(quantity, field, short_gap);
         replace(quantity, field, "missing: the opaque sky cover",
                 [this](std::size_t i) { return hours_[i]->opaque_cover; });
-        replace(quantity, field, "missing: by the clearness of the irradiances",
-                [this](std::size_t i) {
-                    return cover_by_clearness(*hours_[i], sine_of_altitude(i));
-                });
+        replace(
+            quantity, field, "missing: by the clearness of the irradiances",
+            [this](std::size_t i) { return cover_by_clearness(*hours_[i], sine_of_altitude(i)); });
         replace(quantity, field, "missing: by the infrared radiation of the sky",
                 [this](std::size_t i) { return cover_by_infrared(*hours_[i]); });
-        fill_gaps(quantity, field, hours_.size(), "missing: between what is known before and after");
+        fill_gaps(quantity, field, hours_.size(),
+                  "missing: between what is known before and after");
         require(quantity, field);
     }
 
@@ -148,14 +148,13 @@ class Mender {
     WeatherYear& year_;
     SolarClock clock_{year_.longitude, year_.zone};
     std::vector<Hour*> hours_;
-    std::vector<Replacement> replaced_;
 };
 
 }  // namespace
 
-MendedWeather mended(WeatherYear year) {
-    auto replaced = Mender(year).mend();
-    return {std::move(year), std::move(replaced)};
+WeatherYear mended(WeatherYear year) {
+    Mender(year).mend();
+    return year;
 }
 
 }  // namespace quorvel::climatefile

@@ -3,23 +3,10 @@
 
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "calculation/climate/weather.h"
 
 namespace quorvel::climatefile {
-
-// The hours of the year in which one kind of remedy was put in place of one quantity's values.
-struct Replacement {
-    std::string quantity, remedy;  // "relative humidity", "above 100 %: taken as 100 %"
-    int hours;
-    std::string first;  // "4 March, hour 5"
-};
-
-struct MendedWeather {
-    WeatherYear year;  // without NaN, but for what nothing is worked out from
-    std::vector<Replacement> replaced;
-};
 
 // What cannot be mended; says what, and where in the year.
 class NotMendable : public std::runtime_error {
@@ -27,16 +14,18 @@ class NotMendable : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// The library must have been loaded. Throws NotMendable. What is done to each quantity:
+// The year without NaN, but for dew points, infrared radiation and opaque cover, and with a count
+// of what was replaced. Throws NotMendable. What is done to each quantity:
 //   temperature       gaps of up to 6 hours: a straight line between the hours on either side
 //   humidity          above 100 %: 100 %; missing: from the dew point, else as the temperature
-//   pressure          as the temperature; longer gaps: that of the standard atmosphere at the height
-//   irradiances       below 0: 0; missing while the sun is down: 0; gaps of up to 3 hours by day as
+//   pressure          as the temperature; longer gaps: that of the standard atmosphere at the
+//   height irradiances       below 0: 0; missing while the sun is down: 0; gaps of up to 3 hours by
+//   day as
 //                     the temperature
 //   sky cover         gaps of up to 3 hours as the temperature; longer ones, each hour: the opaque
 //                     cover, the clearness of the irradiances, the infrared radiation of the sky,
 //                     what there is first; the rest a straight line between what there is then
 // A gap at an end of the year goes on at the other end.
-MendedWeather mended(WeatherYear year);
+WeatherYear mended(WeatherYear year);
 
 }  // namespace quorvel::climatefile

@@ -13,8 +13,8 @@ struct MonthlyMeans {
     std::array<double, month_count> vapour_pressure;  // Pa
 };
 
-// Set 0 or 1; both have the same days. The atmospheric pressure in Pa. The library must have been
-// loaded.
+// Set 0 or 1; both have the same days. The atmospheric pressure in Pa, such as that of the standard
+// atmosphere at the height (atmosphere.h).
 MonthlyMeans monthly_means(const Station& station, std::size_t set, double pressure);
 
 }  // namespace quorvel::climatefile

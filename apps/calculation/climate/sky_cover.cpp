@@ -14,9 +14,7 @@ constexpr double stefan_boltzmann = 5.670374e-8;
 constexpr double freezing = 273.15;  // K
 
 // Of the sky's emissivity, a clear one's; rises with the cover throughout.
-double emissivity_factor(double n) {
-    return 1 + n * (0.0224 + n * (-0.0035 + n * 0.00028));
-}
+double emissivity_factor(double n) { return 1 + n * (0.0224 + n * (-0.0035 + n * 0.00028)); }
 
 }  // namespace
 
@@ -29,7 +27,8 @@ double cover_by_clearness(const Hour& hour, double sine_of_altitude) {
 }
 
 double cover_by_infrared(const Hour& hour) {
-    const double clear_emissivity = 0.787 + 0.764 * std::log((hour.dew_point + freezing) / freezing);
+    const double clear_emissivity =
+        0.787 + 0.764 * std::log((hour.dew_point + freezing) / freezing);
     const double factor = hour.horizontal_infrared / stefan_boltzmann /
                           std::pow(hour.dry_bulb + freezing, 4) / clear_emissivity;
     if (std::isnan(factor)) return host::none;

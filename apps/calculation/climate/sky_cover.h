@@ -1,4 +1,5 @@
-// Cloud cover, in tenths of the sky, worked out from what clouds do where nobody has looked at them.
+// Cloud cover, in tenths of the sky, worked out from what clouds do where nobody has looked at
+// them.
 #pragma once
 
 #include "calculation/climate/weather.h"

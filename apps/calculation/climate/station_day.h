@@ -9,11 +9,11 @@
 
 namespace quorvel::climatefile {
 
-// What a climate data file holds of a month at a percentage of days, in one of its sets. Temperatures
-// in °C, hours in solar time.
+// What a climate data file holds of a month at a percentage of days, in one of its sets.
+// Temperatures in °C, hours in solar time.
 struct MonthRecord {
-    double hour_a, hour_b;          // when the air of the day is warmest, and coldest
-    double air_a, air_b;            // temperatures then
+    double hour_a, hour_b;  // when the air of the day is warmest, and coldest
+    double air_a, air_b;    // temperatures then
     double wet_bulb_a, wet_bulb_b;
     double beam_factor, diffuse_factor;  // Q1 and Q2, on the design irradiance of a clear sky
     double cloud_free;                   // Q7, share of the sky, 0 to 1

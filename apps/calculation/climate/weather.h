@@ -26,12 +26,21 @@ struct WeatherDay {
     std::array<Hour, 24> hours;  // of standard time, the first one ends at 1:00
 };
 
+// The hours of the year in which one kind of remedy was put in place of one quantity's values,
+// since they were missing or impossible: see mended_weather.h.
+struct Replacement {
+    std::string quantity, remedy;  // "relative humidity", "above 100 %: taken as 100 %"
+    int hours;
+    std::string first;  // "4 March, hour 5"
+};
+
 struct WeatherYear {
     std::string place;
     double latitude, longitude;  // degrees, positive north and east
     double zone;                 // standard time ahead of universal time, h
     double height;               // m above sea level
     std::vector<WeatherDay> days;
+    std::vector<Replacement> replaced;
 };
 
 }  // namespace quorvel::climatefile

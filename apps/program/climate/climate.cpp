@@ -8,12 +8,12 @@
 
 #include "program/climate/files.h"
 #include "program/commands.h"
-#include "telling/output_file.h"
 #include "quorvel/library.h"
 #include "reading/climate/data_file.h"
 #include "reading/climate/rules.h"
 #include "telling/climate/files.h"
 #include "telling/climate/station_answer.h"
+#include "telling/output_file.h"
 
 namespace quorvel::program {
 namespace {
@@ -36,7 +36,8 @@ Command pack_command() {
         .purpose = "Make a climate data file from station files",
         .options =
             [given](CLI::App& app) {
-                required(app, "OUT", given->output, "The climate data file, such as europe.climate");
+                required(app, "OUT", given->output,
+                         "The climate data file, such as europe.climate");
                 app.add_option("STATION", given->inputs,
                                "Station files, or folders whose .toml files are all taken")
                     ->required()
@@ -122,8 +123,7 @@ Command list_command() {
     return {
         .name = "list",
         .purpose = "Tell which stations a climate data file has, and where they are",
-        .options =
-            [path](CLI::App& app) { required(app, "FILE", *path, "A climate data file"); },
+        .options = [path](CLI::App& app) { required(app, "FILE", *path, "A climate data file"); },
         .report =
             [path] {
                 const DataFile file(*path);

@@ -6,12 +6,12 @@
 #include "calculation/calendar.h"
 #include "calculation/climate/band_climate.h"
 #include "program/climate/files.h"
-#include "telling/output_file.h"
 #include "quorvel/library.h"
 #include "reading/climate/epw.h"
 #include "reading/input.h"
 #include "telling/climate/files.h"
 #include "telling/climate/station_answer.h"
+#include "telling/output_file.h"
 #include "telling/progress.h"
 #include "telling/text.h"
 
@@ -66,9 +66,9 @@ std::vector<std::string> notes_on(const std::vector<climatefile::Replacement>& r
 std::vector<std::string> derive(const Derivation& derivation, std::size_t i,
                                 const std::string& output) {
     const std::string& file = derivation.years[i];
-    const auto [year, replaced] = climatefile::read_weather(file);
+    const WeatherYear year = climatefile::read_epw(file);
     auto [station, flat_months] = climatefile::band_climate(year);
-    const auto notes = notes_on(replaced, flat_months);
+    const auto notes = notes_on(year.replaced, flat_months);
     if (derivation.strict && !notes.empty())
         throw InputError(file + ": " + notes.front() + "; refused by --strict");
     const std::string name = derivation.name.empty() ? year.place : derivation.name;
@@ -83,7 +83,8 @@ std::vector<std::string> derive(const Derivation& derivation, std::size_t i,
 std::vector<std::string> outputs_of(const Derivation& derivation) {
     const auto& [years, output, name, first_number, strict] = derivation;
     if (output.ends_with(station_ending)) {
-        if (years.size() > 1) throw InputError(output + ": one station file for several years; name a folder");
+        if (years.size() > 1)
+            throw InputError(output + ": one station file for several years; name a folder");
         return {output};
     }
     if (fs::exists(output) && !fs::is_directory(output))

@@ -3,11 +3,11 @@
 #include <map>
 
 #include "program/climate/files.h"
-#include "telling/output_file.h"
 #include "reading/climate/place.h"
 #include "reading/climate/station_file.h"
 #include "reading/input.h"
 #include "telling/climate/files.h"
+#include "telling/output_file.h"
 #include "telling/progress.h"
 
 namespace quorvel::program {
@@ -19,8 +19,8 @@ using host::InputError;
 
 constexpr const char* station_ending = ".toml";
 
-// The station files of a folder, in the order of their names. The places of a climate data file that
-// is there too are no station.
+// The station files of a folder, in the order of their names. The places of a climate data file
+// that is there too are no station.
 std::vector<std::string> station_files(const std::string& folder) {
     std::vector<std::string> files;
     for (const auto& entry : fs::directory_iterator(folder)) {

@@ -11,8 +11,8 @@
 
 namespace quorvel::climatefile {
 
-// Where the stations of a file lie, and on earth. Its values are read by the library, which must have
-// been loaded for them and of which one process can read one file only.
+// Where the stations of a file lie, and on earth. Its values are read by the library, of which one
+// process can read one file only.
 class DataFile {
   public:
     // Of any length. Throws host::InputError when there is no file, or the places beside it are at
@@ -30,7 +30,8 @@ class DataFile {
     // file leaves its number out.
     Station any_station(int number) const;
     Station station(int number) const;
-    // At a percentage of days, in set 1 or 2 of a month, 1 to 12. Interpolated as the library does it.
+    // At a percentage of days, in set 1 or 2 of a month, 1 to 12. Interpolated as the library does
+    // it.
     MonthRecord month(int number, int month, int set, double percentage) const;
 
   private:

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "calculation/calendar.h"
+#include "calculation/climate/mended_weather.h"
 #include "calculation/none.h"
 #include "reading/input.h"
 #include "telling/text.h"
@@ -35,7 +36,8 @@ constexpr Column dry_bulb{6, "dry-bulb temperature", -90, 60, " °C"},
     horizontal_infrared{12, "horizontal infrared radiation", 50, 700, " Wh/m²"},
     direct_normal{14, "direct normal irradiation", -20, 1500, " Wh/m²"},
     diffuse_horizontal{15, "diffuse horizontal irradiation", -20, 1500, " Wh/m²"},
-    sky_cover{22, "total sky cover", 0, 10, " tenths"}, opaque_cover{23, "opaque sky cover", 0, 10, " tenths"};
+    sky_cover{22, "total sky cover", 0, 10, " tenths"},
+    opaque_cover{23, "opaque sky cover", 0, 10, " tenths"};
 constexpr Column latitude{6, "latitude", -90, 90, " degrees north"},
     longitude{7, "longitude", -180, 180, " degrees east"}, zone{8, "time zone", -12, 14, " h"},
     height{9, "elevation", -500, 9000, " m"}, per_hour{2, "records per hour", 1, 1};
@@ -65,7 +67,8 @@ class Lines {
         const bool more = static_cast<bool>(std::getline(stream_, line_));
         if (!more) line_.clear();
         ++number_;
-        line_.erase(line_.find_last_not_of(" \r\x1A") + 1);  // the last one: an end mark of old files
+        line_.erase(line_.find_last_not_of(" \r\x1A") +
+                    1);  // the last one: an end mark of old files
         fields_.clear();
         std::string_view rest = line_;
         if (number_ == 1 && rest.starts_with(byte_order_mark))
@@ -202,9 +205,8 @@ void read_day(Lines& lines, WeatherYear& year, int month, int day, int day_of_ye
     year.days.push_back(weather);
 }
 
-}  // namespace
-
-WeatherYear read_epw(const std::string& path) {
+// With NaN for values that are missing or impossible.
+WeatherYear read_as_given(const std::string& path) {
     Lines lines(path);
     WeatherYear year{};
     read_header(lines, year);
@@ -220,9 +222,11 @@ WeatherYear read_epw(const std::string& path) {
     return year;
 }
 
-MendedWeather read_weather(const std::string& path) {
+}  // namespace
+
+WeatherYear read_epw(const std::string& path) {
     try {
-        return mended(read_epw(path));
+        return mended(read_as_given(path));
     } catch (const NotMendable& fault) {
         throw InputError(path + ": " + fault.what());
     }

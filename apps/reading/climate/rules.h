@@ -21,7 +21,8 @@ std::vector<std::string> violations(const Station& station);
 // All stations that are in the file as a whole.
 std::vector<int> whole_stations(const DataFile& file);
 
-// What is wrong with a file: with its length and header, and with its stations or the one asked for.
+// What is wrong with a file: with its length and header, and with its stations or the one asked
+// for.
 struct Findings {
     std::size_t stations = 0;  // that were looked at
     std::vector<std::string> violations;

@@ -8,8 +8,8 @@
 
 namespace quorvel::climatefile {
 
-// A station file: TOML with a table of twelve months by ten bands for each quantity of each set, below
-// a comment of lines that begin with #. The numbers read back as the same ones.
+// A station file: TOML with a table of twelve months by ten bands for each quantity of each set,
+// below a comment of lines that begin with #. The numbers read back as the same ones.
 std::string station_file(const Station& station, const std::string& comment);
 
 // A climate data file. Numbers left out become stations of zeros.

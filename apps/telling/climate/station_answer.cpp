@@ -19,7 +19,10 @@ host::Quantity column(std::size_t q) {
             .name = column_names[q],
             .unit = air || wet_bulb ? "°C" : "",
             .decimals = quantities[q].decimals,
-            .group = air ? "Air" : wet_bulb ? "Wet bulb" : q == 1 || q == 2 ? "Factors" : ""};
+            .group = air                ? "Air"
+                     : wet_bulb         ? "Wet bulb"
+                     : q == 1 || q == 2 ? "Factors"
+                                        : ""};
 }
 
 DataTable bands(const Station& station, std::size_t set, std::size_t month) {
@@ -59,10 +62,11 @@ Answer told(const Station& station, const std::vector<std::size_t>& sets,
             const std::vector<std::size_t>& months) {
     const Place& place = station.place;
     Answer answer{.title = place.name};
-    answer.sections.push_back({.figures = {{latitude, place.latitude},
-                                           {longitude, place.longitude},
-                                           {height, place.height},
-                                           {zone, place.zone, "standard time ahead of universal"}}});
+    answer.sections.push_back(
+        {.figures = {{latitude, place.latitude},
+                     {longitude, place.longitude},
+                     {height, place.height},
+                     {zone, place.zone, "standard time ahead of universal"}}});
     for (const std::size_t set : sets)
         for (const std::size_t month : months)
             answer.sections.push_back(section(station, set, month));
@@ -70,15 +74,11 @@ Answer told(const Station& station, const std::vector<std::size_t>& sets,
 }
 
 Answer told_in_a_row(const std::string& file, const std::vector<Station>& stations) {
-    DataTable table{.key = "stations",
-                    .title = "",
-                    .columns = {{"station", "station"},
-                                {"name", "name"},
-                                latitude,
-                                longitude,
-                                height,
-                                zone},
-                    .rows = {}};
+    DataTable table{
+        .key = "stations",
+        .title = "",
+        .columns = {{"station", "station"}, {"name", "name"}, latitude, longitude, height, zone},
+        .rows = {}};
     for (const auto& [place, number, rows] : stations)
         table.rows.push_back({static_cast<double>(number), place.name, place.latitude,
                               place.longitude, place.height, place.zone});
@@ -90,7 +90,8 @@ Answer told_violations(const std::string& file, std::size_t stations,
     const auto counted = [](std::size_t n, const std::string& what) {
         return std::to_string(n) + ' ' + what + (n == 1 ? "" : "s");
     };
-    DataTable table{.key = "violations", .title = "", .columns = {{"violation", "violation"}}, .rows = {}};
+    DataTable table{
+        .key = "violations", .title = "", .columns = {{"violation", "violation"}}, .rows = {}};
     for (const std::string& violation : violations) table.rows.push_back({violation});
     Answer answer{.title = file,
                   .subtitle = counted(stations, "station") + " checked, " +
@@ -104,8 +105,9 @@ Answer told_violations(const std::string& file, std::size_t stations,
 std::vector<std::string> told(const std::vector<Replacement>& replaced) {
     std::vector<std::string> lines;
     for (const auto& [quantity, remedy, hours, first] : replaced)
-        lines.push_back(quantity + ": " + std::to_string(hours) + (hours == 1 ? " hour " : " hours ") +
-                        remedy + (hours == 1 ? " (" : " (first ") + first + ')');
+        lines.push_back(quantity + ": " + std::to_string(hours) +
+                        (hours == 1 ? " hour " : " hours ") + remedy +
+                        (hours == 1 ? " (" : " (first ") + first + ')');
     return lines;
 }
 

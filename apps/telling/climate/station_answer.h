@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "calculation/climate/mended_weather.h"
 #include "calculation/climate/station.h"
+#include "calculation/climate/weather.h"
 #include "telling/answer.h"
 
 namespace quorvel::climatefile {
