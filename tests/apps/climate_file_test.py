@@ -65,7 +65,7 @@ class RoundTrip(unittest.TestCase):
     def test_places_stand_beside_the_file(self):
         """As given, by the numbers of the stations; without them stations have numbers only."""
         place = {"latitude": -33.9, "longitude": 151.2, "height": 39, "zone": 10}
-        files = {"a.toml": text(station(3) | {"name": "São \\ \"X\""}), "b.toml": text(place | station(1))}
+        files = {"a.toml": text(station(3) | {"name": r"São \\ \"X\""}), "b.toml": text(place | station(1))}
         written = run("pack", "out.climate", *files, files=files).written
         beside = tomllib.loads(written["out.climate.toml"].decode())["station"]
         self.assertEqual(beside, [{"number": 1, "name": "Station 1"} | place, {"number": 3, "name": 'São \\ "X"'}])
