@@ -9,10 +9,10 @@ namespace quorvel::host {
 
 struct DailyTemperature {
     double minimum, maximum;          // °C
-    double hour_of_min, hour_of_max;  // 0 to 24, hour_of_min < hour_of_max
+    double hour_of_min, hour_of_max;  // 0 to 24, not the same; the next day is like this one
 
     double operator()(double hour) const {
-        const double rise = hour_of_max - hour_of_min;
+        const double rise = hour_of_max - hour_of_min + (hour_of_max > hour_of_min ? 0.0 : 24.0);
         const double since_min =
             hour >= hour_of_min ? hour - hour_of_min : hour - hour_of_min + 24.0;
         const double phase =

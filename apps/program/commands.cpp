@@ -5,6 +5,7 @@ namespace quorvel::program {
 std::vector<Command> commands() {
     return {
         check_command(),
+        climate_command(),
     };
 }
 

@@ -8,6 +8,7 @@
 namespace quorvel::program {
 
 Command check_command();
+Command climate_command();
 
 // All of them, in the order in which the help names them.
 std::vector<Command> commands();

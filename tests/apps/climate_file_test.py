@@ -5,8 +5,7 @@ import struct
 import tomllib
 import unittest
 
-import host
-from climate_input import (MONTHS, QUANTITIES, changed, offset, packed, row_of, station, text, with_header,
+from climate_input import (MONTHS, QUANTITIES, changed, offset, packed, row_of, run, station, text, with_header,
                            with_value)
 
 
@@ -14,8 +13,10 @@ def single(value):
     return struct.unpack("<f", struct.pack("<f", value))[0]
 
 
-def show(data, *arguments):
-    process = host.run("show", "Ötztal.climate", *map(str, arguments), files={"Ötztal.climate": data})
+def ask(command, data, *arguments, beside=""):
+    """What a command says of a climate data file."""
+    files = {"Ötztal.climate": data} | ({"Ötztal.climate.toml": beside} if beside else {})
+    process = run(command, "Ötztal.climate", *map(str, arguments), files=files)
     assert (process.returncode, process.stderr) == (0, b""), process.stderr.decode()
     return process.stdout.decode()
 
@@ -35,29 +36,46 @@ class RoundTrip(unittest.TestCase):
         self.assertEqual((data[:864], data[offset(3, 0, 0):offset(5, 0, 0)]), (bytes(864), bytes(2 * 19 * 432)))
         for H, number in ((0, 1), (0, 5), (1, 5), (18, 2), (19, 1), (40, 5), (-1, 2)):
             with self.subTest(H=H, number=number):
-                shown = tomllib.loads(show(with_header(data, H), number, "--text"))
+                shown = tomllib.loads(ask("unpack", with_header(data, H), number))
                 self.assertEqual(tables(shown), tables(station(number)))
 
     def test_folder_and_numbers_for_all(self):
         files = {"in/b.toml": text(station(1)), "in/a.toml": text(changed(["set2", "time_B"], 6, station(2))), "in/c.txt": "none"}
-        process = host.run("pack", "out.climate", "in", files=files)
+        process = run("pack", "out.climate", "in", files=files)
         self.assertEqual(process.returncode, 0)
         data = process.written["out.climate"]
         self.assertEqual(struct.unpack_from("<12f", data, offset(2, row_of(2, "time_B"), 0)), (6.0,) * 12)
-        self.assertEqual(tables(tomllib.loads(show(data, 1, "--text"))), tables(station(1)))
+        self.assertEqual(tables(tomllib.loads(ask("unpack", data, 1))), tables(station(1)))
 
     def test_tables_show_the_values(self):
         data, of = packed(station(1)), station(1)
-        whole, part = show(data, 1), show(data, 1, "--month", 7, "--set", 2)
-        self.assertEqual(whole.count(": time A "), 24)
-        self.assertIn(part.split("\n", 1)[1], whole)
+        whole, part = ask("show", data, 1), ask("show", data, 1, "--month", 7, "--set", 2)
+        self.assertEqual(whole.count("time A "), 24)
+        self.assertIn(part[part.index("Set 2, July"):], whole)
         july = [of["set2"][q]["July"] for q in QUANTITIES]
-        lines = part.splitlines()
-        self.assertEqual(lines[2], f"Set 2, July: time A {of['set2']['time_A'][6]:g} h, time B {of['set2']['time_B'][6]} h")
-        for band in range(10):
-            cells = [float(cell) for cell in lines[5 + band].split()]
-            for cell, value in zip(cells, [band + 1] + [values[band] for values in july], strict=True):
-                self.assertAlmostEqual(cell, value, delta=0.0051)
+        lines = [line.split() for line in part.splitlines()]
+        times = [float(line[2]) for line in lines if line[:1] == ["time"]]
+        self.assertEqual(times, [of["set2"][time][6] for time in ("time_A", "time_B")])
+        tables = [list(map(float, line)) for line in lines if len(line) == 9 and line[0].isdigit()]
+        self.assertEqual([cells[0] for cells in tables], list(range(1, 11)))
+        for band, cells in enumerate(tables):
+            for cell, values in zip(cells[1:], july, strict=True):
+                self.assertAlmostEqual(cell, values[band], delta=0.0051)
+
+    def test_places_stand_beside_the_file(self):
+        """As given, by the numbers of the stations; without them stations have numbers only."""
+        place = {"latitude": -33.9, "longitude": 151.2, "height": 39, "zone": 10}
+        files = {"a.toml": text(station(3) | {"name": r"São \\ \"X\""}), "b.toml": text(place | station(1))}
+        written = run("pack", "out.climate", *files, files=files).written
+        beside = tomllib.loads(written["out.climate.toml"].decode())["station"]
+        self.assertEqual(beside, [{"number": 1, "name": "Station 1"} | place, {"number": 3, "name": 'São \\ "X"'}])
+        data, of_places = written["out.climate"], written["out.climate.toml"]
+        listed = [line.split() for line in ask("list", data, beside=of_places).splitlines()]
+        self.assertEqual(listed[-2:], [["1", "Station", "1", "-33.9", "151.2", "39", "10"],
+                                       ["3", "São", "\\", '"X"', *4 * ["–"]]])
+        self.assertEqual(ask("list", data).splitlines()[-1].split(), ["3", "Station", "3", *4 * ["–"]])
+        again = tomllib.loads(ask("unpack", data, 1, beside=of_places))
+        self.assertEqual({key: again[key] for key in place}, place)
 
 
 class Check(unittest.TestCase):
@@ -67,11 +85,12 @@ class Check(unittest.TestCase):
 
     def check(self, data, *arguments):
         """The violations, in a process that tells by its status whether there are any."""
-        process = host.run("check", "in.climate", *map(str, arguments), files={"in.climate": data})
-        *found, last = process.stdout.decode().splitlines()
-        self.assertEqual((process.returncode, process.stderr), (1 if found else 0, b""))
-        self.assertTrue(last.endswith(f", {len(found)} violation{'s' * (len(found) != 1)}" if found else ", no rule violated"))
-        return [line.removeprefix("in.climate: ") for line in found]
+        process = run("check", "Ötztal.climate", *map(str, arguments), files={"Ötztal.climate": data})
+        name, verdict, *found = [line.strip() for line in process.stdout.decode().splitlines() if line]
+        found = found[1:]  # below the heading
+        self.assertEqual((process.returncode, process.stderr, name), (1 if found else 0, b"", "Ötztal.climate"))
+        self.assertTrue(verdict.endswith(f", {len(found)} violation{'s' * (len(found) != 1)}" if found else ", no rule violated"))
+        return found
 
     def test_sound_files_are_clean(self):
         """One band without days included, and numbers left out."""

@@ -1,4 +1,4 @@
-"""Input for quorvel-climate: a plain station to vary, and climate data files read byte by byte."""
+"""Input for quorvel climate: a plain station to vary, and climate data files read byte by byte."""
 
 import copy
 import struct
@@ -10,6 +10,14 @@ MONTHS = ["January", "February", "March", "April", "May", "June", "July", "Augus
 QUANTITIES = ["F", "Q1", "Q2", "Q3", "Q4", "Q5", "Q6", "Q7"]
 SPAN = {"F": (0, 1), "Q1": (0, 1.2), "Q2": (0, 3), "Q3": (-20, 40), "Q4": (-30, 20), "Q5": (-20, 25), "Q6": (-30, 18),
         "Q7": (0, 1)}
+
+
+def run(*arguments, **settings):
+    return host.run("climate", *arguments, **settings)
+
+
+def assert_refused(case, arguments, files, line, status=2):
+    host.assert_refused(case, ["climate", *arguments], files, line, status)
 
 
 def station(number=1):
@@ -49,9 +57,9 @@ def text(of):
 
 def packed(*stations):
     files = {f"{i}.toml": text(of) for i, of in enumerate(stations)}
-    process = host.run("pack", "out.climate", *files, files=files)
+    process = run("pack", "out.climate", *files, files=files)
     assert (process.returncode, process.stdout, process.stderr) == (0, b"", b""), process.stderr.decode()
-    assert list(process.written) == ["out.climate"]
+    assert sorted(process.written) == ["out.climate", "out.climate.toml"]
     return process.written["out.climate"]
 
 

@@ -1,16 +1,19 @@
-// Hourly weather, as quorvel-climate takes it. A year is too long for a seed, so that one is made
+// Hourly weather, as quorvel climate takes it. A year is too long for a seed, so that one is made
 // of the header and a few hours, which follow one another round and round: the columns from the
 // dry-bulb temperature on, a line each.
 #include <array>
 #include <vector>
 
-#include "climate/commands.h"
-#include "climate/station_text.h"
+#include "calculation/climate/band_climate.h"
 #include "fuzz/input_file.h"
+#include "reading/climate/epw.h"
+#include "reading/climate/station_file.h"
+#include "telling/climate/files.h"
 
 namespace {
 
 using namespace quorvel;
+using namespace quorvel::climatefile;
 
 constexpr int header_lines = 8;
 constexpr std::array month_days{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -33,10 +36,12 @@ std::string year_of(fuzz::Bytes bytes) {
 }
 
 void from_hourly(const std::string& file) {
-    const std::string station = "station.toml";
-    climatefile::from_hourly(file, station, 1, "");
+    Station station = band_climate(read_epw(file)).station;
+    station.place.name = "Somewhere";
+    station.number = 1;
+    fuzz::write_file("station.toml", station_file(station, ""));
     try {
-        climatefile::read_station(station);
+        read_station("station.toml");
     } catch (const host::InputError&) {
         fuzz::require(false, "the station of any year is one that can be packed");
     }

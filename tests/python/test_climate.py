@@ -11,14 +11,14 @@ import pytest
 from conftest import ROOT
 from quorvel import climate, psychro
 
-EXAMPLES = ROOT / "apps/climate/examples"
+EXAMPLES = ROOT / "apps/examples/climate"
 REAL, INTEGER = ctypes.c_float, ctypes.c_int32
 
 
 @pytest.fixture(scope="module")
 def stations(build, tmp_path_factory):
     path = tmp_path_factory.mktemp("stations") / "two.climate"
-    subprocess.run([build / "quorvel-climate", "pack", path, *sorted(EXAMPLES.glob("*.toml"))], check=True)
+    subprocess.run([build / "quorvel", "climate", "pack", path, *sorted(EXAMPLES.glob("*.toml"))], check=True)
     return path
 
 

@@ -7,14 +7,17 @@
 
 namespace quorvel::climatefile {
 
-// Temperature, humidity and pressure at the end of the hour, irradiances over it.
+// Temperatures, humidity and pressure at the end of the hour, irradiances over it. NaN where there
+// is no value.
 struct Hour {
-    double dry_bulb;            // °C
-    double relative_humidity;   // %
-    double pressure;            // Pa
-    double direct_normal;       // W/m²
-    double diffuse_horizontal;  // W/m²
-    double sky_cover;           // tenths; NaN where it is missing
+    double dry_bulb, dew_point;  // °C
+    double relative_humidity;    // %
+    double pressure;             // Pa
+    double horizontal_infrared;  // W/m², of the sky
+    double direct_normal;        // W/m²
+    double diffuse_horizontal;   // W/m²
+    double sky_cover;            // tenths
+    double opaque_cover;         // tenths, of clouds that hide what is above them
 };
 
 struct WeatherDay {
@@ -23,12 +26,21 @@ struct WeatherDay {
     std::array<Hour, 24> hours;  // of standard time, the first one ends at 1:00
 };
 
+// The hours of the year in which one kind of remedy was put in place of one quantity's values,
+// since they were missing or impossible: see mended_weather.h.
+struct Replacement {
+    std::string quantity, remedy;  // "relative humidity", "above 100 %: taken as 100 %"
+    int hours;
+    std::string first;  // "4 March, hour 5"
+};
+
 struct WeatherYear {
     std::string place;
     double latitude, longitude;  // degrees, positive north and east
     double zone;                 // standard time ahead of universal time, h
     double height;               // m above sea level
     std::vector<WeatherDay> days;
+    std::vector<Replacement> replaced;
 };
 
 }  // namespace quorvel::climatefile

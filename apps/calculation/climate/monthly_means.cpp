@@ -1,0 +1,28 @@
+#include "calculation/climate/monthly_means.h"
+
+#include "quorvel/psychro.h"
+
+namespace quorvel::climatefile {
+
+MonthlyMeans monthly_means(const Station& station, std::size_t set, double pressure) {
+    constexpr int sling = 1;
+    MonthlyMeans means{};
+    for (std::size_t month = 0; month < month_count; ++month) {
+        double before = 0;
+        for (std::size_t band = 0; band < band_count; ++band) {
+            const auto Q = [&](std::size_t q) -> double {
+                return station.rows[band_row(set, q, band)][month];
+            };
+            const auto vapour = [&](double air, double wet_bulb) {
+                return lib::vapour_pressure_from_psychrometer(air, wet_bulb, pressure, sling);
+            };
+            const double share = Q(0) - before;
+            means.temperature[month] += share * (Q(3) + Q(4)) / 2;
+            means.vapour_pressure[month] += share * (vapour(Q(3), Q(5)) + vapour(Q(4), Q(6))) / 2;
+            before = Q(0);
+        }
+    }
+    return means;
+}
+
+}  // namespace quorvel::climatefile

@@ -1,0 +1,70 @@
+#include <algorithm>
+#include <filesystem>
+#include <map>
+
+#include "program/climate/files.h"
+#include "reading/climate/place.h"
+#include "reading/climate/station_file.h"
+#include "reading/input.h"
+#include "telling/climate/files.h"
+#include "telling/output_file.h"
+#include "telling/progress.h"
+
+namespace quorvel::program {
+namespace {
+
+namespace fs = std::filesystem;
+using climatefile::Station;
+using host::InputError;
+
+constexpr const char* station_ending = ".toml";
+
+// The station files of a folder, in the order of their names. The places of a climate data file
+// that is there too are no station.
+std::vector<std::string> station_files(const std::string& folder) {
+    std::vector<std::string> files;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        const std::string name = entry.path().filename().string();
+        if (name.ends_with(station_ending) && !fs::exists(fs::path(entry).replace_extension()))
+            files.push_back(folder + '/' + name);
+    }
+    if (files.empty()) throw InputError(folder + ": no " + station_ending + " file in this folder");
+    std::ranges::sort(files);
+    return files;
+}
+
+std::vector<std::string> all_files(const std::vector<std::string>& inputs) {
+    std::vector<std::string> files;
+    for (const std::string& input : inputs) {
+        const auto found = fs::is_directory(input) ? station_files(input) : std::vector{input};
+        files.insert(files.end(), found.begin(), found.end());
+    }
+    return files;
+}
+
+}  // namespace
+
+void pack_stations(const std::string& output, const std::vector<std::string>& inputs) {
+    if (output.ends_with(station_ending))
+        throw InputError(output + ": a station file cannot be the climate data file to write");
+    const auto files = all_files(inputs);
+    for (const std::string& written : {output, climatefile::file_of_places(output)})
+        if (std::ranges::find(files, written) != files.end())
+            throw InputError(written + ": is to be read and written");
+    host::Progress progress("Packing", files.size());
+    std::vector<Station> stations;
+    std::map<int, std::string> file_of;
+    for (const std::string& file : files) {
+        stations.push_back(climatefile::read_station(file));
+        const int number = stations.back().number;
+        if (const auto [other, added] = file_of.try_emplace(number, file); !added)
+            throw InputError(file + ": station " + std::to_string(number) + " is already that of " +
+                             other->second);
+        progress.advance();
+    }
+    host::write_file(output, climatefile::data_file(stations));
+    if (fs::is_regular_file(output))  // beside a device there is nothing
+        host::write_file(climatefile::file_of_places(output), climatefile::places_file(stations));
+}
+
+}  // namespace quorvel::program
