@@ -6,7 +6,7 @@ from array_header import columns
 from binding_model import calls, camel, lower_camel, selectors
 from csharp_docs import Docs
 from csharp_model import (
-    BY_HAND, EDIT, NUMBERS, block, element, field, indented, is_elementwise, laid_out, literal, parameter_list, qualified,
+    BY_HAND, EDIT, NUMBERS, block, element, field, is_elementwise, laid_out, literal, parameter_list, qualified,
     returned, type_of)
 
 
@@ -62,15 +62,15 @@ def _array(result):
 
 
 def _before(result):
-    """What a result holds before the call; empty where that is 0 and the call writes it."""
+    """What a result holds before the call; empty for 0."""
     if result.given and result.shape:
         return f"({type_of(result)}){lower_camel(result.given)}.Clone()"
     if result.given:
         return lower_camel(result.given)
     if result.shape:
         return _array(result)
-    unwritten = result.unwritten or not result.name == "result"
-    return literal(float("nan"), result.kind) if unwritten and result.kind in ("Real", "DoubleReal") else ""
+    is_written = result.name == "result" or result.kind not in ("Real", "DoubleReal")
+    return "" if is_written else literal(float("nan"), result.kind)
 
 
 def _prepared(call):

@@ -37,8 +37,8 @@ namespace Quorvel
 
         internal static void Range(string routine, string name, int[] values, int low, int high, string unit)
         {
-            for (int at = 0; at < NotNull(name, values).Length; ++at)
-                Range(routine, $"{name}[{at}]", values[at], low, high, unit);
+            int at = Array.FindIndex(NotNull(name, values), value => value < low || value > high);
+            if (at >= 0) Refuse(routine, $"{name}[{at}]", values[at], Limits(low, Limit(high)) + unit, name);
         }
 
         internal static void Range(string routine, string name, float[,] values, float low, float high, string unit)

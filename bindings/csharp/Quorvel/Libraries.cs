@@ -40,6 +40,18 @@ namespace Quorvel
             for (int k = 0; k < values.Length; ++k) values[k] = double.NaN;
             return values;
         }
+
+        internal static float[,] Of(float[,] values)
+        {
+            for (int k = 0; k < values.Length; ++k) values[k / values.GetLength(1), k % values.GetLength(1)] = float.NaN;
+            return values;
+        }
+
+        internal static double[,] Of(double[,] values)
+        {
+            for (int k = 0; k < values.Length; ++k) values[k / values.GetLength(1), k % values.GetLength(1)] = double.NaN;
+            return values;
+        }
     }
 
     internal static class Text
