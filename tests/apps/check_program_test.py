@@ -1,5 +1,6 @@
-"""quorvel-check on the right library, on none, on wrong ones, and in processes whose arithmetic is another one."""
+"""quorvel check on the right library, on none, on wrong ones, and in processes whose arithmetic is another one."""
 
+import json
 import os
 import unittest
 from pathlib import Path
@@ -16,18 +17,16 @@ DOWN, UP, TOWARDS_ZERO = 0x2000, 0x4000, 0x6000
 
 class Check(unittest.TestCase):
     def report(self, status, *arguments, **settings):
-        """The findings by what they are about, and the verdict."""
-        process = host.run(*arguments, **settings)
+        """The findings by what they are about, those that are wrong marked as the text marks them."""
+        process = host.run("check", "--json", *arguments, **settings)
         self.assertEqual((process.returncode, process.stderr, process.written), (status, b"", {}), process.stdout)
-        lines = process.stdout.decode().splitlines()
-        self.assertLessEqual(len(lines), 24)
-        self.assertLessEqual(max(len(line) for line in lines if not line.startswith("  library ")), 100)
-        self.assertEqual(lines[-1], "Do not rely on its results here." if status else "All is right.")
+        answer = json.loads(process.stdout)
+        self.assertEqual(answer["subtitle"], "Do not rely on its results here." if status else "All is right.")
         findings = {}
-        for line in lines[1:-1]:
-            name = line[2:14].strip() or name
-            findings[name] = findings.get(name, "") + line[14:] + "\n"
-        return {name: finding.strip() for name, finding in findings.items()}
+        for row in answer["tables"]["findings"]["rows"]:
+            mark = "WRONG: " if row["verdict"] == "WRONG" else ""
+            findings.setdefault(row["item"], []).append(mark + row["finding"])
+        return {name: "\n".join(found) for name, found in findings.items()}
 
     def faults(self, *arguments, **settings):
         findings = self.report(1, *arguments, **settings)
@@ -51,7 +50,7 @@ class Check(unittest.TestCase):
         def finding(**settings):
             return self.report(0, "--quick", **settings)["arrays"]
 
-        beside = r"\w+\.(dll|so) beside the library, instructions: "
+        beside = r"\w+\.(dll|so\.\d+) beside the library, instructions: "
         self.assertRegex(finding(), beside + r"(scalar|v[234])$")
         self.assertRegex(finding(environment={"QUORVEL_LEVEL": "scalar"}), beside + "scalar$")
         name = finding().split()[0]
@@ -81,9 +80,9 @@ class Check(unittest.TestCase):
         for name, fault in [("none.so", "cannot load none.so"), ("./text.so", "cannot load ./text.so"),
                             ("./empty.so", "cannot load ./empty.so"), (system, "the library does not export PSSVP")]:
             with self.subTest(name):
-                process = host.run(files=files, environment={"QUORVEL_LIBRARY": name})
+                process = host.run("check", files=files, environment={"QUORVEL_LIBRARY": name})
                 self.assertEqual((process.returncode, process.stdout), (1, b""))
-                self.assertRegex(process.stderr.decode(), rf"^quorvel-check: {fault}.*\n$")
+                self.assertRegex(process.stderr.decode(), rf"^quorvel: {fault}.*\n$")
 
     def test_library_of_another_version(self):
         mark = b"@(#) Quorvel "
@@ -101,7 +100,7 @@ class Check(unittest.TestCase):
         self.report(0, "--quick", environment=RESULTS)
         faults = self.faults("--quick", environment=RESULTS | {"UNFIT_OFFSET": "1"})
         self.assertEqual(faults.keys(), {"values"})
-        self.assertRegex(faults["values"], r"^WRONG: PSHDRY: result is 21.12\d* and not 20.12 ± 0.05\n  \(1.006 kJ/kgK\)$")
+        self.assertRegex(faults["values"], r"^WRONG: PSHDRY: result is 21.12\d* and not 20.12 ± 0.05 \(1.006 kJ/kgK\)$")
 
     def test_other_arithmetic(self):
         self.report(0, "--quick", environment=STATE)
@@ -114,14 +113,20 @@ class Check(unittest.TestCase):
                 faults = self.faults("--quick", environment=STATE | {"UNFIT_STATE": hex(state)})
                 self.assertEqual(faults["arithmetic"], "WRONG: " + fault)
 
+    def test_text_stays_on_one_screen(self):
+        process = host.run("check", "--quick", environment=RESULTS | {"UNFIT_OFFSET": "1"})
+        lines = process.stdout.decode().splitlines()
+        self.assertEqual((process.returncode, lines[1]), (1, "Do not rely on its results here."))
+        self.assertLessEqual(len(lines), 24)
+        self.assertLessEqual(max(len(line) for line in lines if not line.startswith("  library ")), 100)
+        self.assertRegex(process.stdout.decode(), r"\n  values      WRONG    PSHDRY: result")
+
     def test_command_line(self):
-        for arguments in (["--wrong"], ["more"], ["--quick", "--csv"]):
-            process = host.run(*arguments)
-            self.assertEqual((process.returncode, process.stdout, process.stderr.count(b"\n")), (2, b"", 1), process)
-        process = host.run("--help")
-        self.assertEqual((process.returncode, process.stderr), (0, b""))
+        for arguments in (["--wrong"], ["more"], ["--quick", "--svg", "x.svg"]):
+            host.assert_refused(self, ["check", *arguments], {}, "quorvel check: ")
+        text = host.run("help", "check").stdout.decode()
         for word in ("--quick", "QUORVEL_LIBRARY", "Exit status"):
-            self.assertIn(word, process.stdout.decode())
+            self.assertIn(word, text)
 
 
 if __name__ == "__main__":
