@@ -111,7 +111,8 @@ class Result:
         if arg.none:
             text += "; 1e20 where there is none"
         if self.unwritten:
-            text += f"; {'as given' if self.given else 'not a number'} {self.unwritten}"
+            blank = "0" if self.kind == "Integer" else "not a number"
+            text += f"; {'as given' if self.given else blank} {self.unwritten}"
         return text
 
 

@@ -12,11 +12,9 @@ name=quorvel-$version-windows-x64
 rm -rf "$out/$name" "$out/$name.zip"
 cmake --install "$build" --prefix "$out/$name" >/dev/null
 cp LICENSE CHANGELOG.md README.md "$out/$name"
-for file in bindings/vba/quorvel.bas bindings/pascal/quorvel.pas bindings/fortran/quorvel.f90 bindings/csharp/Quorvel*.cs; do
-    if [ -e "$file" ]; then
-        mkdir -p "$out/$name/declarations"
-        cp "$file" "$out/$name/declarations"
-    fi
+for sources in vba/quorvel.bas csharp/Quorvel fortran/src pascal/src; do
+    mkdir -p "$out/$name/bindings/${sources%/*}"
+    cp -r "bindings/$sources" "$out/$name/bindings/${sources%/*}"
 done
 (cd "$out" && zip -q -r "$name.zip" "$name" && rm -r "$name")
 

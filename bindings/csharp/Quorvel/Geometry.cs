@@ -15,10 +15,10 @@ namespace Quorvel
         /// <summary>Points in use in the pool.</summary>
         public int UsedPoints;
 
-        /// <summary>Pieces of A - B; not a number with a status other than 0.</summary>
+        /// <summary>Pieces of A - B; 0 with a status other than 0.</summary>
         public int[] DifferencePieces;
 
-        /// <summary>Pieces of the overlap; not a number with a status other than 0.</summary>
+        /// <summary>Pieces of the overlap; 0 with a status other than 0.</summary>
         public int[] OverlapPieces;
 
         /// <summary>0 success, else what went wrong.</summary>

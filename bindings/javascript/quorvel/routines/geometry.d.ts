@@ -10,9 +10,9 @@ export interface Clip<Integer = number> {
   readonly y: Float64Array;
   /** points in use in the pool */
   readonly usedPoints: Integer;
-  /** pieces of A - B; not a number with a status other than 0 */
+  /** pieces of A - B; 0 with a status other than 0 */
   readonly differencePieces: Int32Array;
-  /** pieces of the overlap; not a number with a status other than 0 */
+  /** pieces of the overlap; 0 with a status other than 0 */
   readonly overlapPieces: Int32Array;
   /** 0 success, else what went wrong */
   readonly status: Integer;
