@@ -91,9 +91,10 @@ BandDay band_day(const WeatherYear& year, const SolarDay& day, const Times& time
             {beam, diffuse, a.dry_bulb, b.dry_bulb, wet_bulb(a), wet_bulb(b), 1 - cover / 24}};
 }
 
+// Never -0.
 double rounded(double value, int decimals) {
     const double unit = std::pow(10.0, decimals);
-    return std::round(value * unit) / unit;
+    return std::round(value * unit) / unit + 0.0;
 }
 
 // The ends of the hours of a mean day of the month, solar time.

@@ -132,7 +132,7 @@ Command list_command() {
                 for (const int number : climatefile::whole_stations(file))
                     if (auto station = file.any_station(number); !station.empty())
                         stations.push_back(std::move(station));
-                return climatefile::told_in_a_row(*path, stations);
+                return climatefile::told_stations(*path, stations);
             },
     };
 }

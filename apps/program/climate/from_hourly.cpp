@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <set>
 
@@ -8,6 +9,7 @@
 #include "program/climate/files.h"
 #include "quorvel/library.h"
 #include "reading/climate/epw.h"
+#include "reading/folder.h"
 #include "reading/input.h"
 #include "telling/climate/files.h"
 #include "telling/climate/station_answer.h"
@@ -18,7 +20,6 @@
 namespace quorvel::program {
 namespace {
 
-namespace fs = std::filesystem;
 using climatefile::Station;
 using climatefile::WeatherYear;
 using host::InputError;
@@ -32,7 +33,9 @@ std::string shortened(std::string name) {
     return name;
 }
 
-std::string file_name(const std::string& path) { return fs::path(path).filename().string(); }
+std::string file_name(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
+
+std::string without_ending(const std::string& name) { return name.substr(0, name.rfind('.')); }
 
 std::string one_line(std::string text) {
     std::ranges::replace_if(
@@ -87,17 +90,18 @@ std::vector<std::string> outputs_of(const Derivation& derivation) {
             throw InputError(output + ": one station file for several years; name a folder");
         return {output};
     }
-    if (fs::exists(output) && !fs::is_directory(output))
+    const bool is_folder = host::names_in(output).has_value();
+    if (!is_folder && std::ifstream(output))
         throw InputError(output + ": a station file's name must end in " + station_ending);
     std::vector<std::string> outputs;
     std::set<std::string> names;
     for (const std::string& year : years) {
-        const std::string stem = fs::path(year).stem().string();
+        const std::string stem = without_ending(file_name(year));
         if (!names.insert(stem).second)
             throw InputError(year + ": another year is named " + stem + " too");
         outputs.push_back(output + '/' + stem + station_ending);
     }
-    fs::create_directories(output);
+    if (!is_folder) std::filesystem::create_directories(output);
     return outputs;
 }
 

@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <string_view>
 
 #include "program/climate/files.h"
 #include "reading/climate/place.h"
 #include "reading/climate/station_file.h"
+#include "reading/folder.h"
 #include "reading/input.h"
 #include "telling/climate/files.h"
 #include "telling/output_file.h"
@@ -13,30 +15,31 @@
 namespace quorvel::program {
 namespace {
 
-namespace fs = std::filesystem;
 using climatefile::Station;
 using host::InputError;
 
-constexpr const char* station_ending = ".toml";
+constexpr std::string_view station_ending = ".toml";
 
-// The station files of a folder, in the order of their names. The places of a climate data file
-// that is there too are no station.
-std::vector<std::string> station_files(const std::string& folder) {
+// The station files of a folder. The places of a climate data file that is there too are no
+// station.
+std::vector<std::string> station_files(const std::string& folder,
+                                       const std::vector<std::string>& names) {
     std::vector<std::string> files;
-    for (const auto& entry : fs::directory_iterator(folder)) {
-        const std::string name = entry.path().filename().string();
-        if (name.ends_with(station_ending) && !fs::exists(fs::path(entry).replace_extension()))
-            files.push_back(folder + '/' + name);
+    for (const std::string& name : names) {
+        if (!name.ends_with(station_ending)) continue;
+        const std::string data_file = name.substr(0, name.size() - station_ending.size());
+        if (!std::ranges::binary_search(names, data_file)) files.push_back(folder + '/' + name);
     }
-    if (files.empty()) throw InputError(folder + ": no " + station_ending + " file in this folder");
-    std::ranges::sort(files);
+    if (files.empty())
+        throw InputError(folder + ": no " + std::string(station_ending) + " file in this folder");
     return files;
 }
 
 std::vector<std::string> all_files(const std::vector<std::string>& inputs) {
     std::vector<std::string> files;
     for (const std::string& input : inputs) {
-        const auto found = fs::is_directory(input) ? station_files(input) : std::vector{input};
+        const auto names = host::names_in(input);
+        const auto found = names ? station_files(input, *names) : std::vector{input};
         files.insert(files.end(), found.begin(), found.end());
     }
     return files;
@@ -63,7 +66,7 @@ void pack_stations(const std::string& output, const std::vector<std::string>& in
         progress.advance();
     }
     host::write_file(output, climatefile::data_file(stations));
-    if (fs::is_regular_file(output))  // beside a device there is nothing
+    if (std::filesystem::is_regular_file(output))  // beside a device there is nothing
         host::write_file(climatefile::file_of_places(output), climatefile::places_file(stations));
 }
 

@@ -50,7 +50,7 @@ Station DataFile::any_station(int number) const {
     expect(number);
     lib::station_records(path_, number, 1, Records{});  // for the rows read below
     Station station;
-    station.place = place_of(places_, number);
+    station.place = place(number);
     station.number = number;
     for (std::size_t row = 0; row < station_rows; ++row)
         std::ranges::transform(lib::station_row(static_cast<int>(row) + 1),

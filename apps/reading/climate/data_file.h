@@ -25,6 +25,7 @@ class DataFile {
     std::int32_t H() const { return H_; }
     std::int64_t last_station() const;       // that begins in the file
     bool holds(std::int64_t station) const;  // as a whole
+    Place place(int station) const { return place_of(places_, station); }
 
     // All throw host::InputError when the station is not in the file; all but the first when the
     // file leaves its number out.

@@ -1,6 +1,6 @@
 #include "reading/climate/place.h"
 
-#include <filesystem>
+#include <fstream>
 
 namespace quorvel::climatefile {
 namespace {
@@ -28,7 +28,7 @@ Place read_place(const host::InputTable& table, std::initializer_list<std::strin
 std::map<int, Place> read_places(const std::string& data_file) {
     std::map<int, Place> places;
     const std::string path = file_of_places(data_file);
-    if (!std::filesystem::exists(path)) return places;
+    if (!std::ifstream(path)) return places;
     const host::InputFile file(path);
     const host::InputTable root = file.root();
     root.expect({"station"});

@@ -73,7 +73,7 @@ Answer told(const Station& station, const std::vector<std::size_t>& sets,
     return answer;
 }
 
-Answer told_in_a_row(const std::string& file, const std::vector<Station>& stations) {
+Answer told_stations(const std::string& file, const std::vector<Station>& stations) {
     DataTable table{
         .key = "stations",
         .title = "",

@@ -16,7 +16,7 @@ host::Answer told(const Station& station, const std::vector<std::size_t>& sets,
                   const std::vector<std::size_t>& months);
 
 // The stations of a file, with their places.
-host::Answer told_in_a_row(const std::string& file, const std::vector<Station>& stations);
+host::Answer told_stations(const std::string& file, const std::vector<Station>& stations);
 
 // The violations found in so many stations of a file; wrong if there are any.
 host::Answer told_violations(const std::string& file, std::size_t stations,
