@@ -116,6 +116,12 @@ std::string plain_text(const std::string& markdown) {
     return text;
 }
 
+// The command that a command belongs to tells what they have in common.
+std::string see_also(const Page& page) {
+    if (std::ranges::count(page.name, ' ') < 2) return "";
+    return "See also: " + page.related.front() + " --help\n";
+}
+
 }  // namespace
 
 Page page_of(const CLI::App& app, const Command* command) {
@@ -147,6 +153,7 @@ std::string as_help(const Page& page) {
     for (const Group& group : page.groups)
         append(text, (group.title.empty() ? "" : group.title + ":\n") + entries_text(group));
     for (const std::string& topic : page.topics) append(text, plain_text(topic));
+    append(text, see_also(page));
     return text;
 }
 

@@ -13,7 +13,12 @@ constexpr const char* style =
 #include "report_css.inc"
     ;
 
-constexpr std::size_t many_columns = 9;  // from here on they are set smaller
+constexpr std::size_t many_columns = 12;  // from here on they are set smaller
+
+// Without its folders, which concern nobody but its author.
+std::string file_name(const std::string& path) {
+    return told_path(path.substr(path.find_last_of("/\\") + 1));
+}
 
 std::string escaped(std::string_view text) {
     std::string result;
@@ -158,7 +163,7 @@ class Report {
         if (!answered.answer.subtitle.empty())
             html += line("p", answered.answer.subtitle, "class=\"subtitle\"");
         if (!answered.input.empty())
-            html += line("p", "Input: " + told_path(answered.input), "class=\"source\"");
+            html += line("p", "Input: " + file_name(answered.input), "class=\"source\"");
         return element("header", '\n' + html) + '\n';
     }
 

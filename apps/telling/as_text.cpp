@@ -67,7 +67,7 @@ std::string text_of(const DataTable& data) {
     if (!data.title.empty()) append(text, data.title + '\n');
     for (const Columns& part : parts_of(data)) append(parts, table_of(data, part).text());
     append(text, parts);
-    for (const std::string& remark : data.remarks) text += "  " + remark + '\n';
+    for (const std::string& remark : data.remarks) text += wrapped(remark, widest, 2);
     return text;
 }
 
@@ -99,10 +99,11 @@ std::string left_out(const Answer& answer) {
 
 std::string as_text(const Answer& answer, bool all_tables) {
     std::string text = answer.title + '\n';
-    if (!answer.subtitle.empty()) text += answer.subtitle + '\n';
+    text += wrapped(answer.subtitle, widest);
     for (const Section& section : answer.sections) {
         append(text, section.title.empty() ? "" : section.title + '\n');
-        for (const std::string& paragraph : section.paragraphs) append(text, paragraph + '\n');
+        for (const std::string& paragraph : section.paragraphs)
+            append(text, wrapped(paragraph, widest));
         append(text, section.figures.empty() ? "" : text_of(section.figures));
         for (const DataTable& table : section.tables)
             if (all_tables || !table.on_request) append(text, text_of(table));

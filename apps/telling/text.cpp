@@ -67,22 +67,19 @@ std::string told_path(const std::string& path) { return path == "-" ? "standard 
 std::string wrapped(std::string_view text, std::size_t width, std::size_t indent) {
     std::string result, line;
     const auto end_line = [&] {
-        if (!line.empty()) result.append(indent, ' ').append(line) += '\n';
+        result.append(line.empty() ? 0 : indent, ' ').append(line) += '\n';
         line.clear();
     };
     for (std::size_t begin = 0, end; begin < text.size(); begin = end + 1) {
         end = std::min(text.find_first_of(" \n", begin), text.size());
         const std::string_view word = text.substr(begin, end - begin);
-        if (indent + character_count(line) + 1 + character_count(word) > width) end_line();
-        if (!line.empty() && !word.empty()) line += ' ';
+        const std::size_t length = indent + character_count(line) + 1 + character_count(word);
+        if (!line.empty() && length > width) end_line();
+        if (!line.empty()) line += ' ';
         line += word;
-        if (text.substr(std::min(end, text.size()), 2) == "\n\n") {
-            end_line();
-            result += '\n';
-            ++end;
-        }
+        if (end < text.size() && text[end] == '\n') end_line();
     }
-    end_line();
+    if (!line.empty()) end_line();
     return result;
 }
 

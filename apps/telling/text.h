@@ -41,8 +41,7 @@ std::string csv_line(const std::vector<std::string>& fields);
 // The name by which messages and reports call an input file: that of "-" is standard input.
 std::string told_path(const std::string& path);
 
-// Words set into lines of so many characters at most, each with an indent; an empty line parts
-// paragraphs, as in the text.
+// Lines broken between words where they have more than so many characters, each with an indent.
 std::string wrapped(std::string_view text, std::size_t width, std::size_t indent = 0);
 
 }  // namespace quorvel::host
