@@ -7,9 +7,9 @@ inline constexpr int hours_a_day = 24;
 
 // In the library's units; hours are solar time, angles radians.
 struct Sun {
-    float altitude, azimuth;  // both 0 while the sun is down
-    float declination;
-    float sunrise, sunset;  // 25 and 0 without sunrise, 0 and 25 without sunset
+    double altitude, azimuth;  // both 0 while the sun is down
+    double declination;
+    double sunrise, sunset;  // 25 and 0 without sunrise, 0 and 25 without sunset
 
     bool is_up() const { return altitude > 0; }
 };

@@ -4,6 +4,7 @@ namespace quorvel::program {
 
 std::vector<Command> commands() {
     return {
+        window_command(),
         check_command(),
         climate_command(),
     };

@@ -7,6 +7,7 @@
 
 namespace quorvel::program {
 
+Command window_command();
 Command check_command();
 Command climate_command();
 

@@ -97,16 +97,20 @@ std::string read_bytes(const std::string& path) {
     return bytes.str();
 }
 
-InputFile::InputFile(const std::string& path) : InputFile(told_path(path), read_bytes(path)) {}
-
-InputFile::InputFile(std::string name, std::string_view text) : path_(std::move(name)) {
+toml::table parsed(std::string_view text, const std::string& name) {
     try {
-        table_ = toml::parse(text, path_);
+        return toml::parse(text, name);
     } catch (const toml::parse_error& fault) {
-        throw InputError(path_ + ':' + std::to_string(fault.source().begin.line) +
+        throw InputError(name + ':' + std::to_string(fault.source().begin.line) +
                          ": not valid TOML: " + std::string(fault.description()));
     }
 }
+
+InputFile::InputFile(const std::string& path) : InputFile(told_path(path), read_bytes(path)) {}
+
+InputFile::InputFile(std::string name, std::string_view text) : InputFile(name, parsed(text, name)) {}
+
+InputFile::InputFile(std::string name, toml::table table) : path_(std::move(name)), table_(std::move(table)) {}
 
 InputTable::InputTable(const toml::table& table, std::string_view file, std::string path)
     : table_(&table), file_(file), path_(std::move(path)) {}
@@ -172,6 +176,21 @@ std::string InputTable::text(std::string_view key, std::size_t longest) const {
     throw not_allowed(key, "text of 1 to " + std::to_string(longest) + " characters on one line");
 }
 
+std::vector<std::string> InputTable::texts(std::string_view key, std::size_t count, std::size_t longest) const {
+    const auto* list = node(key).as_array();
+    if (!list || list->size() != count) throw not_allowed(key, std::to_string(count) + " texts");
+    std::vector<std::string> result;
+    for (const toml::node& entry : *list) {
+        const auto* value = entry.as_string();
+        if (!value || value->get().empty() || character_count(value->get()) > longest ||
+            std::ranges::any_of(value->get(), is_control))
+            throw located(entry, path_of(key) + '[' + std::to_string(result.size() + 1) + "]: value " + shown(entry) +
+                                     "; allowed text of 1 to " + std::to_string(longest) + " characters on one line");
+        result.push_back(value->get());
+    }
+    return result;
+}
+
 int InputTable::choice(std::string_view key, std::span<const std::string_view> names,
                        int first) const {
     const int last = first + static_cast<int>(names.size()) - 1;
@@ -182,6 +201,28 @@ int InputTable::choice(std::string_view key, std::span<const std::string_view> n
         if (found != names.end()) return first + static_cast<int>(found - names.begin());
     }
     throw not_allowed_whole(key, joined(names) + ", or " + from_to(first, last));
+}
+
+bool InputTable::flag(std::string_view key, bool otherwise) const {
+    if (!has(key)) return otherwise;
+    if (const auto* value = node(key).as_boolean()) return value->get();
+    throw not_allowed(key, "true or false");
+}
+
+std::vector<InputItem> InputTable::items(std::string_view key, std::size_t low, std::size_t high) const {
+    const auto* list = node(key).as_array();
+    const auto is_item = [](const toml::node& entry) { return entry.is_table() || entry.is_string(); };
+    if (!list || list->size() < low || list->size() > high || !std::ranges::all_of(*list, is_item))
+        throw not_allowed(key, std::to_string(low) + " to " + std::to_string(high) + " names or tables of keys");
+    std::vector<InputItem> result;
+    for (const toml::node& entry : *list) {
+        const std::string number = path_of(key) + '[' + std::to_string(result.size() + 1) + ']';
+        if (const auto* table = entry.as_table())
+            result.emplace_back(InputTable(*table, file_, number));
+        else
+            result.emplace_back(entry.as_string()->get());
+    }
+    return result;
 }
 
 InputTable InputTable::table(std::string_view key) const {

@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "reading/toml.h"
@@ -38,6 +39,11 @@ struct Range {
     const char* unit;
 };
 
+class InputTable;
+
+// An entry of a list that may hold names in place of tables.
+using InputItem = std::variant<std::string, InputTable>;
+
 // One table of the file. Must not outlive its InputFile.
 class InputTable {
   public:
@@ -54,8 +60,12 @@ class InputTable {
     double number(std::string_view key, const Range& range, double otherwise) const;
     // A list of so many numbers, or one number that stands for all of them.
     std::vector<double> numbers(std::string_view key, std::size_t count, const Range& range) const;
+    std::vector<std::string> texts(std::string_view key, std::size_t count, std::size_t longest = 40) const;
     bool is_list(std::string_view key) const { return node(key).is_array(); }
+    bool is_text(std::string_view key) const { return node(key).is_string(); }
+    bool is_table(std::string_view key) const { return node(key).is_table(); }
     int integer(std::string_view key, int low, int high) const;
+    bool flag(std::string_view key, bool otherwise) const;
     std::string text(std::string_view key, std::size_t longest = 40) const;
 
     // The number of one of the names, counted from `first`; the number itself may stand in the file
@@ -64,6 +74,7 @@ class InputTable {
 
     InputTable table(std::string_view key) const;
     std::vector<InputTable> tables(std::string_view key, std::size_t low, std::size_t high) const;
+    std::vector<InputItem> items(std::string_view key, std::size_t low, std::size_t high) const;
 
     // For rules that concern more than one key: `throw table.error("panes", "...")`; without a key
     // the fault is the table's.
@@ -81,10 +92,14 @@ class InputTable {
     std::string path_;
 };
 
+// A text as the table that it is, with a name for messages. Throws InputError.
+toml::table parsed(std::string_view text, const std::string& name);
+
 class InputFile {
   public:
     explicit InputFile(const std::string& path);         // "-" for standard input
     InputFile(std::string name, std::string_view text);  // of a text that is no file, by a name for messages
+    InputFile(std::string name, toml::table table);
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 

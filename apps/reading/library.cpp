@@ -66,7 +66,11 @@ std::vector<LibraryEntry> Library::entries(std::string_view kind, std::string_vi
 }
 
 InputTable Library::named(const InputTable& table, std::string_view key, std::string_view kind) const {
-    const std::string wanted = table.text(key, longest_name);
+    return named(table, key, kind, table.text(key, longest_name));
+}
+
+InputTable Library::named(const InputTable& table, std::string_view key, std::string_view kind,
+                          const std::string& wanted) const {
     static const Entries nothing;
     const auto of_kind = kinds_.find(kind);
     const Entries& entries = of_kind != kinds_.end() ? of_kind->second : nothing;

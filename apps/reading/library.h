@@ -36,6 +36,10 @@ class Library {
     // What `key` of an input's table names, as in glass = "clear 6". Throws InputError with names that are known.
     InputTable named(const InputTable& table, std::string_view key, std::string_view kind) const;
 
+    // The same of a name that stands in a list at that key.
+    InputTable named(const InputTable& table, std::string_view key, std::string_view kind,
+                     const std::string& name) const;
+
   private:
     using Entries = std::map<std::string, InputTable, std::less<>>;
 

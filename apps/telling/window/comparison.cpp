@@ -1,0 +1,205 @@
+// Variants beside each other.
+#include <algorithm>
+#include <cmath>
+
+#include "calculation/calendar.h"
+#include "telling/sun.h"
+#include "telling/text.h"
+#include "telling/window/colours.h"
+#include "telling/window/times.h"
+#include "telling/window/told.h"
+#include "telling/window/words.h"
+
+namespace quorvel::window {
+namespace {
+
+using host::DataTable;
+using host::Section;
+using host::colour::grey;
+using host::colour::ink;
+
+constexpr double margin = 24, left = 84, right = 30, width = 900, top = 130, height = 300, line = 22;
+
+std::string name_of(const Case& given) { return given.variant.empty() ? "as given" : given.variant; }
+
+Quantity kilowatt_hours(std::string key, std::string name, int decimals, std::string group) {
+    return {std::move(key), std::move(name), "kWh", decimals, std::move(group)};
+}
+
+// What a window comes to over the day or the year.
+struct Result {
+    const Window* window;
+    double solar_gain, conduction, net;  // kWh
+    double peak;                         // W
+    std::string when;
+};
+
+std::vector<Result> results(const DayCase& given) {
+    std::vector<Result> all;
+    for (const WindowDay& window : given.day.windows) {
+        const auto sum = [&](auto member) { return window.window->area * daily_sum(window, member) / 1000; };
+        const Peak peak = peak_of(window, &WindowHour::solar_gain);
+        all.push_back({window.window, sum(&WindowHour::solar_gain), sum(&WindowHour::conduction),
+                       sum(&WindowHour::net), peak.power, peak.hour > 0 ? "hour " + std::to_string(peak.hour) : ""});
+    }
+    return all;
+}
+
+std::vector<Result> results(const YearCase& given) {
+    std::vector<Result> all;
+    for (const WindowYear& window : given.year.windows)
+        all.push_back({window.window, window.year.solar_gain, window.year.conduction_in - window.year.conduction_out,
+                       window.year.net(), window.peak.power,
+                       window.peak.power > 0
+                           ? host::date(window.peak.day_of_year) + ", hour " + std::to_string(window.peak.hour)
+                           : ""});
+    return all;
+}
+
+template <class AnyCase>
+DataTable comparison(std::span<const AnyCase> cases, int decimals) {
+    DataTable table{"variants", "", {}, {}};
+    table.main = true;
+    const bool several = cases.front().windows.size() > 1;
+    table.columns = {word("variant", "variant")};
+    if (several) table.columns.push_back(word("window", "window"));
+    for (const Quantity& quantity :
+         {Quantity{"u_value", "U", "W/m²K", 2}, fraction("g", "g"), fraction("g_with_blind", "with blind"),
+          kilowatt_hours("solar_gain", "solar gain", decimals, "Into the room"),
+          kilowatt_hours("conduction", "conduction", decimals, "Into the room"),
+          kilowatt_hours("net", "net", decimals, "Into the room"), watts("peak_gain", "gain", "Peak"),
+          Quantity{"peak_at", "at", "", 0, "Peak"}})
+        table.columns.push_back(quantity);
+    for (const AnyCase& given : cases)
+        for (const Result& result : results(given)) {
+            const Window& window = *result.window;
+            const UnitFigures unit = window.is_glazed() ? unit_figures(window)
+                                                        : UnitFigures{none, none, none, none, none, none, none};
+            table.rows.emplace_back();
+            table.rows.back().emplace_back(name_of(given));
+            if (several) table.rows.back().emplace_back(window.name);
+            for (const double value : {unit.u_value, unit.g, unit.g_with_blind, result.solar_gain, result.conduction,
+                                       result.net, result.peak})
+                table.rows.back().emplace_back(value);
+            table.rows.back().emplace_back(result.when);
+        }
+    return table;
+}
+
+// Room for the keys, one below the other, beside the total that each stands for.
+template <class AnyCase>
+host::Chart empty_chart(std::span<const AnyCase> cases) {
+    return {static_cast<int>(width), static_cast<int>(top + height + 80 + line * static_cast<double>(cases.size()))};
+}
+
+template <class AnyCase>
+void head(host::Chart& chart, std::span<const AnyCase> cases, const std::string& title, const std::string& panel,
+          int decimals) {
+    chart.text(margin, 38, title, {ink, 24, true});
+    chart.text(margin, 68, place(cases.front().site), {grey, 12});
+    chart.text(margin, top - 24, panel, {ink, 14, true});
+    double y = top + height + 72;
+    for (std::size_t i = 0; i < cases.size(); ++i, y += line) {
+        double gain = 0, peak = 0;
+        for (const Result& result : results(cases[i])) {
+            gain += result.solar_gain;
+            peak = std::max(peak, result.peak);
+        }
+        chart.text(left, y, "━", {series_colour(i), 15, true});
+        chart.text(left + 26, y,
+                   name_of(cases[i]) + ": solar heat gain " + host::fixed(gain, decimals) + " kWh" +
+                       (cases[i].windows.size() > 1 ? "" : ", at most " + host::fixed(peak, 0) + " W"),
+                   {grey, 13});
+    }
+}
+
+host::Chart chart_of(std::span<const DayCase> cases) {
+    const DayCase& first = cases.front();
+    host::Chart chart = empty_chart(cases);
+    std::vector<Day> days;
+    double most = 1;
+    std::vector<std::vector<double>> rows;
+    for (const DayCase& given : cases)
+        days.push_back(calculate(given.site, given.design, given.windows, 12));
+    for (const std::size_t k : drawn_of(days.front(), 25)) {
+        rows.push_back({days.front().exposure[k].hour});
+        for (const Day& day : days) {
+            double sum = 0;
+            for (const WindowDay& window : day.windows) sum += window.power(k, &WindowHour::solar_gain);
+            rows.back().push_back(sum);
+            most = std::max(most, sum);
+        }
+    }
+    chart.panel({left, top, width - left - right, height});
+    chart.horizontal_scale(host::hours_shown(first.day.sunrise, first.day.sunset, 1));
+    chart.vertical_scale(host::round_scale(0, most));
+    head(chart, cases, first.site.name + ", " + host::date(first.day.day_of_year),
+         "Solar heat gain into the room, W", 2);
+    chart.text(width - right, top + height + 44, "hour, solar time", {grey, 12, false, "right"});
+    const std::string data = chart.data(rows);
+    std::vector<std::string> curves;
+    for (std::size_t i = 0; i < cases.size(); ++i)
+        curves.push_back(host::curve(data, i + 2, series_colour(i), 2.5));
+    chart.plot(curves);
+    return chart;
+}
+
+host::Chart chart_of(std::span<const YearCase> cases) {
+    const YearCase& first = cases.front();
+    host::Chart chart = empty_chart(cases);
+    const auto count = static_cast<double>(cases.size());
+    const double bar = 0.8 / count;
+    double most = 1;
+    std::vector<std::string> data;
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        std::vector<std::vector<double>> rows;
+        for (std::size_t month = 0; month < 12; ++month) {
+            double sum = 0;
+            for (const WindowYear& window : cases[i].year.windows) sum += window.months[month].solar_gain;
+            rows.push_back({static_cast<double>(month) + (static_cast<double>(i) - (count - 1) / 2) * bar, sum});
+            most = std::max(most, sum);
+        }
+        data.push_back(chart.data(rows));
+    }
+    std::vector<std::string> names;
+    for (const std::string_view name : host::month_names) names.emplace_back(name.substr(0, 3));
+    chart.panel({left, top, width - left - right, height});
+    chart.horizontal_names(names);
+    chart.vertical_scale(host::round_scale(0, most));
+    head(chart, cases, first.site.name + (first.of_weather ? ", a year of weather" : ", design days of the year"),
+         "Solar heat gain into the room, kWh a month", 1);
+    std::vector<std::string> parts;
+    for (std::size_t i = 0; i < cases.size(); ++i) parts.push_back(host::bars(data[i], 2, series_colour(i), bar));
+    chart.plot(parts);
+    return chart;
+}
+
+template <class AnyCase>
+host::Answer answer_of(std::span<const AnyCase> cases, const std::string& title, int decimals) {
+    host::Answer answer{title, place(cases.front().site)};
+    Section section;
+    section.paragraphs.push_back(std::to_string(cases.size() - 1) +
+                                 (cases.size() == 2 ? " variant" : " variants") + " beside the input as it is.");
+    section.tables.push_back(comparison(cases, decimals));
+    section.pictures.push_back({"variants", "Variants", chart_of(cases)});
+    answer.sections.push_back(std::move(section));
+    answer.method = method();
+    for (const AnyCase& given : cases)
+        for (const std::string& note : given.notes)
+            if (std::ranges::find(answer.warnings, note) == answer.warnings.end()) answer.warnings.push_back(note);
+    return answer;
+}
+
+}  // namespace
+
+host::Answer compared(std::span<const DayCase> days) {
+    return answer_of(days, days.front().site.name + ", " + host::date(days.front().day.day_of_year), 2);
+}
+
+host::Answer compared(std::span<const YearCase> years) {
+    const YearCase& first = years.front();
+    return answer_of(years, first.site.name + (first.of_weather ? ", a year of weather" : ", design days of the year"),
+                     1);
+}
+
+}  // namespace quorvel::window
