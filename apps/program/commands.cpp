@@ -4,6 +4,8 @@ namespace quorvel::program {
 
 std::vector<Command> commands() {
     return {
+        wall_command(),
+        materials_command(),
         check_command(),
         climate_command(),
     };

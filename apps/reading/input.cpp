@@ -163,6 +163,12 @@ int InputTable::integer(std::string_view key, int low, int high) const {
     throw not_allowed_whole(key, "whole numbers " + from_to(low, high));
 }
 
+bool InputTable::flag(std::string_view key, bool otherwise) const {
+    if (!has(key)) return otherwise;
+    if (const auto* value = node(key).as_boolean()) return value->get();
+    throw not_allowed(key, "true or false");
+}
+
 std::string InputTable::text(std::string_view key, std::size_t longest) const {
     if (const auto* value = node(key).as_string()) {
         const std::string& text = value->get();

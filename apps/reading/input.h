@@ -56,6 +56,7 @@ class InputTable {
     std::vector<double> numbers(std::string_view key, std::size_t count, const Range& range) const;
     bool is_list(std::string_view key) const { return node(key).is_array(); }
     int integer(std::string_view key, int low, int high) const;
+    bool flag(std::string_view key, bool otherwise) const;
     std::string text(std::string_view key, std::size_t longest = 40) const;
 
     // The number of one of the names, counted from `first`; the number itself may stand in the file

@@ -56,6 +56,9 @@ std::string curve(const std::string& rows, std::size_t column, const char* colou
 // Down to zero; so stacked areas are plotted from the uppermost sum down.
 std::string area(const std::string& rows, std::size_t column, const char* colour);
 
+// Upright bars about the horizontal coordinate.
+std::string bars(const std::string& rows, std::size_t column, const char* colour, double width);
+
 // The inside of a ring of corners x and y, the first of which comes again at the end.
 std::string polygon(const std::string& rows, const char* colour);
 
@@ -74,6 +77,9 @@ class Chart {
     void canvas(const Panel& panel);
     void horizontal_scale(const Scale& scale);
     void vertical_scale(const Scale& scale, bool labelled = true);
+
+    // In place of a horizontal scale: names at 0, 1, 2 ... with half a step more at either end.
+    void horizontal_names(const std::vector<std::string>& names);
 
     // At a place of the picture, in pixels.
     void text(double x, double y, const std::string& text, const Style& style);
