@@ -3,10 +3,11 @@
 
 #include <memory>
 
-#include "calculation/calendar.h"
 #include "program/commands.h"
 #include "quorvel/library.h"
+#include "reading/variants.h"
 #include "reading/wall/question.h"
+#include "telling/climate/station_answer.h"
 #include "telling/wall/answer.h"
 
 namespace quorvel::program {
@@ -14,6 +15,7 @@ namespace {
 
 struct Given {
     int month = 0;  // 0: that which matters
+    std::string weather;
     std::vector<std::string> libraries;
 };
 
@@ -21,30 +23,55 @@ constexpr const char* description =
     "U-value, temperature factor and mould, condensation and drying through the months, and the answer to a daily\n"
     "swing of temperature, of a wall, roof or floor.";
 
+// Of which a variant's own takes the place of the others.
+const host::Alternatives alternatives = {{"vapour_resistivity", "mu", "s_d", "vapour_resistance"},
+                                         {"resistance", "emissivities", "ventilated"},
+                                         {"inside_humidity", "humidity_class"},
+                                         {"weather", "file", "outside_temperature"},
+                                         {"weather", "station", "outside_humidity"},
+                                         {"material", "conductivity"},
+                                         {"material", "density"},
+                                         {"material", "specific_heat"}};
+
 void add_options(CLI::App& app, Given& given) {
     app.add_option("--month", given.month, "Show the profile of this month, 1 to 12, in place of that which matters")
         ->option_text("M")
         ->check(CLI::Range(1, 12));
-    app.add_option("--library", given.libraries, "Materials of your own, beside those of the program or in their place")
+    app.add_option("--weather", given.weather, "A year of hourly weather, an EPW file, in place of the climate outside")
+        ->option_text("FILE");
+    app.add_option("--library", given.libraries, "Own tables of materials; may be repeated")
         ->option_text("FILE")
         ->allow_extra_args(false);
 }
 
-host::Library library_of(const Given& given) {
+std::vector<std::string> warnings(const wall::ReadClimate& climate) {
+    std::vector<std::string> warnings = climatefile::told(climate.replaced);
+    if (climate.saturated_inside)
+        warnings.push_back("the humidity class puts more vapour inside than the air there can hold: 100 % is taken");
+    return warnings;
+}
+
+std::vector<wall::Variation> read(const std::string& input, const Given& given) {
     host::Library library;
     for (const std::string& file : given.libraries) library.add(file);
-    return library;
+    host::load_library();
+    std::vector<wall::Variation> variations;
+    for (const host::Variant& variant : host::read_variants(input, alternatives)) {
+        auto read = wall::read_question(variant.input->root(), {input, given.weather}, library);
+        variations.push_back({{read.name, read.climate.source, read.left_out, warnings(read.climate), variant.name},
+                              std::move(read.question)});
+    }
+    return variations;
 }
 
 host::Answer answer_wall(const std::string& input, const Given& given) {
-    const host::Library library = library_of(given);
-    host::load_library();
-    const host::InputFile file(input);
-    const wall::ReadQuestion read = wall::read_question(file.root(), input, library);
+    std::vector<wall::Variation> variations = read(input, given);
+    for (wall::Variation& variation : variations) variation.assessment = wall::assess(variation.question);
+    if (variations.size() > 1) return wall::comparison(variations);
+    const auto& [subject, question, assessment] = variations.front();
     std::optional<std::size_t> month;
-    if (given.month > 0 && read.question.climates.size() > 1) month = static_cast<std::size_t>(given.month - 1);
-    return wall::answer({read.name, read.climate, read.left_out, read.warnings, ""}, read.question,
-                        wall::assess(read.question), month);
+    if (given.month > 0 && assessment.year) month = static_cast<std::size_t>(given.month - 1);
+    return wall::answer(subject, question, assessment, month);
 }
 
 }  // namespace

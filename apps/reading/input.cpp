@@ -86,6 +86,12 @@ InputError InputError::all(const std::vector<std::string>& messages) {
     return InputError(lines);
 }
 
+std::string beside(const std::string& input, const std::string& file) {
+    const bool rooted = file[0] == '/' || file[0] == '\\' || file.find(':') != std::string::npos;
+    const std::size_t folder = input.find_last_of("/\\");
+    return rooted || folder == std::string::npos ? file : input.substr(0, folder + 1) + file;
+}
+
 std::string read_bytes(const std::string& path) {
     std::ifstream file;
     if (path != "-") file.open(path, std::ios::binary);

@@ -9,8 +9,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::try_file(data, size, [](const std::string& file) {
         static const host::Library library;
         const host::InputFile input(file);
-        const wall::ReadQuestion read = wall::read_question(input.root(), file, library);
-        host::as_text(wall::answer({read.name}, read.question, wall::assess(read.question), {}), true);
+        const wall::ReadQuestion read = wall::read_question(input.root(), {file}, library);
+        const wall::Subject subject{.name = read.name};
+        host::as_text(wall::answer(subject, read.question, wall::assess(read.question), {}), true);
     });
     return 0;
 }

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "calculation/climate/weather.h"
+#include "calculation/climate/monthly_means.h"
 #include "calculation/wall/air.h"
 
 namespace quorvel::wall {
@@ -16,8 +16,8 @@ struct Indoors {
     std::optional<int> humidity_class;  // 1 to 5
 };
 
-// The means of the twelve months, humidity by the mean vapour pressure. The library must have been loaded.
-std::vector<Air> monthly_means(const climatefile::WeatherYear& weather);
+// Of the twelve months, the humidity by the mean vapour pressure. The library must have been loaded.
+std::vector<Air> outside_air(const climatefile::MonthlyMeans& means);
 
 std::vector<Climate> climates(const Indoors& inside, const std::vector<Air>& outside);
 

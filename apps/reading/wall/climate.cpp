@@ -1,8 +1,12 @@
 #include "reading/wall/climate.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "calculation/calendar.h"
+#include "calculation/climate/atmosphere.h"
 #include "calculation/wall/climates.h"
+#include "reading/climate/data_file.h"
 #include "reading/climate/epw.h"
 
 namespace quorvel::wall {
@@ -17,18 +21,28 @@ constexpr std::size_t months = 12;
 struct Outdoors {
     std::vector<Air> air;
     std::string source = {};
-    std::vector<std::string> warnings = {};
+    std::vector<climatefile::Replacement> replaced = {};
 };
 
-std::string beside(const std::string& input, const std::string& file) {
-    const bool rooted = file[0] == '/' || file[0] == '\\' || file.find(':') != std::string::npos;
-    const std::size_t folder = input.find_last_of("/\\");
-    return rooted || folder == std::string::npos ? file : input.substr(0, folder + 1) + file;
+Outdoors of_weather(const std::string& file) {
+    auto [weather, replaced] = climatefile::read_weather(file);
+    return {outside_air(climatefile::monthly_means(weather)), "Monthly means of the weather of " + weather.place,
+            std::move(replaced)};
 }
 
-Outdoors of_weather(const InputTable& table, const std::string& input) {
-    const auto weather = climatefile::read_epw(beside(input, table.text("weather", longest_file_name)));
-    return {monthly_means(weather), "monthly means of the weather of " + weather.place};
+Outdoors of_station(const InputTable& table, const std::string& input) {
+    const std::string name = table.text("file", longest_file_name);
+    const int number = table.integer("station", 1, 9999);
+    const int set = table.has("set") ? table.integer("set", 1, 2) : 1;
+    const auto station = climatefile::DataFile(host::beside(input, name)).station(number);
+    const double height = std::isnan(station.place.height) ? 0 : station.place.height;
+    const auto means = climatefile::monthly_means(station, static_cast<std::size_t>(set - 1),
+                                                  climatefile::standard_pressure(height));
+    for (std::size_t month = 0; month < months; ++month)
+        if (!(std::fabs(means.temperature[month]) <= 90) || !(means.vapour_pressure[month] > 0))
+            throw table.error("station", name + ", station " + std::to_string(number) + ": no temperature or humidity in " +
+                                             std::string(host::month_names[month]));
+    return {outside_air(means), "Monthly means of " + station.place.name + ", station " + std::to_string(number) + " of " + name};
 }
 
 // Every quantity is a number or a list of twelve; one list is enough to make it twelve cases.
@@ -44,10 +58,19 @@ Outdoors of_input(const InputTable& table) {
     return outdoors;
 }
 
-Outdoors read_outdoors(const InputTable& table, const std::string& input) {
+Outdoors read_outdoors(const InputTable& table, const std::string& input, const std::string& weather) {
+    if (!weather.empty()) {
+        table.expect({"inside_temperature"}, {"inside_humidity", "humidity_class", "outside_temperature",
+                                              "outside_humidity", "weather", "file", "station", "set"});
+        return of_weather(weather);
+    }
     if (table.has("weather")) {
         table.expect({"weather", "inside_temperature"}, {"inside_humidity", "humidity_class"});
-        return of_weather(table, input);
+        return of_weather(host::beside(input, table.text("weather", longest_file_name)));
+    }
+    if (table.has("file")) {
+        table.expect({"file", "station", "inside_temperature"}, {"set", "inside_humidity", "humidity_class"});
+        return of_station(table, input);
     }
     table.expect({"inside_temperature", "outside_temperature", "outside_humidity"}, {"inside_humidity", "humidity_class"});
     return of_input(table);
@@ -66,13 +89,13 @@ Indoors read_indoors(const InputTable& table, std::size_t cases) {
 
 }  // namespace
 
-ReadClimate read_climate(const InputTable& table, const std::string& input) {
-    Outdoors outdoors = read_outdoors(table, input);
+ReadClimate read_climate(const InputTable& table, const std::string& input, const std::string& weather) {
+    Outdoors outdoors = read_outdoors(table, input, weather);
     const Indoors indoors = read_indoors(table, outdoors.air.size());
-    ReadClimate read{climates(indoors, outdoors.air), std::move(outdoors.source), std::move(outdoors.warnings)};
-    const bool full = std::ranges::any_of(read.climates, [](const Climate& c) { return c.inside.humidity >= 100; });
-    if (indoors.humidity_class && full)
-        read.warnings.push_back("The humidity class brings more vapour inside than the air there can hold: 100 % is taken");
+    ReadClimate read{climates(indoors, outdoors.air), std::move(outdoors.source), std::move(outdoors.replaced)};
+    read.saturated_inside = indoors.humidity_class && std::ranges::any_of(read.climates, [](const Climate& climate) {
+        return climate.inside.humidity >= 100;
+    });
     return read;
 }
 

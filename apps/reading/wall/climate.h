@@ -4,18 +4,21 @@
 #include <string>
 #include <vector>
 
+#include "calculation/climate/mended_weather.h"
 #include "calculation/wall/air.h"
 #include "reading/input.h"
 
 namespace quorvel::wall {
 
 struct ReadClimate {
-    std::vector<Climate> climates;      // one, or those of the months from January
-    std::string source;                 // where that outside comes from; empty: from the input itself
-    std::vector<std::string> warnings;  // what was replaced or assumed
+    std::vector<Climate> climates;                   // one, or those of the months from January
+    std::string source;                              // where that outside comes from; empty: from the input itself
+    std::vector<climatefile::Replacement> replaced;  // in the weather
+    bool saturated_inside = false;                   // the humidity class asks for more than air can hold
 };
 
-// Files are looked for beside the input. The library must have been loaded. Throws host::InputError.
-ReadClimate read_climate(const host::InputTable& table, const std::string& input);
+// Files that the table names are looked for beside the input; a file of weather, if any, takes the place of all that it
+// says of the air outside. The library must have been loaded. Throws host::InputError.
+ReadClimate read_climate(const host::InputTable& table, const std::string& input, const std::string& weather);
 
 }  // namespace quorvel::wall

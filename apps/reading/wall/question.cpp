@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "reading/wall/climate.h"
 #include "reading/wall/layers.h"
 
 namespace quorvel::wall {
@@ -59,20 +58,18 @@ std::size_t chosen_section(const InputTable& wall, const Element& element) {
 
 }  // namespace
 
-ReadQuestion read_question(const InputTable& root, const std::string& input, const host::Library& library) {
+ReadQuestion read_question(const InputTable& root, const Request& request, const host::Library& materials) {
     root.expect({"wall", "layer", "climate"}, {"mould"});
     const InputTable wall = root.table("wall");
     wall.expect({"name"}, {"heat_flow", "exposure", "inside_resistance", "outside_resistance", "section"});
-    ReadQuestion read{wall.text("name"), {}, {}, 0, {}};
-    ReadLayers layers = read_layers(root, library);
+    ReadQuestion read{wall.text("name"), {}, {}};
+    ReadLayers layers = read_layers(root, materials);
     read.left_out = layers.beyond.value_or(0);
     read.question.element = read_element(wall, std::move(layers));
     read.question.demand = read_demand(root);
     read.question.section = chosen_section(wall, read.question.element);
-    ReadClimate climate = read_climate(root.table("climate"), input);
-    read.question.climates = std::move(climate.climates);
-    read.climate = std::move(climate.source);
-    read.warnings.insert(read.warnings.end(), climate.warnings.begin(), climate.warnings.end());
+    read.climate = read_climate(root.table("climate"), request.input, request.weather);
+    read.question.climates = read.climate.climates;
     return read;
 }
 

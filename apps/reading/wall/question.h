@@ -2,23 +2,28 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "calculation/wall/assessment.h"
 #include "reading/library.h"
+#include "reading/wall/climate.h"
 
 namespace quorvel::wall {
 
 struct ReadQuestion {
     std::string name;
     Question question;
-    std::string climate;                // where the climate outside comes from; empty: from the input itself
-    std::size_t left_out = 0;           // layers in and beyond a well-ventilated gap
-    std::vector<std::string> warnings;  // what was replaced or assumed
+    ReadClimate climate;
+    std::size_t left_out = 0;  // layers in and beyond a well-ventilated gap
 };
 
-// Files that the input names are looked for beside it. The library must have been loaded. Throws host::InputError
-// at the first fault.
-ReadQuestion read_question(const host::InputTable& root, const std::string& input, const host::Library& library);
+// What the input is read with.
+struct Request {
+    std::string input;         // beside which the files are that it names
+    std::string weather = {};  // in place of its climate outside
+};
+
+// The library of materials is one of tables, that of calculations must have been loaded. Throws host::InputError at the
+// first fault.
+ReadQuestion read_question(const host::InputTable& root, const Request& request, const host::Library& materials);
 
 }  // namespace quorvel::wall

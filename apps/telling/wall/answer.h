@@ -14,7 +14,7 @@ host::Answer answer(const Subject& subject, const Question& question, const Asse
 struct Variation {
     Subject subject;
     Question question;
-    Assessment assessment;
+    Assessment assessment = {};
 };
 
 // The input as it is and its variants side by side.
