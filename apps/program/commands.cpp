@@ -5,8 +5,10 @@ namespace quorvel::program {
 std::vector<Command> commands() {
     return {
         window_command(),
-        check_command(),
+        wall_command(),
+        materials_command(),
         climate_command(),
+        check_command(),
     };
 }
 

@@ -86,6 +86,12 @@ InputError InputError::all(const std::vector<std::string>& messages) {
     return InputError(lines);
 }
 
+std::string beside(const std::string& input, const std::string& file) {
+    const bool rooted = file[0] == '/' || file[0] == '\\' || file.find(':') != std::string::npos;
+    const std::size_t folder = input.find_last_of("/\\");
+    return rooted || folder == std::string::npos ? file : input.substr(0, folder + 1) + file;
+}
+
 std::string read_bytes(const std::string& path) {
     std::ifstream file;
     if (path != "-") file.open(path, std::ios::binary);
@@ -165,6 +171,12 @@ int InputTable::integer(std::string_view key, int low, int high) const {
     const auto* value = node(key).as_integer();
     if (value && value->get() >= low && value->get() <= high) return static_cast<int>(value->get());
     throw not_allowed_whole(key, "whole numbers " + from_to(low, high));
+}
+
+bool InputTable::flag(std::string_view key, bool otherwise) const {
+    if (!has(key)) return otherwise;
+    if (const auto* value = node(key).as_boolean()) return value->get();
+    throw not_allowed(key, "true or false");
 }
 
 std::string InputTable::text(std::string_view key, std::size_t longest) const {

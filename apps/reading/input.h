@@ -31,6 +31,9 @@ class InputError : public std::runtime_error {
     explicit InputError(const Lines& lines) : std::runtime_error(lines.text) {}
 };
 
+// Where a file that an input names is: beside the input, unless its name has a root.
+std::string beside(const std::string& input, const std::string& file);
+
 // All bytes of a file, or of standard input where the path is "-". Throws InputError.
 std::string read_bytes(const std::string& path);
 

@@ -1,5 +1,7 @@
 #include "calculation/climate/monthly_means.h"
 
+#include <algorithm>
+
 #include "quorvel/psychro.h"
 
 namespace quorvel::climatefile {
@@ -21,6 +23,24 @@ MonthlyMeans monthly_means(const Station& station, std::size_t set, double press
             means.vapour_pressure[month] += share * (vapour(Q(3), Q(5)) + vapour(Q(4), Q(6))) / 2;
             before = Q(0);
         }
+    }
+    return means;
+}
+
+MonthlyMeans monthly_means(const WeatherYear& weather) {
+    MonthlyMeans means{};
+    std::array<int, month_count> hours{};
+    for (const WeatherDay& day : weather.days) {
+        const auto month = static_cast<std::size_t>(day.month - 1);
+        for (const Hour& hour : day.hours) {
+            means.temperature[month] += hour.dry_bulb;
+            means.vapour_pressure[month] += lib::vapour_pressure(hour.dry_bulb, std::min(hour.relative_humidity, 100.0));
+            ++hours[month];
+        }
+    }
+    for (std::size_t month = 0; month < month_count; ++month) {
+        means.temperature[month] /= hours[month];
+        means.vapour_pressure[month] /= hours[month];
     }
     return means;
 }

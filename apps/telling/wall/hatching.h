@@ -4,14 +4,14 @@
 #include <string>
 #include <vector>
 
+#include "calculation/wall/element.h"
 #include "telling/chart.h"
-#include "wall/job.h"
 
 namespace quorvel::wall {
 
-// A layer on the canvas: from left to right, in pixels.
+// A part of a layer on the canvas: from left to right, in pixels.
 struct Band {
-    const Layer* layer;
+    const Part* part;
     double left, right;
 };
 

@@ -1,4 +1,4 @@
-#include "wall/drawing.h"
+#include "telling/wall/hatching.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,21 +20,21 @@ struct Look {
     const char* ink;
 };
 
-Look look(Drawing drawing) {
-    switch (drawing) {
-        case Drawing::masonry:
+Look look(Hatching hatching) {
+    switch (hatching) {
+        case Hatching::masonry:
             return {"#f8e3da", "#d8a18b"};
-        case Drawing::concrete:
+        case Hatching::concrete:
             return {"#ebecee", "#a3a8b0"};
-        case Drawing::insulation:
+        case Hatching::insulation:
             return {"#fdf6d8", "#dcc25e"};
-        case Drawing::timber:
+        case Hatching::timber:
             return {"#f5e8cf", "#c9a572"};
-        case Drawing::plaster:
+        case Hatching::plaster:
             return {"#f3f0ea", "#b9b0a2"};
-        case Drawing::bitumen:
+        case Hatching::bitumen:
             return {"#c3c6cc", "#6d7380"};
-        case Drawing::plain:
+        case Hatching::plain:
             break;
     }
     return {"#eef1f5", "#eef1f5"};
@@ -45,27 +45,27 @@ class Hatch {
     Hatch(const Band& band, double height)
         : left_(band.left), width_(band.right - band.left), height_(height) {}
 
-    Rows of(Drawing drawing) {
-        switch (drawing) {
-            case Drawing::masonry:
+    Rows of(Hatching hatching) {
+        switch (hatching) {
+            case Hatching::masonry:
                 diagonals(10);
                 break;
-            case Drawing::concrete:
+            case Hatching::concrete:
                 scattered(190, &Hatch::pebble);
                 break;
-            case Drawing::insulation:
+            case Hatching::insulation:
                 wave();
                 break;
-            case Drawing::timber:
+            case Hatching::timber:
                 grain();
                 break;
-            case Drawing::plaster:
+            case Hatching::plaster:
                 scattered(26, &Hatch::dot);
                 break;
-            case Drawing::bitumen:
+            case Hatching::bitumen:
                 diagonals(4);
                 break;
-            case Drawing::plain:
+            case Hatching::plain:
                 break;
         }
         return std::move(rows_);
@@ -158,15 +158,15 @@ std::vector<std::string> draw_section(host::Chart& chart, const std::vector<Band
                                       double height) {
     std::vector<std::string> parts, lines;
     for (const Band& band : bands) {
-        if (std::holds_alternative<Membrane>(band.layer->make)) {
+        if (std::holds_alternative<Membrane>(band.part->make)) {
             const double middle = (band.left + band.right) / 2;
             lines.push_back(upright(chart, middle, height, membrane_colour, 3));
             continue;
         }
-        const auto* solid = std::get_if<Solid>(&band.layer->make);
-        const Look colours = solid ? look(solid->drawing) : Look{gap_colour, gap_colour};
+        const auto* solid = std::get_if<Solid>(&band.part->make);
+        const Look colours = solid ? look(band.part->hatching) : Look{gap_colour, gap_colour};
         parts.push_back(filled(chart, band, height, colours.fill));
-        const Rows hatch = Hatch(band, height).of(solid ? solid->drawing : Drawing::plain);
+        const Rows hatch = Hatch(band, height).of(solid ? band.part->hatching : Hatching::plain);
         if (!hatch.empty()) parts.push_back(host::curve(chart.data(hatch), 2, colours.ink, 1));
         for (const double x : {band.left, band.right})
             lines.insert(lines.begin(), upright(chart, x, height, edge_colour, 1));

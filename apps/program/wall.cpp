@@ -1,0 +1,91 @@
+// wall: heat and vapour through an element, through the year.
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+#include "program/commands.h"
+#include "quorvel/library.h"
+#include "reading/variants.h"
+#include "reading/wall/question.h"
+#include "telling/climate/station_answer.h"
+#include "telling/wall/answer.h"
+
+namespace quorvel::program {
+namespace {
+
+struct Given {
+    int month = 0;  // 0: that which matters
+    std::string weather;
+    std::vector<std::string> libraries;
+};
+
+constexpr const char* description =
+    "U-value, temperature factor and mould, condensation and drying through the months, and the answer to a daily\n"
+    "swing of temperature, of a wall, roof or floor.";
+
+// Of which a variant's own takes the place of the others.
+const host::Alternatives alternatives = {{"vapour_resistivity", "mu", "s_d", "vapour_resistance"},
+                                         {"resistance", "emissivities", "ventilated"},
+                                         {"inside_humidity", "humidity_class"},
+                                         {"weather", "file", "outside_temperature"},
+                                         {"weather", "station", "outside_humidity"},
+                                         {"material", "conductivity"},
+                                         {"material", "density"},
+                                         {"material", "specific_heat"}};
+
+void add_options(CLI::App& app, Given& given) {
+    app.add_option("--month", given.month, "Show the profile of this month, 1 to 12, in place of that which matters")
+        ->option_text("M")
+        ->check(CLI::Range(1, 12));
+    app.add_option("--weather", given.weather, "A year of hourly weather, an EPW file, in place of the climate outside")
+        ->option_text("FILE");
+    app.add_option("--library", given.libraries, "Own tables of materials; may be repeated")
+        ->option_text("FILE")
+        ->allow_extra_args(false);
+}
+
+std::vector<std::string> warnings(const wall::ReadClimate& climate) {
+    std::vector<std::string> warnings = climatefile::told(climate.replaced);
+    if (climate.saturated_inside)
+        warnings.push_back("the humidity class puts more vapour inside than the air there can hold: 100 % is taken");
+    return warnings;
+}
+
+std::vector<wall::Variation> read(const std::string& input, const Given& given) {
+    host::Library library;
+    for (const std::string& file : given.libraries) library.add(file);
+    host::load_library();
+    std::vector<wall::Variation> variations;
+    for (const host::Variant& variant : host::read_variants(input, alternatives)) {
+        auto read = wall::read_question(variant.input->root(), {input, given.weather}, library);
+        variations.push_back({{read.name, read.climate.source, read.left_out, warnings(read.climate), variant.name},
+                              std::move(read.question)});
+    }
+    return variations;
+}
+
+host::Answer answer_wall(const std::string& input, const Given& given) {
+    std::vector<wall::Variation> variations = read(input, given);
+    for (wall::Variation& variation : variations) variation.assessment = wall::assess(variation.question);
+    if (variations.size() > 1) return wall::comparison(variations);
+    const auto& [subject, question, assessment] = variations.front();
+    std::optional<std::size_t> month;
+    if (given.month > 0 && assessment.year) month = static_cast<std::size_t>(given.month - 1);
+    return wall::answer(subject, question, assessment, month);
+}
+
+}  // namespace
+
+Command wall_command() {
+    const auto given = std::make_shared<Given>();
+    return {
+        .name = "wall",
+        .purpose = "Heat and vapour through a wall, roof or floor, through the year",
+        .description = description,
+        .input = "The construction and its climate: see below",
+        .options = [given](CLI::App& app) { add_options(app, *given); },
+        .answer = [given](const std::string& input) { return answer_wall(input, *given); },
+    };
+}
+
+}  // namespace quorvel::program
