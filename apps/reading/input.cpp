@@ -215,12 +215,6 @@ int InputTable::choice(std::string_view key, std::span<const std::string_view> n
     throw not_allowed_whole(key, joined(names) + ", or " + from_to(first, last));
 }
 
-bool InputTable::flag(std::string_view key, bool otherwise) const {
-    if (!has(key)) return otherwise;
-    if (const auto* value = node(key).as_boolean()) return value->get();
-    throw not_allowed(key, "true or false");
-}
-
 std::vector<InputItem> InputTable::items(std::string_view key, std::size_t low, std::size_t high) const {
     const auto* list = node(key).as_array();
     const auto is_item = [](const toml::node& entry) { return entry.is_table() || entry.is_string(); };

@@ -25,9 +25,9 @@ struct Outdoors {
 };
 
 Outdoors of_weather(const std::string& file) {
-    auto [weather, replaced] = climatefile::read_weather(file);
+    climatefile::WeatherYear weather = climatefile::read_epw(file);
     return {outside_air(climatefile::monthly_means(weather)), "Monthly means of the weather of " + weather.place,
-            std::move(replaced)};
+            std::move(weather.replaced)};
 }
 
 Outdoors of_station(const InputTable& table, const std::string& input) {
