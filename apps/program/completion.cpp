@@ -7,6 +7,11 @@ namespace {
 
 constexpr const char* group_of_commands = "Commands";
 
+bool has_commands(const Page& page) {
+    return std::ranges::any_of(page.groups,
+                               [](const Group& group) { return group.title == group_of_commands; });
+}
+
 // Commands and options of a page; what it takes else are files.
 std::vector<Entry> words_of(const Page& page) {
     std::vector<Entry> words;
@@ -36,7 +41,7 @@ std::string cases(const std::vector<Page>& pages, Word word) {
     for (const Page& page : pages) {
         text += "        " + quoted(page.name) + ") choices=(";
         for (const Entry& entry : words_of(page)) text += ' ' + word(entry);
-        text += " ) ;;\n";
+        text += " ) files=" + std::string(has_commands(page) ? "no" : "yes") + " ;;\n";
     }
     return text;
 }
@@ -52,7 +57,7 @@ std::string names(const std::vector<Page>& pages) {
 
 std::string bash_completion(const std::vector<Page>& pages) {
     return "_quorvel() {\n"
-           "    local path=quorvel i choices=()\n"
+           "    local path=quorvel i files=yes choices=()\n"
            "    for ((i = 1; i < COMP_CWORD; i++)); do\n"
            "        case \"$path ${COMP_WORDS[i]}\" in\n            " +
            names(pages) +
@@ -62,6 +67,7 @@ std::string bash_completion(const std::vector<Page>& pages) {
            "    case $path in\n" +
            cases(pages, [](const Entry& entry) { return entry.term; }) +
            "    esac\n"
+           "    [[ $files == yes ]] || compopt +o default\n"
            "    COMPREPLY=($(compgen -W \"${choices[*]}\" -- \"${COMP_WORDS[COMP_CWORD]}\"))\n"
            "}\n"
            "complete -o default -F _quorvel quorvel\n";
@@ -73,7 +79,7 @@ std::string zsh_completion(const std::vector<Page>& pages) {
     };
     return "#compdef quorvel\n"
            "_quorvel() {\n"
-           "    local path_=quorvel word\n"
+           "    local path_=quorvel word files=yes\n"
            "    local -a choices=()\n"
            "    for word in \"${(@)words[2,CURRENT-1]}\"; do\n"
            "        case \"$path_ $word\" in\n            " +
@@ -84,8 +90,8 @@ std::string zsh_completion(const std::vector<Page>& pages) {
            "    case $path_ in\n" +
            cases(pages, described) +
            "    esac\n"
-           "    _describe -o 'quorvel' choices\n"
-           "    _files\n"
+           "    _describe 'quorvel' choices\n"
+           "    [[ $files == no ]] || _files\n"
            "}\n"
            "_quorvel \"$@\"\n";
 }
@@ -102,15 +108,17 @@ std::string fish_completion(const std::vector<Page>& pages) {
         "    end\n"
         "    test \"$path\" = \"$argv\"\n"
         "end\n";
-    for (const Page& page : pages)
+    for (const Page& page : pages) {
+        const std::string here = "complete -c quorvel -n " + quoted("__quorvel_is_at " + page.name);
+        if (has_commands(page)) text += here + " -f\n";
         for (const Entry& entry : words_of(page)) {
             const std::string& word = entry.term;
             const std::string kind = word.starts_with("--")  ? "-l " + word.substr(2)
                                      : word.starts_with('-') ? "-s " + word.substr(1)
                                                              : "-a " + word;
-            text += "complete -c quorvel -n " + quoted("__quorvel_is_at " + page.name) + ' ' +
-                    kind + " -d " + quoted(entry.meaning) + '\n';
+            text += here + ' ' + kind + " -d " + quoted(entry.meaning) + '\n';
         }
+    }
     return text;
 }
 

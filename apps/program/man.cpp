@@ -70,7 +70,7 @@ class Topic {
             return as_it_stands(fenced_);
         }
         if (line.empty() && !fenced_) {
-            paragraph_ = true;
+            paragraph_ = !below_heading_;
             return;
         }
         const bool table_or_list =
@@ -78,13 +78,14 @@ class Topic {
         if (!fenced_ && line.starts_with('#')) return heading(line);
         as_it_stands(fenced_ || table_or_list);
         if (paragraph_) text_ += ".PP\n";
-        paragraph_ = false;
+        paragraph_ = below_heading_ = false;
         text_ += (fenced_ || table_or_list ? literal(line) : inline_text(line)) + '\n';
     }
 
     void heading(const std::string& line) {
         as_it_stands(false);
         paragraph_ = false;
+        below_heading_ = true;
         const bool first = line.starts_with("# ") || line.starts_with("## ");
         const std::string title = line.substr(line.find_first_not_of("# "));
         text_ += (first ? ".SH " + argument(upper(title)) : ".SS " + argument(title)) + '\n';
@@ -99,7 +100,7 @@ class Topic {
     }
 
     std::string text_;
-    bool fenced_ = false, standing_ = false, paragraph_ = false;
+    bool fenced_ = false, standing_ = false, paragraph_ = false, below_heading_ = false;
 };
 
 }  // namespace

@@ -307,7 +307,7 @@ class Descriptions(unittest.TestCase):
                              ("quorvel read a.toml --s", {"--svg", "--strict"}), ("quorvel read x", set()), ("quorvel read group --cs", {"--csv"})]:
             words = line.split(" ")
             given = " ".join(f"'{word}'" for word in words)
-            asked = f"{script}\nCOMP_WORDS=({given}) COMP_CWORD={len(words) - 1}\n_quorvel\nprintf '%s\\n' \"${{COMPREPLY[@]}}\""
+            asked = f"compopt() {{ :; }}\n{script}\nCOMP_WORDS=({given}) COMP_CWORD={len(words) - 1}\n_quorvel\nprintf '%s\\n' \"${{COMPREPLY[@]}}\""
             found = set(subprocess.run(["bash", "-c", asked], capture_output=True, text=True, check=True).stdout.split())
             self.assertEqual(found, wanted, line)
 

@@ -15,7 +15,7 @@ WORDS = re.compile(r'"[A-Za-z][A-Za-z0-9_-]*"')  # keys and choices of the input
 
 def dictionary(build):
     words = set()
-    for source in [*(ROOT / "apps").glob("*/*.cpp"), *(ROOT / "apps").glob("*/*.h")]:
+    for source in [*(ROOT / "apps").rglob("*.cpp"), *(ROOT / "apps").rglob("*.h")]:
         words.update(WORDS.findall(source.read_text(encoding="utf-8")))
     path = build / "keys.dict"
     path.write_text("\n".join(sorted(words)) + "\n", encoding="utf-8")
@@ -26,7 +26,7 @@ def fuzz(build, name, seconds):
     corpus, findings = build / "corpus" / name, build / "findings"
     for folder in (corpus, findings):
         folder.mkdir(parents=True, exist_ok=True)
-    seeds = [folder for folder in (ROOT / "tests/fuzz/seeds" / name, ROOT / "apps" / name / "examples") if folder.is_dir()]
+    seeds = [folder for folder in (ROOT / "tests/fuzz/seeds" / name, ROOT / "apps/examples" / name, ROOT / "apps" / name / "examples") if folder.is_dir()]
     before = set(findings.glob(f"{name}-*"))
     process = subprocess.run(
         [build / f"fuzz_{name}", corpus, *seeds, f"-max_total_time={seconds}", f"-dict={dictionary(build)}",
