@@ -50,6 +50,11 @@ Pane as_pane(const Glass& glass, const std::string& name, bool coated_inside) {
     return pane;
 }
 
+Glass read_entry(const InputTable& entry) {
+    entry.expect({"transmittance"}, {"thickness", "reflectance", "coated_reflectance", "emissivity", "source"});
+    return read_glass(entry);
+}
+
 // A coated pane says which of its faces has the coating where that matters.
 bool coated_inside(const InputTable& table, const Glass& glass) {
     if (table.has("coating")) return table.choice("coating", faces, 0) == 1;
@@ -61,7 +66,7 @@ bool coated_inside(const InputTable& table, const Glass& glass) {
 Pane read_pane(const InputTable& table, const Library& library) {
     if (table.has("glass")) {
         table.expect({"glass"}, {"coating"});
-        const Glass glass = read_glass(library.named(table, "glass", "glass"));
+        const Glass glass = read_entry(library.named(table, "glass", "glass"));
         return as_pane(glass, table.text("glass", 60), coated_inside(table, glass));
     }
     table.expect({"transmittance"}, {"reflectance", "coated_reflectance", "emissivity", "thickness", "coating"});
@@ -72,7 +77,7 @@ Pane read_pane(const InputTable& table, const Library& library) {
 Pane read_pane(const InputTable& place, const InputItem& item, const Library& library) {
     if (const auto* table = std::get_if<InputTable>(&item)) return read_pane(*table, library);
     const auto& name = std::get<std::string>(item);
-    const Glass glass = read_glass(library.named(place, "panes", "glass", name));
+    const Glass glass = read_entry(library.named(place, "panes", "glass", name));
     if (glass.has_emissivity)
         throw place.error("panes", "\"" + name + "\" has a coating; write { glass = \"" + name +
                                        "\", coating = \"outside\" } or \"inside\", the face that has it");
