@@ -4,11 +4,7 @@ namespace quorvel::program {
 
 std::vector<Command> commands() {
     return {
-        window_command(),
-        wall_command(),
-        materials_command(),
-        climate_command(),
-        check_command(),
+        window_command(), wall_command(), materials_command(), climate_command(), check_command(),
     };
 }
 

@@ -32,14 +32,21 @@ struct Kind {
 
 const std::vector<Kind>& kinds() {
     constexpr int given = host::as_given;
-    static const std::vector<Kind> kinds{
-        {"material", "Materials", {{"conductivity", "conductivity", "W/mK", given}, {"density", "density", "kg/m³", given},
-                                   {"specific_heat", "specific heat", "J/kgK", given}, {"mu", "µ dry", "", given},
-                                   {"mu_wet", "µ wet", "", given}, {"s_d", "s_d", "m", given}}},
-        {"glass", "Glass", {{"thickness", "thickness", "mm", given}, {"transmittance", "transmittance", "", given},
-                            {"reflectance", "reflectance", "", given}}},
-        {"gas", "Gases between panes", {}},
-        {"unit", "Glazing units", {}}};
+    static const std::vector<Kind> kinds{{"material",
+                                          "Materials",
+                                          {{"conductivity", "conductivity", "W/mK", given},
+                                           {"density", "density", "kg/m³", given},
+                                           {"specific_heat", "specific heat", "J/kgK", given},
+                                           {"mu", "µ dry", "", given},
+                                           {"mu_wet", "µ wet", "", given},
+                                           {"s_d", "s_d", "m", given}}},
+                                         {"glass",
+                                          "Glass",
+                                          {{"thickness", "thickness", "mm", given},
+                                           {"transmittance", "transmittance", "", given},
+                                           {"reflectance", "reflectance", "", given}}},
+                                         {"gas", "Gases between panes", {}},
+                                         {"unit", "Glazing units", {}}};
     return kinds;
 }
 
@@ -48,7 +55,8 @@ Value value(const InputTable& entry, const std::string& key) {
     const bool wet = key == "mu_wet";
     const std::string name = wet ? "mu" : key;
     if (!entry.has(name)) return host::none;
-    return entry.numbers(name, entry.is_list(name) ? 2 : 1, any)[wet && entry.is_list(name) ? 1 : 0];
+    return entry.numbers(name, entry.is_list(name) ? 2 : 1,
+                         any)[wet && entry.is_list(name) ? 1 : 0];
 }
 
 DataTable table_of(const Kind& kind, const std::vector<host::LibraryEntry>& entries) {
@@ -67,7 +75,9 @@ DataTable table_of(const Kind& kind, const std::vector<host::LibraryEntry>& entr
 host::Answer list(const Given& given) {
     host::Library library;
     for (const std::string& file : given.libraries) library.add(file);
-    host::Answer answer{.title = given.word.empty() ? "Materials by name" : "Materials with \"" + given.word + "\" in their names"};
+    host::Answer answer{.title = given.word.empty()
+                                     ? "Materials by name"
+                                     : "Materials with \"" + given.word + "\" in their names"};
     host::Section section;
     for (const Kind& kind : kinds())
         if (const auto entries = library.entries(kind.kind, given.word); !entries.empty())
@@ -86,8 +96,10 @@ Command materials_command() {
         .purpose = "Materials, glass, gases and glazing units that inputs may call by name",
         .options =
             [given](CLI::App& app) {
-                app.add_option("WORD", given->word, "Only those with this in their names")->option_text(" ");
-                app.add_option("--library", given->libraries, "A file of your own, listed with those of the program")
+                app.add_option("WORD", given->word, "Only those with this in their names")
+                    ->option_text(" ");
+                app.add_option("--library", given->libraries,
+                               "A file of your own, listed with those of the program")
                     ->option_text("FILE")
                     ->allow_extra_args(false);
             },

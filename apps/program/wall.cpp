@@ -20,7 +20,8 @@ struct Given {
 };
 
 constexpr const char* description =
-    "U-value, temperature factor and mould, condensation and drying through the months, and the answer to a daily\n"
+    "U-value, temperature factor and mould, condensation and drying through the months, and the "
+    "answer to a daily\n"
     "swing of temperature, of a wall, roof or floor.";
 
 // Of which a variant's own takes the place of the others.
@@ -34,10 +35,12 @@ const host::Alternatives alternatives = {{"vapour_resistivity", "mu", "s_d", "va
                                          {"material", "specific_heat"}};
 
 void add_options(CLI::App& app, Given& given) {
-    app.add_option("--month", given.month, "Show the profile of this month, 1 to 12, in place of that which matters")
+    app.add_option("--month", given.month,
+                   "Show the profile of this month, 1 to 12, in place of that which matters")
         ->option_text("M")
         ->check(CLI::Range(1, 12));
-    app.add_option("--weather", given.weather, "A year of hourly weather, an EPW file, in place of the climate outside")
+    app.add_option("--weather", given.weather,
+                   "A year of hourly weather, an EPW file, in place of the climate outside")
         ->option_text("FILE");
     app.add_option("--library", given.libraries, "Own tables of materials; may be repeated")
         ->option_text("FILE")
@@ -47,7 +50,9 @@ void add_options(CLI::App& app, Given& given) {
 std::vector<std::string> warnings(const wall::ReadClimate& climate) {
     std::vector<std::string> warnings = climatefile::told(climate.replaced);
     if (climate.saturated_inside)
-        warnings.push_back("the humidity class puts more vapour inside than the air there can hold: 100 % is taken");
+        warnings.push_back(
+            "the humidity class puts more vapour inside than the air there can hold: 100 % is "
+            "taken");
     return warnings;
 }
 
@@ -58,15 +63,17 @@ std::vector<wall::Variation> read(const std::string& input, const Given& given) 
     std::vector<wall::Variation> variations;
     for (const host::Variant& variant : host::read_variants(input, alternatives)) {
         auto read = wall::read_question(variant.input->root(), {input, given.weather}, library);
-        variations.push_back({{read.name, read.climate.source, read.left_out, warnings(read.climate), variant.name},
-                              std::move(read.question)});
+        variations.push_back(
+            {{read.name, read.climate.source, read.left_out, warnings(read.climate), variant.name},
+             std::move(read.question)});
     }
     return variations;
 }
 
 host::Answer answer_wall(const std::string& input, const Given& given) {
     std::vector<wall::Variation> variations = read(input, given);
-    for (wall::Variation& variation : variations) variation.assessment = wall::assess(variation.question);
+    for (wall::Variation& variation : variations)
+        variation.assessment = wall::assess(variation.question);
     if (variations.size() > 1) return wall::comparison(variations);
     const auto& [subject, question, assessment] = variations.front();
     std::optional<std::size_t> month;

@@ -18,13 +18,17 @@ struct Given {
 };
 
 void add_options(CLI::App& app, Given& given) {
-    auto* weather = app.add_option("--weather", given.request.weather, "A year of hourly weather, an EPW file");
+    auto* weather =
+        app.add_option("--weather", given.request.weather, "A year of hourly weather, an EPW file");
     weather->option_text("FILE");
-    app.add_flag("--months", given.months, "The twelve design days in place of one day")->excludes(weather);
-    app.add_option("--library", given.request.libraries, "Own tables of glass, gases and units; may be repeated")
+    app.add_flag("--months", given.months, "The twelve design days in place of one day")
+        ->excludes(weather);
+    app.add_option("--library", given.request.libraries,
+                   "Own tables of glass, gases and units; may be repeated")
         ->option_text("FILE")
         ->allow_extra_args(false);
-    app.add_option("--hours", given.hours, "Hours whose shadows are drawn, such as 9,12,15.5; else some with sun")
+    app.add_option("--hours", given.hours,
+                   "Hours whose shadows are drawn, such as 9,12,15.5; else some with sun")
         ->option_text("H,H,...")
         ->delimiter(',')
         ->allow_extra_args(false)
@@ -44,7 +48,9 @@ std::vector<AnyCase> cases(const std::vector<window::Job>& jobs, Calculate calcu
 
 window::DayCase day_of(const window::Job& job) {
     const window::DesignDay& design = job.days.front();
-    return {{job.variant, job.site, job.windows, job.notes}, design, window::calculate(job.site, design, job.windows)};
+    return {{job.variant, job.site, job.windows, job.notes},
+            design,
+            window::calculate(job.site, design, job.windows)};
 }
 
 window::YearCase year_of(const window::Job& job) {
@@ -57,7 +63,7 @@ window::YearCase year_of(const window::Job& job) {
 host::Answer answer(const std::string& input, const Given& given) {
     host::load_library();
     window::Request request = given.request;
-    request.span = given.months                ? window::Span::months
+    request.span = given.months               ? window::Span::months
                    : !request.weather.empty() ? window::Span::year
                                               : window::Span::day;
     const std::vector<window::Job> jobs = window::read_jobs(input, request);

@@ -114,9 +114,11 @@ toml::table parsed(std::string_view text, const std::string& name) {
 
 InputFile::InputFile(const std::string& path) : InputFile(told_path(path), read_bytes(path)) {}
 
-InputFile::InputFile(std::string name, std::string_view text) : InputFile(name, parsed(text, name)) {}
+InputFile::InputFile(std::string name, std::string_view text)
+    : InputFile(name, parsed(text, name)) {}
 
-InputFile::InputFile(std::string name, toml::table table) : path_(std::move(name)), table_(std::move(table)) {}
+InputFile::InputFile(std::string name, toml::table table)
+    : path_(std::move(name)), table_(std::move(table)) {}
 
 InputTable::InputTable(const toml::table& table, std::string_view file, std::string path)
     : table_(&table), file_(file), path_(std::move(path)) {}
@@ -188,7 +190,8 @@ std::string InputTable::text(std::string_view key, std::size_t longest) const {
     throw not_allowed(key, "text of 1 to " + std::to_string(longest) + " characters on one line");
 }
 
-std::vector<std::string> InputTable::texts(std::string_view key, std::size_t count, std::size_t longest) const {
+std::vector<std::string> InputTable::texts(std::string_view key, std::size_t count,
+                                           std::size_t longest) const {
     const auto* list = node(key).as_array();
     if (!list || list->size() != count) throw not_allowed(key, std::to_string(count) + " texts");
     std::vector<std::string> result;
@@ -196,8 +199,9 @@ std::vector<std::string> InputTable::texts(std::string_view key, std::size_t cou
         const auto* value = entry.as_string();
         if (!value || value->get().empty() || character_count(value->get()) > longest ||
             std::ranges::any_of(value->get(), is_control))
-            throw located(entry, path_of(key) + '[' + std::to_string(result.size() + 1) + "]: value " + shown(entry) +
-                                     "; allowed text of 1 to " + std::to_string(longest) + " characters on one line");
+            throw located(entry, path_of(key) + '[' + std::to_string(result.size() + 1) +
+                                     "]: value " + shown(entry) + "; allowed text of 1 to " +
+                                     std::to_string(longest) + " characters on one line");
         result.push_back(value->get());
     }
     return result;
@@ -215,11 +219,15 @@ int InputTable::choice(std::string_view key, std::span<const std::string_view> n
     throw not_allowed_whole(key, joined(names) + ", or " + from_to(first, last));
 }
 
-std::vector<InputItem> InputTable::items(std::string_view key, std::size_t low, std::size_t high) const {
+std::vector<InputItem> InputTable::items(std::string_view key, std::size_t low,
+                                         std::size_t high) const {
     const auto* list = node(key).as_array();
-    const auto is_item = [](const toml::node& entry) { return entry.is_table() || entry.is_string(); };
+    const auto is_item = [](const toml::node& entry) {
+        return entry.is_table() || entry.is_string();
+    };
     if (!list || list->size() < low || list->size() > high || !std::ranges::all_of(*list, is_item))
-        throw not_allowed(key, std::to_string(low) + " to " + std::to_string(high) + " names or tables of keys");
+        throw not_allowed(
+            key, std::to_string(low) + " to " + std::to_string(high) + " names or tables of keys");
     std::vector<InputItem> result;
     for (const toml::node& entry : *list) {
         const std::string number = path_of(key) + '[' + std::to_string(result.size() + 1) + ']';

@@ -63,7 +63,8 @@ class InputTable {
     double number(std::string_view key, const Range& range, double otherwise) const;
     // A list of so many numbers, or one number that stands for all of them.
     std::vector<double> numbers(std::string_view key, std::size_t count, const Range& range) const;
-    std::vector<std::string> texts(std::string_view key, std::size_t count, std::size_t longest = 40) const;
+    std::vector<std::string> texts(std::string_view key, std::size_t count,
+                                   std::size_t longest = 40) const;
     bool is_list(std::string_view key) const { return node(key).is_array(); }
     bool is_text(std::string_view key) const { return node(key).is_string(); }
     bool is_table(std::string_view key) const { return node(key).is_table(); }
@@ -100,8 +101,9 @@ toml::table parsed(std::string_view text, const std::string& name);
 
 class InputFile {
   public:
-    explicit InputFile(const std::string& path);         // "-" for standard input
-    InputFile(std::string name, std::string_view text);  // of a text that is no file, by a name for messages
+    explicit InputFile(const std::string& path);  // "-" for standard input
+    InputFile(std::string name,
+              std::string_view text);  // of a text that is no file, by a name for messages
     InputFile(std::string name, toml::table table);
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;

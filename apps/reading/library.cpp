@@ -45,7 +45,8 @@ void Library::add(std::unique_ptr<InputFile> file, bool may_add_kinds) {
             throw root.error(kind, "unknown kind; known are " + joined(told));
         }
         const InputTable named = root.table(kind);
-        for (const std::string& name : named.keys()) kinds_[kind].insert_or_assign(name, named.table(name));
+        for (const std::string& name : named.keys())
+            kinds_[kind].insert_or_assign(name, named.table(name));
     }
     files_.push_back(std::move(file));
 }
@@ -65,7 +66,8 @@ std::vector<LibraryEntry> Library::entries(std::string_view kind, std::string_vi
     return result;
 }
 
-InputTable Library::named(const InputTable& table, std::string_view key, std::string_view kind) const {
+InputTable Library::named(const InputTable& table, std::string_view key,
+                          std::string_view kind) const {
     return named(table, key, kind, table.text(key, longest_name));
 }
 
@@ -90,7 +92,8 @@ std::string Library::known_names(const Entries& entries, std::string_view wanted
     std::vector<std::string_view>& told = all.size() > most_told && !alike.empty() ? alike : all;
     const bool more = told.size() > most_told;
     if (more) told.resize(most_told);
-    return joined(told) + (more || told.size() < entries.size() ? " and others, see quorvel materials" : "");
+    return joined(told) +
+           (more || told.size() < entries.size() ? " and others, see quorvel materials" : "");
 }
 
 }  // namespace quorvel::host

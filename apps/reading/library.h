@@ -1,5 +1,5 @@
-// Things that an input may call by name: glass, gases, glazing units, materials. The program brings tables of them
-// along (apps/data/*.toml); the user's own files add to these or take their place.
+// Things that an input may call by name: glass, gases, glazing units, materials. The program brings
+// tables of them along (apps/data/*.toml); the user's own files add to these or take their place.
 //
 //     [glass."clear 6"]        # kind and name
 //     thickness = 6
@@ -33,7 +33,8 @@ class Library {
     // Of a kind, by name in the alphabet's order: those whose name has the word in it.
     std::vector<LibraryEntry> entries(std::string_view kind, std::string_view word = "") const;
 
-    // What `key` of an input's table names, as in glass = "clear 6". Throws InputError with names that are known.
+    // What `key` of an input's table names, as in glass = "clear 6". Throws InputError with names
+    // that are known.
     InputTable named(const InputTable& table, std::string_view key, std::string_view kind) const;
 
     // The same of a name that stands in a list at that key.

@@ -17,7 +17,8 @@ class Merger {
     void merge(toml::table& base, toml::table&& over) const {
         for (auto&& [key, value] : over) {
             toml::node* const old = base.get(key.str());
-            const bool away = old && !old->is_boolean() && value.is_boolean() && !*value.value<bool>();
+            const bool away =
+                old && !old->is_boolean() && value.is_boolean() && !*value.value<bool>();
             if (away) {
                 base.erase(key.str());
             } else if (old && old->is_table() && value.is_table()) {
@@ -26,7 +27,8 @@ class Merger {
                 merge(*old->as_array(), std::move(*value.as_array()));
             } else {
                 make_room(base, key.str());
-                std::move(value).visit([&](auto&& node) { base.insert_or_assign(key, std::move(node)); });
+                std::move(value).visit(
+                    [&](auto&& node) { base.insert_or_assign(key, std::move(node)); });
             }
         }
     }
@@ -40,13 +42,16 @@ class Merger {
 
     static bool has_names(const toml::node& node) {
         const auto* list = node.as_array();
-        return list && std::ranges::all_of(*list, [](const toml::node& entry) { return name_of(entry) != nullptr; });
+        return list && std::ranges::all_of(*list, [](const toml::node& entry) {
+                   return name_of(entry) != nullptr;
+               });
     }
 
     void merge(toml::array& base, toml::array&& over) const {
         for (toml::node& entry : over) {
             const std::string name = *name_of(entry);
-            const auto same = std::ranges::find_if(base, [&](const toml::node& old) { return *name_of(old) == name; });
+            const auto same = std::ranges::find_if(
+                base, [&](const toml::node& old) { return *name_of(old) == name; });
             if (same != base.end())
                 merge(*same->as_table(), std::move(*entry.as_table()));
             else
@@ -84,7 +89,8 @@ std::vector<Variant> read_variants(const std::string& path, const Alternatives& 
         if (!table.has("name")) throw table.error("", "missing name");
         const std::string name = table.text("name");
         toml::table all = parsed(text, file);
-        toml::table over = std::move(*all.get_as<toml::array>("variant")->get(variants.size() - 1)->as_table());
+        toml::table over =
+            std::move(*all.get_as<toml::array>("variant")->get(variants.size() - 1)->as_table());
         over.erase("name");
         toml::table base = base_of(std::move(all));
         merger.merge(base, std::move(over));

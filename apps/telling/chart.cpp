@@ -74,7 +74,8 @@ std::string area(const std::string& rows, std::size_t column, const char* colour
 
 std::string bars(const std::string& rows, std::size_t column, const char* colour, double width) {
     const std::string at = "using 1:" + std::to_string(column) + ":(" + shortest(width) + ")";
-    return rows + ' ' + at + " with boxes fillstyle solid 1 noborder linecolor rgb '" + colour + '\'';
+    return rows + ' ' + at + " with boxes fillstyle solid 1 noborder linecolor rgb '" + colour +
+           '\'';
 }
 
 // Its border is drawn as a line for the same reason.
@@ -124,8 +125,8 @@ void Chart::horizontal_names(const std::vector<std::string>& names) {
     std::string places;
     for (std::size_t i = 0; i < names.size(); ++i)
         places += (i > 0 ? ", " : "") + quoted(names[i]) + ' ' + std::to_string(i);
-    commands_ += "set xrange [-0.5:" + shortest(static_cast<double>(names.size()) - 0.5) + "]\nset xtics nomirror (" +
-                 places + ")\n";
+    commands_ += "set xrange [-0.5:" + shortest(static_cast<double>(names.size()) - 0.5) +
+                 "]\nset xtics nomirror (" + places + ")\n";
 }
 
 void Chart::text(double x, double y, const std::string& text, const Style& style) {

@@ -14,8 +14,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
                                   window::calculate(job.site, design, job.windows)};
         for (const window::WindowDay& of_window : day.day.windows)
             for (const window::WindowHour& at : of_window.at)
-                fuzz::require(!(at.sunlit > 1) && !(at.transmitted() > at.incident() * 1.001 + 0.001),
-                              "no part exceeds the whole");
+                fuzz::require(
+                    !(at.sunlit > 1) && !(at.transmitted() > at.incident() * 1.001 + 0.001),
+                    "no part exceeds the whole");
         window::told(day, {});
     });
     return 0;

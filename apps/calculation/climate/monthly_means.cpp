@@ -34,7 +34,8 @@ MonthlyMeans monthly_means(const WeatherYear& weather) {
         const auto month = static_cast<std::size_t>(day.month - 1);
         for (const Hour& hour : day.hours) {
             means.temperature[month] += hour.dry_bulb;
-            means.vapour_pressure[month] += lib::vapour_pressure(hour.dry_bulb, std::min(hour.relative_humidity, 100.0));
+            means.vapour_pressure[month] +=
+                lib::vapour_pressure(hour.dry_bulb, std::min(hour.relative_humidity, 100.0));
             ++hours[month];
         }
     }

@@ -9,7 +9,8 @@ namespace quorvel::wall {
 double Air::vapour_pressure() const { return lib::vapour_pressure(temperature, humidity); }
 
 Air air_of_pressure(double temperature, double vapour_pressure) {
-    return {temperature, std::min(100 * vapour_pressure / lib::saturation_pressure(temperature), 100.0)};
+    return {temperature,
+            std::min(100 * vapour_pressure / lib::saturation_pressure(temperature), 100.0)};
 }
 
 double saturation_temperature(double vapour_pressure) {
@@ -24,7 +25,8 @@ double saturation_temperature(double vapour_pressure) {
 double vapour_excess(int humidity_class, double outside_temperature) {
     static constexpr double at_0_and_below[humidity_classes] = {270, 540, 810, 1080, 1360};  // Pa
     constexpr double none_from = 20;                                                         // °C
-    return at_0_and_below[humidity_class - 1] * std::clamp(1 - outside_temperature / none_from, 0.0, 1.0);
+    return at_0_and_below[humidity_class - 1] *
+           std::clamp(1 - outside_temperature / none_from, 0.0, 1.0);
 }
 
 }  // namespace quorvel::wall

@@ -25,9 +25,9 @@ struct Assessment {
     Transmittance transmittance;
     Periodic periodic;
     SurfaceYear surface;
-    Path path;                  // through the section of the question
-    std::optional<Year> year;   // of twelve climates
-    std::vector<Profile> dry;   // of each climate by itself, nothing wet from before
+    Path path;                 // through the section of the question
+    std::optional<Year> year;  // of twelve climates
+    std::vector<Profile> dry;  // of each climate by itself, nothing wet from before
 
     double thickness;  // m
     double mass;       // kg/m²

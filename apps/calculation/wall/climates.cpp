@@ -14,10 +14,12 @@ std::vector<Climate> climates(const Indoors& inside, const std::vector<Air>& out
     for (std::size_t i = 0; i < outside.size(); ++i) {
         const double t = inside.temperature[i];
         const auto by_class = [&] {
-            return air_of_pressure(t, outside[i].vapour_pressure() +
-                                          vapour_excess(*inside.humidity_class, outside[i].temperature));
+            return air_of_pressure(
+                t, outside[i].vapour_pressure() +
+                       vapour_excess(*inside.humidity_class, outside[i].temperature));
         };
-        result.push_back({inside.humidity_class ? by_class() : Air{t, inside.humidity[i]}, outside[i]});
+        result.push_back(
+            {inside.humidity_class ? by_class() : Air{t, inside.humidity[i]}, outside[i]});
     }
     return result;
 }

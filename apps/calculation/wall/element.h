@@ -12,9 +12,9 @@ namespace quorvel::wall {
 inline constexpr std::size_t most_layers = 20;
 inline constexpr std::size_t most_sections = 64;
 
-// Of still air, in GN s/(kg m): the reciprocal of its vapour permeability, 2e-10 kg/(m s Pa) (EN ISO 13788).
-// A material of diffusion resistance factor µ has µ times this, a sheet of equivalent air thickness s_d in m
-// has s_d times this in GN s/kg.
+// Of still air, in GN s/(kg m): the reciprocal of its vapour permeability, 2e-10 kg/(m s Pa) (EN
+// ISO 13788). A material of diffusion resistance factor µ has µ times this, a sheet of equivalent
+// air thickness s_d in m has s_d times this in GN s/kg.
 inline constexpr double resistivity_of_air = 5;
 
 enum class HeatFlow { up, horizontal, down };
@@ -61,22 +61,24 @@ struct Layer {
     double thickness;         // m; 0 of a membrane
     std::vector<Part> parts;  // one, the layer's own, where it is homogeneous
 
-    // The parts stand in line, in the same order, with those of the next inhomogeneous layer towards the
-    // inside; otherwise they cross them.
+    // The parts stand in line, in the same order, with those of the next inhomogeneous layer
+    // towards the inside; otherwise they cross them.
     bool in_line = false;
 
     std::optional<Fasteners> fasteners = {};
-    int air_voids = 0;  // level 0, 1 or 2 of EN ISO 6946: none, bridging, and with air moving behind as well
+    int air_voids =
+        0;  // level 0, 1 or 2 of EN ISO 6946: none, bridging, and with air moving behind as well
 
     bool homogeneous() const { return parts.size() == 1; }
 };
 
 struct Element {
     HeatFlow heat_flow = HeatFlow::horizontal;
-    int exposure = 2;                                             // to the wind: 1 sheltered, 2 normal, 3 severe
+    int exposure = 2;  // to the wind: 1 sheltered, 2 normal, 3 severe
     std::optional<double> inside_resistance, outside_resistance;  // m²K/W of the surfaces
-    bool in_ventilated_gap = false;  // at the outside, where what lies beyond is left out (EN ISO 6946)
-    std::vector<Layer> layers;       // 1 to 20, the first at the room
+    bool in_ventilated_gap =
+        false;                  // at the outside, where what lies beyond is left out (EN ISO 6946)
+    std::vector<Layer> layers;  // 1 to 20, the first at the room
 };
 
 }  // namespace quorvel::wall

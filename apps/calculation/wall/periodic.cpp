@@ -13,7 +13,8 @@ namespace {
 constexpr int daily = 1, between_two_environments = 1, partition = 2;
 constexpr double angular_frequency = 2 * std::numbers::pi / 86400;  // 1/s
 
-// As the library takes them: a layer that stores no heat by a negative thickness and its resistance.
+// As the library takes them: a layer that stores no heat by a negative thickness and its
+// resistance.
 struct Layers {
     std::vector<double> thickness, conductivity, density, specific_heat;
 
@@ -24,10 +25,12 @@ struct Layers {
         this->specific_heat.push_back(specific_heat);
     }
     void turn_round() {
-        for (auto* quantity : {&thickness, &conductivity, &density, &specific_heat}) std::ranges::reverse(*quantity);
+        for (auto* quantity : {&thickness, &conductivity, &density, &specific_heat})
+            std::ranges::reverse(*quantity);
     }
     lib::CyclicResponse response(double near, double far, int kind) const {
-        return lib::cyclic_response(thickness, conductivity, density, specific_heat, near, far, daily, kind);
+        return lib::cyclic_response(thickness, conductivity, density, specific_heat, near, far,
+                                    daily, kind);
     }
 };
 
@@ -59,14 +62,18 @@ double hours(double shift) { return shift > 23.95 ? 0.0 : shift; }
 
 }  // namespace
 
-Periodic periodic(const Element& element, const std::vector<Section>& sections, const Surfaces& surfaces) {
+Periodic periodic(const Element& element, const std::vector<Section>& sections,
+                  const Surfaces& surfaces) {
     Layers layers = as_lists(element, sections);
-    const auto inside = layers.response(surfaces.inside, surfaces.outside, between_two_environments);
+    const auto inside =
+        layers.response(surfaces.inside, surfaces.outside, between_two_environments);
     const auto inside_swing = layers.response(surfaces.inside, surfaces.outside, partition);
     layers.turn_round();
-    const auto outside = layers.response(surfaces.outside, surfaces.inside, between_two_environments);
+    const auto outside =
+        layers.response(surfaces.outside, surfaces.inside, between_two_environments);
     const auto outside_swing = layers.response(surfaces.outside, surfaces.inside, partition);
-    if (!std::isfinite(inside.decrement_factor) || !std::isfinite(outside.decrement_factor)) return {};
+    if (!std::isfinite(inside.decrement_factor) || !std::isfinite(outside.decrement_factor))
+        return {};
     return {.admittance = inside.admittance,
             .admittance_lead = hours(inside.admittance_lead),
             .outside_admittance = outside.admittance,

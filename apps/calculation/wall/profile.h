@@ -1,4 +1,5 @@
-// Temperature and vapour pressure through a section in a steady state (Glaser's method, EN ISO 13788).
+// Temperature and vapour pressure through a section in a steady state (Glaser's method, EN ISO
+// 13788).
 #pragma once
 
 #include <vector>
@@ -8,11 +9,13 @@
 
 namespace quorvel::wall {
 
-// Where a profile is known. Layers of more than 0.25 m²K/W are divided, since saturation falls in a curve there.
+// Where a profile is known. Layers of more than 0.25 m²K/W are divided, since saturation falls in a
+// curve there.
 struct Place {
-    std::size_t index;         // of the interface, 0 at the inside surface; or of the layer in which it lies
-    bool within;               // a layer
-    double position;           // m from the inside surface
+    std::size_t
+        index;        // of the interface, 0 at the inside surface; or of the layer in which it lies
+    bool within;      // a layer
+    double position;  // m from the inside surface
     double resistance;         // m²K/W from the air inside
     double vapour_resistance;  // GN s/kg from the inside surface; the air has none
 };
@@ -29,14 +32,15 @@ struct Profile {
     std::vector<double> temperature;  // °C
     std::vector<double> saturation;   // Pa
     std::vector<double> pressure;     // of vapour, Pa
-    std::vector<double> gain;         // of water, g/m² a day; below 0 where it evaporates, 0 at the surfaces
-    bool inside_wet, outside_wet;     // vapour of the air condenses on the surface
+    std::vector<double>
+        gain;  // of water, g/m² a day; below 0 where it evaporates, 0 at the surfaces
+    bool inside_wet, outside_wet;  // vapour of the air condenses on the surface
 
     double relative_humidity(std::size_t i) const { return 100 * pressure[i] / saturation[i]; }
 };
 
-// Vapour pressure does not exceed saturation anywhere, and is held to it at places that are wet, where there is
-// water from before. What arrives at a place and does not pass on condenses there.
+// Vapour pressure does not exceed saturation anywhere, and is held to it at places that are wet,
+// where there is water from before. What arrives at a place and does not pass on condenses there.
 Profile profile(const Path& path, const Climate& climate, const std::vector<bool>& wet);
 
 // Where nothing is wet from before.

@@ -12,18 +12,22 @@ namespace {
 constexpr int outside_surface = 1, inside_surface = 2;
 
 double tilt(HeatFlow flow) {
-    return flow == HeatFlow::up ? 0 : flow == HeatFlow::horizontal ? std::numbers::pi / 2 : std::numbers::pi;
+    return flow == HeatFlow::up           ? 0
+           : flow == HeatFlow::horizontal ? std::numbers::pi / 2
+                                          : std::numbers::pi;
 }
 
 Slab slab(const Layer& layer, const Part& part, double tilt) {
     if (const auto* solid = std::get_if<Solid>(&part.make))
         return {&part, layer.thickness, layer.thickness / solid->conductivity,
                 layer.thickness * solid->vapour_resistivity};
-    if (const auto* membrane = std::get_if<Membrane>(&part.make)) return {&part, 0, 0, membrane->vapour_resistance};
+    if (const auto* membrane = std::get_if<Membrane>(&part.make))
+        return {&part, 0, 0, membrane->vapour_resistance};
     const auto& [resistance, emissivities] = std::get<Gap>(part.make);
     return {&part, layer.thickness,
             resistance ? *resistance
-                       : lib::air_cavity_resistance(tilt, layer.thickness, emissivities[0], emissivities[1]),
+                       : lib::air_cavity_resistance(tilt, layer.thickness, emissivities[0],
+                                                    emissivities[1]),
             layer.thickness * resistivity_of_air};
 }
 
@@ -66,10 +70,12 @@ double sum(const Section& section, double Slab::*quantity) {
 
 Surfaces surface_resistances(const Element& element) {
     const auto of = [&](const std::optional<double>& given, int surface) {
-        return given ? *given : lib::surface_resistance(surface, tilt(element.heat_flow), element.exposure);
+        return given ? *given
+                     : lib::surface_resistance(surface, tilt(element.heat_flow), element.exposure);
     };
-    return {of(element.inside_resistance, inside_surface), 
-            of(element.outside_resistance, element.in_ventilated_gap ? inside_surface : outside_surface)};
+    return {of(element.inside_resistance, inside_surface),
+            of(element.outside_resistance,
+               element.in_ventilated_gap ? inside_surface : outside_surface)};
 }
 
 std::vector<Section> sections(const Element& element) {
@@ -77,8 +83,8 @@ std::vector<Section> sections(const Element& element) {
     for (const Choice& choice : choices(element.layers)) {
         Section section{fraction(element.layers, choice), {}};
         for (std::size_t i = 0; i < choice.size(); ++i)
-            section.slabs.push_back(
-                slab(element.layers[i], element.layers[i].parts[choice[i]], tilt(element.heat_flow)));
+            section.slabs.push_back(slab(element.layers[i], element.layers[i].parts[choice[i]],
+                                         tilt(element.heat_flow)));
         result.push_back(std::move(section));
     }
     std::ranges::stable_sort(result, std::greater(), &Section::fraction);

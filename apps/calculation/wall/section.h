@@ -1,5 +1,5 @@
-// Sections of an element: the ways straight through it. One where all layers are homogeneous; otherwise one for
-// each combination of parts that heat can meet.
+// Sections of an element: the ways straight through it. One where all layers are homogeneous;
+// otherwise one for each combination of parts that heat can meet.
 #pragma once
 
 #include <vector>
@@ -24,11 +24,12 @@ struct Surfaces {
     double inside, outside;  // m²K/W
 };
 
-// As given, or after the direction of the heat and the exposure to the wind; in a well-ventilated gap both are those
-// of inside surfaces.
+// As given, or after the direction of the heat and the exposure to the wind; in a well-ventilated
+// gap both are those of inside surfaces.
 Surfaces surface_resistances(const Element& element);
 
-// The largest first, at most most_sections of them; empty where there are more. They refer to the element.
+// The largest first, at most most_sections of them; empty where there are more. They refer to the
+// element.
 std::vector<Section> sections(const Element& element);
 
 double resistance(const Section& section);         // m²K/W, without the surfaces

@@ -33,7 +33,8 @@ SurfaceYear surface_year(const std::vector<Section>& sections, const Surfaces& s
                          std::span<const Climate> climates, const SurfaceDemand& demand) {
     SurfaceYear year{};
     year.factor = temperature_factor(sections, demand.inside_resistance, surfaces.outside);
-    for (const Climate& climate : climates) year.months.push_back(month(climate, year.factor, demand.humidity));
+    for (const Climate& climate : climates)
+        year.months.push_back(month(climate, year.factor, demand.humidity));
     const auto demanding = [&](std::size_t m) {
         const double required = year.months[m].required;
         return std::pair(std::isnan(required) ? 0 : required, -climates[m].outside.temperature);

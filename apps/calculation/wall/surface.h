@@ -19,17 +19,18 @@ struct SurfaceDemand {
 };
 
 struct SurfaceOfMonth {
-    double temperature;          // of the surface, °C
-    double humidity;             // at the surface, %; 100 where vapour condenses
-    double least_temperature;    // °C, at which the humidity there is that of the demand
-    double required = none;      // f_Rsi; none where the air outside is as warm as that temperature or inside
+    double temperature;        // of the surface, °C
+    double humidity;           // at the surface, %; 100 where vapour condenses
+    double least_temperature;  // °C, at which the humidity there is that of the demand
+    double required =
+        none;  // f_Rsi; none where the air outside is as warm as that temperature or inside
 };
 
 struct SurfaceYear {
     double factor;                       // f_Rsi of the coldest section
     std::vector<SurfaceOfMonth> months;  // of the climates
     double required = none;              // in the critical month
-    std::size_t critical = 0;            // that of the highest demand; without any, the coldest outside
+    std::size_t critical = 0;  // that of the highest demand; without any, the coldest outside
 
     bool mould() const { return required > factor; }
 };

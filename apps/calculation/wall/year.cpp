@@ -7,7 +7,8 @@
 namespace quorvel::wall {
 namespace {
 
-constexpr std::array<double, months_of_year> days = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+constexpr std::array<double, months_of_year> days = {31, 28, 31, 30, 31, 30,
+                                                     31, 31, 30, 31, 30, 31};
 
 bool condenses(const Profile& profile, double days) {
     double gain = 0;
@@ -25,20 +26,25 @@ std::vector<bool> wet_places(const std::vector<double>& content) {
 double steady_time(const Profile& profile, const std::vector<double>& content, double longest) {
     double time = longest;
     for (std::size_t i = 0; i < content.size(); ++i)
-        if (content[i] > 0 && profile.gain[i] < 0) time = std::min(time, content[i] / -profile.gain[i]);
+        if (content[i] > 0 && profile.gain[i] < 0)
+            time = std::min(time, content[i] / -profile.gain[i]);
     return time;
 }
 
-void advance(MonthOfYear& month, const Profile& profile, std::vector<double>& content, double time) {
+void advance(MonthOfYear& month, const Profile& profile, std::vector<double>& content,
+             double time) {
     for (std::size_t i = 0; i < content.size(); ++i) {
         const double gain = profile.gain[i] * time;
         const bool dried = gain < 0 && profile.gain[i] * time <= -content[i] * (1 - 1e-12);
-        (gain > 0 ? month.condensed : month.evaporated) += gain > 0 ? gain : dried ? content[i] : -gain;
+        (gain > 0 ? month.condensed : month.evaporated) += gain > 0 ? gain
+                                                           : dried  ? content[i]
+                                                                    : -gain;
         content[i] = dried ? 0 : content[i] + gain;
     }
 }
 
-MonthOfYear pass_month(const Path& path, const Climate& climate, std::size_t number, std::vector<double>& content) {
+MonthOfYear pass_month(const Path& path, const Climate& climate, std::size_t number,
+                       std::vector<double>& content) {
     MonthOfYear month{number, profile(path, climate, wet_places(content)), 0, 0, 0};
     Profile now = month.profile;
     for (double rest = days[number]; rest > 0;) {  // a place dries at most once, so that this ends
@@ -53,25 +59,30 @@ MonthOfYear pass_month(const Path& path, const Climate& climate, std::size_t num
 
 // Of a place, the deposit to which it belongs.
 Deposit& deposit_of(const Place& place, std::vector<Deposit>& deposits) {
-    const auto found = std::ranges::find_if(
-        deposits, [&](const Deposit& d) { return d.index == place.index && d.within == place.within; });
+    const auto found = std::ranges::find_if(deposits, [&](const Deposit& d) {
+        return d.index == place.index && d.within == place.within;
+    });
     if (found != deposits.end()) return *found;
     return deposits.emplace_back(Deposit{place.index, place.within, {}, {}});
 }
 
-void keep(std::vector<Deposit>& deposits, const Path& path, const std::vector<double>& content, std::size_t m) {
+void keep(std::vector<Deposit>& deposits, const Path& path, const std::vector<double>& content,
+          std::size_t m) {
     for (std::size_t i = 0; i < content.size(); ++i)
         deposit_of(path.places[i], deposits).content[m] += content[i];
 }
 
 void finish(Year& year) {
     for (Deposit& deposit : year.deposits)
-        std::adjacent_difference(deposit.content.begin(), deposit.content.end(), deposit.gain.begin());
-    std::erase_if(year.deposits, [](const Deposit& deposit) { return deposit.peak() < least_water; });
+        std::adjacent_difference(deposit.content.begin(), deposit.content.end(),
+                                 deposit.gain.begin());
+    std::erase_if(year.deposits,
+                  [](const Deposit& deposit) { return deposit.peak() < least_water; });
     const auto most = std::ranges::max_element(year.months, {}, &MonthOfYear::content);
     year.wettest = static_cast<std::size_t>(most - year.months.begin());
-    const auto wet = std::find_if(year.months.rbegin(), year.months.rend(),
-                                  [](const MonthOfYear& month) { return month.content >= least_water; });
+    const auto wet =
+        std::find_if(year.months.rbegin(), year.months.rend(),
+                     [](const MonthOfYear& month) { return month.content >= least_water; });
     year.dry_from = static_cast<std::size_t>(year.months.rend() - wet);
 }
 
@@ -97,7 +108,8 @@ const MonthOfYear& Year::of(std::size_t month) const {
 
 Year year(const Path& path, std::span<const Climate> months) {
     std::array<bool, months_of_year> wet;
-    for (std::size_t m = 0; m < months_of_year; ++m) wet[m] = condenses(profile(path, months[m]), days[m]);
+    for (std::size_t m = 0; m < months_of_year; ++m)
+        wet[m] = condenses(profile(path, months[m]), days[m]);
     std::optional<Year> best;
     for (std::size_t m = 0; m < months_of_year; ++m) {
         if (!wet[m] || wet[(m + months_of_year - 1) % months_of_year]) continue;

@@ -35,8 +35,8 @@ Side in_direct_sun(const Slats& slats, double profile) {
     const bool from_above = profile + host::radians(slats.angle) > 0;
     const double struck = from_above ? slats.upper_absorptance : slats.lower_absorptance;
     const double opposite = from_above ? slats.lower_absorptance : slats.upper_absorptance;
-    const auto through =
-        lib::two_faced_slat_direct(slats.spacing, slats.width, slats.angle, profile, struck, opposite);
+    const auto through = lib::two_faced_slat_direct(slats.spacing, slats.width, slats.angle,
+                                                    profile, struck, opposite);
     return balanced(through.transmittance, through.absorptance);
 }
 
@@ -52,14 +52,16 @@ struct Halves {
     Side upper, lower;
 };
 Halves in_diffuse_radiation(const Slats& slats, double struck, double opposite) {
-    const auto through = lib::two_faced_slat_diffuse(slats.spacing, slats.width, slats.angle, struck, opposite);
+    const auto through =
+        lib::two_faced_slat_diffuse(slats.spacing, slats.width, slats.angle, struck, opposite);
     return {balanced(through.sky_transmittance, through.sky_absorptance),
             balanced(through.ground_transmittance, through.ground_absorptance)};
 }
 
 Halves in_diffuse_radiation(const Slats& slats) {
     const double above = slats.upper_absorptance, below = slats.lower_absorptance;
-    return {in_diffuse_radiation(slats, above, below).upper, in_diffuse_radiation(slats, below, above).lower};
+    return {in_diffuse_radiation(slats, above, below).upper,
+            in_diffuse_radiation(slats, below, above).lower};
 }
 
 Side mean(const Halves& halves) {
@@ -68,7 +70,8 @@ Side mean(const Halves& halves) {
 }
 
 Screen screen(const Slats& slats, double profile) {
-    const Slats behind = from_inside(slats);  // met by what the panes reflect, which comes from above as before
+    const Slats behind =
+        from_inside(slats);  // met by what the panes reflect, which comes from above as before
     const double through = straight(slats, profile), through_back = straight(behind, profile);
     Side front = in_direct_sun(slats, profile), back = in_direct_sun(behind, profile);
     front.transmittance = std::max(front.transmittance - through, 0.0);
@@ -86,7 +89,8 @@ Screen screen(const Fabric& fabric, float) {
 }
 
 DiffuseScreens screens(const Slats& slats) {
-    const Halves front = in_diffuse_radiation(slats), back = in_diffuse_radiation(from_inside(slats));
+    const Halves front = in_diffuse_radiation(slats),
+                 back = in_diffuse_radiation(from_inside(slats));
     return {{0, 0, layer(front.upper, back.upper)}, {0, 0, layer(front.lower, back.lower)}};
 }
 
@@ -128,7 +132,8 @@ Layer in_scattered_radiation(const Blind& blind) {
 }
 
 Layer in_thermal_radiation(const Blind& blind) {
-    return std::visit([&](const auto& make) { return thermal(make, blind.emissivity); }, blind.make);
+    return std::visit([&](const auto& make) { return thermal(make, blind.emissivity); },
+                      blind.make);
 }
 
 }  // namespace quorvel::window

@@ -7,15 +7,17 @@ namespace quorvel::window {
 
 // For radiation of one kind: what passes straight, and what is scattered or absorbed.
 struct Screen {
-    double straight = 0, straight_back = 0;  // from outdoors and, once reflected, from the room's side
-    Layer scattered = {};                    // without what passes straight
+    double straight = 0,
+           straight_back = 0;  // from outdoors and, once reflected, from the room's side
+    Layer scattered = {};      // without what passes straight
 };
 
-// For the sun at a profile angle [rad]: its angle off the window's normal in the plane across the slats, positive
-// from above.
+// For the sun at a profile angle [rad]: its angle off the window's normal in the plane across the
+// slats, positive from above.
 Screen in_direct_sun(const Blind& blind, double profile);
 
-// For diffuse radiation from the upper and from the lower half of what the window faces. All of it is scattered.
+// For diffuse radiation from the upper and from the lower half of what the window faces. All of it
+// is scattered.
 struct DiffuseScreens {
     Screen upper, lower;
 };

@@ -27,8 +27,8 @@ Law law(double tilt) {
     return {std::pow(0.16, 1 - share) * std::pow(0.035, share), 0.28 + share * (0.38 - 0.28)};
 }
 
-// Heat that flows down, or up in a cavity that leans outwards over the room, stays where it is; in a vertical one
-// it rises either way.
+// Heat that flows down, or up in a cavity that leans outwards over the room, stays where it is; in
+// a vertical one it rises either way.
 double nusselt(double grashof_prandtl, double tilt, bool outwards) {
     const bool leans_over = tilt > 90;
     const double slope = leans_over ? 180 - tilt : tilt;
@@ -51,18 +51,20 @@ GasState at(const Gas& gas, double temperature) {
 double gas_conductance(const Cavity& cavity, double outer, double inner, double tilt) {
     const double mean = (outer + inner) / 2, width = cavity.width / 1000;
     const GasState gas = at(cavity.gas, mean);
-    const double grashof = gravity * std::pow(width, 3) * std::fabs(inner - outer) * gas.density * gas.density /
-                           ((mean + kelvin) * gas.viscosity * gas.viscosity);
+    const double grashof = gravity * std::pow(width, 3) * std::fabs(inner - outer) * gas.density *
+                           gas.density / ((mean + kelvin) * gas.viscosity * gas.viscosity);
     const double prandtl = gas.viscosity * gas.specific_heat / gas.conductivity;
     return nusselt(grashof * prandtl, tilt, inner > outer) * gas.conductivity / width;
 }
 
 double radiative_conductance(double emissivity_a, double emissivity_b, double temperature) {
-    return 4 * stefan_boltzmann * std::pow(temperature + kelvin, 3) / (1 / emissivity_a + 1 / emissivity_b - 1);
+    return 4 * stefan_boltzmann * std::pow(temperature + kelvin, 3) /
+           (1 / emissivity_a + 1 / emissivity_b - 1);
 }
 
 double u_value(const Unit& unit, double tilt) {
-    constexpr double mean = 10, difference = 15, outdoors = 25, convection_indoors = 3.6, radiation_indoors = 4.1;
+    constexpr double mean = 10, difference = 15, outdoors = 25, convection_indoors = 3.6,
+                     radiation_indoors = 4.1;
     const std::size_t n = unit.cavities.size();
     std::vector<double> resistance(n, 1);
     for (int iteration = 0; iteration < 20; ++iteration) {
@@ -70,8 +72,8 @@ double u_value(const Unit& unit, double tilt) {
         for (std::size_t k = 0; k < n; ++k) {
             const double half = difference * resistance[k] / sum / 2;
             resistance[k] = 1 / (gas_conductance(unit.cavities[k], mean - half, mean + half, tilt) +
-                                 radiative_conductance(unit.panes[k].emissivity[1], unit.panes[k + 1].emissivity[0],
-                                                       mean));
+                                 radiative_conductance(unit.panes[k].emissivity[1],
+                                                       unit.panes[k + 1].emissivity[0], mean));
         }
     }
     double total = std::accumulate(resistance.begin(), resistance.end(), 1 / outdoors);

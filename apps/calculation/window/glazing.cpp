@@ -13,8 +13,8 @@
 namespace quorvel::window {
 namespace {
 
-// What the library's pane temperatures take for granted: plain panes, cavities of this resistance to a tenth of it,
-// and no blind.
+// What the library's pane temperatures take for granted: plain panes, cavities of this resistance
+// to a tenth of it, and no blind.
 constexpr double library_cavity = 0.135;  // m²K/W
 constexpr double library_inside = 0.12;   // m²K/W
 
@@ -29,8 +29,10 @@ template <class Glazing>
 Passage share_of_all(const Glazing& glazing, const Irradiance& at) {
     const double total = at.direct + at.sky + at.ground;
     if (!(total > 0)) return {};
-    Passage sum = weighted(glazing.from_sky(), at.sky / total, glazing.from_ground(), at.ground / total);
-    if (at.direct > 0) sum = weighted(sum, 1, glazing.direct(at.incidence, at.profile), at.direct / total);
+    Passage sum =
+        weighted(glazing.from_sky(), at.sky / total, glazing.from_ground(), at.ground / total);
+    if (at.direct > 0)
+        sum = weighted(sum, 1, glazing.direct(at.incidence, at.profile), at.direct / total);
     return sum;
 }
 
@@ -47,7 +49,8 @@ Polarised in_direct_sun(const Pane& pane, double incidence) {
             (back ? layer.back_reflectance : layer.front_reflectance) = std::max(1 - t - a, 0.0);
         };
         set(result.parallel, glass.parallel_transmittance, glass.parallel_absorptance);
-        set(result.perpendicular, glass.perpendicular_transmittance, glass.perpendicular_absorptance);
+        set(result.perpendicular, glass.perpendicular_transmittance,
+            glass.perpendicular_absorptance);
     }
     return result;
 }
@@ -62,13 +65,15 @@ Layer in_diffuse_radiation(const Pane& pane) {
 }
 
 // The library counts panes from the room. Of four panes it takes and gives five values.
-PerLayer library_temperatures(double room, double outdoor, std::size_t panes, const PerLayer& absorbed) {
+PerLayer library_temperatures(double room, double outdoor, std::size_t panes,
+                              const PerLayer& absorbed) {
     std::array<double, most_panes> s{};
     for (std::size_t k = 0; k < panes; ++k) s[k] = absorbed[panes - 1 - k];
-    const auto t =
-        lib::pane_temperatures(room, outdoor, static_cast<int>(panes), s[0], s[1], s[2], s[3], s[4]);
-    const std::array<double, most_panes> from_room{t.pane_temperature_1, t.pane_temperature_2, t.pane_temperature_3,
-                                                   t.pane_temperature_4, t.pane_temperature_5};
+    const auto t = lib::pane_temperatures(room, outdoor, static_cast<int>(panes), s[0], s[1], s[2],
+                                          s[3], s[4]);
+    const std::array<double, most_panes> from_room{t.pane_temperature_1, t.pane_temperature_2,
+                                                   t.pane_temperature_3, t.pane_temperature_4,
+                                                   t.pane_temperature_5};
     PerLayer result{};
     for (std::size_t k = 0; k < panes; ++k) result[k] = from_room[panes - 1 - k];
     return result;
@@ -82,7 +87,9 @@ PerLayer times(const PerLayer& shares, double factor) {
 
 }  // namespace
 
-double Passage::absorbed_total() const { return std::accumulate(absorbed.begin(), absorbed.end(), 0.0); }
+double Passage::absorbed_total() const {
+    return std::accumulate(absorbed.begin(), absorbed.end(), 0.0);
+}
 
 Panes::Panes(const Unit& unit, const std::optional<Blind>& blind, double tilt)
     : unit_(unit),
@@ -99,10 +106,11 @@ Panes::Panes(const Unit& unit, const std::optional<Blind>& blind, double tilt)
         from_sky_ = from_ground_ = through(glass, {});
         return;
     }
-    diffuse_.insert(diffuse_.begin() + static_cast<std::ptrdiff_t>(place_), in_scattered_radiation(*blind));
-    // A vertical window has the sky in the upper half of its view and the ground in the lower. Tilted upwards, it has
-    // by cos(tilt) as much sky in the lower half as in the upper, and downwards so of the ground: as much again for a
-    // level one.
+    diffuse_.insert(diffuse_.begin() + static_cast<std::ptrdiff_t>(place_),
+                    in_scattered_radiation(*blind));
+    // A vertical window has the sky in the upper half of its view and the ground in the lower.
+    // Tilted upwards, it has by cos(tilt) as much sky in the lower half as in the upper, and
+    // downwards so of the ground: as much again for a level one.
     const auto [above, below] = window::in_diffuse_radiation(*blind);
     const Passage upper = through(glass, above), lower = through(glass, below);
     const double cosine = std::cos(host::radians(tilt));
@@ -122,14 +130,16 @@ bool Panes::is_as_the_library_takes_it() const {
     if (blind_ || unit_.panes.size() == 4) return false;
     const bool plain = std::ranges::all_of(unit_.panes, &Pane::is_plain);
     return plain && std::ranges::all_of(unit_.cavities, [&](const Cavity& cavity) {
-        const double conductance =
-            gas_conductance(cavity, temperature - difference / 2, temperature + difference / 2, tilt_) +
-            radiative_conductance(plain_emissivity, plain_emissivity, temperature);
-        return std::fabs(1 / conductance - library_cavity) < 0.1 * library_cavity;
-    });
+               const double conductance =
+                   gas_conductance(cavity, temperature - difference / 2,
+                                   temperature + difference / 2, tilt_) +
+                   radiative_conductance(plain_emissivity, plain_emissivity, temperature);
+               return std::fabs(1 / conductance - library_cavity) < 0.1 * library_cavity;
+           });
 }
 
-// What goes straight through the blind keeps its direction; what the blind scatters is diffuse from then on.
+// What goes straight through the blind keeps its direction; what the blind scatters is diffuse from
+// then on.
 Passage Panes::through(std::span<const Layer> glass, const Screen& screen) const {
     std::array<Layer, most_layers> layers{};
     std::ranges::copy(glass, layers.begin());
@@ -172,7 +182,8 @@ Passage Panes::direct(double incidence, double profile) const {
         perpendicular[k] = layer.perpendicular;
     }
     const Screen screen = blind_ ? in_direct_sun(*blind_, profile) : Screen{};
-    return weighted(through({parallel.data(), n}, screen), 0.5, through({perpendicular.data(), n}, screen), 0.5);
+    return weighted(through({parallel.data(), n}, screen), 0.5,
+                    through({perpendicular.data(), n}, screen), 0.5);
 }
 
 Passage Panes::all(const Irradiance& irradiance) const { return share_of_all(*this, irradiance); }
@@ -187,8 +198,10 @@ Gain Panes::gain(double room, double outdoor, const Irradiance& irradiance) cons
     const PerLayer absorbed = times(passage.absorbed, total);
     const HeatFlow dark = design_(room, outdoor, {});
     const HeatFlow flow = total > 0 ? design_(room, outdoor, absorbed) : dark;
-    Gain gain{total * passage.transmitted, flow.inwards - dark.inwards, dark.inwards, flow.temperature};
-    if (method_ == Method::pane_temperatures) gain.temperature = temperatures(room, outdoor, absorbed);
+    Gain gain{total * passage.transmitted, flow.inwards - dark.inwards, dark.inwards,
+              flow.temperature};
+    if (method_ == Method::pane_temperatures)
+        gain.temperature = temperatures(room, outdoor, absorbed);
     return gain;
 }
 
@@ -198,9 +211,11 @@ double Panes::rated_gain(const Passage& passage) const {
 }
 
 // The library's table of shares, pane 1 nearest the room, read from the way it splits a remainder.
-EquivalentPane::EquivalentPane(const ShadingCoefficients& coefficients) : coefficients_(coefficients) {
+EquivalentPane::EquivalentPane(const ShadingCoefficients& coefficients)
+    : coefficients_(coefficients) {
     const auto& [short_wave, long_wave, panes] = coefficients;
-    const std::vector<double> split = lib::unit_diffuse_shares(short_wave, long_wave, panes).pane_shares;
+    const std::vector<double> split =
+        lib::unit_diffuse_shares(short_wave, long_wave, panes).pane_shares;
     const double sum = std::accumulate(split.begin(), split.end(), 0.0);
     for (std::size_t k = 0; k < layers(); ++k) shares_[k] = split[layers() - 1 - k] / sum;
     const auto diffuse = lib::unit_diffuse(short_wave, long_wave);
@@ -208,11 +223,14 @@ EquivalentPane::EquivalentPane(const ShadingCoefficients& coefficients) : coeffi
 }
 
 Passage EquivalentPane::direct(double incidence, double) const {
-    const auto direct = lib::unit_direct(coefficients_.short_wave, coefficients_.long_wave, incidence);
+    const auto direct =
+        lib::unit_direct(coefficients_.short_wave, coefficients_.long_wave, incidence);
     return {direct.transmittance, times(shares_, direct.absorptance)};
 }
 
-Passage EquivalentPane::all(const Irradiance& irradiance) const { return share_of_all(*this, irradiance); }
+Passage EquivalentPane::all(const Irradiance& irradiance) const {
+    return share_of_all(*this, irradiance);
+}
 
 // A long-wave coefficient stands for a third of what is absorbed: the rest goes back outdoors.
 double EquivalentPane::rated_gain(const Passage& passage) const {
@@ -260,7 +278,8 @@ UnitFigures unit_figures(const Window& window) {
     const Passage through_blind = shaded.direct(0, 0);
     figures.transmittance_with_blind = through_blind.transmitted;
     figures.g_with_blind = shaded.rated_gain(through_blind);
-    figures.g_diffuse_with_blind = (shaded.rated_gain(shaded.from_sky()) + shaded.rated_gain(shaded.from_ground())) / 2;
+    figures.g_diffuse_with_blind =
+        (shaded.rated_gain(shaded.from_sky()) + shaded.rated_gain(shaded.from_ground())) / 2;
     return figures;
 }
 

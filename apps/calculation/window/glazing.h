@@ -1,4 +1,5 @@
-// The glazing of a window and its blind: what becomes of the radiation that falls on them, and of the heat.
+// The glazing of a window and its blind: what becomes of the radiation that falls on them, and of
+// the heat.
 #pragma once
 
 #include <string>
@@ -100,7 +101,9 @@ struct Opening {
     Method method() const { return Method::heat_balance; }
     Passage direct(double, double) const { return {1, {}}; }
     Passage all(const Irradiance&) const { return {1, {}}; }
-    Gain gain(double, double, const Irradiance& i) const { return {i.direct + i.sky + i.ground, 0, 0, {}}; }
+    Gain gain(double, double, const Irradiance& i) const {
+        return {i.direct + i.sky + i.ground, 0, 0, {}};
+    }
 };
 
 using AnyGlazing = std::variant<Opening, Panes, EquivalentPane>;
@@ -108,13 +111,14 @@ using AnyGlazing = std::variant<Opening, Panes, EquivalentPane>;
 // Without or with the window's blind.
 AnyGlazing glazing_of(const Window& window, bool with_blind);
 
-// Solar heat gain of clear glass 3 mm thick at normal incidence: what a shading coefficient is in terms of.
+// Solar heat gain of clear glass 3 mm thick at normal incidence: what a shading coefficient is in
+// terms of.
 inline constexpr double reference_gain = 0.87;
 
 struct UnitFigures {
-    double u_value;                                // W/m²K, EN 673; NaN where the panes are not known
-    double transmittance;                          // of solar radiation at normal incidence
-    double g, g_diffuse;                           // solar heat gain at normal incidence, of diffuse radiation
+    double u_value;        // W/m²K, EN 673; NaN where the panes are not known
+    double transmittance;  // of solar radiation at normal incidence
+    double g, g_diffuse;   // solar heat gain at normal incidence, of diffuse radiation
     double transmittance_with_blind, g_with_blind, g_diffuse_with_blind;  // NaN without one
 };
 

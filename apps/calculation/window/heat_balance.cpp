@@ -10,9 +10,9 @@ namespace quorvel::window {
 namespace {
 
 constexpr double stefan_boltzmann = 5.67e-8, kelvin = 273.15;
-constexpr double glass_conductivity = 1;           // W/mK
-constexpr double through_blind = 1000;             // W/m²K, thin as it is
-constexpr double settled = 0.001;                  // K between two iterations
+constexpr double glass_conductivity = 1;  // W/mK
+constexpr double through_blind = 1000;    // W/m²K, thin as it is
+constexpr double settled = 0.001;         // K between two iterations
 constexpr int most_iterations = 100;
 
 std::size_t front(std::size_t layer) { return 2 * layer; }
@@ -20,8 +20,8 @@ std::size_t back(std::size_t layer) { return 2 * layer + 1; }
 
 Layer opaque(const Faces& emissivity) { return {0, 1 - emissivity[0], 0, 1 - emissivity[1]}; }
 
-// Solves the balance of the first n nodes, whose sums are on the right: by Gauss, without pivots, as every node
-// loses at least what the others get.
+// Solves the balance of the first n nodes, whose sums are on the right: by Gauss, without pivots,
+// as every node loses at least what the others get.
 template <class Matrix, class Vector>
 void solve(Matrix& a, Vector& b, std::size_t n) {
     for (std::size_t k = 0; k < n; ++k)
@@ -39,7 +39,8 @@ void solve(Matrix& a, Vector& b, std::size_t n) {
 
 }  // namespace
 
-HeatBalance::HeatBalance(const Unit& unit, const std::optional<Blind>& blind, double tilt, const Surfaces& surfaces)
+HeatBalance::HeatBalance(const Unit& unit, const std::optional<Blind>& blind, double tilt,
+                         const Surfaces& surfaces)
     : tilt_(tilt), surfaces_(surfaces) {
     place_layers(unit, blind);
     exchange_heat_by_radiation();
@@ -53,10 +54,10 @@ void HeatBalance::place_layers(const Unit& unit, const std::optional<Blind>& bli
     for (const Cavity& cavity : unit.cavities) between_.push_back({Gap::closed, cavity});
     if (!blind) return;
     const std::size_t at = blind->place_among(count_);
-    std::copy_backward(thermal_.begin() + static_cast<std::ptrdiff_t>(at), thermal_.begin() + count_,
-                       thermal_.begin() + count_ + 1);
-    std::copy_backward(conduction_.begin() + static_cast<std::ptrdiff_t>(at), conduction_.begin() + count_,
-                       conduction_.begin() + count_ + 1);
+    std::copy_backward(thermal_.begin() + static_cast<std::ptrdiff_t>(at),
+                       thermal_.begin() + count_, thermal_.begin() + count_ + 1);
+    std::copy_backward(conduction_.begin() + static_cast<std::ptrdiff_t>(at),
+                       conduction_.begin() + count_, conduction_.begin() + count_ + 1);
     thermal_[at] = in_thermal_radiation(*blind);
     conduction_[at] = through_blind;
     ++count_;
@@ -67,7 +68,9 @@ void HeatBalance::place_layers(const Unit& unit, const std::optional<Blind>& bli
         return;
     }
     const bool outside = blind->place == BlindPlace::outside;
-    const Gap kind = blind->sealed ? Gap::closed : outside ? Gap::open_to_outdoors : Gap::open_to_room;
+    const Gap kind = blind->sealed ? Gap::closed
+                     : outside     ? Gap::open_to_outdoors
+                                   : Gap::open_to_room;
     between_.insert(outside ? between_.begin() : between_.end(), {kind, blind->gap});
 }
 
@@ -81,8 +84,8 @@ HeatBalance::PerNode HeatBalance::received(std::size_t sender) const {
         else
             sources[sender / 2].inwards = layer.back_absorptance();
     }
-    const Fluxes f = fluxes({thermal_.data(), count_}, {sources.data(), count_}, sender == outdoors(),
-                            sender == room());
+    const Fluxes f = fluxes({thermal_.data(), count_}, {sources.data(), count_},
+                            sender == outdoors(), sender == room());
     PerNode result{};
     for (std::size_t k = 0; k < count_; ++k) {
         result[front(k)] = thermal_[k].front_absorptance() * f.on_front[k];
@@ -93,8 +96,8 @@ HeatBalance::PerNode HeatBalance::received(std::size_t sender) const {
     return result;
 }
 
-// What passes a blind one way only in its mean is made the same both ways, so that equal temperatures exchange
-// nothing.
+// What passes a blind one way only in its mean is made the same both ways, so that equal
+// temperatures exchange nothing.
 void HeatBalance::exchange_heat_by_radiation() {
     Matrix sent{};
     for (std::size_t i = 0; i <= room(); ++i) sent[i] = received(i);
@@ -124,7 +127,9 @@ HeatBalance::Matrix HeatBalance::conductances(const PerNode& temperature) const 
     for (std::size_t k = 0; k + 1 < count_; ++k) {
         const std::size_t outer = back(k), inner = front(k + 1);
         if (between_[k].kind == Gap::closed) {
-            join(outer, inner, gas_conductance(between_[k].cavity, temperature[outer], temperature[inner], tilt_));
+            join(
+                outer, inner,
+                gas_conductance(between_[k].cavity, temperature[outer], temperature[inner], tilt_));
             continue;
         }
         const std::size_t air = between_[k].kind == Gap::open_to_room ? room() : outdoors();
@@ -135,7 +140,8 @@ HeatBalance::Matrix HeatBalance::conductances(const PerNode& temperature) const 
     return matrix;
 }
 
-HeatFlow HeatBalance::operator()(double room_air, double outdoor_air, const PerLayer& absorbed) const {
+HeatFlow HeatBalance::operator()(double room_air, double outdoor_air,
+                                 const PerLayer& absorbed) const {
     PerNode temperature{};
     for (std::size_t i = 0; i < 2 * count_; ++i)
         temperature[i] = outdoor_air + (room_air - outdoor_air) * (static_cast<double>(i) + 0.5) /
@@ -152,8 +158,10 @@ HeatFlow HeatBalance::operator()(double room_air, double outdoor_air, const PerL
         for (std::size_t k = 0; k < 2 * count_; ++k) {
             double sum = 0;
             for (std::size_t j = 0; j <= room(); ++j) sum += joined[k][j];
-            for (std::size_t j = 0; j < 2 * count_; ++j) balance[k][j] = (j == k ? sum : 0) - joined[k][j];
-            next[k] = absorbed[k / 2] / 2 + joined[k][outdoors()] * outdoor_air + joined[k][room()] * room_air;
+            for (std::size_t j = 0; j < 2 * count_; ++j)
+                balance[k][j] = (j == k ? sum : 0) - joined[k][j];
+            next[k] = absorbed[k / 2] / 2 + joined[k][outdoors()] * outdoor_air +
+                      joined[k][room()] * room_air;
         }
         solve(balance, next, 2 * count_);
         change = 0;

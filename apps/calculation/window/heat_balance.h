@@ -1,5 +1,5 @@
-// Where the heat goes that panes and blind absorb: the steady balance of their faces between outdoors and room, by
-// radiation among all of them, convection, and conduction through the glass.
+// Where the heat goes that panes and blind absorb: the steady balance of their faces between
+// outdoors and room, by radiation among all of them, convection, and conduction through the glass.
 #pragma once
 
 #include <array>
@@ -16,8 +16,8 @@ struct Surfaces {
     double behind_blind;  // in the gap of a blind that the outdoor or room air passes freely
 };
 
-// Of a summer's day with a light wind: with the radiation of a plain pane the resistances of 0.06 and 0.12 m²K/W that
-// the library's pane temperatures have.
+// Of a summer's day with a light wind: with the radiation of a plain pane the resistances of 0.06
+// and 0.12 m²K/W that the library's pane temperatures have.
 inline constexpr Surfaces design_surfaces{12, 3.6, 4.5};
 
 // Of EN 410, which rates glazing: 23 and 8 W/m²K with the radiation of a plain pane at 25 °C.
@@ -33,12 +33,13 @@ struct HeatFlow {
 // The layers of a window.
 class HeatBalance {
   public:
-    HeatBalance(const Unit& unit, const std::optional<Blind>& blind, double tilt, const Surfaces& surfaces);
+    HeatBalance(const Unit& unit, const std::optional<Blind>& blind, double tilt,
+                const Surfaces& surfaces);
 
     std::size_t layers() const { return count_; }
 
-    // Of air and all that radiates at the temperatures of the room and outdoors [°C], with what each layer absorbs
-    // of the sun [W/m²].
+    // Of air and all that radiates at the temperatures of the room and outdoors [°C], with what
+    // each layer absorbs of the sun [W/m²].
     HeatFlow operator()(double room, double outdoor, const PerLayer& absorbed) const;
 
   private:

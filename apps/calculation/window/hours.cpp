@@ -17,7 +17,8 @@ constexpr double quarter_turn = 1.5707963;
 constexpr double hours_a_day = host::hours_a_day;
 constexpr int month_days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
-// The coldest hour is the full hour next to sunrise; where there is none, half a day from the warmest.
+// The coldest hour is the full hour next to sunrise; where there is none, half a day from the
+// warmest.
 host::DailyTemperature outdoor_temperature(const DesignDay& day, double sunrise, double sunset) {
     const bool rises = sunrise < sunset && sunset <= 24;
     const double coldest = rises ? std::round(sunrise) : day.hour_of_max - 12;
@@ -49,8 +50,8 @@ void Model::irradiate(WindowHour& at, Irradiance& on_glass, const Exposure& expo
     const host::Sun& sun = exposure.sky.sun;
     if (!sun.is_up()) return;
     const Bearing bearing = shading_.bearing(sun);
-    const OnPlane plane =
-        on_plane(site_, ground_reflectance, exposure.sky, window_.orientation, window_.tilt, bearing.incidence);
+    const OnPlane plane = on_plane(site_, ground_reflectance, exposure.sky, window_.orientation,
+                                   window_.tilt, bearing.incidence);
     const Openness& open = shading_.open();
     at.incidence = degrees(bearing.incidence);
     double circumsolar = plane.circumsolar;
@@ -81,7 +82,8 @@ void Model::let_in(WindowHour& at, const Irradiance& on_glass, const Exposure& e
         at.gain = at.blind_down ? glazing.gain(exposure.room, exposure.outdoor, on_glass) : at.bare;
         const Passage all = glazing.all(on_glass);
         at.absorbed = incident * all.absorbed_total();
-        if (const auto blind = glazing.blind()) at.absorbed_by_blind = incident * all.absorbed[*blind];
+        if (const auto blind = glazing.blind())
+            at.absorbed_by_blind = incident * all.absorbed[*blind];
         if (!(at.direct > 0)) return;
         const Passage direct = glazing.direct(on_glass.incidence, on_glass.profile);
         at.direct_transmittance = direct.transmitted;
@@ -92,8 +94,8 @@ void Model::let_in(WindowHour& at, const Irradiance& on_glass, const Exposure& e
     at.absorbed_by_blind = 0;
     const std::size_t place = *visit(shaded_, [](const auto& glazing) { return glazing.blind(); });
     auto& temperatures = at.gain.temperature;
-    std::copy_backward(temperatures.begin() + static_cast<std::ptrdiff_t>(place), temperatures.end() - 1,
-                       temperatures.end());
+    std::copy_backward(temperatures.begin() + static_cast<std::ptrdiff_t>(place),
+                       temperatures.end() - 1, temperatures.end());
     temperatures[place] = none;
 }
 
@@ -105,15 +107,18 @@ WindowHour Model::at(const Exposure& exposure, double ground_reflectance) const 
     return at;
 }
 
-Day calculate(const Site& site, const DesignDay& design, std::span<const Window> windows, int steps_per_hour) {
+Day calculate(const Site& site, const DesignDay& design, std::span<const Window> windows,
+              int steps_per_hour) {
     Day day{};
     day.day_of_year = design.day_of_year > 0 ? design.day_of_year : lib::design_day(design.month);
     day.constants = site_constants(site, design.month);
     if (site.utc_offset && !std::isnan(site.longitude))
-        day.solar_minus_clock = solar_minus_clock(*site.utc_offset, day.day_of_year, site.longitude);
+        day.solar_minus_clock =
+            solar_minus_clock(*site.utc_offset, day.day_of_year, site.longitude);
     for (int step = 1; step <= host::hours_a_day * steps_per_hour; ++step) {
         const double hour = static_cast<double>(step) / steps_per_hour;
-        day.exposure.push_back({design_sky(site, day.constants, day.day_of_year, hour), hour, design.room});
+        day.exposure.push_back(
+            {design_sky(site, day.constants, day.day_of_year, hour), hour, design.room});
     }
     const host::Sun& sun = day.exposure.front().sky.sun;
     day.declination = degrees(sun.declination);
@@ -143,21 +148,25 @@ void Sums::add(const WindowHour& at, double area, double hours) {
     transmitted += area * at.transmitted() * kilo;
     solar_gain += area * at.solar_gain() * kilo;
     solar_gain_without_blind += area * at.solar_gain_without_blind() * kilo;
-    (at.conduction() > 0 ? conduction_in : conduction_out) += area * std::fabs(at.conduction()) * kilo;
+    (at.conduction() > 0 ? conduction_in : conduction_out) +=
+        area * std::fabs(at.conduction()) * kilo;
     hours_blind_down += at.blind_down ? hours : 0;
 }
 
 namespace {
 
-// The sun in the middle of the part of an hour in which it is up; hours of solar time. A day that begins before
-// midnight by the sun is the same day to it.
+// The sun in the middle of the part of an hour in which it is up; hours of solar time. A day that
+// begins before midnight by the sun is the same day to it.
 host::Sun sun_within(double latitude, int day_of_year, double begin, double end) {
-    const auto of_day = [](double hour) { return hour - hours_a_day * std::floor(hour / hours_a_day); };
+    const auto of_day = [](double hour) {
+        return hour - hours_a_day * std::floor(hour / hours_a_day);
+    };
     const double middle = of_day((begin + end) / 2);
     host::Sun sun = host::sun_at(latitude, day_of_year, middle);
     const bool rises = sun.sunrise < sun.sunset && sun.sunset <= hours_a_day;
     if (!rises) return sun;
-    const double from = std::max(middle - 0.5, sun.sunrise), to = std::min(middle + 0.5, sun.sunset);
+    const double from = std::max(middle - 0.5, sun.sunrise),
+                 to = std::min(middle + 0.5, sun.sunset);
     return from < to ? host::sun_at(latitude, day_of_year, (from + to) / 2) : sun;
 }
 
@@ -176,7 +185,8 @@ Exposure exposure_of(const Weather& weather, const WeatherHour& hour) {
 // A window's year, filled hour by hour.
 class Account {
   public:
-    Account(const Window& window, const Site& site) : model_(window, site), window_(window), year_{} {
+    Account(const Window& window, const Site& site)
+        : model_(window, site), window_(window), year_{} {
         year_.window = &window;
         year_.open = model_.shading().open();
         visit(model_.shaded(), [&](const auto& glazing) {
@@ -217,14 +227,16 @@ Year calculate(const Site& site, const Weather& weather, std::span<const Window>
     Year year;
     std::array<double, 12> ground{};
     for (int month = 1; month <= 12; ++month)
-        ground[static_cast<std::size_t>(month - 1)] = site_constants(site, month).ground_reflectance;
+        ground[static_cast<std::size_t>(month - 1)] =
+            site_constants(site, month).ground_reflectance;
     std::vector<Exposure> exposures;
     for (const WeatherHour& hour : weather.hours) exposures.push_back(exposure_of(weather, hour));
     for (const Window& window : windows) {
         Account account(window, site);
         for (std::size_t i = 0; i < exposures.size(); ++i) {
             const int month = weather.hours[i].month;
-            const double gain = account.add(exposures[i], ground[static_cast<std::size_t>(month - 1)], month, 1);
+            const double gain =
+                account.add(exposures[i], ground[static_cast<std::size_t>(month - 1)], month, 1);
             account.year().solar_gain.push_back(static_cast<float>(gain));
         }
         year.windows.push_back(std::move(account.year()));

@@ -22,11 +22,13 @@ struct Exposure {
 };
 
 struct WindowHour {
-    double incidence = none;  // degrees; above 90 the sun is behind the window; none while it is down
-    double vertical = none, horizontal = none;  // profile angles, degrees; none unless the sun is before the window
-    double sunlit = none;                       // fraction of the glass; none unless the sun is before it
-    double direct_unshaded = 0;                 // W/m² on the plane
-    double direct = 0, diffuse = 0, ground = 0; // W/m² on the glass, in the mean
+    double incidence =
+        none;  // degrees; above 90 the sun is behind the window; none while it is down
+    double vertical = none,
+           horizontal = none;  // profile angles, degrees; none unless the sun is before the window
+    double sunlit = none;      // fraction of the glass; none unless the sun is before it
+    double direct_unshaded = 0;                  // W/m² on the plane
+    double direct = 0, diffuse = 0, ground = 0;  // W/m² on the glass, in the mean
     bool blind_down = false;
     double direct_transmittance = none, direct_absorptance = none;  // none without direct sun
     double absorbed = 0;                                            // W/m² by panes and blind
@@ -53,7 +55,8 @@ class Model {
     const AnyGlazing& shaded() const { return shaded_; }  // with the blind, if there is one
 
   private:
-    void irradiate(WindowHour& at, Irradiance& on_glass, const Exposure& exposure, double ground_reflectance) const;
+    void irradiate(WindowHour& at, Irradiance& on_glass, const Exposure& exposure,
+                   double ground_reflectance) const;
     void let_in(WindowHour& at, const Irradiance& on_glass, const Exposure& exposure) const;
 
     const Window& window_;
@@ -88,7 +91,8 @@ struct Day {
 };
 
 // A design day at equal steps, so many per hour, up to hour 24. The result refers to the windows.
-Day calculate(const Site& site, const DesignDay& day, std::span<const Window> windows, int steps_per_hour = 1);
+Day calculate(const Site& site, const DesignDay& day, std::span<const Window> windows,
+              int steps_per_hour = 1);
 
 // The sum of a member of WindowHour over a day [Wh/m²]: the trapezoidal rule, as the day repeats.
 template <class Member>
@@ -122,7 +126,7 @@ Peak peak_of(const WindowDay& window, Member member) {
 
 // Sums over a month or a year, per window [kWh] but for the irradiation.
 struct Sums {
-    double incident = 0;    // kWh/m² on the glass, shaded as it is
+    double incident = 0;  // kWh/m² on the glass, shaded as it is
     double transmitted = 0, solar_gain = 0, solar_gain_without_blind = 0;
     double conduction_in = 0, conduction_out = 0;
     double hours_blind_down = 0;

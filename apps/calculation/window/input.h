@@ -18,13 +18,13 @@ enum class SkyModel { design, perez, muneer, muneer_north, muneer_south };
 
 struct Site {
     std::string name;
-    double latitude;   // degrees, north positive
-    double longitude;  // degrees, east positive; NaN where it is not known
-    double height;     // m above sea level
-    int site_class;    // 1 to 6: ground reflectance and clearness of the air
-    int sky;           // 0 clear, 1 bright
-    SkyModel sky_model;                        // of the diffuse radiation from the sky on a tilted plane
-    std::optional<double> utc_offset;          // h, clock time ahead of universal time
+    double latitude;                   // degrees, north positive
+    double longitude;                  // degrees, east positive; NaN where it is not known
+    double height;                     // m above sea level
+    int site_class;                    // 1 to 6: ground reflectance and clearness of the air
+    int sky;                           // 0 clear, 1 bright
+    SkyModel sky_model;                // of the diffuse radiation from the sky on a tilted plane
+    std::optional<double> utc_offset;  // h, clock time ahead of universal time
     std::optional<double> ground_reflectance;  // in place of that of the site class
 };
 
@@ -71,7 +71,7 @@ struct ShadingCoefficients {
 
 struct Slats {
     double spacing, width;  // mm
-    double angle;           // degrees off the normal of the window, positive with the outer edge lowered
+    double angle;  // degrees off the normal of the window, positive with the outer edge lowered
     double upper_absorptance, lower_absorptance;
 };
 
@@ -89,7 +89,8 @@ struct Blind {
     double emissivity;     // of the slats or the fabric
     Cavity gap;            // to the glass, of a blind outside or inside
     bool sealed;           // no air passes between that gap and its surroundings
-    double lowered_above;  // W/m² on the plane of the window from which it is lowered; 0: always lowered
+    double lowered_above;  // W/m² on the plane of the window from which it is lowered; 0: always
+                           // lowered
 
     // Where it stands among the layers, from the outermost, of a unit of so many panes.
     std::size_t place_among(std::size_t panes) const {
@@ -98,8 +99,8 @@ struct Blind {
     }
 };
 
-// A plate that stands out from the wall beside the window. Left and right are those of someone who looks at it
-// from outside.
+// A plate that stands out from the wall beside the window. Left and right are those of someone who
+// looks at it from outside.
 struct Fin {
     double depth;         // m
     double offset;        // m between the edge of the window and the fin
@@ -113,8 +114,8 @@ struct Overhang {
     double slope;        // degrees by which it falls outwards; 0 perpendicular to the window
 };
 
-// A box that stands upright on the ground or above it; a screen where it has no depth. Its front is the side
-// towards the window; distance, offset and rotation are those of the middle of the front.
+// A box that stands upright on the ground or above it; a screen where it has no depth. Its front is
+// the side towards the window; distance, offset and rotation are those of the middle of the front.
 struct Obstruction {
     std::string name;
     double distance;      // m from the lower edge of the window, horizontally, to the front
@@ -130,7 +131,9 @@ struct Shades {
     std::optional<Overhang> overhang;
     std::vector<Obstruction> obstructions;
 
-    bool any() const { return reveal > 0 || left_fin || right_fin || overhang || !obstructions.empty(); }
+    bool any() const {
+        return reveal > 0 || left_fin || right_fin || overhang || !obstructions.empty();
+    }
 };
 
 using Glazing = std::variant<std::monostate, Unit, ShadingCoefficients>;  // nothing: an opening
@@ -163,9 +166,9 @@ struct DesignDay {
 // An hour of measured or typical weather. Irradiances are means over the hour.
 struct WeatherHour {
     int month, day_of_year;
-    int hour;                                 // of standard time, 1 to 24; it ends then
-    double direct_normal, diffuse_horizontal; // W/m²
-    double outdoor;                           // °C
+    int hour;                                  // of standard time, 1 to 24; it ends then
+    double direct_normal, diffuse_horizontal;  // W/m²
+    double outdoor;                            // °C
 };
 
 struct Weather {

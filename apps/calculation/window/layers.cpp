@@ -13,14 +13,16 @@ struct Rest {
     double reflectance = 0, emission = 0;
 };
 
-// What passes inwards behind a layer: a share of what falls on its front, and what comes in between.
+// What passes inwards behind a layer: a share of what falls on its front, and what comes in
+// between.
 struct Step {
     double passed, added;
 };
 
 Step step(const Layer& layer, const Source& source, const Rest& behind) {
     const double loss = std::max(1 - layer.back_reflectance * behind.reflectance, least_loss);
-    return {layer.front_transmittance / loss, (layer.back_reflectance * behind.emission + source.inwards) / loss};
+    return {layer.front_transmittance / loss,
+            (layer.back_reflectance * behind.emission + source.inwards) / loss};
 }
 
 }  // namespace
@@ -36,7 +38,8 @@ Fluxes fluxes(std::span<const Layer> layers, std::span<const Source> sources, do
         const Source source = k < sources.size() ? sources[k] : Source{};
         const Rest& behind = rest[k + 1];
         steps[k] = step(layer, source, behind);
-        rest[k] = {layer.front_reflectance + layer.back_transmittance * behind.reflectance * steps[k].passed,
+        rest[k] = {layer.front_reflectance +
+                       layer.back_transmittance * behind.reflectance * steps[k].passed,
                    source.outwards + layer.back_transmittance *
                                          (behind.reflectance * steps[k].added + behind.emission)};
     }

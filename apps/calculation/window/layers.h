@@ -1,5 +1,5 @@
-// Parallel layers one behind the other, and what becomes of radiation between them: of the sun's, and of the
-// heat that the layers send each other.
+// Parallel layers one behind the other, and what becomes of radiation between them: of the sun's,
+// and of the heat that the layers send each other.
 #pragma once
 
 #include <array>
@@ -9,8 +9,8 @@
 
 namespace quorvel::window {
 
-// One layer for radiation of one kind: a direction and polarisation, diffuse, or thermal. The front is the side that
-// faces outdoors. What is not transmitted or reflected is absorbed.
+// One layer for radiation of one kind: a direction and polarisation, diffuse, or thermal. The front
+// is the side that faces outdoors. What is not transmitted or reflected is absorbed.
 struct Layer {
     double front_transmittance = 0, front_reflectance = 0;
     double back_transmittance = 0, back_reflectance = 0;

@@ -23,7 +23,8 @@ Point product(const Point& a, const Point& b) {
 class Target {
   public:
     explicit Target(const Polygon& polygon) : corner_(point(polygon[0])) {
-        normal_ = product(difference(point(polygon[1]), corner_), difference(point(polygon[2]), corner_));
+        normal_ =
+            product(difference(point(polygon[1]), corner_), difference(point(polygon[2]), corner_));
         for (std::size_t i = 0; i < polygon.size(); ++i) {
             const Point here = point(polygon[i]), next = point(polygon[(i + 1) % polygon.size()]);
             const Point inwards = product(normal_, difference(next, here));
@@ -36,7 +37,8 @@ class Target {
         if (speed == 0) return false;
         const double t = dot(normal_, difference(corner_, start)) / speed;
         if (!(t > 0)) return false;
-        const Point place{start[0] + t * direction[0], start[1] + t * direction[1], start[2] + t * direction[2]};
+        const Point place{start[0] + t * direction[0], start[1] + t * direction[1],
+                          start[2] + t * direction[2]};
         for (const auto& [inwards, least] : edges_)
             if (dot(inwards, place) < least) return false;
         return true;
@@ -51,8 +53,9 @@ class Target {
     std::vector<Edge> edges_;
 };
 
-// Points that fill the unit cube of four dimensions evenly, one after the other: multiples of powers of the root of
-// x^5 = x + 1 (M. Roberts, The unreasonable effectiveness of quasirandom sequences, 2018).
+// Points that fill the unit cube of four dimensions evenly, one after the other: multiples of
+// powers of the root of x^5 = x + 1 (M. Roberts, The unreasonable effectiveness of quasirandom
+// sequences, 2018).
 std::array<double, 4> evenly_spread(int i) {
     constexpr double root = 1.1673039782614187;
     std::array<double, 4> place{};

@@ -5,7 +5,8 @@
 
 namespace quorvel::window {
 
-// Shares of what the window would receive from each, were it of equal brightness and nothing in the way.
+// Shares of what the window would receive from each, were it of equal brightness and nothing in the
+// way.
 struct Openness {
     double sky = 1, horizon = 1, ground = 1;  // the horizon: the lowest 6.5 degrees of the sky
 };

@@ -17,7 +17,8 @@ Scene::Scene(const Window& window) {
     const Shades& shades = window.shades;
     if (shades.reveal > 0) add_reveal(window);
     if (shades.left_fin) add_fin(*shades.left_fin, window, -shades.left_fin->offset);
-    if (shades.right_fin) add_fin(*shades.right_fin, window, window.width + shades.right_fin->offset);
+    if (shades.right_fin)
+        add_fin(*shades.right_fin, window, window.width + shades.right_fin->offset);
     if (shades.overhang) add_overhang(*shades.overhang, window);
     for (const Obstruction& box : shades.obstructions) add_box(box, window);
 }
@@ -64,7 +65,8 @@ void Scene::add_reveal(const Window& window) {
     add_fin({depth, 0, 0, 0}, window, 0);
     add_fin({depth, 0, 0, 0}, window, window.width);
     add_overhang({depth, 0, 0, 0, 0}, window);
-    add_plate({vector(0, 0, 0), vector(window.width, 0, 0), vector(window.width, 0, depth), vector(0, 0, depth)});
+    add_plate({vector(0, 0, 0), vector(window.width, 0, 0), vector(window.width, 0, depth),
+               vector(0, 0, depth)});
 }
 
 // Its underside never faces a sun above the horizon.

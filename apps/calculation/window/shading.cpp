@@ -9,8 +9,8 @@
 namespace quorvel::window {
 namespace {
 
-// Cosine of the angle of incidence above which the sun is taken to shine on the window: 89.9°. Nearer to its
-// plane, shadows run to infinity and what falls on the glass is next to nothing.
+// Cosine of the angle of incidence above which the sun is taken to shine on the window: 89.9°.
+// Nearer to its plane, shadows run to infinity and what falls on the glass is next to nothing.
 constexpr float grazing = 0.002f;
 
 bool is_before(const Vector& towards_sun) { return towards_sun[2] > grazing; }

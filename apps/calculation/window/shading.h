@@ -22,7 +22,8 @@ class Shading {
     Bearing bearing(const host::Sun& sun) const;
     const Openness& open() const { return open_; }
 
-    // Of the glass, of a sun before it. Throws std::runtime_error where the shadows cannot be told apart.
+    // Of the glass, of a sun before it. Throws std::runtime_error where the shadows cannot be told
+    // apart.
     double sunlit_fraction(const host::Sun& sun) const;
 
     // The shadows on a part of the window's plane; none where there is no sun to cast them.

@@ -20,8 +20,9 @@ struct Sky {
     double direct_normal = 0, diffuse_horizontal = 0;  // W/m²
 };
 
-// Of a clear or bright design day, with the factors of the site. Below 4.6° the site's height counts as at 4.6°: the
-// design sky itself leaves it out there, with a jump that is not the weather's.
+// Of a clear or bright design day, with the factors of the site. Below 4.6° the site's height
+// counts as at 4.6°: the design sky itself leaves it out there, with a jump that is not the
+// weather's.
 Sky design_sky(const Site& site, const SiteConstants& constants, int day_of_year, double hour);
 
 // W/m² on a plane.
@@ -31,9 +32,9 @@ struct OnPlane {
     double ground = 0;
 };
 
-// By the model of the site's sky: only that of Perez tells the parts of the diffuse radiation apart, and in all
-// others the sky is even.
-OnPlane on_plane(const Site& site, double ground_reflectance, const Sky& sky, double orientation, double tilt,
-                 double incidence);
+// By the model of the site's sky: only that of Perez tells the parts of the diffuse radiation
+// apart, and in all others the sky is even.
+OnPlane on_plane(const Site& site, double ground_reflectance, const Sky& sky, double orientation,
+                 double tilt, double incidence);
 
 }  // namespace quorvel::window

@@ -26,8 +26,8 @@ struct Outdoors {
 
 Outdoors of_weather(const std::string& file) {
     climatefile::WeatherYear weather = climatefile::read_epw(file);
-    return {outside_air(climatefile::monthly_means(weather)), "Monthly means of the weather of " + weather.place,
-            std::move(weather.replaced)};
+    return {outside_air(climatefile::monthly_means(weather)),
+            "Monthly means of the weather of " + weather.place, std::move(weather.replaced)};
 }
 
 Outdoors of_station(const InputTable& table, const std::string& input) {
@@ -40,15 +40,18 @@ Outdoors of_station(const InputTable& table, const std::string& input) {
                                                   climatefile::standard_pressure(height));
     for (std::size_t month = 0; month < months; ++month)
         if (!(std::fabs(means.temperature[month]) <= 90) || !(means.vapour_pressure[month] > 0))
-            throw table.error("station", name + ", station " + std::to_string(number) + ": no temperature or humidity in " +
+            throw table.error("station", name + ", station " + std::to_string(number) +
+                                             ": no temperature or humidity in " +
                                              std::string(host::month_names[month]));
-    return {outside_air(means), "Monthly means of " + station.place.name + ", station " + std::to_string(number) + " of " + name};
+    return {outside_air(means), "Monthly means of " + station.place.name + ", station " +
+                                    std::to_string(number) + " of " + name};
 }
 
 // Every quantity is a number or a list of twelve; one list is enough to make it twelve cases.
 Outdoors of_input(const InputTable& table) {
     bool monthly = false;
-    for (const char* key : {"inside_temperature", "inside_humidity", "outside_temperature", "outside_humidity"})
+    for (const char* key :
+         {"inside_temperature", "inside_humidity", "outside_temperature", "outside_humidity"})
         monthly = monthly || (table.has(key) && table.is_list(key));
     const std::size_t cases = monthly ? months : 1;
     const auto t = table.numbers("outside_temperature", cases, temperature);
@@ -58,10 +61,12 @@ Outdoors of_input(const InputTable& table) {
     return outdoors;
 }
 
-Outdoors read_outdoors(const InputTable& table, const std::string& input, const std::string& weather) {
+Outdoors read_outdoors(const InputTable& table, const std::string& input,
+                       const std::string& weather) {
     if (!weather.empty()) {
-        table.expect({"inside_temperature"}, {"inside_humidity", "humidity_class", "outside_temperature",
-                                              "outside_humidity", "weather", "file", "station", "set"});
+        table.expect({"inside_temperature"},
+                     {"inside_humidity", "humidity_class", "outside_temperature",
+                      "outside_humidity", "weather", "file", "station", "set"});
         return of_weather(weather);
     }
     if (table.has("weather")) {
@@ -69,10 +74,12 @@ Outdoors read_outdoors(const InputTable& table, const std::string& input, const 
         return of_weather(host::beside(input, table.text("weather", longest_file_name)));
     }
     if (table.has("file")) {
-        table.expect({"file", "station", "inside_temperature"}, {"set", "inside_humidity", "humidity_class"});
+        table.expect({"file", "station", "inside_temperature"},
+                     {"set", "inside_humidity", "humidity_class"});
         return of_station(table, input);
     }
-    table.expect({"inside_temperature", "outside_temperature", "outside_humidity"}, {"inside_humidity", "humidity_class"});
+    table.expect({"inside_temperature", "outside_temperature", "outside_humidity"},
+                 {"inside_humidity", "humidity_class"});
     return of_input(table);
 }
 
@@ -89,13 +96,16 @@ Indoors read_indoors(const InputTable& table, std::size_t cases) {
 
 }  // namespace
 
-ReadClimate read_climate(const InputTable& table, const std::string& input, const std::string& weather) {
+ReadClimate read_climate(const InputTable& table, const std::string& input,
+                         const std::string& weather) {
     Outdoors outdoors = read_outdoors(table, input, weather);
     const Indoors indoors = read_indoors(table, outdoors.air.size());
-    ReadClimate read{climates(indoors, outdoors.air), std::move(outdoors.source), std::move(outdoors.replaced)};
-    read.saturated_inside = indoors.humidity_class && std::ranges::any_of(read.climates, [](const Climate& climate) {
-        return climate.inside.humidity >= 100;
-    });
+    ReadClimate read{climates(indoors, outdoors.air), std::move(outdoors.source),
+                     std::move(outdoors.replaced)};
+    read.saturated_inside =
+        indoors.humidity_class && std::ranges::any_of(read.climates, [](const Climate& climate) {
+            return climate.inside.humidity >= 100;
+        });
     return read;
 }
 

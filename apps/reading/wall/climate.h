@@ -1,4 +1,5 @@
-// The climate on the two sides of an element, from the input, from weather or from a climate data file.
+// The climate on the two sides of an element, from the input, from weather or from a climate data
+// file.
 #pragma once
 
 #include <string>
@@ -11,14 +12,16 @@
 namespace quorvel::wall {
 
 struct ReadClimate {
-    std::vector<Climate> climates;                   // one, or those of the months from January
-    std::string source;                              // where that outside comes from; empty: from the input itself
+    std::vector<Climate> climates;  // one, or those of the months from January
+    std::string source;             // where that outside comes from; empty: from the input itself
     std::vector<climatefile::Replacement> replaced;  // in the weather
-    bool saturated_inside = false;                   // the humidity class asks for more than air can hold
+    bool saturated_inside = false;  // the humidity class asks for more than air can hold
 };
 
-// Files that the table names are looked for beside the input; a file of weather, if any, takes the place of all that it
-// says of the air outside. The library must have been loaded. Throws host::InputError.
-ReadClimate read_climate(const host::InputTable& table, const std::string& input, const std::string& weather);
+// Files that the table names are looked for beside the input; a file of weather, if any, takes the
+// place of all that it says of the air outside. The library must have been loaded. Throws
+// host::InputError.
+ReadClimate read_climate(const host::InputTable& table, const std::string& input,
+                         const std::string& weather);
 
 }  // namespace quorvel::wall

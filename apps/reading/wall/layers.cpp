@@ -38,7 +38,8 @@ Layer read_homogeneous(const InputTable& table, const Library& library) {
         return layer;
     }
     layer.thickness = thickness(table, properties.gap() ? thickness_of_gap : thickness_of_solid);
-    layer.parts = {properties.part(1, layer.thickness, {"thickness", "fasteners", "air_voids", "ventilated", "omit"})};
+    layer.parts = {properties.part(1, layer.thickness,
+                                   {"thickness", "fasteners", "air_voids", "ventilated", "omit"})};
     read_extras(table, layer);
     return layer;
 }
@@ -60,7 +61,8 @@ Layer read_inhomogeneous(const InputTable& table, const Library& library) {
         layer.parts.push_back(read_part(part, layer.thickness, library));
         sum += layer.parts.back().fraction;
     }
-    if (std::fabs(sum - 1) > 1e-6) throw table.error("parts", "fractions that make " + host::shortest(sum) + "; allowed 1");
+    if (std::fabs(sum - 1) > 1e-6)
+        throw table.error("parts", "fractions that make " + host::shortest(sum) + "; allowed 1");
     layer.in_line = table.flag("in_line", false);
     read_extras(table, layer);
     return layer;
@@ -68,10 +70,15 @@ Layer read_inhomogeneous(const InputTable& table, const Library& library) {
 
 // It has as many parts of the same fractions as the inhomogeneous layer before it.
 void check_line(const InputTable& table, const std::vector<Layer>& before, const Layer& layer) {
-    const auto same = [](const Part& one, const Part& other) { return std::fabs(one.fraction - other.fraction) < 1e-6; };
-    const auto found = std::find_if(before.rbegin(), before.rend(), [](const Layer& l) { return !l.homogeneous(); });
+    const auto same = [](const Part& one, const Part& other) {
+        return std::fabs(one.fraction - other.fraction) < 1e-6;
+    };
+    const auto found = std::find_if(before.rbegin(), before.rend(),
+                                    [](const Layer& l) { return !l.homogeneous(); });
     if (found == before.rend() || !std::ranges::equal(found->parts, layer.parts, same))
-        throw table.error("in_line", "needs a layer before it with parts of the same fractions in the same order");
+        throw table.error(
+            "in_line",
+            "needs a layer before it with parts of the same fractions in the same order");
 }
 
 }  // namespace
@@ -82,12 +89,15 @@ ReadLayers read_layers(const InputTable& root, const Library& library) {
     std::optional<std::size_t> inside;
     for (const InputTable& table : root.tables("layer", 1, most_layers)) {
         const bool ventilated = table.flag("ventilated", false);
-        if (ventilated && layers.empty()) throw table.error("ventilated", "the innermost layer cannot be a ventilated gap");
-        Layer layer = table.has("parts") ? read_inhomogeneous(table, library) : read_homogeneous(table, library);
+        if (ventilated && layers.empty())
+            throw table.error("ventilated", "the innermost layer cannot be a ventilated gap");
+        Layer layer = table.has("parts") ? read_inhomogeneous(table, library)
+                                         : read_homogeneous(table, library);
         if (table.flag("omit", false)) continue;
         if (ventilated && !inside) inside = layers.size();
         layers.push_back(std::move(layer));
-        if (layers.back().in_line) check_line(table, {layers.begin(), layers.end() - 1}, layers.back());
+        if (layers.back().in_line)
+            check_line(table, {layers.begin(), layers.end() - 1}, layers.back());
     }
     if (layers.empty()) throw root.error("layer", "all layers are omitted; needed is one");
     if (inside) {

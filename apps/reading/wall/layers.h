@@ -9,7 +9,7 @@
 namespace quorvel::wall {
 
 struct ReadLayers {
-    std::vector<Layer> layers;  // as far as a gap through which the wind blows
+    std::vector<Layer> layers;          // as far as a gap through which the wind blows
     std::optional<std::size_t> beyond;  // so many layers, that gap among them, are left out
 };
 

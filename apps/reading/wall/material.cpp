@@ -18,17 +18,22 @@ Properties::Properties(const host::InputTable& own, const host::Library& library
     if (own.has("material")) material_ = library.named(own, "material", "material");
 }
 
-bool Properties::gap() const { return own_.has("resistance") || own_.has("emissivities") || own_.has("ventilated"); }
+bool Properties::gap() const {
+    return own_.has("resistance") || own_.has("emissivities") || own_.has("ventilated");
+}
 
 bool Properties::membrane() const {
     return own_.has("vapour_resistance") || (has("s_d") && !has("conductivity"));
 }
 
-std::string Properties::name() const { return own_.text(own_.has("name") || !material_ ? "name" : "material", 60); }
+std::string Properties::name() const {
+    return own_.text(own_.has("name") || !material_ ? "name" : "material", 60);
+}
 
 double Properties::number(std::string_view key, const Range& range) const {
     if (has(key)) return holder(key).number(key, range);
-    throw own_.error("", "missing " + std::string(key) + (material_ ? "" : ", or a material by name"));
+    throw own_.error("",
+                     "missing " + std::string(key) + (material_ ? "" : ", or a material by name"));
 }
 
 void Properties::expect(std::initializer_list<std::string_view> known,
@@ -46,7 +51,9 @@ std::string_view Properties::vapour_key(std::initializer_list<std::string_view> 
         std::string_view found;
         for (const std::string_view key : keys) {
             if (!table.has(key)) continue;
-            if (!found.empty()) throw table.error(key, "given beside " + std::string(found) + "; allowed is one of them");
+            if (!found.empty())
+                throw table.error(
+                    key, "given beside " + std::string(found) + "; allowed is one of them");
             found = key;
         }
         return found;
@@ -59,7 +66,8 @@ std::string_view Properties::vapour_key(std::initializer_list<std::string_view> 
 
 double Properties::diffusion_factor() const {
     const auto dry_and_wet = holder("mu").numbers("mu", 2, {1, 2e6, "(µ)"});
-    return dry_and_wet[own_.has("state") ? static_cast<std::size_t>(own_.choice("state", states, 0)) : 0];
+    return dry_and_wet[own_.has("state") ? static_cast<std::size_t>(own_.choice("state", states, 0))
+                                         : 0];
 }
 
 Solid Properties::solid(double thickness) const {
@@ -68,9 +76,10 @@ Solid Properties::solid(double thickness) const {
     solid.density = number("density", {0.5, 12000, "kg/m³"});
     solid.specific_heat = number("specific_heat", {100, 5000, "J/kgK"});
     const std::string_view key = vapour_key({"vapour_resistivity", "mu", "s_d"});
-    solid.vapour_resistivity = key == "mu"    ? diffusion_factor() * resistivity_of_air
-                               : key == "s_d" ? number(key, {0.001, 1e5, "m"}) * resistivity_of_air / thickness
-                                              : number(key, {1, 1e7, "GN s/(kg m)"});
+    solid.vapour_resistivity = key == "mu" ? diffusion_factor() * resistivity_of_air
+                               : key == "s_d"
+                                   ? number(key, {0.001, 1e5, "m"}) * resistivity_of_air / thickness
+                                   : number(key, {1, 1e7, "GN s/(kg m)"});
     return solid;
 }
 
@@ -78,9 +87,13 @@ Gap Properties::gap_between() const {
     Gap gap{};
     const auto given = [&](std::string_view key) { return own_.has(key) ? 1 : 0; };
     if (given("resistance") + given("emissivities") + given("ventilated") > 1)
-        throw own_.error("", "an air gap needs either resistance or emissivities, and not both, or ventilated = true");
+        throw own_.error("",
+                         "an air gap needs either resistance or emissivities, and not both, or "
+                         "ventilated = true");
     if (own_.has("ventilated")) {
-        if (!own_.flag("ventilated", false)) throw own_.error("ventilated", "value false; allowed true, or resistance or emissivities");
+        if (!own_.flag("ventilated", false))
+            throw own_.error("ventilated",
+                             "value false; allowed true, or resistance or emissivities");
         gap.resistance = 0;
     } else if (own_.has("emissivities")) {
         const auto faces = own_.numbers("emissivities", 2, {0.01, 1, "of the faces"});
@@ -93,10 +106,12 @@ Gap Properties::gap_between() const {
 
 Membrane Properties::sheet() const {
     const std::string_view key = vapour_key({"vapour_resistance", "s_d"});
-    return {key == "s_d" ? number(key, {0.001, 1e5, "m"}) * resistivity_of_air : number(key, {0.01, 1e6, "GN s/kg"})};
+    return {key == "s_d" ? number(key, {0.001, 1e5, "m"}) * resistivity_of_air
+                         : number(key, {0.01, 1e6, "GN s/kg"})};
 }
 
-Part Properties::part(double fraction, double thickness, std::initializer_list<std::string_view> more) const {
+Part Properties::part(double fraction, double thickness,
+                      std::initializer_list<std::string_view> more) const {
     Part part{name(), fraction, Membrane{}};
     if (gap()) {
         expect({"name", "resistance", "emissivities"}, more);
@@ -105,14 +120,16 @@ Part Properties::part(double fraction, double thickness, std::initializer_list<s
         expect({"name", "material", "vapour_resistance", "s_d"}, more);
         part.make = sheet();
     } else {
-        expect({"name", "material", "conductivity", "density", "specific_heat", "vapour_resistivity", "mu", "s_d", "state",
-                "drawing"},
+        expect({"name", "material", "conductivity", "density", "specific_heat",
+                "vapour_resistivity", "mu", "s_d", "state", "drawing"},
                more);
         const Solid made = solid(thickness);
         part.make = made;
-        part.hatching = has("drawing") ? static_cast<Hatching>(holder("drawing").choice("drawing", hatchings, 0))
-                        : made.conductivity < insulates ? Hatching::insulation
-                                                        : Hatching::plain;
+        part.hatching =
+            has("drawing")
+                ? static_cast<Hatching>(holder("drawing").choice("drawing", hatchings, 0))
+            : made.conductivity < insulates ? Hatching::insulation
+                                            : Hatching::plain;
     }
     return part;
 }

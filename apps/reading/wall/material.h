@@ -9,25 +9,34 @@
 
 namespace quorvel::wall {
 
-inline constexpr std::string_view hatchings[] = {"plain", "masonry", "concrete", "insulation", "timber", "plaster", "bitumen"};
+inline constexpr std::string_view hatchings[] = {"plain",  "masonry", "concrete", "insulation",
+                                                 "timber", "plaster", "bitumen"};
 
-// Properties that stand in a table of the input or, where it names a material, in that of the library.
+// Properties that stand in a table of the input or, where it names a material, in that of the
+// library.
 class Properties {
   public:
     Properties(const host::InputTable& own, const host::Library& library);
 
-    bool has(std::string_view key) const { return own_.has(key) || (material_ && material_->has(key)); }
+    bool has(std::string_view key) const {
+        return own_.has(key) || (material_ && material_->has(key));
+    }
     bool gap() const;
     bool membrane() const;
     std::string name() const;  // its own, or the material's
 
-    // The thickness in m; of a membrane it is not used. `more` are keys that the table may have besides.
-    Part part(double fraction, double thickness, std::initializer_list<std::string_view> more) const;
+    // The thickness in m; of a membrane it is not used. `more` are keys that the table may have
+    // besides.
+    Part part(double fraction, double thickness,
+              std::initializer_list<std::string_view> more) const;
 
   private:
-    const host::InputTable& holder(std::string_view key) const { return own_.has(key) ? own_ : *material_; }
+    const host::InputTable& holder(std::string_view key) const {
+        return own_.has(key) ? own_ : *material_;
+    }
     double number(std::string_view key, const host::Range& range) const;
-    void expect(std::initializer_list<std::string_view> known, std::initializer_list<std::string_view> more) const;
+    void expect(std::initializer_list<std::string_view> known,
+                std::initializer_list<std::string_view> more) const;
     std::string_view vapour_key(std::initializer_list<std::string_view> keys) const;
     double diffusion_factor() const;
     Solid solid(double thickness) const;

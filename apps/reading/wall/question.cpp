@@ -20,7 +20,8 @@ std::optional<double> surface(const InputTable& table, std::string_view key) {
 
 Element read_element(const InputTable& wall, ReadLayers layers) {
     Element element;
-    if (wall.has("heat_flow")) element.heat_flow = static_cast<HeatFlow>(wall.choice("heat_flow", heat_flows, 0));
+    if (wall.has("heat_flow"))
+        element.heat_flow = static_cast<HeatFlow>(wall.choice("heat_flow", heat_flows, 0));
     if (wall.has("exposure")) element.exposure = wall.choice("exposure", exposures, 1);
     element.inside_resistance = surface(wall, "inside_resistance");
     element.outside_resistance = surface(wall, "outside_resistance");
@@ -34,34 +35,40 @@ SurfaceDemand read_demand(const InputTable& root) {
     if (!root.has("mould")) return demand;
     const InputTable mould = root.table("mould");
     mould.expect({}, {"inside_resistance", "surface_humidity"});
-    demand.inside_resistance = mould.number("inside_resistance", surface_resistance, demand.inside_resistance);
+    demand.inside_resistance =
+        mould.number("inside_resistance", surface_resistance, demand.inside_resistance);
     demand.humidity = mould.number("surface_humidity", {50, 100, "%"}, demand.humidity);
     return demand;
 }
 
 bool goes_through(const Section& section, std::string_view part) {
-    return std::ranges::any_of(section.slabs, [&](const Slab& slab) { return slab.part->name == part; });
+    return std::ranges::any_of(section.slabs,
+                               [&](const Slab& slab) { return slab.part->name == part; });
 }
 
 // The largest section, or the largest through the part that is named.
 std::size_t chosen_section(const InputTable& wall, const Element& element) {
     const auto all = sections(element);
     if (all.empty())
-        throw wall.error("", "the parts of the layers cross in more than " + std::to_string(most_sections) +
+        throw wall.error("", "the parts of the layers cross in more than " +
+                                 std::to_string(most_sections) +
                                  " ways; set in_line where they do not cross");
     if (!wall.has("section")) return 0;
     const std::string part = wall.text("section", 60);
-    const auto found = std::ranges::find_if(all, [&](const Section& s) { return goes_through(s, part); });
+    const auto found =
+        std::ranges::find_if(all, [&](const Section& s) { return goes_through(s, part); });
     if (found == all.end()) throw wall.error("section", "no layer has a part \"" + part + '"');
     return static_cast<std::size_t>(found - all.begin());
 }
 
 }  // namespace
 
-ReadQuestion read_question(const InputTable& root, const Request& request, const host::Library& materials) {
+ReadQuestion read_question(const InputTable& root, const Request& request,
+                           const host::Library& materials) {
     root.expect({"wall", "layer", "climate"}, {"mould"});
     const InputTable wall = root.table("wall");
-    wall.expect({"name"}, {"heat_flow", "exposure", "inside_resistance", "outside_resistance", "section"});
+    wall.expect({"name"},
+                {"heat_flow", "exposure", "inside_resistance", "outside_resistance", "section"});
     ReadQuestion read{wall.text("name"), {}, {}};
     ReadLayers layers = read_layers(root, materials);
     read.left_out = layers.beyond.value_or(0);

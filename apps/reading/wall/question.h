@@ -22,8 +22,9 @@ struct Request {
     std::string weather = {};  // in place of its climate outside
 };
 
-// The library of materials is one of tables, that of calculations must have been loaded. Throws host::InputError at the
-// first fault.
-ReadQuestion read_question(const host::InputTable& root, const Request& request, const host::Library& materials);
+// The library of materials is one of tables, that of calculations must have been loaded. Throws
+// host::InputError at the first fault.
+ReadQuestion read_question(const host::InputTable& root, const Request& request,
+                           const host::Library& materials);
 
 }  // namespace quorvel::wall

@@ -23,13 +23,14 @@ double rest_of(double transmittance) { return std::round(1000 * (1 - transmittan
 // A pane as it is made, before anyone turns it.
 struct Glass {
     double thickness, transmittance;
-    double reflectance, coated_reflectance;  // 0: plain glass, which reflects as its transmittance tells
-    double emissivity;                       // of the coated face
+    double reflectance,
+        coated_reflectance;  // 0: plain glass, which reflects as its transmittance tells
+    double emissivity;       // of the coated face
     bool has_emissivity;
 };
 
-// An uncoated pane cannot transmit more than its two surfaces let through (0.918); below 0.05 the thickness can no
-// longer be told from the transmittance in single precision.
+// An uncoated pane cannot transmit more than its two surfaces let through (0.918); below 0.05 the
+// thickness can no longer be told from the transmittance in single precision.
 Glass read_glass(const InputTable& table) {
     Glass glass{};
     glass.thickness = table.number("thickness", {1, 50, "mm"}, usual_thickness);
@@ -43,7 +44,10 @@ Glass read_glass(const InputTable& table) {
 }
 
 Pane as_pane(const Glass& glass, const std::string& name, bool coated_inside) {
-    Pane pane{name, glass.thickness, glass.transmittance, {glass.reflectance, glass.reflectance},
+    Pane pane{name,
+              glass.thickness,
+              glass.transmittance,
+              {glass.reflectance, glass.reflectance},
               {plain_emissivity, plain_emissivity}};
     pane.reflectance[coated_inside] = glass.coated_reflectance;
     pane.emissivity[coated_inside] = glass.emissivity;
@@ -51,7 +55,8 @@ Pane as_pane(const Glass& glass, const std::string& name, bool coated_inside) {
 }
 
 Glass read_entry(const InputTable& entry) {
-    entry.expect({"transmittance"}, {"thickness", "reflectance", "coated_reflectance", "emissivity", "source"});
+    entry.expect({"transmittance"},
+                 {"thickness", "reflectance", "coated_reflectance", "emissivity", "source"});
     return read_glass(entry);
 }
 
@@ -59,7 +64,8 @@ Glass read_entry(const InputTable& entry) {
 bool coated_inside(const InputTable& table, const Glass& glass) {
     if (table.has("coating")) return table.choice("coating", faces, 0) == 1;
     if (glass.has_emissivity || glass.coated_reflectance != glass.reflectance)
-        throw table.error("", "missing coating; allowed outside, inside: the face of the pane that has it");
+        throw table.error(
+            "", "missing coating; allowed outside, inside: the face of the pane that has it");
     return false;
 }
 
@@ -69,7 +75,8 @@ Pane read_pane(const InputTable& table, const Library& library) {
         const Glass glass = read_entry(library.named(table, "glass", "glass"));
         return as_pane(glass, table.text("glass", 60), coated_inside(table, glass));
     }
-    table.expect({"transmittance"}, {"reflectance", "coated_reflectance", "emissivity", "thickness", "coating"});
+    table.expect({"transmittance"},
+                 {"reflectance", "coated_reflectance", "emissivity", "thickness", "coating"});
     const Glass glass = read_glass(table);
     return as_pane(glass, "", coated_inside(table, glass));
 }
@@ -79,8 +86,9 @@ Pane read_pane(const InputTable& place, const InputItem& item, const Library& li
     const auto& name = std::get<std::string>(item);
     const Glass glass = read_entry(library.named(place, "panes", "glass", name));
     if (glass.has_emissivity)
-        throw place.error("panes", "\"" + name + "\" has a coating; write { glass = \"" + name +
-                                       "\", coating = \"outside\" } or \"inside\", the face that has it");
+        throw place.error("panes",
+                          "\"" + name + "\" has a coating; write { glass = \"" + name +
+                              "\", coating = \"outside\" } or \"inside\", the face that has it");
     return as_pane(glass, name, false);
 }
 
@@ -96,22 +104,27 @@ Unit read_unit(const InputTable& table, const Library& library) {
     for (const InputItem& item : table.items("panes", 1, most_panes))
         unit.panes.push_back(read_pane(table, item, library));
     const std::size_t cavities = unit.panes.size() - 1;
-    const std::vector<double> widths = table.has("gap") ? table.numbers("gap", cavities, {3, 500, "mm"})
-                                                        : std::vector<double>(cavities, usual_gap);
+    const std::vector<double> widths = table.has("gap")
+                                           ? table.numbers("gap", cavities, {3, 500, "mm"})
+                                           : std::vector<double>(cavities, usual_gap);
     const auto names = gases(table, cavities);
     for (std::size_t k = 0; k < cavities; ++k)
         unit.cavities.push_back({read_gas(library, table, "gas", names[k]), widths[k]});
     return unit;
 }
 
-void note_what_is_assumed(const InputTable& window, const Unit& unit, std::vector<std::string>& notes) {
+void note_what_is_assumed(const InputTable& window, const Unit& unit,
+                          std::vector<std::string>& notes) {
     const std::string name = window.text("name");
     if (unit.panes.size() > 1 && !window.has("gap"))
-        notes.push_back(name + ": no gap between the panes is given; taken as " + std::to_string(int(usual_gap)) +
-                        " mm of " + (window.has("gas") ? "its gas" : usual_gas));
+        notes.push_back(name + ": no gap between the panes is given; taken as " +
+                        std::to_string(int(usual_gap)) + " mm of " +
+                        (window.has("gas") ? "its gas" : usual_gas));
     for (const Pane& pane : unit.panes)
         if (pane.is_plain() && pane.reflectance[0] > 0 && pane.name.empty()) {
-            notes.push_back(name + ": the emissivity of a coated pane is not given; taken as that of plain glass, 0.84");
+            notes.push_back(name +
+                            ": the emissivity of a coated pane is not given; taken as that of "
+                            "plain glass, 0.84");
             break;
         }
 }
@@ -128,7 +141,8 @@ Slats read_slats(const InputTable& table) {
                  {"emissivity", "gap", "sealed", "lowered_above", "cavity"});
     const auto absorptance = table.numbers("absorptance", 2, {0, 1, "of the slats"});
     return {table.number("spacing", {5, 500, "mm"}), table.number("width", {5, 500, "mm"}),
-            table.number("angle", {-90, 90, "degrees off the normal"}), absorptance[0], absorptance[1]};
+            table.number("angle", {-90, 90, "degrees off the normal"}), absorptance[0],
+            absorptance[1]};
 }
 
 Fabric read_fabric(const InputTable& table) {
@@ -137,7 +151,8 @@ Fabric read_fabric(const InputTable& table) {
     const double transmittance = table.number("transmittance", {0, 1, "of the fabric"});
     return {transmittance,
             table.number("reflectance", {0, rest_of(transmittance), "beside this transmittance"}),
-            table.number("openness", {0, transmittance, "of the fabric, part of its transmittance"}, 0)};
+            table.number("openness", {0, transmittance, "of the fabric, part of its transmittance"},
+                         0)};
 }
 
 // Slats need room to turn, a fabric a place.
@@ -146,7 +161,9 @@ void place_between(const InputTable& table, const Glazing& glazing, Blind& blind
     if (cavities.empty()) throw table.error("side", "between needs two panes or more");
     if (table.has("gap")) throw table.error("gap", "is that of a blind inside or outside");
     if (table.has("cavity"))
-        blind.cavity = static_cast<std::size_t>(table.integer("cavity", 1, static_cast<int>(cavities.size()))) - 1;
+        blind.cavity = static_cast<std::size_t>(
+                           table.integer("cavity", 1, static_cast<int>(cavities.size()))) -
+                       1;
     const auto* slats = std::get_if<Slats>(&blind.make);
     const double width = cavities[blind.cavity].width;
     if (slats && slats->width * std::cos(slats->angle * 3.14159265 / 180) > width)
@@ -155,7 +172,8 @@ void place_between(const InputTable& table, const Glazing& glazing, Blind& blind
 
 }  // namespace
 
-Gas read_gas(const Library& library, const InputTable& place, std::string_view key, const std::string& name) {
+Gas read_gas(const Library& library, const InputTable& place, std::string_view key,
+             const std::string& name) {
     const InputTable entry = library.named(place, key, "gas", name);
     Gas gas{};
     gas.name = name;
@@ -176,7 +194,8 @@ Gas read_gas(const Library& library, const InputTable& place, std::string_view k
     for (const std::string& part : mixture.keys()) {
         const double share = mixture.number(part, {0, 1, "of the volume"});
         const InputTable of_part = library.named(entry, "mixture", "gas", part);
-        if (of_part.has("mixture")) throw entry.error("mixture", "\"" + part + "\" is itself a mixture");
+        if (of_part.has("mixture"))
+            throw entry.error("mixture", "\"" + part + "\" is itself a mixture");
         const Gas one = read_gas(library, entry, "mixture", part);
         for (std::size_t i = 0; i < 4; ++i) {
             gas.conductivity[i] += share * one.conductivity[i];
@@ -189,7 +208,8 @@ Gas read_gas(const Library& library, const InputTable& place, std::string_view k
     return gas;
 }
 
-Glazing read_glazing(const InputTable& window, const Library& library, std::vector<std::string>& notes) {
+Glazing read_glazing(const InputTable& window, const Library& library,
+                     std::vector<std::string>& notes) {
     const int given = window.has("panes") + window.has("unit") + window.has("shading");
     if (given > 1) throw window.error("", "needs one of unit, panes and shading, and not more");
     const bool has_cavity = window.has("gas") || window.has("gap");
@@ -219,7 +239,8 @@ Blind read_blind(const InputTable& table, const Glazing& glazing, const Library&
     constexpr BlindPlace place[] = {BlindPlace::inside, BlindPlace::outside, BlindPlace::between};
     blind.place = place[table.choice("side", places, 0)];
     blind.emissivity = table.number("emissivity", {0.05, 0.95, ""}, usual_blind_emissivity);
-    blind.gap = {read_gas(library, table, "gap", usual_gas), table.number("gap", {5, 500, "mm"}, usual_blind_gap)};
+    blind.gap = {read_gas(library, table, "gap", usual_gas),
+                 table.number("gap", {5, 500, "mm"}, usual_blind_gap)};
     blind.sealed = table.flag("sealed", false);
     blind.lowered_above = table.number("lowered_above", {0, 1500, "W/m² on the glass"}, 0);
     if (blind.place == BlindPlace::between)

@@ -18,7 +18,8 @@ using host::InputTable;
 using host::none;
 
 constexpr std::string_view skies[] = {"clear", "bright"};
-constexpr std::string_view sky_models[] = {"design", "perez", "muneer", "muneer-north", "muneer-south"};
+constexpr std::string_view sky_models[] = {"design", "perez", "muneer", "muneer-north",
+                                           "muneer-south"};
 
 const host::Alternatives alternatives{{"unit", "panes", "shading"},
                                       {"climate", "outdoor_min"},
@@ -28,11 +29,11 @@ const host::Alternatives alternatives{{"unit", "panes", "shading"},
 
 Site read_site(const InputTable& table, const std::optional<Weather>& weather) {
     if (weather)
-        table.expect({}, {"name", "latitude", "longitude", "height", "class", "sky", "sky_model", "utc_offset",
-                          "ground_reflectance"});
+        table.expect({}, {"name", "latitude", "longitude", "height", "class", "sky", "sky_model",
+                          "utc_offset", "ground_reflectance"});
     else
-        table.expect({"name", "latitude"},
-                     {"longitude", "height", "class", "sky", "sky_model", "utc_offset", "ground_reflectance"});
+        table.expect({"name", "latitude"}, {"longitude", "height", "class", "sky", "sky_model",
+                                            "utc_offset", "ground_reflectance"});
     Site site{};
     site.name = table.has("name") ? table.text("name") : weather->place;
     site.latitude = table.number("latitude", {-90, 90, "degrees north"}, none);
@@ -41,12 +42,14 @@ Site read_site(const InputTable& table, const std::optional<Weather>& weather) {
     site.site_class = table.has("class") ? table.integer("class", 1, 6) : 5;
     if (table.has("sky")) site.sky = table.choice("sky", skies, 0);
     site.sky_model = SkyModel::perez;
-    if (table.has("sky_model")) site.sky_model = static_cast<SkyModel>(table.choice("sky_model", sky_models, 0));
+    if (table.has("sky_model"))
+        site.sky_model = static_cast<SkyModel>(table.choice("sky_model", sky_models, 0));
     if (table.has("ground_reflectance"))
         site.ground_reflectance = table.number("ground_reflectance", {0, 1, ""});
     if (table.has("utc_offset")) {
         site.utc_offset = table.number("utc_offset", {-12, 14, "h"});
-        if (std::isnan(site.longitude) && !weather) throw table.error("utc_offset", "needs the longitude too");
+        if (std::isnan(site.longitude) && !weather)
+            throw table.error("utc_offset", "needs the longitude too");
     }
     if (weather) {
         site.latitude = weather->latitude;
@@ -68,24 +71,29 @@ Site site_of(const Weather& weather) {
 }
 
 // One number for all months, or twelve.
-double of_month(const InputTable& table, std::string_view key, int month, const host::Range& range) {
+double of_month(const InputTable& table, std::string_view key, int month,
+                const host::Range& range) {
     if (!table.is_list(key)) return table.number(key, range);
     return table.numbers(key, 12, range)[static_cast<std::size_t>(month - 1)];
 }
 
 void expect_day(const InputTable& table, Span span, bool glazed) {
-    if (table.has("climate") && (table.has("outdoor_min") || table.has("outdoor_max") || table.has("hour_of_max")))
+    if (table.has("climate") &&
+        (table.has("outdoor_min") || table.has("outdoor_max") || table.has("hour_of_max")))
         throw table.error("climate", "stands in place of outdoor_min, outdoor_max and hour_of_max");
     if (table.has("month") && table.has("day_of_year"))
         throw table.error("", "needs either month or day_of_year, and not both");
     if (glazed && span == Span::year)
-        table.expect({"room"}, {"month", "day_of_year", "outdoor_min", "outdoor_max", "hour_of_max", "climate"});
+        table.expect({"room"}, {"month", "day_of_year", "outdoor_min", "outdoor_max", "hour_of_max",
+                                "climate"});
     else if (glazed && table.has("climate"))
         table.expect({"room", "climate"}, {"month", "day_of_year"});
     else if (glazed)
-        table.expect({"room", "outdoor_min", "outdoor_max"}, {"month", "day_of_year", "hour_of_max", "climate"});
+        table.expect({"room", "outdoor_min", "outdoor_max"},
+                     {"month", "day_of_year", "hour_of_max", "climate"});
     else
-        table.expect({}, {"month", "day_of_year", "room", "outdoor_min", "outdoor_max", "hour_of_max", "climate"});
+        table.expect({}, {"month", "day_of_year", "room", "outdoor_min", "outdoor_max",
+                          "hour_of_max", "climate"});
 }
 
 void read_temperatures(const InputTable& table, const std::string& input, DesignDay& day) {
@@ -93,14 +101,17 @@ void read_temperatures(const InputTable& table, const std::string& input, Design
     day.outdoor_min = day.outdoor_max = none;
     day.hour_of_max = 15;
     if (table.has("climate")) return read_climate(table.table("climate"), input, day);
-    if (table.has("outdoor_min")) day.outdoor_min = of_month(table, "outdoor_min", day.month, {-60, 60, "°C"});
+    if (table.has("outdoor_min"))
+        day.outdoor_min = of_month(table, "outdoor_min", day.month, {-60, 60, "°C"});
     if (table.has("outdoor_max")) {
         const bool bounded = table.has("outdoor_min") && !table.is_list("outdoor_max");
         day.outdoor_max =
             of_month(table, "outdoor_max", day.month, {bounded ? day.outdoor_min : -60, 60, "°C"});
         if (day.outdoor_max < day.outdoor_min)
-            throw table.error("outdoor_max", "is below outdoor_min in " +
-                                                 std::string(host::month_names[static_cast<std::size_t>(day.month - 1)]));
+            throw table.error(
+                "outdoor_max",
+                "is below outdoor_min in " +
+                    std::string(host::month_names[static_cast<std::size_t>(day.month - 1)]));
     }
     day.hour_of_max = table.number("hour_of_max", {13, 18, "h solar time"}, 15);
 }
@@ -138,7 +149,8 @@ std::vector<DesignDay> read_days(const InputTable& table, const std::string& inp
 // The area of the glass, or its width and height, which shades need.
 void read_size(const InputTable& table, bool shaded, Window& window) {
     const bool sized = table.has("width") || table.has("height");
-    if (sized && table.has("area")) throw table.error("area", "stands in place of width and height");
+    if (sized && table.has("area"))
+        throw table.error("area", "stands in place of width and height");
     if (!sized && !table.has("area")) throw table.error("", "missing width, height; or area");
     if (sized) {
         for (const char* key : {"width", "height"})
@@ -148,16 +160,18 @@ void read_size(const InputTable& table, bool shaded, Window& window) {
         window.area = window.width * window.height;
         return;
     }
-    if (shaded) throw table.error("area", "shading needs the width and the height of the window in its place");
+    if (shaded)
+        throw table.error("area",
+                          "shading needs the width and the height of the window in its place");
     window.area = table.number("area", {0.01, 1000, "m²"});
     window.width = window.height = std::sqrt(window.area);
 }
 
 Window read_window(const InputTable& table, const InputTable& root, const host::Library& library,
                    std::vector<std::string>& notes) {
-    table.expect({"name", "orientation"},
-                 {"area", "width", "height", "tilt", "sill", "unit", "panes", "gas", "gap", "shading", "blind",
-                  "reveal", "left_fin", "right_fin", "overhang", "obstruction"});
+    table.expect({"name", "orientation"}, {"area", "width", "height", "tilt", "sill", "unit",
+                                           "panes", "gas", "gap", "shading", "blind", "reveal",
+                                           "left_fin", "right_fin", "overhang", "obstruction"});
     Window window{};
     window.name = table.text("name");
     window.orientation = table.number("orientation", {0, 360, "degrees clockwise from north"});
@@ -168,7 +182,8 @@ Window read_window(const InputTable& table, const InputTable& root, const host::
     window.glazing = read_glazing(table, library, notes);
     if (table.has("blind")) {
         if (!std::holds_alternative<Unit>(window.glazing))
-            throw table.error("blind", "needs a unit or panes; shading is of a whole unit and takes no blind");
+            throw table.error(
+                "blind", "needs a unit or panes; shading is of a whole unit and takes no blind");
         window.blind = read_blind(table.table("blind"), window.glazing, library);
     }
     window.shades = read_shades(own ? table : root);
@@ -184,9 +199,11 @@ std::vector<Window> read_windows(const InputTable& root, const host::Library& li
     else
         tables = root.tables("window", 1, most_windows);
     if (tables.size() > 1 && has_shades(root))
-        throw root.error("window", "is more than one; what shades each of them belongs into its own table");
+        throw root.error("window",
+                         "is more than one; what shades each of them belongs into its own table");
     std::vector<Window> windows;
-    for (const InputTable& table : tables) windows.push_back(read_window(table, root, library, notes));
+    for (const InputTable& table : tables)
+        windows.push_back(read_window(table, root, library, notes));
     return windows;
 }
 
@@ -196,8 +213,8 @@ Weather read_weather(const std::string& path) {
     for (const climatefile::WeatherDay& day : year.days)
         for (std::size_t h = 0; h < day.hours.size(); ++h) {
             const climatefile::Hour& hour = day.hours[h];
-            weather.hours.push_back({day.month, day.day_of_year, static_cast<int>(h) + 1, hour.direct_normal,
-                                     hour.diffuse_horizontal, hour.dry_bulb});
+            weather.hours.push_back({day.month, day.day_of_year, static_cast<int>(h) + 1,
+                                     hour.direct_normal, hour.diffuse_horizontal, hour.dry_bulb});
         }
     return weather;
 }
@@ -208,12 +225,14 @@ bool any_glazed(const std::vector<Window>& windows) {
     return false;
 }
 
-Job read_job(const InputTable& root, const std::string& input, const Request& request, const host::Library& library,
-             const std::optional<Weather>& weather) {
+Job read_job(const InputTable& root, const std::string& input, const Request& request,
+             const host::Library& library, const std::optional<Weather>& weather) {
     if (weather)
-        root.expect({"window"}, {"site", "day", "reveal", "left_fin", "right_fin", "overhang", "obstruction"});
+        root.expect({"window"},
+                    {"site", "day", "reveal", "left_fin", "right_fin", "overhang", "obstruction"});
     else
-        root.expect({"site", "day", "window"}, {"reveal", "left_fin", "right_fin", "overhang", "obstruction"});
+        root.expect({"site", "day", "window"},
+                    {"reveal", "left_fin", "right_fin", "overhang", "obstruction"});
     Job job{};
     job.span = request.span;
     job.weather = weather;

@@ -23,14 +23,14 @@ struct Job {
     std::string variant;  // its name; empty: the input as it is
     Span span;
     Site site;
-    std::vector<DesignDay> days;      // one, or twelve for the months, none for a year of weather
-    std::optional<Weather> weather;   // of the year
+    std::vector<DesignDay> days;     // one, or twelve for the months, none for a year of weather
+    std::optional<Weather> weather;  // of the year
     std::vector<Window> windows;
-    std::vector<std::string> notes;   // what was taken for granted
+    std::vector<std::string> notes;  // what was taken for granted
 };
 
-// The input as it is, then its variants. Throws host::InputError at the first fault. A climate data file is read by
-// the library, which must have been loaded.
+// The input as it is, then its variants. Throws host::InputError at the first fault. A climate data
+// file is read by the library, which must have been loaded.
 std::vector<Job> read_jobs(const std::string& path, const Request& request);
 
 }  // namespace quorvel::window

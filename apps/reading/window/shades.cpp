@@ -20,14 +20,15 @@ std::optional<Fin> read_fin(const InputTable& place, std::string_view key) {
     if (!place.has(key)) return std::nullopt;
     const InputTable table = place.table(key);
     table.expect({"depth"}, {"offset", "above", "below"});
-    return Fin{table.number("depth", depth), table.number("offset", beyond, 0), table.number("above", beyond, 0),
-               table.number("below", beyond, 0)};
+    return Fin{table.number("depth", depth), table.number("offset", beyond, 0),
+               table.number("above", beyond, 0), table.number("below", beyond, 0)};
 }
 
 Overhang read_overhang(const InputTable& table) {
     table.expect({"depth"}, {"offset", "left", "right", "slope"});
-    return {table.number("depth", depth), table.number("offset", beyond, 0), table.number("left", beyond, 0),
-            table.number("right", beyond, 0), table.number("slope", {-80, 80, "degrees, falling outwards"}, 0)};
+    return {table.number("depth", depth), table.number("offset", beyond, 0),
+            table.number("left", beyond, 0), table.number("right", beyond, 0),
+            table.number("slope", {-80, 80, "degrees, falling outwards"}, 0)};
 }
 
 Obstruction read_obstruction(const InputTable& table) {

@@ -32,9 +32,12 @@ bool readable(const std::string& file) {
 }
 
 bool is_day(const Record& record) {
-    const auto within = [](float low, float value, float high) { return low <= value && value <= high; };
-    return within(0, record[hour_b], 24) && within(0, record[hour_a], 24) && record[hour_a] != record[hour_b] &&
-           within(-90, record[at_hour_b], 60) && within(-90, record[at_hour_a], 60);
+    const auto within = [](float low, float value, float high) {
+        return low <= value && value <= high;
+    };
+    return within(0, record[hour_b], 24) && within(0, record[hour_a], 24) &&
+           record[hour_a] != record[hour_b] && within(-90, record[at_hour_b], 60) &&
+           within(-90, record[at_hour_a], 60);
 }
 
 }  // namespace
@@ -60,8 +63,10 @@ void read_climate(const host::InputTable& table, const std::string& input, Desig
         throw table.error("station", file + " has no station " + std::to_string(station));
     const std::string month(host::month_names[static_cast<std::size_t>(day.month - 1)]);
     if (!is_day(record))
-        throw table.error("station", place + ": no day's temperatures in " + month +
-                                         "; needed are two different hours, 0 to 24 h, and temperatures, -90 to 60 °C");
+        throw table.error(
+            "station",
+            place + ": no day's temperatures in " + month +
+                "; needed are two different hours, 0 to 24 h, and temperatures, -90 to 60 °C");
     const bool turned = record[at_hour_b] > record[at_hour_a];  // the colder hour is called A
     const std::size_t cold = turned ? at_hour_a : at_hour_b, warm = turned ? at_hour_b : at_hour_a;
     day.outdoor_min = record[cold];
@@ -69,8 +74,7 @@ void read_climate(const host::InputTable& table, const std::string& input, Desig
     day.hour_of_min = record[turned ? hour_a : hour_b];
     day.hour_of_max = record[turned ? hour_b : hour_a];
     day.source = name + ", station " + std::to_string(station) + ", at " + host::shortest(share) +
-                 " % of set " + std::to_string(which) +
-                 (turned ? ", its warmer hour being B" : "");
+                 " % of set " + std::to_string(which) + (turned ? ", its warmer hour being B" : "");
 }
 
 }  // namespace quorvel::window

@@ -46,13 +46,15 @@ host::Answer comparison(const std::vector<Variation>& variations) {
                           .main = true};
     for (const Variation& v : variations) {
         table.rows.push_back(row(v));
-        section.paragraphs.push_back((v.subject.variant.empty() ? "As it is" : v.subject.variant) + ": " +
-                                     condensation_told(v.question, v.assessment));
-        answer.warnings.insert(answer.warnings.end(), v.subject.warnings.begin(), v.subject.warnings.end());
+        section.paragraphs.push_back((v.subject.variant.empty() ? "As it is" : v.subject.variant) +
+                                     ": " + condensation_told(v.question, v.assessment));
+        answer.warnings.insert(answer.warnings.end(), v.subject.warnings.begin(),
+                               v.subject.warnings.end());
     }
     section.tables.push_back(std::move(table));
     if (all_years(variations))
-        section.pictures.push_back({"variants", "Water through the year", comparison_chart(variations)});
+        section.pictures.push_back(
+            {"variants", "Water through the year", comparison_chart(variations)});
     answer.sections.push_back(std::move(section));
     return answer;
 }

@@ -21,13 +21,16 @@ std::vector<std::string> lines(const std::string& text) {
 
 }  // namespace
 
-void draw_heading(host::Chart& chart, const Subject& subject, const Question& question, const Assessment& assessment,
-                  const std::string& shown) {
+void draw_heading(host::Chart& chart, const Subject& subject, const Question& question,
+                  const Assessment& assessment, const std::string& shown) {
     const bool wet = assessment.year ? !assessment.year->dry() : assessment.dry.front().inside_wet;
-    chart.text(heading_margin, 38, subject.name + (subject.variant.empty() ? "" : ": " + subject.variant), {ink, 24, true});
+    chart.text(heading_margin, 38,
+               subject.name + (subject.variant.empty() ? "" : ": " + subject.variant),
+               {ink, 24, true});
     chart.text(heading_margin, 66,
-               "U-value " + told_with_unit(u_value, assessment.transmittance.u_value) + "  ·  f_Rsi " +
-                   host::told(temperature_factor, assessment.surface.factor) + "  ·  " + shown,
+               "U-value " + told_with_unit(u_value, assessment.transmittance.u_value) +
+                   "  ·  f_Rsi " + host::told(temperature_factor, assessment.surface.factor) +
+                   "  ·  " + shown,
                {grey, 12});
     double y = 94;
     for (const std::string& line : lines(condensation_told(question, assessment))) {

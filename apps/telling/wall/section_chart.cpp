@@ -6,8 +6,8 @@
 #include "quorvel/psychro.h"
 #include "telling/text.h"
 #include "telling/value.h"
-#include "telling/wall/heading.h"
 #include "telling/wall/hatching.h"
+#include "telling/wall/heading.h"
 
 namespace quorvel::wall {
 namespace {
@@ -38,13 +38,15 @@ std::vector<double> moved_apart(const std::vector<double>& middles, double spaci
     for (const double middle : middles)
         places.push_back(places.empty() ? middle : std::max(middle, places.back() + spacing));
     double limit = plot_width;
-    for (std::size_t i = places.size(); i-- > 0; limit = places[i] - spacing) places[i] = std::min(places[i], limit);
+    for (std::size_t i = places.size(); i-- > 0; limit = places[i] - spacing)
+        places[i] = std::min(places[i], limit);
     return places;
 }
 
 class Picture {
   public:
-    Picture(const Subject& subject, const Question& question, const Assessment& assessment, std::size_t month)
+    Picture(const Subject& subject, const Question& question, const Assessment& assessment,
+            std::size_t month)
         : subject_(subject),
           question_(question),
           assessment_(assessment),
@@ -71,7 +73,9 @@ class Picture {
 
   private:
     double drawn_height() const {  // many layers make a long legend
-        return std::max(height, section_top + 24 + legend_row * static_cast<double>(question_.element.layers.size()));
+        return std::max(
+            height,
+            section_top + 24 + legend_row * static_cast<double>(question_.element.layers.size()));
     }
     double pixel(double x) const {  // across a panel, of a place in mm from the inside surface
         return plot_width * (x / thickness_ + air) / (1 + 2 * air);
@@ -119,7 +123,9 @@ void Picture::trace() {
     struct Node {
         double x, temperature, vapour_pressure;
     };
-    const auto of_air = [](double x, const Air& air) { return Node{x, air.temperature, air.vapour_pressure()}; };
+    const auto of_air = [](double x, const Air& air) {
+        return Node{x, air.temperature, air.vapour_pressure()};
+    };
     const double film = air / 2 * thickness_;
     std::vector<Node> nodes{of_air(-2 * film, climate_.inside), of_air(-film, climate_.inside)};
     for (std::size_t i = 0; i < path_.places.size(); ++i)
@@ -131,18 +137,20 @@ void Picture::trace() {
         for (int step = 0; step <= steps_per_segment; ++step) {
             const double s = static_cast<double>(step) / steps_per_segment;
             const double t = std::lerp(nodes[i].temperature, nodes[i + 1].temperature, s);
-            rows_.push_back({std::lerp(nodes[i].x, nodes[i + 1].x, s), t, lib::saturation_pressure(t),
+            rows_.push_back({std::lerp(nodes[i].x, nodes[i + 1].x, s), t,
+                             lib::saturation_pressure(t),
                              std::lerp(nodes[i].vapour_pressure, nodes[i + 1].vapour_pressure, s)});
         }
     }
 }
 
 std::string told(const Slab& slab) {
-    if (slab.thickness == 0) return "vapour resistance " + told_with_unit(resistance_to_vapour, slab.vapour_resistance);
+    if (slab.thickness == 0)
+        return "vapour resistance " + told_with_unit(resistance_to_vapour, slab.vapour_resistance);
     const auto* solid = std::get_if<Solid>(&slab.part->make);
     return told_with_unit(layer_thickness, 1000 * slab.thickness) +
-           (solid ? ", " + told_with_unit(layer_conductivity, solid->conductivity) : ", air") + ", " +
-           told_with_unit(resistance_to_heat, slab.resistance) + ", " +
+           (solid ? ", " + told_with_unit(layer_conductivity, solid->conductivity) : ", air") +
+           ", " + told_with_unit(resistance_to_heat, slab.resistance) + ", " +
            told_with_unit(resistance_to_vapour, slab.vapour_resistance);
 }
 
@@ -165,7 +173,8 @@ void Picture::numbers() {
     const double below = section_top - numbers_row;
     chart_.canvas({left, numbers_row, plot_width, below});
     const bool monthly = question_.climates.size() > 1;
-    draw_heading(chart_, subject_, question_, assessment_, (monthly ? month_name(month_) + ": " : "") + wall::told(climate_));
+    draw_heading(chart_, subject_, question_, assessment_,
+                 (monthly ? month_name(month_) + ": " : "") + wall::told(climate_));
     chart_.title(heading_margin, numbers_row - 30, "Temperature, °C", {});
     chart_.text(left + pixel(0) - 14, numbers_row + 4, "inside", {grey, 12, false, "right"});
     chart_.text(left + pixel(thickness_) + 14, numbers_row + 4, "outside", {grey, 12});
@@ -175,7 +184,8 @@ void Picture::numbers() {
     const auto places = moved_apart(middles, number_spacing);
     std::vector<std::string> leaders;
     for (std::size_t i = 0; i < places.size(); ++i) {
-        chart_.text(left + places[i], numbers_row, std::to_string(i + 1), {ink, 13, true, "center"});
+        chart_.text(left + places[i], numbers_row, std::to_string(i + 1),
+                    {ink, 13, true, "center"});
         leaders.push_back(curve(chart_.data({{places[i], 10}, {middles[i], below}}), 2, grey, 1));
     }
     chart_.plot(leaders);
@@ -186,13 +196,15 @@ void Picture::section(double top, double height) {
     auto parts = draw_section(chart_, bands_, height);
     for (std::size_t i = 0; i < path_.places.size(); ++i) {
         const double x = pixel(millimetres(i));
-        if (gains(i)) parts.push_back(curve(chart_.data({{x, 0}, {x, height}}), 2, vapour_colour, 2, "2"));
+        if (gains(i))
+            parts.push_back(curve(chart_.data({{x, 0}, {x, height}}), 2, vapour_colour, 2, "2"));
     }
     chart_.plot(parts);
 }
 
 // Gives what is plotted first: the two surfaces of the construction.
-std::vector<std::string> Picture::begin_panel(double top, double height, const host::Scale& vertical) {
+std::vector<std::string> Picture::begin_panel(double top, double height,
+                                              const host::Scale& vertical) {
     chart_.panel({left, top, plot_width, height});
     host::Scale across = host::round_scale(0, thickness_);
     across.low = -air * thickness_;
@@ -211,14 +223,16 @@ void Picture::dots(const std::vector<double>& quantity, const char* colour) {
 }
 
 void Picture::temperatures() {
-    const auto [least, most] = std::ranges::minmax(rows_, {}, [](const auto& row) { return row[1]; });
+    const auto [least, most] =
+        std::ranges::minmax(rows_, {}, [](const auto& row) { return row[1]; });
     auto parts = begin_panel(section_top, temperature_height, host::round_scale(least[1], most[1]));
     dots(profile_.temperature, temperature_colour);
     parts.push_back(curve(chart_.data(rows_), 2, temperature_colour, 2.5));
     chart_.plot(parts);
 }
 
-// What condenses, between the panels where no line runs; a layer that is wet within tells its sum in its middle.
+// What condenses, between the panels where no line runs; a layer that is wet within tells its sum
+// in its middle.
 void Picture::rates() {
     struct Rate {
         double gain = 0, first = 0, last = 0;  // g/m² a day; the pixels between which it gathers
@@ -239,7 +253,8 @@ void Picture::rates() {
     for (const Rate& rate : rates) middles.push_back((rate.first + rate.last) / 2);
     const auto places = moved_apart(middles, rate_spacing);
     for (std::size_t i = 0; i < rates.size(); ++i)
-        chart_.text(left + places[i], pressure_top - 16, "condenses " + told_with_unit(water_gain, rates[i].gain),
+        chart_.text(left + places[i], pressure_top - 16,
+                    "condenses " + told_with_unit(water_gain, rates[i].gain),
                     {vapour_colour, 12, true, "center"});
 }
 
@@ -249,7 +264,8 @@ void Picture::pressures() {
     auto parts = begin_panel(pressure_top, pressure_height, host::round_scale(0, most));
     chart_.title(heading_margin, pressure_top - 46, "Pressure of vapour, Pa",
                  {{"━", saturation_colour, "at saturation"}, {"━", vapour_colour, "in the wall"}});
-    chart_.text(right, pressure_top + pressure_height + 42, "mm from the inside surface", {grey, 12, false, "right"});
+    chart_.text(right, pressure_top + pressure_height + 42, "mm from the inside surface",
+                {grey, 12, false, "right"});
     rates();
     dots(profile_.pressure, vapour_colour);
     const std::string rows = chart_.data(rows_);
@@ -260,8 +276,8 @@ void Picture::pressures() {
 
 }  // namespace
 
-host::Chart section_chart(const Subject& subject, const Question& question, const Assessment& assessment,
-                          std::size_t month) {
+host::Chart section_chart(const Subject& subject, const Question& question,
+                          const Assessment& assessment, std::size_t month) {
     return Picture(subject, question, assessment, month).drawn();
 }
 

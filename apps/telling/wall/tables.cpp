@@ -19,8 +19,8 @@ using Row = std::vector<Value>;
 const Quantity month_column{"month", "month"};
 const Quantity interface_column{"interface", "interface"};
 
-Row layer_row(const std::string& number, const std::string& name, double thickness, const Part* part, double resistance,
-              double vapour_resistance) {
+Row layer_row(const std::string& number, const std::string& name, double thickness,
+              const Part* part, double resistance, double vapour_resistance) {
     const auto* solid = part ? std::get_if<Solid>(&part->make) : nullptr;
     return {number,
             name,
@@ -35,12 +35,15 @@ Row layer_row(const std::string& number, const std::string& name, double thickne
 
 // The slab that a part of a layer is in some section.
 const Slab& slab_of(const Assessment& assessment, std::size_t layer, const Part& part) {
-    return std::ranges::find_if(assessment.sections, [&](const Section& s) { return s.slabs[layer].part == &part; })
+    return std::ranges::find_if(assessment.sections,
+                                [&](const Section& s) { return s.slabs[layer].part == &part; })
         ->slabs[layer];
 }
 
 // Interfaces, and other places where water comes or goes.
-bool worth_showing(const Place& place, double gain) { return !place.within || std::abs(gain) >= least_water; }
+bool worth_showing(const Place& place, double gain) {
+    return !place.within || std::abs(gain) >= least_water;
+}
 
 std::vector<Quantity> profile_columns() {
     return {interface_column,
@@ -63,8 +66,9 @@ std::vector<Row> profile_rows(const Question& question, const Path& path, const 
     for (std::size_t i = 0; i < path.places.size(); ++i) {
         const Place& place = path.places[i];
         if (!worth_showing(place, profile.gain[i])) continue;
-        rows.push_back({place_name(place, layers.size()), behind(place), 1000 * place.position, profile.temperature[i],
-                        profile.saturation[i], profile.pressure[i], profile.relative_humidity(i), profile.gain[i]});
+        rows.push_back({place_name(place, layers.size()), behind(place), 1000 * place.position,
+                        profile.temperature[i], profile.saturation[i], profile.pressure[i],
+                        profile.relative_humidity(i), profile.gain[i]});
     }
     return rows;
 }
@@ -72,35 +76,41 @@ std::vector<Row> profile_rows(const Question& question, const Path& path, const 
 }  // namespace
 
 DataTable layer_table(const Question& question, const Assessment& assessment) {
-    DataTable table{.key = "layers", .title = "", .columns = {{"number", ""},
-                                                              {"layer", "layer, from the inside"},
-                                                              layer_thickness,
-                                                              layer_conductivity,
-                                                              {"density", "ρ", "kg/m³", as_given},
-                                                              {"specific_heat", "c", "J/kgK", as_given},
-                                                              resistance_to_heat,
-                                                              resistance_to_vapour,
-                                                              {"s_d", "s_d", "m", 2}},
+    DataTable table{.key = "layers",
+                    .title = "",
+                    .columns = {{"number", ""},
+                                {"layer", "layer, from the inside"},
+                                layer_thickness,
+                                layer_conductivity,
+                                {"density", "ρ", "kg/m³", as_given},
+                                {"specific_heat", "c", "J/kgK", as_given},
+                                resistance_to_heat,
+                                resistance_to_vapour,
+                                {"s_d", "s_d", "m", 2}},
                     .rows = {}};
     for (std::size_t i = 0; i < question.element.layers.size(); ++i) {
         const Layer& layer = question.element.layers[i];
         const Slab& slab = slab_of(assessment, i, layer.parts.front());
         if (layer.homogeneous()) {
-            table.rows.push_back(layer_row(std::to_string(i + 1), layer.name, layer.thickness, &layer.parts.front(),
-                                           slab.resistance, slab.vapour_resistance));
+            table.rows.push_back(layer_row(std::to_string(i + 1), layer.name, layer.thickness,
+                                           &layer.parts.front(), slab.resistance,
+                                           slab.vapour_resistance));
             continue;
         }
-        Row whole = layer_row(std::to_string(i + 1), layer.name, layer.thickness, nullptr, assessment.layer_resistances[i], none);
+        Row whole = layer_row(std::to_string(i + 1), layer.name, layer.thickness, nullptr,
+                              assessment.layer_resistances[i], none);
         table.rows.push_back(std::move(whole));
         for (const Part& part : layer.parts) {
             const Slab& of = slab_of(assessment, i, part);
-            table.rows.push_back(layer_row("", host::shortest(100 * part.fraction) + " % " + part.name, layer.thickness,
-                                           &part, of.resistance, of.vapour_resistance));
+            table.rows.push_back(
+                layer_row("", host::shortest(100 * part.fraction) + " % " + part.name,
+                          layer.thickness, &part, of.resistance, of.vapour_resistance));
         }
     }
-    table.remarks = {"Together " + told_with_unit(layer_thickness, 1000 * assessment.thickness) + ", " +
-                     host::fixed(assessment.mass, 0) + " kg/m², vapour resistance " +
-                     told_with_unit(resistance_to_vapour, assessment.path.places.back().vapour_resistance)};
+    table.remarks = {
+        "Together " + told_with_unit(layer_thickness, 1000 * assessment.thickness) + ", " +
+        host::fixed(assessment.mass, 0) + " kg/m², vapour resistance " +
+        told_with_unit(resistance_to_vapour, assessment.path.places.back().vapour_resistance)};
     return table;
 }
 
@@ -114,8 +124,12 @@ DataTable profile_table(const Question& question, const Assessment& assessment, 
 }
 
 DataTable profiles_table(const Question& question, const Assessment& assessment) {
-    DataTable table{.key = "profiles", .title = "Profiles of the months", .columns = profile_columns(), .rows = {},
-                    .on_request = true, .main = true};
+    DataTable table{.key = "profiles",
+                    .title = "Profiles of the months",
+                    .columns = profile_columns(),
+                    .rows = {},
+                    .on_request = true,
+                    .main = true};
     table.columns.insert(table.columns.begin(), month_column);
     for (std::size_t m = 0; m < question.climates.size(); ++m) {
         for (Row& row : profile_rows(question, assessment.path, profile_of(assessment, m))) {
@@ -145,23 +159,28 @@ DataTable month_table(const Question& question, const Assessment& assessment) {
         const auto& [inside, outside] = question.climates[m];
         const SurfaceOfMonth& surface = assessment.surface.months[m];
         const MonthOfYear& month = assessment.year->of(m);
-        table.rows.push_back({month_name(m), inside.temperature, inside.humidity, outside.temperature, outside.humidity,
-                              surface.humidity, surface.required, month.condensed, month.evaporated, month.content});
+        table.rows.push_back({month_name(m), inside.temperature, inside.humidity,
+                              outside.temperature, outside.humidity, surface.humidity,
+                              surface.required, month.condensed, month.evaporated, month.content});
     }
     return table;
 }
 
 DataTable water_table(const Question& question, const Assessment& assessment) {
     const Year& year = *assessment.year;
-    DataTable table{.key = "water", .title = "Water at the end of the month, by interface", .columns = {month_column},
-                    .rows = {}, .on_request = true};
+    DataTable table{.key = "water",
+                    .title = "Water at the end of the month, by interface",
+                    .columns = {month_column},
+                    .rows = {},
+                    .on_request = true};
     for (const Deposit& deposit : year.deposits) {
         const std::string name = deposit_name(deposit, question.element.layers.size());
         table.columns.push_back({"content_" + name, name, "g/m²", 1, "", true});
     }
     for (std::size_t m = 0; m < year.months.size(); ++m) {
         table.rows.push_back({month_name(year.months[m].month)});
-        for (const Deposit& deposit : year.deposits) table.rows.back().emplace_back(deposit.content[m]);
+        for (const Deposit& deposit : year.deposits)
+            table.rows.back().emplace_back(deposit.content[m]);
     }
     return table;
 }

@@ -8,7 +8,8 @@ namespace quorvel::wall {
 host::DataTable layer_table(const Question& question, const Assessment& assessment);
 
 // The profile of a month, or of the only case.
-host::DataTable profile_table(const Question& question, const Assessment& assessment, std::size_t month);
+host::DataTable profile_table(const Question& question, const Assessment& assessment,
+                              std::size_t month);
 
 // Those of all months, for other programs.
 host::DataTable profiles_table(const Question& question, const Assessment& assessment);

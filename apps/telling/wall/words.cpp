@@ -32,12 +32,14 @@ std::string steady_condensation(const Question& question, const Assessment& asse
     std::vector<std::string> places;
     for (std::size_t i = 0; i < profile.gain.size(); ++i) {
         const Place& place = assessment.path.places[i];
-        const std::string name = place.within ? "in " + std::to_string(place.index + 1) : interface_name(place.index, layers);
-        if (profile.gain[i] >= least_water && (places.empty() || places.back() != name)) places.push_back(name);
+        const std::string name = place.within ? "in " + std::to_string(place.index + 1)
+                                              : interface_name(place.index, layers);
+        if (profile.gain[i] >= least_water && (places.empty() || places.back() != name))
+            places.push_back(name);
     }
     if (places.empty()) return "No vapour condenses within it.";
-    return "Vapour condenses at " + joined(places) + ", " + told_with_unit(water_gain, condensing(profile)) +
-           ", as long as the climate stays so.";
+    return "Vapour condenses at " + joined(places) + ", " +
+           told_with_unit(water_gain, condensing(profile)) + ", as long as the climate stays so.";
 }
 
 std::string wet_places(const Question& question, const Year& year) {
@@ -55,9 +57,11 @@ std::string year_told(const Question& question, const Year& year) {
     for (const MonthOfYear& month : year.months)
         gaining[month.month] = month.condensed - month.evaporated >= least_water;
     const auto name = [&](std::size_t i) { return month_name(year.months[i].month); };
-    const std::string where = "Vapour condenses at " + wet_places(question, year) + ", " + months_told(gaining) + ": ";
+    const std::string where =
+        "Vapour condenses at " + wet_places(question, year) + ", " + months_told(gaining) + ": ";
     const std::string most = grams(year.peak()) + " at the end of " + name(year.wettest);
-    if (year.dries()) return where + "at most " + most + ", dry again in " + name(year.dry_from) + '.';
+    if (year.dries())
+        return where + "at most " + most + ", dry again in " + name(year.dry_from) + '.';
     const bool still_rising = year.wettest + 1 == months_of_year;
     return where + (still_rising ? "" : most + ", of which ") + grams(year.left()) +
            " are left after a year, and every further year adds as much. It does not dry.";
@@ -67,7 +71,8 @@ std::string surfaces_told(const Assessment& assessment) {
     std::vector<bool> wet;
     for (const Profile& profile : assessment.dry) wet.push_back(profile.inside_wet);
     if (std::ranges::find(wet, true) == wet.end()) return "";
-    return " Vapour condenses on the inside surface" + (wet.size() > 1 ? ", " + months_told(wet) : "") + '.';
+    return " Vapour condenses on the inside surface" +
+           (wet.size() > 1 ? ", " + months_told(wet) : "") + '.';
 }
 
 }  // namespace
@@ -87,7 +92,8 @@ std::string place_name(const Place& place, std::size_t layers) {
 }
 
 std::string deposit_name(const Deposit& deposit, std::size_t layers) {
-    return deposit.within ? "in " + std::to_string(deposit.index + 1) : interface_name(deposit.index, layers);
+    return deposit.within ? "in " + std::to_string(deposit.index + 1)
+                          : interface_name(deposit.index, layers);
 }
 
 std::string section_name(const Element& element, const Section& section) {
@@ -98,7 +104,9 @@ std::string section_name(const Element& element, const Section& section) {
 }
 
 std::string told(const Climate& climate) {
-    const auto told = [](const Air& air) { return fixed(air.temperature, 1) + " °C " + fixed(air.humidity, 0) + " %"; };
+    const auto told = [](const Air& air) {
+        return fixed(air.temperature, 1) + " °C " + fixed(air.humidity, 0) + " %";
+    };
     return "inside " + told(climate.inside) + ", outside " + told(climate.outside);
 }
 
@@ -117,7 +125,8 @@ std::string months_told(const std::vector<bool>& months) {
 }
 
 std::string condensation_told(const Question& question, const Assessment& assessment) {
-    return (assessment.year ? year_told(question, *assessment.year) : steady_condensation(question, assessment)) +
+    return (assessment.year ? year_told(question, *assessment.year)
+                            : steady_condensation(question, assessment)) +
            surfaces_told(assessment);
 }
 
@@ -126,13 +135,17 @@ std::string mould_told(const Question& question, const Assessment& assessment) {
     const bool monthly = question.climates.size() > 1;
     const std::string demand = std::isnan(surface.required)
                                    ? "the climate asks for none"
-                                   : "needed is " + host::told(temperature_factor, surface.required) +
+                                   : "needed is " +
+                                         host::told(temperature_factor, surface.required) +
                                          (monthly ? " in " + month_name(surface.critical) : "");
-    const std::string factors = "f_Rsi is " + host::told(temperature_factor, surface.factor) + ", " + demand + '.';
+    const std::string factors =
+        "f_Rsi is " + host::told(temperature_factor, surface.factor) + ", " + demand + '.';
     if (!surface.mould()) return "No risk of mould on the plane surface: " + factors;
     std::vector<bool> months;
-    for (const SurfaceOfMonth& month : surface.months) months.push_back(month.required > surface.factor);
-    return "Risk of mould on the inside surface" + (monthly ? ", " + months_told(months) : "") + ": " + factors;
+    for (const SurfaceOfMonth& month : surface.months)
+        months.push_back(month.required > surface.factor);
+    return "Risk of mould on the inside surface" + (monthly ? ", " + months_told(months) : "") +
+           ": " + factors;
 }
 
 std::size_t month_that_matters(const Question& question, const Assessment& assessment) {

@@ -12,10 +12,10 @@ namespace quorvel::wall {
 // What is told of an input besides its results.
 struct Subject {
     std::string name;
-    std::string climate = {};          // where that outside comes from
-    std::size_t left_out = 0;          // layers in and beyond a well-ventilated gap
+    std::string climate = {};  // where that outside comes from
+    std::size_t left_out = 0;  // layers in and beyond a well-ventilated gap
     std::vector<std::string> warnings = {};
-    std::string variant = {};          // empty for the input as it is
+    std::string variant = {};  // empty for the input as it is
 };
 
 // What is told has the same digits in tables and pictures.
@@ -30,10 +30,11 @@ inline const host::Quantity temperature_factor{"f_rsi", "Temperature factor f_Rs
 
 std::string told_with_unit(const host::Quantity& quantity, double value);  // 0.467 W/m²K
 
-std::string interface_name(std::size_t i, std::size_t layers);          // inside, 1|2, 2|3, outside
-std::string place_name(const Place& place, std::size_t layers);         // 2|3, or in 2 at 83 mm
-std::string deposit_name(const Deposit& deposit, std::size_t layers);   // 2|3, or in 2
-std::string section_name(const Element& element, const Section& section);  // stud; empty where all layers are homogeneous
+std::string interface_name(std::size_t i, std::size_t layers);         // inside, 1|2, 2|3, outside
+std::string place_name(const Place& place, std::size_t layers);        // 2|3, or in 2 at 83 mm
+std::string deposit_name(const Deposit& deposit, std::size_t layers);  // 2|3, or in 2
+std::string section_name(const Element& element,
+                         const Section& section);  // stud; empty where all layers are homogeneous
 
 std::string told(const Climate& climate);  // inside 20 °C 50 %, outside 4.4 °C 86 %
 
@@ -45,8 +46,8 @@ std::string month_name(std::size_t month);
 std::string condensation_told(const Question& question, const Assessment& assessment);
 std::string mould_told(const Question& question, const Assessment& assessment);
 
-// The month whose profile is worth showing: that in which most vapour condenses, or else that which puts the
-// surface to its hardest test.
+// The month whose profile is worth showing: that in which most vapour condenses, or else that which
+// puts the surface to its hardest test.
 std::size_t month_that_matters(const Question& question, const Assessment& assessment);
 
 // As a month begins, with what is wet then; of a single case in its climate.

@@ -19,29 +19,38 @@ constexpr double water_top = 190, water_height = 270, surface_top = 540, surface
 constexpr double height = surface_top + surface_height + 50;
 
 // From the inside outwards; further places take the last.
-constexpr const char* water_colours[] = {"#2b6cb8", "#7fb2e5", "#1f9e89", "#95d5b2", "#7b5ea7", "#c3b1e1"};
-constexpr const char* variant_colours[] = {"#1f2a44", "#2b6cb8", "#c8452f", "#3c8d5a", "#d98e04", "#7b5ea7"};
+constexpr const char* water_colours[] = {"#2b6cb8", "#7fb2e5", "#1f9e89",
+                                         "#95d5b2", "#7b5ea7", "#c3b1e1"};
+constexpr const char* variant_colours[] = {"#1f2a44", "#2b6cb8", "#c8452f",
+                                           "#3c8d5a", "#d98e04", "#7b5ea7"};
 constexpr const char* demand_colour = "#d98e04";
 
-const char* water_colour(std::size_t i) { return water_colours[std::min(i, std::size(water_colours) - 1)]; }
-const char* variant_colour(std::size_t i) { return variant_colours[i % std::size(variant_colours)]; }
+const char* water_colour(std::size_t i) {
+    return water_colours[std::min(i, std::size(water_colours) - 1)];
+}
+const char* variant_colour(std::size_t i) {
+    return variant_colours[i % std::size(variant_colours)];
+}
 
 std::vector<std::string> names_of_months(std::size_t first) {
     std::vector<std::string> names;
-    for (std::size_t m = 0; m < months_of_year; ++m) names.push_back(month_name((first + m) % months_of_year).substr(0, 3));
+    for (std::size_t m = 0; m < months_of_year; ++m)
+        names.push_back(month_name((first + m) % months_of_year).substr(0, 3));
     return names;
 }
 
 // Where the m-th of the months in a row begins; their names stand at the whole numbers.
 double beginning(std::size_t m) { return static_cast<double>(m) - 0.5; }
 
-// The sums of the water at the end of each month, from the innermost place to each: 0, then a row a month.
+// The sums of the water at the end of each month, from the innermost place to each: 0, then a row a
+// month.
 Rows stacked(const Year& year) {
     Rows rows;
     for (std::size_t m = 0; m <= months_of_year; ++m) {
         std::vector<double> row{beginning(m)};
         double sum = 0;
-        for (const Deposit& deposit : year.deposits) row.push_back(sum += m == 0 ? 0 : deposit.content[m - 1]);
+        for (const Deposit& deposit : year.deposits)
+            row.push_back(sum += m == 0 ? 0 : deposit.content[m - 1]);
         rows.push_back(std::move(row));
     }
     return rows;
@@ -59,8 +68,11 @@ void draw_water(host::Chart& chart, const Question& question, const Year& year) 
         keys.push_back({"■", water_colour(i), name});
         parts.insert(parts.begin(), host::area(rows, i + 2, water_colour(i)));
     }
-    if (year.dry()) parts.push_back(host::curve(chart.data({{beginning(0), 0}, {beginning(months_of_year), 0}}), 2, ink, 2.5));
-    chart.title(heading_margin, water_top - 30, year.dry() ? "Water: none" : "Water, g/m², stacked by interface", keys);
+    if (year.dry())
+        parts.push_back(host::curve(chart.data({{beginning(0), 0}, {beginning(months_of_year), 0}}),
+                                    2, ink, 2.5));
+    chart.title(heading_margin, water_top - 30,
+                year.dry() ? "Water: none" : "Water, g/m², stacked by interface", keys);
     chart.mark(beginning(year.wettest + 1), year.peak(), "");
     chart.plot(parts);
 }
@@ -80,7 +92,8 @@ void draw_surface(host::Chart& chart, const SurfaceYear& surface, std::size_t fi
     chart.horizontal_names(names_of_months(first));
     chart.vertical_scale({0, 1, 0.2});
     chart.title(heading_margin, surface_top - 30, "Temperature factor of the inside surface",
-                {{"━", ink, "f_Rsi " + host::told(temperature_factor, surface.factor)}, {"■", demand_colour, "needed against mould"}});
+                {{"━", ink, "f_Rsi " + host::told(temperature_factor, surface.factor)},
+                 {"■", demand_colour, "needed against mould"}});
     const Rows required = demands(surface, first);
     std::vector<std::string> parts;
     if (!required.empty()) parts.push_back(host::bars(chart.data(required), 2, demand_colour, 0.6));
@@ -108,7 +121,8 @@ Rows water_of(const Year& year, std::size_t first) {
 
 }  // namespace
 
-host::Chart year_chart(const Subject& subject, const Question& question, const Assessment& assessment) {
+host::Chart year_chart(const Subject& subject, const Question& question,
+                       const Assessment& assessment) {
     host::Chart chart(static_cast<int>(width), static_cast<int>(height));
     const Year& year = *assessment.year;
     const std::size_t first = year.months.front().month;
@@ -134,13 +148,16 @@ host::Chart comparison_chart(const std::vector<Variation>& variations) {
     chart.horizontal_names(names_of_months(first));
     chart.vertical_scale(host::round_scale(0, most));
     chart.text(heading_margin, 38, variations.front().subject.name, {ink, 24, true});
-    chart.text(heading_margin, 68, "Water in the element at the end of the month, g/m²", {grey, 13});
+    chart.text(heading_margin, 68, "Water in the element at the end of the month, g/m²",
+               {grey, 13});
     std::vector<host::Key> keys;
     std::vector<std::string> curves;
     for (std::size_t i = 0; i < variations.size(); ++i) {
         const Subject& subject = variations[i].subject;
-        keys.push_back({"━", variant_colour(i), subject.variant.empty() ? "as it is" : subject.variant});
-        curves.push_back(host::curve(chart.data(water_of(*variations[i].assessment.year, first)), 2, variant_colour(i), 2.5));
+        keys.push_back(
+            {"━", variant_colour(i), subject.variant.empty() ? "as it is" : subject.variant});
+        curves.push_back(host::curve(chart.data(water_of(*variations[i].assessment.year, first)), 2,
+                                     variant_colour(i), 2.5));
     }
     chart.keys(heading_margin, 94, keys);
     chart.plot(curves);

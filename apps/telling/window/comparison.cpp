@@ -18,9 +18,12 @@ using host::Section;
 using host::colour::grey;
 using host::colour::ink;
 
-constexpr double margin = 24, left = 84, right = 30, width = 900, top = 130, height = 300, line = 22;
+constexpr double margin = 24, left = 84, right = 30, width = 900, top = 130, height = 300,
+                 line = 22;
 
-std::string name_of(const Case& given) { return given.variant.empty() ? "as given" : given.variant; }
+std::string name_of(const Case& given) {
+    return given.variant.empty() ? "as given" : given.variant;
+}
 
 Quantity kilowatt_hours(std::string key, std::string name, int decimals, std::string group) {
     return {std::move(key), std::move(name), "kWh", decimals, std::move(group)};
@@ -37,10 +40,13 @@ struct Result {
 std::vector<Result> results(const DayCase& given) {
     std::vector<Result> all;
     for (const WindowDay& window : given.day.windows) {
-        const auto sum = [&](auto member) { return window.window->area * daily_sum(window, member) / 1000; };
+        const auto sum = [&](auto member) {
+            return window.window->area * daily_sum(window, member) / 1000;
+        };
         const Peak peak = peak_of(window, &WindowHour::solar_gain);
         all.push_back({window.window, sum(&WindowHour::solar_gain), sum(&WindowHour::conduction),
-                       sum(&WindowHour::net), peak.power, peak.hour > 0 ? "hour " + std::to_string(peak.hour) : ""});
+                       sum(&WindowHour::net), peak.power,
+                       peak.hour > 0 ? "hour " + std::to_string(peak.hour) : ""});
     }
     return all;
 }
@@ -48,11 +54,12 @@ std::vector<Result> results(const DayCase& given) {
 std::vector<Result> results(const YearCase& given) {
     std::vector<Result> all;
     for (const WindowYear& window : given.year.windows)
-        all.push_back({window.window, window.year.solar_gain, window.year.conduction_in - window.year.conduction_out,
-                       window.year.net(), window.peak.power,
-                       window.peak.power > 0
-                           ? host::date(window.peak.day_of_year) + ", hour " + std::to_string(window.peak.hour)
-                           : ""});
+        all.push_back({window.window, window.year.solar_gain,
+                       window.year.conduction_in - window.year.conduction_out, window.year.net(),
+                       window.peak.power,
+                       window.peak.power > 0 ? host::date(window.peak.day_of_year) + ", hour " +
+                                                   std::to_string(window.peak.hour)
+                                             : ""});
     return all;
 }
 
@@ -64,22 +71,24 @@ DataTable comparison(std::span<const AnyCase> cases, int decimals) {
     table.columns = {word("variant", "variant")};
     if (several) table.columns.push_back(word("window", "window"));
     for (const Quantity& quantity :
-         {Quantity{"u_value", "U", "W/m²K", 2}, fraction("g", "g"), fraction("g_with_blind", "with blind"),
+         {Quantity{"u_value", "U", "W/m²K", 2}, fraction("g", "g"),
+          fraction("g_with_blind", "with blind"),
           kilowatt_hours("solar_gain", "solar gain", decimals, "Into the room"),
           kilowatt_hours("conduction", "conduction", decimals, "Into the room"),
-          kilowatt_hours("net", "net", decimals, "Into the room"), watts("peak_gain", "gain", "Peak"),
-          Quantity{"peak_at", "at", "", 0, "Peak"}})
+          kilowatt_hours("net", "net", decimals, "Into the room"),
+          watts("peak_gain", "gain", "Peak"), Quantity{"peak_at", "at", "", 0, "Peak"}})
         table.columns.push_back(quantity);
     for (const AnyCase& given : cases)
         for (const Result& result : results(given)) {
             const Window& window = *result.window;
-            const UnitFigures unit = window.is_glazed() ? unit_figures(window)
-                                                        : UnitFigures{none, none, none, none, none, none, none};
+            const UnitFigures unit = window.is_glazed()
+                                         ? unit_figures(window)
+                                         : UnitFigures{none, none, none, none, none, none, none};
             table.rows.emplace_back();
             table.rows.back().emplace_back(name_of(given));
             if (several) table.rows.back().emplace_back(window.name);
-            for (const double value : {unit.u_value, unit.g, unit.g_with_blind, result.solar_gain, result.conduction,
-                                       result.net, result.peak})
+            for (const double value : {unit.u_value, unit.g, unit.g_with_blind, result.solar_gain,
+                                       result.conduction, result.net, result.peak})
                 table.rows.back().emplace_back(value);
             table.rows.back().emplace_back(result.when);
         }
@@ -89,12 +98,13 @@ DataTable comparison(std::span<const AnyCase> cases, int decimals) {
 // Room for the keys, one below the other, beside the total that each stands for.
 template <class AnyCase>
 host::Chart empty_chart(std::span<const AnyCase> cases) {
-    return {static_cast<int>(width), static_cast<int>(top + height + 80 + line * static_cast<double>(cases.size()))};
+    return {static_cast<int>(width),
+            static_cast<int>(top + height + 80 + line * static_cast<double>(cases.size()))};
 }
 
 template <class AnyCase>
-void head(host::Chart& chart, std::span<const AnyCase> cases, const std::string& title, const std::string& panel,
-          int decimals) {
+void head(host::Chart& chart, std::span<const AnyCase> cases, const std::string& title,
+          const std::string& panel, int decimals) {
     chart.text(margin, 38, title, {ink, 24, true});
     chart.text(margin, 68, place(cases.front().site), {grey, 12});
     chart.text(margin, top - 24, panel, {ink, 14, true});
@@ -106,10 +116,11 @@ void head(host::Chart& chart, std::span<const AnyCase> cases, const std::string&
             peak = std::max(peak, result.peak);
         }
         chart.text(left, y, "━", {series_colour(i), 15, true});
-        chart.text(left + 26, y,
-                   name_of(cases[i]) + ": solar heat gain " + host::fixed(gain, decimals) + " kWh" +
-                       (cases[i].windows.size() > 1 ? "" : ", at most " + host::fixed(peak, 0) + " W"),
-                   {grey, 13});
+        chart.text(
+            left + 26, y,
+            name_of(cases[i]) + ": solar heat gain " + host::fixed(gain, decimals) + " kWh" +
+                (cases[i].windows.size() > 1 ? "" : ", at most " + host::fixed(peak, 0) + " W"),
+            {grey, 13});
     }
 }
 
@@ -125,7 +136,8 @@ host::Chart chart_of(std::span<const DayCase> cases) {
         rows.push_back({days.front().exposure[k].hour});
         for (const Day& day : days) {
             double sum = 0;
-            for (const WindowDay& window : day.windows) sum += window.power(k, &WindowHour::solar_gain);
+            for (const WindowDay& window : day.windows)
+                sum += window.power(k, &WindowHour::solar_gain);
             rows.back().push_back(sum);
             most = std::max(most, sum);
         }
@@ -155,8 +167,11 @@ host::Chart chart_of(std::span<const YearCase> cases) {
         std::vector<std::vector<double>> rows;
         for (std::size_t month = 0; month < 12; ++month) {
             double sum = 0;
-            for (const WindowYear& window : cases[i].year.windows) sum += window.months[month].solar_gain;
-            rows.push_back({static_cast<double>(month) + (static_cast<double>(i) - (count - 1) / 2) * bar, sum});
+            for (const WindowYear& window : cases[i].year.windows)
+                sum += window.months[month].solar_gain;
+            rows.push_back(
+                {static_cast<double>(month) + (static_cast<double>(i) - (count - 1) / 2) * bar,
+                 sum});
             most = std::max(most, sum);
         }
         data.push_back(chart.data(rows));
@@ -166,10 +181,12 @@ host::Chart chart_of(std::span<const YearCase> cases) {
     chart.panel({left, top, width - left - right, height});
     chart.horizontal_names(names);
     chart.vertical_scale(host::round_scale(0, most));
-    head(chart, cases, first.site.name + (first.of_weather ? ", a year of weather" : ", design days of the year"),
+    head(chart, cases,
+         first.site.name + (first.of_weather ? ", a year of weather" : ", design days of the year"),
          "Solar heat gain into the room, kWh a month", 1);
     std::vector<std::string> parts;
-    for (std::size_t i = 0; i < cases.size(); ++i) parts.push_back(host::bars(data[i], 2, series_colour(i), bar));
+    for (std::size_t i = 0; i < cases.size(); ++i)
+        parts.push_back(host::bars(data[i], 2, series_colour(i), bar));
     chart.plot(parts);
     return chart;
 }
@@ -179,27 +196,32 @@ host::Answer answer_of(std::span<const AnyCase> cases, const std::string& title,
     host::Answer answer{title, place(cases.front().site)};
     Section section;
     section.paragraphs.push_back(std::to_string(cases.size() - 1) +
-                                 (cases.size() == 2 ? " variant" : " variants") + " beside the input as it is.");
+                                 (cases.size() == 2 ? " variant" : " variants") +
+                                 " beside the input as it is.");
     section.tables.push_back(comparison(cases, decimals));
     section.pictures.push_back({"variants", "Variants", chart_of(cases)});
     answer.sections.push_back(std::move(section));
     answer.method = method();
     for (const AnyCase& given : cases)
         for (const std::string& note : given.notes)
-            if (std::ranges::find(answer.warnings, note) == answer.warnings.end()) answer.warnings.push_back(note);
+            if (std::ranges::find(answer.warnings, note) == answer.warnings.end())
+                answer.warnings.push_back(note);
     return answer;
 }
 
 }  // namespace
 
 host::Answer compared(std::span<const DayCase> days) {
-    return answer_of(days, days.front().site.name + ", " + host::date(days.front().day.day_of_year), 2);
+    return answer_of(days, days.front().site.name + ", " + host::date(days.front().day.day_of_year),
+                     2);
 }
 
 host::Answer compared(std::span<const YearCase> years) {
     const YearCase& first = years.front();
-    return answer_of(years, first.site.name + (first.of_weather ? ", a year of weather" : ", design days of the year"),
-                     1);
+    return answer_of(
+        years,
+        first.site.name + (first.of_weather ? ", a year of weather" : ", design days of the year"),
+        1);
 }
 
 }  // namespace quorvel::window

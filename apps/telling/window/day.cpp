@@ -18,8 +18,9 @@ using host::fixed;
 using host::Section;
 
 std::string sun_told(const Day& day) {
-    std::string text = host::sun_times(day.sunrise, day.sunset, day.solar_minus_clock) + "; declination " +
-                       fixed(day.declination, 1) + "°. Hours are solar time, the sun due south or north at 12";
+    std::string text = host::sun_times(day.sunrise, day.sunset, day.solar_minus_clock) +
+                       "; declination " + fixed(day.declination, 1) +
+                       "°. Hours are solar time, the sun due south or north at 12";
     if (!std::isnan(day.solar_minus_clock))
         text += ", which is " + host::clock_time(12 - day.solar_minus_clock) + " by the clock";
     return text + ".";
@@ -34,10 +35,10 @@ std::string air_told(const DesignDay& day) {
 
 std::string site_told(const DayCase& given) {
     const SiteConstants& site = given.day.constants;
-    return "Site class " + std::to_string(given.site.site_class) + ": direct × " + fixed(site.beam_factor, 2) +
-           ", diffuse × " + fixed(site.diffuse_factor, 2) + ", ground reflectance " +
-           fixed(site.ground_reflectance, 2) + "; " + (given.site.sky == 0 ? "clear" : "bright") + " sky, " +
-           sky_told(given.site) + ".";
+    return "Site class " + std::to_string(given.site.site_class) + ": direct × " +
+           fixed(site.beam_factor, 2) + ", diffuse × " + fixed(site.diffuse_factor, 2) +
+           ", ground reflectance " + fixed(site.ground_reflectance, 2) + "; " +
+           (given.site.sky == 0 ? "clear" : "bright") + " sky, " + sky_told(given.site) + ".";
 }
 
 DataTable sun_table(const Day& day) {
@@ -49,7 +50,8 @@ DataTable sun_table(const Day& day) {
     for (const Quantity& quantity :
          {angle("altitude", "altitude", "Sun"), angle("azimuth", "azimuth", "Sun"),
           per_area("direct_normal", "direct normal", "Irradiance"),
-          per_area("diffuse_horizontal", "diffuse horizontal", "Irradiance"), celsius("outdoor", "outdoor air")})
+          per_area("diffuse_horizontal", "diffuse horizontal", "Irradiance"),
+          celsius("outdoor", "outdoor air")})
         table.columns.push_back(quantity);
     for (const Exposure& exposure : day.exposure) {
         const host::Sun& sun = exposure.sky.sun;
@@ -57,9 +59,10 @@ DataTable sun_table(const Day& day) {
         auto& row = table.rows.emplace_back();
         row.emplace_back(exposure.hour);
         if (clock) row.emplace_back(host::clock_time(exposure.hour - day.solar_minus_clock));
-        for (const double value : {up ? host::degrees(sun.altitude) : none,
-                                   up ? azimuth_told(host::degrees(sun.azimuth)) : none, exposure.sky.direct_normal,
-                                   exposure.sky.diffuse_horizontal, exposure.outdoor})
+        for (const double value :
+             {up ? host::degrees(sun.altitude) : none,
+              up ? azimuth_told(host::degrees(sun.azimuth)) : none, exposure.sky.direct_normal,
+              exposure.sky.diffuse_horizontal, exposure.outdoor})
             row.emplace_back(value);
     }
     return table;
@@ -95,12 +98,15 @@ class Hours {
     }
     template <class Member>
     void add_member(const Quantity& quantity, Member member, double factor = 1) {
-        add(quantity, [this, member, factor](std::size_t i) { return factor * std::invoke(member, window_.at[i]); });
+        add(quantity, [this, member, factor](std::size_t i) {
+            return factor * std::invoke(member, window_.at[i]);
+        });
     }
     // Of the glass, W; whatever rounds to nothing is nothing.
     template <class Member>
     void add_power(const Quantity& quantity, Member member) {
-        add(quantity, [this, member](std::size_t i) { return rounded_to_nothing(window_.power(i, member)); });
+        add(quantity,
+            [this, member](std::size_t i) { return rounded_to_nothing(window_.power(i, member)); });
     }
     template <class Member>
     void add_per_area(const Quantity& quantity, Member member) {
@@ -109,7 +115,9 @@ class Hours {
         });
     }
 
-    DataTable table(DataTable table) const { return table_of(std::move(table), columns_, window_.at.size()); }
+    DataTable table(DataTable table) const {
+        return table_of(std::move(table), columns_, window_.at.size());
+    }
 
   private:
     const Day& day_;
@@ -131,15 +139,19 @@ void add_temperatures(Hours& hours, const WindowDay& window) {
 
 DataTable hour_table(const Day& day, const WindowDay& window) {
     Hours hours(day, window);
-    if (window.window->shades.any()) hours.add_member(percent("sunlit", "sunlit", "On the glass"), &WindowHour::sunlit, 100);
+    if (window.window->shades.any())
+        hours.add_member(percent("sunlit", "sunlit", "On the glass"), &WindowHour::sunlit, 100);
     hours.add_per_area(per_area("direct", "direct", "On the glass"), &WindowHour::direct);
     hours.add_per_area(per_area("diffuse", "diffuse", "On the glass"), &WindowHour::diffuse);
     hours.add_per_area(per_area("ground", "ground", "On the glass"), &WindowHour::ground);
     hours.add_per_area(per_area("incident", "total", "On the glass"), &WindowHour::incident);
     if (window.window->is_glazed()) {
-        hours.add_power(watts("transmitted", "transmitted", "Into the room"), &WindowHour::transmitted);
-        hours.add_power(watts("solar_gain", "solar gain", "Into the room"), &WindowHour::solar_gain);
-        hours.add_power(watts("conduction", "conduction", "Into the room"), &WindowHour::conduction);
+        hours.add_power(watts("transmitted", "transmitted", "Into the room"),
+                        &WindowHour::transmitted);
+        hours.add_power(watts("solar_gain", "solar gain", "Into the room"),
+                        &WindowHour::solar_gain);
+        hours.add_power(watts("conduction", "conduction", "Into the room"),
+                        &WindowHour::conduction);
         hours.add_power(watts("net", "net", "Into the room"), &WindowHour::net);
         add_temperatures(hours, window);
     }
@@ -152,11 +164,15 @@ DataTable detail_table(const Day& day, const WindowDay& window) {
     Hours hours(day, window);
     hours.add(angle("incidence", "incidence", "Sun on the window"),
               [&](std::size_t i) { return incidence_told(window.at[i]); });
-    hours.add_member(angle("vertical_profile", "vertical", "Sun on the window"), &WindowHour::vertical);
-    hours.add_member(angle("horizontal_profile", "horizontal", "Sun on the window"), &WindowHour::horizontal);
+    hours.add_member(angle("vertical_profile", "vertical", "Sun on the window"),
+                     &WindowHour::vertical);
+    hours.add_member(angle("horizontal_profile", "horizontal", "Sun on the window"),
+                     &WindowHour::horizontal);
     if (window.window->shades.any()) {
-        hours.add_member({"sunlit_area", "sunlit", "m²", 3}, &WindowHour::sunlit, window.window->area);
-        hours.add_per_area(per_area("direct_unshaded", "direct, unshaded"), &WindowHour::direct_unshaded);
+        hours.add_member({"sunlit_area", "sunlit", "m²", 3}, &WindowHour::sunlit,
+                         window.window->area);
+        hours.add_per_area(per_area("direct_unshaded", "direct, unshaded"),
+                           &WindowHour::direct_unshaded);
     }
     if (window.window->is_glazed()) {
         hours.add_member({"direct_transmittance", "transmitted", "", 4, "Share of the direct sun"},
@@ -164,7 +180,9 @@ DataTable detail_table(const Day& day, const WindowDay& window) {
         hours.add_member({"direct_absorptance", "absorbed", "", 4, "Share of the direct sun"},
                          &WindowHour::direct_absorptance);
         hours.add_power(watts("absorbed", "absorbed"), &WindowHour::absorbed);
-        if (window.blind) hours.add_power(watts("blind_absorbed", "by the blind"), &WindowHour::absorbed_by_blind);
+        if (window.blind)
+            hours.add_power(watts("blind_absorbed", "by the blind"),
+                            &WindowHour::absorbed_by_blind);
         if (window.blind)
             hours.add_power(watts("solar_gain_without_blind", "gain without blind"),
                             &WindowHour::solar_gain_without_blind);
@@ -174,7 +192,9 @@ DataTable detail_table(const Day& day, const WindowDay& window) {
     return hours.table(table);
 }
 
-std::string at_hour(const Peak& peak) { return peak.hour > 0 ? "at hour " + std::to_string(peak.hour) : ""; }
+std::string at_hour(const Peak& peak) {
+    return peak.hour > 0 ? "at hour " + std::to_string(peak.hour) : "";
+}
 
 double kilowatt_hours(const WindowDay& window, double (WindowHour::*member)() const) {
     return window.window->area * daily_sum(window, member) / 1000;
@@ -182,27 +202,34 @@ double kilowatt_hours(const WindowDay& window, double (WindowHour::*member)() co
 
 std::string of_unshaded(const WindowDay& window) {
     const double all = daily_sum(window, &WindowHour::direct_unshaded);
-    return all > 0 ? fixed(100 * daily_sum(window, &WindowHour::direct) / all, 0) + " % of the direct sun reaches the glass"
+    return all > 0 ? fixed(100 * daily_sum(window, &WindowHour::direct) / all, 0) +
+                         " % of the direct sun reaches the glass"
                    : "";
 }
 
 void add_day_figures(const WindowDay& window, std::vector<Figure>& figures) {
     const bool shaded = window.window->shades.any();
     figures.push_back({{"irradiation", "Irradiation of the glass", "kWh/m²", 2},
-                       daily_sum(window, &WindowHour::incident) / 1000, shaded ? of_unshaded(window) : ""});
+                       daily_sum(window, &WindowHour::incident) / 1000,
+                       shaded ? of_unshaded(window) : ""});
     if (shaded) {
-        figures.push_back({percent("sky_left", "Sky left by what shades it"), 100 * window.open.sky});
+        figures.push_back(
+            {percent("sky_left", "Sky left by what shades it"), 100 * window.open.sky});
         figures.push_back({percent("ground_left", "Ground left"), 100 * window.open.ground});
     }
     if (!window.window->is_glazed()) return;
     const Peak peak = peak_of(window, &WindowHour::solar_gain);
-    figures.push_back({energy("solar_gain", "Solar heat gain of the day"), kilowatt_hours(window, &WindowHour::solar_gain)});
-    figures.push_back({energy("transmitted", "of this transmitted"), kilowatt_hours(window, &WindowHour::transmitted)});
+    figures.push_back({energy("solar_gain", "Solar heat gain of the day"),
+                       kilowatt_hours(window, &WindowHour::solar_gain)});
+    figures.push_back({energy("transmitted", "of this transmitted"),
+                       kilowatt_hours(window, &WindowHour::transmitted)});
     if (window.blind)
         figures.push_back({energy("solar_gain_without_blind", "without the blind"),
                            kilowatt_hours(window, &WindowHour::solar_gain_without_blind)});
-    figures.push_back({energy("conduction", "Conduction"), kilowatt_hours(window, &WindowHour::conduction)});
-    figures.push_back({energy("net", "Net heat into the room"), kilowatt_hours(window, &WindowHour::net)});
+    figures.push_back(
+        {energy("conduction", "Conduction"), kilowatt_hours(window, &WindowHour::conduction)});
+    figures.push_back(
+        {energy("net", "Net heat into the room"), kilowatt_hours(window, &WindowHour::net)});
     figures.push_back({watts("peak_gain", "Greatest solar heat gain"), peak.power, at_hour(peak)});
     const Peak net = peak_of(window, &WindowHour::net);
     figures.push_back({watts("peak_net", "Greatest net heat flow"), net.power, at_hour(net)});
@@ -255,7 +282,8 @@ bool any_glazed(std::span<const Window> windows) {
     return std::ranges::any_of(windows, [](const Window& window) { return window.is_glazed(); });
 }
 
-void add_pictures(const DayCase& given, const std::vector<double>& shadow_hours, std::vector<host::Picture>& pictures) {
+void add_pictures(const DayCase& given, const std::vector<double>& shadow_hours,
+                  std::vector<host::Picture>& pictures) {
     const bool glazed = any_glazed(given.windows);
     if (glazed) pictures.push_back({"day", "The day", day_chart(given)});
     for (const WindowDay& window : given.day.windows) {
@@ -268,14 +296,17 @@ void add_pictures(const DayCase& given, const std::vector<double>& shadow_hours,
 }  // namespace
 
 host::Answer told(const DayCase& given, const std::vector<double>& shadow_hours) {
-    host::Answer answer{given.site.name + ", " + host::date(given.day.day_of_year), place(given.site)};
+    host::Answer answer{given.site.name + ", " + host::date(given.day.day_of_year),
+                        place(given.site)};
     Section summary;
     for (const std::string& line : {site_told(given), air_told(given.design), sun_told(given.day)})
         if (!line.empty()) summary.paragraphs.push_back(line);
     add_pictures(given, shadow_hours, summary.pictures);
     answer.sections.push_back(std::move(summary));
-    for (const WindowDay& window : given.day.windows) answer.sections.push_back(window_section(given, window));
-    if (given.windows.size() > 1 && any_glazed(given.windows)) answer.sections.push_back(all_windows(given));
+    for (const WindowDay& window : given.day.windows)
+        answer.sections.push_back(window_section(given, window));
+    if (given.windows.size() > 1 && any_glazed(given.windows))
+        answer.sections.push_back(all_windows(given));
     Section sun{"The sun", ""};
     sun.tables.push_back(sun_table(given.day));
     answer.sections.push_back(std::move(sun));

@@ -25,7 +25,8 @@ using host::colour::ink;
 using Rows = std::vector<std::vector<double>>;
 
 constexpr double lowest_smooth = 25;  // degrees of the sun's altitude, see drawn_of
-constexpr int steps_per_hour = 12;  // smooth curves; every number written is one of the hourly table
+constexpr int steps_per_hour =
+    12;  // smooth curves; every number written is one of the hourly table
 
 // The places of the panels, in pixels.
 constexpr double margin = 24, left = 74, right = 30, between = 28;
@@ -33,7 +34,8 @@ constexpr double irradiance_top = 206, irradiance_height = 170;
 constexpr double heat_top = irradiance_top + irradiance_height + 112, heat_height = 170;
 constexpr double temperature_top = heat_top + heat_height + 88, temperature_height = 150;
 constexpr double all_top = temperature_top + temperature_height + 92, all_height = 150;
-constexpr int height_of_one = int(temperature_top + temperature_height + 58), height_of_all = int(all_top + all_height + 58);
+constexpr int height_of_one = int(temperature_top + temperature_height + 58),
+              height_of_all = int(all_top + all_height + 58);
 
 double column_width(std::size_t windows) { return windows == 1 ? 860 : windows == 2 ? 480 : 356; }
 
@@ -58,8 +60,11 @@ class Picture {
 
   private:
     std::size_t count() const { return hourly_.windows.size(); }
-    double column_left(std::size_t i) const { return left + static_cast<double>(i) * (column_ + between); }
-    void begin(double x, double y, double width, double height, const host::Scale& scale, bool labelled);
+    double column_left(std::size_t i) const {
+        return left + static_cast<double>(i) * (column_ + between);
+    }
+    void begin(double x, double y, double width, double height, const host::Scale& scale,
+               bool labelled);
     void say_the_hour(double bottom);
 
     void heading();
@@ -89,7 +94,8 @@ class Picture {
     host::Chart chart_;
 };
 
-void Picture::begin(double x, double y, double width, double height, const host::Scale& scale, bool labelled) {
+void Picture::begin(double x, double y, double width, double height, const host::Scale& scale,
+                    bool labelled) {
     chart_.panel({x, y, width, height});
     const double step = width > 700 ? 1 : width > 400 ? 2 : 3;
     chart_.horizontal_scale(host::hours_shown(hourly_.sunrise, hourly_.sunset, step));
@@ -101,7 +107,8 @@ void Picture::say_the_hour(double bottom) {
 }
 
 void Picture::heading() {
-    chart_.text(margin, 38, given_.site.name + ", " + host::date(hourly_.day_of_year), {ink, 24, true});
+    chart_.text(margin, 38, given_.site.name + ", " + host::date(hourly_.day_of_year),
+                {ink, 24, true});
     chart_.text(margin, 68,
                 place(given_.site) + "  ·  " +
                     host::sun_times(hourly_.sunrise, hourly_.sunset, hourly_.solar_minus_clock),
@@ -167,21 +174,25 @@ void Picture::heat(std::size_t i) {
         std::vector<Key> keys{{"■", gain_colour, "solar heat gain"},
                               {"■", direct_colour, "of it transmitted"},
                               {"━", ink, "net"}};
-        if (std::ranges::any_of(day_.windows, [](const WindowDay& w) { return w.blind.has_value(); }))
+        if (std::ranges::any_of(day_.windows,
+                                [](const WindowDay& w) { return w.blind.has_value(); }))
             keys.push_back({"╍", blind_colour, "without blind"});
         chart_.title(margin, heat_top - 50, "Heat into the room, W/m²", keys);
     }
     const WindowDay& hourly = hourly_.windows[i];
     if (const Peak peak = peak_of(hourly, &WindowHour::solar_gain); peak.hour > 0) {
         chart_.mark(peak.hour, peak.power / hourly.window->area, "");
-        chart_.text(column_left(i), heat_top - 24,
-                    "peak " + fixed(peak.power, 0) + " W at hour " + std::to_string(peak.hour) +
-                        "  ·  day " + fixed(hourly.window->area * daily_sum(hourly, &WindowHour::solar_gain) / 1000, 2) +
-                        " kWh",
-                    {grey, 12});
+        chart_.text(
+            column_left(i), heat_top - 24,
+            "peak " + fixed(peak.power, 0) + " W at hour " + std::to_string(peak.hour) +
+                "  ·  day " +
+                fixed(hourly.window->area * daily_sum(hourly, &WindowHour::solar_gain) / 1000, 2) +
+                " kWh",
+            {grey, 12});
     }
     const std::string data = chart_.data(rows);
-    std::vector<std::string> parts{area(data, 2, gain_colour), area(data, 3, direct_colour), curve(data, 4, ink, 2)};
+    std::vector<std::string> parts{area(data, 2, gain_colour), area(data, 3, direct_colour),
+                                   curve(data, 4, ink, 2)};
     if (window.blind) parts.push_back(curve(data, 5, blind_colour, 2, "2"));
     chart_.plot(parts);
 }
@@ -201,11 +212,13 @@ void Picture::temperatures(std::size_t i) {
         for (std::size_t layer = 0; layer < window.layers; ++layer)
             rows.back().push_back(window.at[k].gain.temperature[layer]);
     }
-    begin(column_left(i), temperature_top, column_, temperature_height, temperature_scale(), i == 0);
+    begin(column_left(i), temperature_top, column_, temperature_height, temperature_scale(),
+          i == 0);
     if (i == 0) chart_.title(margin, temperature_top - 26, "Temperatures, °C", temperature_keys());
     if (count() == 1) say_the_hour(temperature_top + temperature_height);
     const std::string data = chart_.data(rows);
-    std::vector<std::string> curves{curve(data, 3, room_colour, 1.5, "2"), curve(data, 2, outdoor_colour, 1.5, "2")};
+    std::vector<std::string> curves{curve(data, 3, room_colour, 1.5, "2"),
+                                    curve(data, 2, outdoor_colour, 1.5, "2")};
     for (std::size_t layer = 0; layer < window.layers; ++layer)
         curves.push_back(curve(data, 4 + layer, layer_colour(window, layer), 2));
     chart_.plot(curves);
@@ -257,13 +270,16 @@ void Picture::all_windows() {
     begin(left, all_top, width_ - left - right, all_height, host::round_scale(0, 1.2 * most), true);
     std::vector<Key> keys;
     for (const WindowDay& window : hourly_.windows)
-        keys.push_back({"■", series_colour(keys.size()),
-                        window.window->name + ' ' +
-                            fixed(window.window->area * daily_sum(window, &WindowHour::solar_gain) / 1000, 2) + " kWh"});
+        keys.push_back(
+            {"■", series_colour(keys.size()),
+             window.window->name + ' ' +
+                 fixed(window.window->area * daily_sum(window, &WindowHour::solar_gain) / 1000, 2) +
+                 " kWh"});
     chart_.title(margin, all_top - 26, "Solar heat gain of all windows, W", keys);
     say_the_hour(all_top + all_height);
     if (const Peak peak = peak_of(hourly_.windows, &WindowHour::solar_gain); peak.hour > 0)
-        chart_.mark(peak.hour, peak.power, fixed(peak.power, 0) + " W at hour " + std::to_string(peak.hour));
+        chart_.mark(peak.hour, peak.power,
+                    fixed(peak.power, 0) + " W at hour " + std::to_string(peak.hour));
     const std::string data = chart_.data(rows);
     std::vector<std::string> areas;
     for (std::size_t i = count(); i-- > 0;) areas.push_back(area(data, i + 2, series_colour(i)));

@@ -6,8 +6,8 @@
 
 namespace quorvel::window {
 
-// A column for each window (irradiance on the glass, heat into the room with and without the blind, temperatures),
-// and at the bottom the gain of all windows together.
+// A column for each window (irradiance on the glass, heat into the room with and without the blind,
+// temperatures), and at the bottom the gain of all windows together.
 host::Chart day_chart(const DayCase& day);
 
 }  // namespace quorvel::window

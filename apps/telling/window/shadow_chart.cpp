@@ -70,7 +70,8 @@ std::vector<double> chosen_hours(const Day& day, const WindowDay& window) {
         if (has_sun(window.at[i])) sunny.push_back(day.exposure[i].hour);
     if (sunny.empty()) return {9, 12, 15};
     const std::size_t step = (sunny.size() + most_chosen - 1) / most_chosen;
-    for (std::size_t i = (sunny.size() - 1) % step / 2; i < sunny.size(); i += step) chosen.push_back(sunny[i]);
+    for (std::size_t i = (sunny.size() - 1) % step / 2; i < sunny.size(); i += step)
+        chosen.push_back(sunny[i]);
     return chosen;
 }
 
@@ -86,7 +87,8 @@ class Picture {
           view_(view_of(window_)),
           rows_((hours_.size() + most_columns - 1) / most_columns),
           columns_((hours_.size() + rows_ - 1) / rows_),
-          scale_(std::min(column_width() / (view_.right - view_.left), highest_view / (view_.top - view_.bottom))),
+          scale_(std::min(column_width() / (view_.right - view_.left),
+                          highest_view / (view_.top - view_.bottom))),
           chart_(static_cast<int>(width),
                  static_cast<int>(curves_top() + 2 * curve_height + between_curves + 64)) {}
 
@@ -162,10 +164,12 @@ std::string totals(const WindowDay& window) {
 
 void Picture::heading() {
     const Day& day = given_.day;
-    chart_.text(margin, 38, window_.name + ", " + given_.site.name + ", " + host::date(day.day_of_year),
+    chart_.text(margin, 38,
+                window_.name + ", " + given_.site.name + ", " + host::date(day.day_of_year),
                 {ink, 24, true});
     chart_.text(margin, 68,
-                size_and_facing(window_) + "  ·  " + host::on_the_globe(given_.site.latitude, "N", "S") + ", " +
+                size_and_facing(window_) + "  ·  " +
+                    host::on_the_globe(given_.site.latitude, "N", "S") + ", " +
                     host::sun_times(day.sunrise, day.sunset),
                 {grey, 12});
     chart_.text(margin, 92, "Day: " + totals(hourly_), {ink, 12, true});
@@ -207,7 +211,8 @@ void Picture::add_plates(std::vector<std::string>& parts) {
     if (shades.right_fin) add_fin(*shades.right_fin, window.width + shades.right_fin->offset);
     if (!shades.overhang) return;
     const double root = window.height + shades.overhang->offset;
-    const double edge = root - shades.overhang->depth * std::sin(host::radians(shades.overhang->slope));
+    const double edge =
+        root - shades.overhang->depth * std::sin(host::radians(shades.overhang->slope));
     parts.push_back(
         outline({-shades.overhang->left, edge, window.width + shades.overhang->right, root}, 4));
 }
@@ -229,8 +234,7 @@ void Picture::view(std::size_t i) {
     for (const Polygon& shadow : shading.shadows(sun, view_))
         parts.push_back(host::polygon(data(shadow), wall_shadow_colour));
     const Rectangle glass = shading.glass();
-    parts.push_back(
-        host::polygon(data(glass.polygon()), has_sun(at) ? sun_colour : no_sun_colour));
+    parts.push_back(host::polygon(data(glass.polygon()), has_sun(at) ? sun_colour : no_sun_colour));
     for (const Polygon& shadow : shading.shadows(sun, glass))
         parts.push_back(host::polygon(data(shadow), shadow_colour));
     parts.push_back(outline(glass, 1.5));
@@ -249,10 +253,12 @@ void Picture::begin_curves(double top, const std::string& title, const std::vect
 void Picture::sunlit() {
     Rows rows;
     const auto& at = day_.windows[0].at;
-    for (std::size_t i = 0; i < at.size(); ++i) rows.push_back({day_.exposure[i].hour, 100 * at[i].sunlit});
+    for (std::size_t i = 0; i < at.size(); ++i)
+        rows.push_back({day_.exposure[i].hour, 100 * at[i].sunlit});
     begin_curves(curves_top(), "Sunlit part of the window, %", {}, {0, 100, 25});
     for (const double hour : hours_)
-        if (const WindowHour then = this->at(hour); has_sun(then)) chart_.mark(hour, 100 * then.sunlit, "");
+        if (const WindowHour then = this->at(hour); has_sun(then))
+            chart_.mark(hour, 100 * then.sunlit, "");
     chart_.plot({curve(chart_.data(rows), 2, ink, 2.5)});
 }
 
@@ -276,7 +282,8 @@ void Picture::direct_sun() {
 
 }  // namespace
 
-host::Chart shadow_chart(const DayCase& day, const WindowDay& window, const std::vector<double>& hours) {
+host::Chart shadow_chart(const DayCase& day, const WindowDay& window,
+                         const std::vector<double>& hours) {
     return Picture(day, window, hours).drawn();
 }
 

@@ -8,8 +8,9 @@
 
 namespace quorvel::window {
 
-// The window with its shadow at each of the hours (a choice of those with sun when there are none), below them the
-// sunlit part and the direct sun through the day.
-host::Chart shadow_chart(const DayCase& day, const WindowDay& window, const std::vector<double>& hours);
+// The window with its shadow at each of the hours (a choice of those with sun when there are none),
+// below them the sunlit part and the direct sun through the day.
+host::Chart shadow_chart(const DayCase& day, const WindowDay& window,
+                         const std::vector<double>& hours);
 
 }  // namespace quorvel::window

@@ -9,9 +9,9 @@
 
 namespace quorvel::window {
 
-// All of them while the sun is higher than so many degrees. Below, the models of the sky have steps that are not the
-// weather's: the design sky at 5°, that of Perez from one class of clearness to the next. There the curves go straight
-// from hour to hour, and from the horizon.
+// All of them while the sun is higher than so many degrees. Below, the models of the sky have steps
+// that are not the weather's: the design sky at 5°, that of Perez from one class of clearness to
+// the next. There the curves go straight from hour to hour, and from the horizon.
 inline std::vector<std::size_t> drawn_of(const Day& day, double altitude) {
     std::vector<std::size_t> times;
     const auto is_up = [&](std::size_t i) { return day.exposure[i].sky.sun.is_up(); };

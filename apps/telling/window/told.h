@@ -27,7 +27,8 @@ struct YearCase : Case {
     Year year;
 };
 
-// The day by the hour, with the shadows at these hours of it (a choice of those with sun when there are none).
+// The day by the hour, with the shadows at these hours of it (a choice of those with sun when there
+// are none).
 host::Answer told(const DayCase& day, const std::vector<double>& shadow_hours);
 
 // The year by the month.

@@ -16,31 +16,35 @@ std::string metres(double length, const char* what) {
 }
 
 std::string told(const Fin& fin) {
-    return shortest(fin.depth) + " m deep" + metres(fin.offset, "beside the window") + metres(fin.above, "above it") +
-           metres(fin.below, "below it");
+    return shortest(fin.depth) + " m deep" + metres(fin.offset, "beside the window") +
+           metres(fin.above, "above it") + metres(fin.below, "below it");
 }
 
 std::string told(const Overhang& overhang) {
     return shortest(overhang.depth) + " m deep" + metres(overhang.offset, "above the window") +
-           metres(overhang.left, "beyond it on the left") + metres(overhang.right, "beyond it on the right") +
+           metres(overhang.left, "beyond it on the left") +
+           metres(overhang.right, "beyond it on the right") +
            (overhang.slope == 0 ? "" : ", sloping " + shortest(overhang.slope) + "°");
 }
 
 std::string told(const Obstruction& box) {
     return shortest(box.width) + " m wide" + metres(box.depth, "deep") + ", " +
-           (box.base == 0 ? "" : "from " + shortest(box.base) + " m ") + "up to " + shortest(box.top) +
-           " m above the ground, " + shortest(box.distance) + " m away" +
+           (box.base == 0 ? "" : "from " + shortest(box.base) + " m ") + "up to " +
+           shortest(box.top) + " m above the ground, " + shortest(box.distance) + " m away" +
            metres(std::fabs(box.offset), box.offset < 0 ? "to the left" : "to the right") +
            (box.rotation == 0 ? "" : ", turned " + shortest(box.rotation) + "°");
 }
 
 std::string told(const Unit& unit) {
     if (!unit.name.empty()) return unit.name;
-    std::string text = std::to_string(unit.panes.size()) + (unit.panes.size() == 1 ? " pane" : " panes");
+    std::string text =
+        std::to_string(unit.panes.size()) + (unit.panes.size() == 1 ? " pane" : " panes");
     for (std::size_t k = 0; k < unit.panes.size(); ++k) {
         if (unit.panes[k].name.empty()) return text;
         if (k == 0) text += ": ";
-        if (k > 0) text += " | " + shortest(unit.cavities[k - 1].width) + " mm " + unit.cavities[k - 1].gas.name + " | ";
+        if (k > 0)
+            text += " | " + shortest(unit.cavities[k - 1].width) + " mm " +
+                    unit.cavities[k - 1].gas.name + " | ";
         text += unit.panes[k].name;
     }
     return text;
@@ -49,8 +53,10 @@ std::string told(const Unit& unit) {
 std::string told(const Blind& blind) {
     static constexpr const char* places[] = {"inside", "outside", "between the panes"};
     const bool slatted = std::holds_alternative<Slats>(blind.make);
-    std::string text = std::string(slatted ? "slatted" : "roller") + " blind " + places[static_cast<int>(blind.place)];
-    if (blind.lowered_above > 0) text += ", lowered from " + shortest(blind.lowered_above) + " W/m²";
+    std::string text = std::string(slatted ? "slatted" : "roller") + " blind " +
+                       places[static_cast<int>(blind.place)];
+    if (blind.lowered_above > 0)
+        text += ", lowered from " + shortest(blind.lowered_above) + " W/m²";
     return text;
 }
 
@@ -59,18 +65,21 @@ std::string told(const Blind& blind) {
 std::string place(const Site& site) {
     const std::string east =
         std::isnan(site.longitude) ? "" : ", " + host::on_the_globe(site.longitude, "E", "W");
-    return host::on_the_globe(site.latitude, "N", "S") + east + ", " + shortest(site.height) + " m above sea level";
+    return host::on_the_globe(site.latitude, "N", "S") + east + ", " + shortest(site.height) +
+           " m above sea level";
 }
 
 std::string sky_told(const Site& site) {
-    static constexpr const char* authors[] = {"as the design sky has it", "after Perez", "after Muneer",
-                                              "after Muneer for northern Europe", "after Muneer for southern Europe"};
+    static constexpr const char* authors[] = {"as the design sky has it", "after Perez",
+                                              "after Muneer", "after Muneer for northern Europe",
+                                              "after Muneer for southern Europe"};
     return std::string("diffuse sky ") + authors[static_cast<int>(site.sky_model)];
 }
 
 std::string size_and_facing(const Window& window) {
     const bool sized = window.width * window.height == window.area && window.width != window.height;
-    return (sized ? shortest(window.width) + " × " + shortest(window.height) + " m, " : shortest(window.area) + " m² ") +
+    return (sized ? shortest(window.width) + " × " + shortest(window.height) + " m, "
+                  : shortest(window.area) + " m² ") +
            host::facing(window.orientation == 360 ? 0 : window.orientation, window.tilt);
 }
 
@@ -116,9 +125,10 @@ std::string layer_name(const Window& window, std::size_t layer) {
 }
 
 std::string method_told(Method method) {
-    return method == Method::pane_temperatures
-               ? "temperatures by the library's pane temperatures, whose fixed resistances hold here"
-               : "temperatures by a heat balance of the layers with their emissivities, gases and blind";
+    return method == Method::pane_temperatures ? "temperatures by the library's pane temperatures, "
+                                                 "whose fixed resistances hold here"
+                                               : "temperatures by a heat balance of the layers "
+                                                 "with their emissivities, gases and blind";
 }
 
 double azimuth_told(double degrees) { return std::lround(10 * degrees) % 3600 == 0 ? 0 : degrees; }
@@ -129,11 +139,15 @@ Quantity watts(std::string key, std::string name, std::string group) {
 Quantity per_area(std::string key, std::string name, std::string group) {
     return {std::move(key), std::move(name), "W/m²", 0, std::move(group), true};
 }
-Quantity energy(std::string key, std::string name) { return {std::move(key), std::move(name), "kWh", 2}; }
+Quantity energy(std::string key, std::string name) {
+    return {std::move(key), std::move(name), "kWh", 2};
+}
 Quantity celsius(std::string key, std::string name, std::string group) {
     return {std::move(key), std::move(name), "°C", 1, std::move(group)};
 }
-Quantity fraction(std::string key, std::string name) { return {std::move(key), std::move(name), "", 2}; }
+Quantity fraction(std::string key, std::string name) {
+    return {std::move(key), std::move(name), "", 2};
+}
 Quantity percent(std::string key, std::string name, std::string group) {
     return {std::move(key), std::move(name), "%", 0, std::move(group)};
 }
@@ -158,9 +172,11 @@ std::vector<host::Figure> unit_figures_told(const Window& window) {
     add(fraction("transmittance", "Solar transmittance"), unit.transmittance, "normal incidence");
     add(fraction("g", "Solar heat gain coefficient g"), unit.g, "normal incidence");
     add(fraction("g_diffuse", "g of diffuse radiation"), unit.g_diffuse);
-    add(fraction("shading_coefficient", "Shading coefficient"), unit.g / reference_gain, "g by 0.87 of clear glass");
+    add(fraction("shading_coefficient", "Shading coefficient"), unit.g / reference_gain,
+        "g by 0.87 of clear glass");
     add(fraction("g_with_blind", "g with the blind"), unit.g_with_blind, "normal incidence");
-    add(fraction("g_diffuse_with_blind", "g of diffuse radiation with it"), unit.g_diffuse_with_blind);
+    add(fraction("g_diffuse_with_blind", "g of diffuse radiation with it"),
+        unit.g_diffuse_with_blind);
     add(fraction("shading_coefficient_with_blind", "Shading coefficient with it"),
         unit.g_with_blind / reference_gain);
     return figures;

@@ -12,8 +12,9 @@ std::string place(const Site& site);                // 51.48° N, 0.29° W, 6 m 
 std::string sky_told(const Site& site);             // clear sky after Perez
 std::string size_and_facing(const Window& window);  // 2.4 m² facing 180° (S), vertical
 std::string glazing_told(const Window& window);     // double low-e argon, slatted blind outside
-std::vector<std::string> shades_told(const Window& window);  // Overhang: 0.4 m deep, 0.2 m above the window
-std::string described(const Window& window);                 // all of this, a line each
+std::vector<std::string> shades_told(
+    const Window& window);                    // Overhang: 0.4 m deep, 0.2 m above the window
+std::string described(const Window& window);  // all of this, a line each
 std::string layer_name(const Window& window, std::size_t layer);  // pane 1 (room), blind
 std::string method_told(Method method);
 

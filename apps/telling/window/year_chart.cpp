@@ -38,17 +38,21 @@ void draw(host::Chart& chart, const WindowYear& window, double top) {
     for (std::size_t month = 0; month < 12; ++month) {
         const Sums& sums = window.months[month];
         const auto x = static_cast<double>(month);
-        rows.push_back({x, sums.solar_gain_without_blind, sums.solar_gain, sums.transmitted, sums.net()});
+        rows.push_back(
+            {x, sums.solar_gain_without_blind, sums.solar_gain, sums.transmitted, sums.net()});
     }
     const std::string data = chart.data(rows);
     std::vector<std::string> parts;
     if (window.window->blind) parts.push_back(bars(data, 2, pale_blind_colour, 0.66));
     parts.push_back(bars(data, 3, gain_colour, 0.5));
     parts.push_back(bars(data, 4, direct_colour, 0.5));
-    parts.push_back(data + " using 1:5 with linespoints linewidth 2 pointtype 7 pointsize 0.6 linecolor rgb '" +
-                    ink + "'");
+    parts.push_back(
+        data + " using 1:5 with linespoints linewidth 2 pointtype 7 pointsize 0.6 linecolor rgb '" +
+        ink + "'");
     chart.text(left, top - 34, window.window->name, {ink, 14, true});
-    chart.text(left, top - 16, size_and_facing(*window.window) + "  ·  " + glazing_told(*window.window), {grey, 12});
+    chart.text(left, top - 16,
+               size_and_facing(*window.window) + "  ·  " + glazing_told(*window.window),
+               {grey, 12});
     chart.text(width - right, top - 34,
                "solar gain " + host::fixed(window.year.solar_gain, 1) + " kWh, net " +
                    host::fixed(window.year.net(), 1) + " kWh",
@@ -60,7 +64,8 @@ void draw(host::Chart& chart, const WindowYear& window, double top) {
 
 host::Chart year_chart(const YearCase& given) {
     const auto count = static_cast<double>(given.year.windows.size());
-    host::Chart chart(static_cast<int>(width), static_cast<int>(first_top + count * (row_height + between) - 40));
+    host::Chart chart(static_cast<int>(width),
+                      static_cast<int>(first_top + count * (row_height + between) - 40));
     const host::Scale scale = scale_of(given.year);
     double top = first_top;
     for (const WindowYear& window : given.year.windows) {
@@ -68,12 +73,16 @@ host::Chart year_chart(const YearCase& given) {
         chart.horizontal_names(short_months());
         chart.vertical_scale(scale);
         if (top == first_top) {
-            chart.text(margin, 38, given.site.name + (given.of_weather ? ", a year of weather" : ", design days"),
-                       {ink, 24, true});
+            chart.text(
+                margin, 38,
+                given.site.name + (given.of_weather ? ", a year of weather" : ", design days"),
+                {ink, 24, true});
             chart.text(margin, 68, place(given.site), {grey, 12});
-            std::vector<host::Key> keys{{"■", gain_colour, "solar heat gain"}, {"■", direct_colour, "of it transmitted"},
+            std::vector<host::Key> keys{{"■", gain_colour, "solar heat gain"},
+                                        {"■", direct_colour, "of it transmitted"},
                                         {"●", ink, "net"}};
-            if (std::ranges::any_of(given.windows, [](const Window& w) { return w.blind.has_value(); }))
+            if (std::ranges::any_of(given.windows,
+                                    [](const Window& w) { return w.blind.has_value(); }))
                 keys.push_back({"■", pale_blind_colour, "without blind"});
             chart.title(margin, 112, "Heat into the room, kWh a month", keys);
         }

@@ -6,7 +6,8 @@
 
 namespace quorvel::window {
 
-// For each window the solar heat gain of every month, with and without the blind, and what conduction adds.
+// For each window the solar heat gain of every month, with and without the blind, and what
+// conduction adds.
 host::Chart year_chart(const YearCase& year);
 
 }  // namespace quorvel::window

@@ -1,5 +1,5 @@
-// What the library has of its surroundings in JavaScript: files in memory, and no environment. It takes the place of
-// src/climate/record_file.cpp and of the C library's getenv.
+// What the library has of its surroundings in JavaScript: files in memory, and no environment. It
+// takes the place of src/climate/record_file.cpp and of the C library's getenv.
 #include <cstdlib>
 
 #include "climate/record_file.h"
@@ -33,7 +33,8 @@ bool RecordFile::open(const char* name) noexcept {
 }
 
 bool RecordFile::read(std::int64_t number, Record& record) const noexcept {
-    const auto offset = static_cast<double>((number - 1) * static_cast<std::int64_t>(sizeof(Record)));
+    const auto offset =
+        static_cast<double>((number - 1) * static_cast<std::int64_t>(sizeof(Record)));
     return quorvel_read_file(static_cast<std::int32_t>(handle_), offset, &record, sizeof record);
 }
 

@@ -35,7 +35,9 @@ TEST(StationDay, IsPeriodicWhateverTheOrderOfTheHours) {
         const auto day = station_day(with(&MonthRecord::hour_b, b)).value();
         EXPECT_TRUE(day.notes.empty()) << b;
         for (double hour = 0; hour < 24; hour += 0.25)
-            EXPECT_NEAR(day.air(hour), lib::daily_temperature(hour, 30, 18, 15, std::fmod(b, 24)), 2e-4) << b << ' ' << hour;
+            EXPECT_NEAR(day.air(hour), lib::daily_temperature(hour, 30, 18, 15, std::fmod(b, 24)),
+                        2e-4)
+                << b << ' ' << hour;
     }
 }
 
@@ -74,7 +76,9 @@ TEST(MonthlyMeans, WeighTheBandsByTheirFrequency) {
             put(5, lib::psychrometer_wet_bulb(20 + warmer, 50, pressure, 1));
             put(6, lib::psychrometer_wet_bulb(10 + warmer, 80, pressure, 1));
             if (month == 0)
-                vapour += (lib::vapour_pressure(20 + warmer, 50) + lib::vapour_pressure(10 + warmer, 80)) / 20;
+                vapour += (lib::vapour_pressure(20 + warmer, 50) +
+                           lib::vapour_pressure(10 + warmer, 80)) /
+                          20;
         }
     const MonthlyMeans means = monthly_means(station, 1, pressure);
     for (std::size_t month = 0; month < month_count; ++month) {

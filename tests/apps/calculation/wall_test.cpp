@@ -61,18 +61,23 @@ std::vector<Element> random_elements(int count) {
     while (count-- > 0) {
         std::vector<Layer> layers;
         for (int i = 0; i < 5; ++i)
-            layers.push_back(i == 2 ? membrane(between(0.5, 200))
-                                    : homogeneous(between(0.01, 0.2), Solid{between(0.03, 2), between(20, 2400), 1000,
-                                                                            5 * std::exp(between(0, 6))}));
+            layers.push_back(
+                i == 2 ? membrane(between(0.5, 200))
+                       : homogeneous(between(0.01, 0.2), Solid{between(0.03, 2), between(20, 2400),
+                                                               1000, 5 * std::exp(between(0, 6))}));
         elements.push_back(element(layers));
     }
     return elements;
 }
 
 TEST_F(Transmittances, TimberFrameByHand) {
-    Layer frame{"", 0.14, {{"stud", 0.15, Solid{0.13, 500, 1600, 250}}, {"wool", 0.85, Solid{0.038, 20, 1030, 5}}}};
-    const Element wall = element({board(0.0125), frame, homogeneous(0.009, Solid{0.13, 650, 1700, 250}),
-                                  homogeneous(0.05, Gap{0.18, {}}), brick(0.1025)});
+    Layer frame{
+        "",
+        0.14,
+        {{"stud", 0.15, Solid{0.13, 500, 1600, 250}}, {"wool", 0.85, Solid{0.038, 20, 1030, 5}}}};
+    const Element wall =
+        element({board(0.0125), frame, homogeneous(0.009, Solid{0.13, 650, 1700, 250}),
+                 homogeneous(0.05, Gap{0.18, {}}), brick(0.1025)});
     const Transmittance t = transmittance(wall, sections(wall), surface_resistances(wall));
     EXPECT_NEAR(t.upper, 3.4767, 5e-4);  // 1 / (0.85 / 4.2865 + 0.15 / 1.6792)
     EXPECT_NEAR(t.lower, 3.3050, 5e-4);  // 0.6023 + 1 / (0.85 / 3.6842 + 0.15 / 1.0769)
@@ -91,11 +96,15 @@ TEST_F(Transmittances, CorrectionsByHand) {
 }
 
 TEST_F(Transmittances, SectionsCrossUnlessInLine) {
-    const Layer frame{"", 0.1, {{"stud", 0.1, Solid{0.13, 500, 1600, 250}}, {"wool", 0.9, Solid{0.04, 20, 1030, 5}}}};
+    const Layer frame{
+        "",
+        0.1,
+        {{"stud", 0.1, Solid{0.13, 500, 1600, 250}}, {"wool", 0.9, Solid{0.04, 20, 1030, 5}}}};
     Element wall = element({frame, board(0.01), frame});
     const auto fractions = [&] {
         std::vector<double> result;
-        for (const Section& section : sections(wall)) result.push_back(std::round(section.fraction * 1e6) / 1e6);
+        for (const Section& section : sections(wall))
+            result.push_back(std::round(section.fraction * 1e6) / 1e6);
         return result;
     };
     EXPECT_EQ(fractions(), (std::vector{0.81, 0.09, 0.09, 0.01}));
@@ -107,8 +116,8 @@ TEST_F(Transmittances, SectionsCrossUnlessInLine) {
     EXPECT_TRUE(sections(wall).empty());  // 2 to the 7th are too many
 }
 
-// The heat balance of thin slices, each with its capacity, under a swing of 1 K in 24 hours on one side: the flows
-// into the element at both surfaces.
+// The heat balance of thin slices, each with its capacity, under a swing of 1 K in 24 hours on one
+// side: the flows into the element at both surfaces.
 std::array<std::complex<double>, 2> swing(const Element& element, double near, double far) {
     constexpr int slices = 400;  // a layer
     std::vector<double> resistance{near}, capacity;
@@ -125,7 +134,8 @@ std::array<std::complex<double>, 2> swing(const Element& element, double near, d
     // From the far side: the admittance of all that lies behind a slice.
     std::complex<double> behind = 1 / resistance.back(), through = behind;
     for (std::size_t i = capacity.size(); i-- > 0;) {
-        const std::complex<double> at = behind + std::complex(0.0, 2 * std::numbers::pi / 86400 * capacity[i]);
+        const std::complex<double> at =
+            behind + std::complex(0.0, 2 * std::numbers::pi / 86400 * capacity[i]);
         behind = 1.0 / (resistance[i] + 1.0 / at);
         through *= behind / at;
     }
@@ -133,8 +143,9 @@ std::array<std::complex<double>, 2> swing(const Element& element, double near, d
 }
 
 TEST_F(DailySwing, HeatBalanceOfThinSlices) {
-    for (const Element& wall : {element({brick(0.22)}), element({board(0.0125), wool(0.1), brick(0.1)}),
-                                element({felt(0.005), wool(0.15), homogeneous(0.2, Solid{2.3, 2400, 1000, 400})})}) {
+    for (const Element& wall :
+         {element({brick(0.22)}), element({board(0.0125), wool(0.1), brick(0.1)}),
+          element({felt(0.005), wool(0.15), homogeneous(0.2, Solid{2.3, 2400, 1000, 400})})}) {
         Element turned = wall;
         std::ranges::reverse(turned.layers);
         const auto inside = swing(wall, 0.13, 0.04), outside = swing(turned, 0.04, 0.13);
@@ -144,15 +155,17 @@ TEST_F(DailySwing, HeatBalanceOfThinSlices) {
         EXPECT_NEAR(p.outside_admittance, std::abs(outside[0]), 5e-3);
         EXPECT_NEAR(p.transmittance, std::abs(inside[1]), 2e-4);
         EXPECT_NEAR(std::abs(inside[1]), std::abs(outside[1]), 1e-9);
-        EXPECT_NEAR(p.decrement_lag, std::remainder(12 - std::arg(inside[1]) * 12 / std::numbers::pi, 24), 0.02);
+        EXPECT_NEAR(p.decrement_lag,
+                    std::remainder(12 - std::arg(inside[1]) * 12 / std::numbers::pi, 24), 0.02);
         EXPECT_NEAR(p.inside_capacity / (std::abs(inside[0] + inside[1]) / angular), 1, 1e-3);
         EXPECT_NEAR(p.outside_capacity / (std::abs(outside[0] + outside[1]) / angular), 1, 1e-3);
     }
 }
 
-// Implicit steps of a quarter of a day, in each of which every place is either not wet or at saturation: an
-// iteration that knows of no strings and no events.
-std::vector<double> relaxed_year(const Path& path, const std::vector<Climate>& months, std::size_t first) {
+// Implicit steps of a quarter of a day, in each of which every place is either not wet or at
+// saturation: an iteration that knows of no strings and no events.
+std::vector<double> relaxed_year(const Path& path, const std::vector<Climate>& months,
+                                 std::size_t first) {
     constexpr double day = 86400e3 / 1e9, step = 0.25;
     const std::size_t n = path.places.size();
     constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -162,21 +175,25 @@ std::vector<double> relaxed_year(const Path& path, const std::vector<Climate>& m
         const Profile steady = profile(path, months[month]);
         std::vector<double> p = steady.pressure, conductance(n);
         for (std::size_t i = 1; i < n; ++i)
-            conductance[i] = day / (path.places[i].vapour_resistance - path.places[i - 1].vapour_resistance);
+            conductance[i] =
+                day / (path.places[i].vapour_resistance - path.places[i - 1].vapour_resistance);
         for (int s = 0; s < days[month] / step; ++s) {
             for (double change = 1; change > 1e-7;) {
                 change = 0;
                 for (std::size_t i = 1; i + 1 < n; ++i) {
-                    const double free = (conductance[i] * p[i - 1] + conductance[i + 1] * p[i + 1] + content[i] / step) /
+                    const double free = (conductance[i] * p[i - 1] + conductance[i + 1] * p[i + 1] +
+                                         content[i] / step) /
                                         (conductance[i] + conductance[i + 1]);
-                    const double relaxed = std::min(steady.saturation[i], p[i] + 1.6 * (free - p[i]));
+                    const double relaxed =
+                        std::min(steady.saturation[i], p[i] + 1.6 * (free - p[i]));
                     change = std::max(change, std::fabs(relaxed - p[i]));
                     p[i] = relaxed;
                 }
             }
             for (std::size_t i = 1; i + 1 < n; ++i)
-                content[i] = std::max(0.0, content[i] + step * (conductance[i] * (p[i - 1] - p[i]) -
-                                                                conductance[i + 1] * (p[i] - p[i + 1])));
+                content[i] =
+                    std::max(0.0, content[i] + step * (conductance[i] * (p[i - 1] - p[i]) -
+                                                       conductance[i + 1] * (p[i] - p[i + 1])));
         }
         told.push_back(std::accumulate(content.begin(), content.end(), 0.0));
     }
@@ -193,7 +210,8 @@ TEST_F(WetYear, AgreesWithRelaxationInShortSteps) {
         const Year year = quorvel::wall::year(way, temperate(65));
         const auto expected = relaxed_year(way, temperate(65), year.months.front().month);
         for (std::size_t m = 0; m < 12; ++m)
-            EXPECT_NEAR(year.months[m].content, expected[m], 0.1 + 0.002 * year.peak()) << "month " << m;
+            EXPECT_NEAR(year.months[m].content, expected[m], 0.1 + 0.002 * year.peak())
+                << "month " << m;
         wet += !year.dry();
     }
     EXPECT_GE(wet, 20);
@@ -223,7 +241,8 @@ TEST_F(WetYear, TurnedRoundInATurnedClimateItIsTheSame) {
         std::swap(wall.inside_resistance, wall.outside_resistance);
         for (Climate& climate : climates) std::swap(climate.inside, climate.outside);
         const Year other = year_of(wall, climates);
-        EXPECT_NEAR(transmittance(wall, sections(wall), surface_resistances(wall)).u_value, u, 1e-12);
+        EXPECT_NEAR(transmittance(wall, sections(wall), surface_resistances(wall)).u_value, u,
+                    1e-12);
         EXPECT_NEAR(one.peak(), other.peak(), 0.02 + 1e-4 * one.peak());
         EXPECT_NEAR(one.left(), other.left(), 0.02 + 1e-4 * one.peak());
         EXPECT_EQ(one.deposits.size(), other.deposits.size());
@@ -242,15 +261,20 @@ TEST_F(WetYear, DryAirWetsNothingAndATightRoofKeepsWhatItGets) {
     EXPECT_GE(wall.months.front().month, 8u);  // begins in autumn
 }
 
-// One interface, out of EN ISO 13788's formulae by hand: brickwork behind wool, 1 °C and 85 % outside.
+// One interface, out of EN ISO 13788's formulae by hand: brickwork behind wool, 1 °C and 85 %
+// outside.
 TEST_F(WetYear, OneMonthOfOneInterfaceByHand) {
     const Element wall = element({board(0.0125), wool(0.05), brick(0.22)});
-    const Profile got = profile(path(sections(wall).front(), surface_resistances(wall)), {{20, 60}, {1, 85}});
+    const Profile got =
+        profile(path(sections(wall).front(), surface_resistances(wall)), {{20, 60}, {1, 85}});
     const auto magnus = [](double t) { return 610.5 * std::exp(17.269 * t / (237.3 + t)); };
     const double outer = 0.22 / 0.77 + 0.04, all = 0.13 + 0.05 + 1.25 + outer;
-    const double at = magnus(1 + 19 * outer / all), sd_inside = 0.0125 * 10 + 0.05, sd_outside = 0.22 * 10;
-    const double rate = 2e-10 * ((0.6 * magnus(20) - at) / sd_inside - (at - 0.85 * magnus(1)) / sd_outside);  // kg/m²s
-    EXPECT_NEAR(std::accumulate(got.gain.begin(), got.gain.end(), 0.0), rate * 86400e3, 0.003 * rate * 86400e3);
+    const double at = magnus(1 + 19 * outer / all), sd_inside = 0.0125 * 10 + 0.05,
+                 sd_outside = 0.22 * 10;
+    const double rate = 2e-10 * ((0.6 * magnus(20) - at) / sd_inside -
+                                 (at - 0.85 * magnus(1)) / sd_outside);  // kg/m²s
+    EXPECT_NEAR(std::accumulate(got.gain.begin(), got.gain.end(), 0.0), rate * 86400e3,
+                0.003 * rate * 86400e3);
 }
 
 TEST_F(InsideSurface, DemandOfTheUsualRoom) {

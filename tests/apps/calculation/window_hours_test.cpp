@@ -23,7 +23,8 @@ using Temperatures = HoursTest;
 const Site london{"London", 51.5, -0.3, 6, 5, 0, SkyModel::perez, 1, {}};
 const DesignDay june{6, 0, 24, 13, 25, 15, {}, ""};
 
-Window window(double orientation, double tilt = 90, const Glazing& glazing = unit({clear(4, 0.82), clear(4, 0.82)}, air, 16)) {
+Window window(double orientation, double tilt = 90,
+              const Glazing& glazing = unit({clear(4, 0.82), clear(4, 0.82)}, air, 16)) {
     Window w{};
     w.name = "W";
     w.orientation = orientation;
@@ -43,27 +44,34 @@ TEST_F(SkyOnPlane, OfPerezIsItsFormulaPartByPart) {
         const double zenith = M_PI / 2 - altitude, kappa = 1.041 * std::pow(zenith, 3);
         ASSERT_GT(((diffuse + direct) / diffuse + kappa) / (1 + kappa), 6.2);
         const double brightness = diffuse / std::sin(altitude) / 1325;
-        const double f1 = 0.678 - 0.327 * brightness - 0.250 * zenith, f2 = 0.156 - 1.377 * brightness + 0.251 * zenith;
+        const double f1 = 0.678 - 0.327 * brightness - 0.250 * zenith,
+                     f2 = 0.156 - 1.377 * brightness + 0.251 * zenith;
         for (const double tilt : {0.0, 40.0, 90.0, 130.0}) {
             const double slope = tilt * M_PI / 180;
-            const double towards = std::cos(altitude) * std::sin(slope) + std::sin(altitude) * std::cos(slope);
+            const double towards =
+                std::cos(altitude) * std::sin(slope) + std::sin(altitude) * std::cos(slope);
             const OnPlane plane = on_plane(london, 0.2, sky, 180, tilt, std::acos(towards));
             EXPECT_NEAR(plane.sky, diffuse * (1 - f1) * (1 + std::cos(slope)) / 2, 0.6);
-            EXPECT_NEAR(plane.circumsolar, diffuse * f1 * std::max(towards, 0.0) / std::sin(altitude), 0.6);
+            EXPECT_NEAR(plane.circumsolar,
+                        diffuse * f1 * std::max(towards, 0.0) / std::sin(altitude), 0.6);
             EXPECT_NEAR(plane.horizon, diffuse * f2 * std::sin(slope), 0.6);
             EXPECT_NEAR(plane.direct, direct * std::max(towards, 0.0), 0.1);
-            EXPECT_NEAR(plane.ground, 0.2 * (direct * std::sin(altitude) + diffuse) * (1 - std::cos(slope)) / 2, 0.1);
+            EXPECT_NEAR(plane.ground,
+                        0.2 * (direct * std::sin(altitude) + diffuse) * (1 - std::cos(slope)) / 2,
+                        0.1);
         }
     }
 }
 
 TEST_F(SkyOnPlane, OfEveryModelIsWholeOnLevelPlanes) {
-    for (const SkyModel model : {SkyModel::design, SkyModel::perez, SkyModel::muneer, SkyModel::muneer_north}) {
+    for (const SkyModel model :
+         {SkyModel::design, SkyModel::perez, SkyModel::muneer, SkyModel::muneer_north}) {
         Site site = london;
         site.sky_model = model;
         const Sky sky = design_sky(site, site_constants(site, 6), 172, 10);
         const auto diffuse = [&](double tilt) {
-            const OnPlane plane = on_plane(site, 0.2, sky, 180, tilt, tilt == 0 ? M_PI / 2 - sky.sun.altitude : 3);
+            const OnPlane plane =
+                on_plane(site, 0.2, sky, 180, tilt, tilt == 0 ? M_PI / 2 - sky.sun.altitude : 3);
             return plane.sky + plane.circumsolar + plane.horizon;
         };
         EXPECT_NEAR(diffuse(0), sky.diffuse_horizontal, 0.3);
@@ -111,13 +119,16 @@ TEST_F(Days, AtThePolesAreDayOrNight) {
     }
 }
 
-// A blind outside keeps out what one inside has let in; the transmitted light alone would say otherwise.
+// A blind outside keeps out what one inside has let in; the transmitted light alone would say
+// otherwise.
 TEST_F(Days, TellWhatABlindInsideLetsIn) {
     Window windows[] = {window(180), window(180), window(180)};
     windows[1].blind = roller(BlindPlace::outside, 0.12, 0.5);
     windows[2].blind = roller(BlindPlace::inside, 0.1, 0.5);
     const Day day = calculate(london, june, windows);
-    const auto sum = [&](std::size_t i, double (WindowHour::*member)() const) { return daily_sum(day.windows[i], member); };
+    const auto sum = [&](std::size_t i, double (WindowHour::*member)() const) {
+        return daily_sum(day.windows[i], member);
+    };
     EXPECT_LT(sum(1, &WindowHour::solar_gain), 0.5 * sum(2, &WindowHour::solar_gain));
     EXPECT_LT(sum(2, &WindowHour::transmitted), sum(1, &WindowHour::transmitted) * 1.05);
     for (std::size_t i = 0; i < 24; ++i) {
@@ -163,8 +174,8 @@ TEST_F(Days, ShadeTheSunTheSkyAndTheGround) {
     }
 }
 
-// The library's resistances are those of the balance: its own temperatures, worked out anew, are rounded to hundredths
-// of a coefficient.
+// The library's resistances are those of the balance: its own temperatures, worked out anew, are
+// rounded to hundredths of a coefficient.
 TEST_F(Temperatures, OfPlainPanesAreThoseOfTheLibrary) {
     for (const std::size_t panes : {1u, 2u, 3u}) {
         const Unit plain = unit(std::vector<Pane>(panes, clear(4, 0.82)), air, 6.8);
@@ -177,25 +188,32 @@ TEST_F(Temperatures, OfPlainPanesAreThoseOfTheLibrary) {
             const auto library =
                 lib::pane_temperatures(22, 8, static_cast<int>(panes), s[0], s[1], s[2], 0, 0);
             const HeatFlow flow = balance(22, 8, absorbed);
-            EXPECT_NEAR(flow.temperature[panes - 1], library.pane_temperature_1, 0.8) << panes << " panes, sun " << sun;
+            EXPECT_NEAR(flow.temperature[panes - 1], library.pane_temperature_1, 0.8)
+                << panes << " panes, sun " << sun;
             if (panes > 1) {
-                EXPECT_NEAR(flow.temperature[0], panes == 2 ? library.pane_temperature_2 : library.pane_temperature_3,
+                EXPECT_NEAR(flow.temperature[0],
+                            panes == 2 ? library.pane_temperature_2 : library.pane_temperature_3,
                             0.8);
             }
         }
     }
-    EXPECT_EQ(Panes(unit({clear(4, 0.82), clear(4, 0.82)}, air, 16), {}, 90).method(), Method::heat_balance);
+    EXPECT_EQ(Panes(unit({clear(4, 0.82), clear(4, 0.82)}, air, 16), {}, 90).method(),
+              Method::heat_balance);
 }
 
-// What the layers absorb between equal temperatures leaves to both sides, in all; a mirror image swaps the sides.
+// What the layers absorb between equal temperatures leaves to both sides, in all; a mirror image
+// swaps the sides.
 TEST_F(Temperatures, KeepTheBalanceOfHeat) {
-    const Pane low_e = coated(0.6, 0.29, 0.24, 0.04), turned{"", 4, 0.6, {0.24, 0.29}, {plain_emissivity, 0.04}};
+    const Pane low_e = coated(0.6, 0.29, 0.24, 0.04),
+               turned{"", 4, 0.6, {0.24, 0.29}, {plain_emissivity, 0.04}};
     constexpr Surfaces same{5, 5, 4};
-    const Blind inside = roller(BlindPlace::inside, 0.1, 0.5), outside = roller(BlindPlace::outside, 0.1, 0.5);
+    const Blind inside = roller(BlindPlace::inside, 0.1, 0.5),
+                outside = roller(BlindPlace::outside, 0.1, 0.5);
     const HeatBalance one(unit({clear(4, 0.82), low_e}, argon, 14), inside, 90, same);
     const HeatBalance other(unit({turned, clear(4, 0.82)}, argon, 14), outside, 90, same);
     for (const double each : {5.0, 100.0, 400.0}) {
-        const double inwards = one(20, 20, {each, 2 * each, each}).inwards, outwards = other(20, 20, {each, 2 * each, each}).inwards;
+        const double inwards = one(20, 20, {each, 2 * each, each}).inwards,
+                     outwards = other(20, 20, {each, 2 * each, each}).inwards;
         EXPECT_NEAR(inwards + outwards, 4 * each, 0.002 * each + 0.01);
     }
     EXPECT_NEAR(one(20, 20, {}).inwards, 0, 1e-6);
@@ -221,7 +239,8 @@ TEST_F(Years, OfDarknessLoseByTheHeatBalance) {
     EXPECT_NEAR(loss, 2.7 * 15, 2.5);
 }
 
-// Sun in the hours that are morning by the sun alone: at this place noon comes at half past one by the clock.
+// Sun in the hours that are morning by the sun alone: at this place noon comes at half past one by
+// the clock.
 TEST_F(Years, StandTheSunByLongitudeAndZone) {
     Weather mornings = weather(-22.5, 0);
     Site site = london;
@@ -233,14 +252,15 @@ TEST_F(Years, StandTheSunByLongitudeAndZone) {
     const Window windows[] = {window(90), window(270)};
     const Year year = calculate(site, mornings, windows);
     EXPECT_GT(year.windows[0].year.incident, 250);
-    EXPECT_LT(year.windows[1].year.incident, 0.25 * year.windows[0].year.incident);  // the ground, and the diffuse sky
+    EXPECT_LT(year.windows[1].year.incident,
+              0.25 * year.windows[0].year.incident);  // the ground, and the diffuse sky
     const Window level = window(0, 0);
     const Year horizontal = calculate(site, mornings, {&level, 1});
     double expected = 0;
     for (const WeatherHour& hour : mornings.hours) {
         if (hour.direct_normal == 0) continue;
-        const double solar = hour.hour - 0.5 - 1.5 +
-                             lib::solar_time_correction(0, hour.day_of_year, 0, 0);
+        const double solar =
+            hour.hour - 0.5 - 1.5 + lib::solar_time_correction(0, hour.day_of_year, 0, 0);
         const double sine = std::sin(host::sun_at(48, hour.day_of_year, solar).altitude);
         expected += (600 * sine + (sine > 0 ? 6 : 0)) / 1000;
     }
@@ -253,8 +273,8 @@ TEST_F(Years, OfDesignDaysAreTheirMonths) {
     for (int month = 1; month <= 12; ++month) days.push_back({month, 0, 20, 5, 15, 15, {}, ""});
     const Year year = calculate(london, days, {&south, 1});
     const Day march = calculate(london, days[2], {&south, 1});
-    EXPECT_NEAR(year.windows[0].months[2].solar_gain, 31 * daily_sum(march.windows[0], &WindowHour::solar_gain) / 1000,
-                1e-9);
+    EXPECT_NEAR(year.windows[0].months[2].solar_gain,
+                31 * daily_sum(march.windows[0], &WindowHour::solar_gain) / 1000, 1e-9);
     EXPECT_GT(year.windows[0].peak.power, 0);
 }
 

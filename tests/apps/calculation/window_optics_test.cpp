@@ -1,4 +1,5 @@
-// What becomes of the sun's radiation between panes and blind, against single photons that are followed one by one.
+// What becomes of the sun's radiation between panes and blind, against single photons that are
+// followed one by one.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -30,10 +31,12 @@ Sheet sheet(const Pane& pane, double incidence) {
     const auto inside = lib::glass_direct(pane.transmittance, pane.reflectance[1], incidence);
     const auto scattered = lib::glass_diffuse(pane.transmittance, pane.reflectance[0]);
     const auto scattered_back = lib::glass_diffuse(pane.transmittance, pane.reflectance[1]);
-    return {{pane_layer(outside.parallel_transmittance, outside.parallel_reflectance, inside.parallel_reflectance),
+    return {{pane_layer(outside.parallel_transmittance, outside.parallel_reflectance,
+                        inside.parallel_reflectance),
              pane_layer(outside.perpendicular_transmittance, outside.perpendicular_reflectance,
                         inside.perpendicular_reflectance)},
-            {scattered.transmittance, 1 - scattered.transmittance - scattered.absorptance, scattered_back.transmittance,
+            {scattered.transmittance, 1 - scattered.transmittance - scattered.absorptance,
+             scattered_back.transmittance,
              1 - scattered_back.transmittance - scattered_back.absorptance}};
 }
 
@@ -61,7 +64,9 @@ Passage followed(const std::vector<Sheet>& sheets) {
                 dice -= straight;
                 scattered = true;
             }
-            const Layer& layer = at_blind ? met.blind->scattered : scattered ? met.diffuse : met.direct[polarisation];
+            const Layer& layer = at_blind    ? met.blind->scattered
+                                 : scattered ? met.diffuse
+                                             : met.direct[polarisation];
             const double t = inwards ? layer.front_transmittance : layer.back_transmittance;
             const double r = inwards ? layer.front_reflectance : layer.back_reflectance;
             if (dice < t) {
@@ -79,17 +84,21 @@ Passage followed(const std::vector<Sheet>& sheets) {
     }
     Passage passage;
     passage.transmitted = static_cast<double>(through) / photons;
-    for (std::size_t k = 0; k < sheets.size(); ++k) passage.absorbed[k] = static_cast<double>(absorbed[k]) / photons;
+    for (std::size_t k = 0; k < sheets.size(); ++k)
+        passage.absorbed[k] = static_cast<double>(absorbed[k]) / photons;
     return passage;
 }
 
 TEST_F(Optics, IsThatOfSinglePhotons) {
-    const Pane glass = clear(4, 0.82), mirror = coated(0.37, 0.40, 0.30, 0.03), low_e = coated(0.60, 0.29, 0.24, 0.04);
-    const Unit units[] = {unit({glass}, air, 0), unit({glass, low_e}, argon, 16), unit({mirror, glass, low_e}, argon, 12)};
+    const Pane glass = clear(4, 0.82), mirror = coated(0.37, 0.40, 0.30, 0.03),
+               low_e = coated(0.60, 0.29, 0.24, 0.04);
+    const Unit units[] = {unit({glass}, air, 0), unit({glass, low_e}, argon, 16),
+                          unit({mirror, glass, low_e}, argon, 12)};
     Blind dense = roller(BlindPlace::inside, 0.3, 0.5);
     std::get<Fabric>(dense.make).openness = 0.1;
     for (const Unit& glazing : units)
-        for (const BlindPlace place : {BlindPlace::outside, BlindPlace::inside, BlindPlace::between})
+        for (const BlindPlace place :
+             {BlindPlace::outside, BlindPlace::inside, BlindPlace::between})
             for (Blind blind : {dense, slatted(place, 30, 0.4), slatted(place, -20, 0.1, 15)}) {
                 blind.place = place;
                 if (place == BlindPlace::between && glazing.panes.size() < 2) continue;
@@ -98,9 +107,11 @@ TEST_F(Optics, IsThatOfSinglePhotons) {
                 for (const Pane& pane : glazing.panes) sheets.push_back(sheet(pane, incidence));
                 const Screen screen = in_direct_sun(blind, profile);
                 const Layer scattered = in_scattered_radiation(blind);
-                sheets.insert(sheets.begin() + static_cast<std::ptrdiff_t>(blind.place_among(glazing.panes.size())),
+                sheets.insert(sheets.begin() + static_cast<std::ptrdiff_t>(
+                                                   blind.place_among(glazing.panes.size())),
                               {{}, scattered, &screen});
-                const Passage expected = followed(sheets), got = Panes(glazing, blind, 90).direct(incidence, profile);
+                const Passage expected = followed(sheets),
+                              got = Panes(glazing, blind, 90).direct(incidence, profile);
                 EXPECT_NEAR(got.transmitted, expected.transmitted, four_sigma);
                 for (std::size_t k = 0; k < sheets.size(); ++k)
                     EXPECT_NEAR(got.absorbed[k], expected.absorbed[k], four_sigma) << "layer " << k;
@@ -113,32 +124,36 @@ TEST_F(Optics, OfBlackSlatsIsGeometry) {
         for (const double profile : {0.1, 0.5, 0.9}) {
             const Screen screen = in_direct_sun(slatted(BlindPlace::outside, angle, 1), profile);
             const double turned = profile + angle * M_PI / 180;
-            const double gap = std::max(0.0, 1 - 25 * std::fabs(std::sin(turned)) / (20 * std::cos(profile)));
+            const double gap =
+                std::max(0.0, 1 - 25 * std::fabs(std::sin(turned)) / (20 * std::cos(profile)));
             EXPECT_NEAR(screen.straight, gap, 1e-3);
             EXPECT_NEAR(screen.scattered.front_transmittance, 0, 2e-3);
             EXPECT_NEAR(screen.scattered.front_absorptance() - screen.straight, 1 - gap, 2e-3);
         }
 }
 
-// Lowered outer edges bar the sky and let the ground in, raised ones the other way; a level window has sky on either
-// side of its slats.
+// Lowered outer edges bar the sky and let the ground in, raised ones the other way; a level window
+// has sky on either side of its slats.
 TEST_F(Optics, OfSlatsTellsSkyFromGround) {
     const Unit glazing = unit({clear(4, 0.82)}, air, 0);
     const auto panes = [&](double angle, double tilt) {
         return Panes(glazing, slatted(BlindPlace::outside, angle, 0.5), tilt);
     };
     EXPECT_LT(panes(50, 90).from_sky().transmitted, 0.7 * panes(50, 90).from_ground().transmitted);
-    EXPECT_NEAR(panes(50, 90).from_sky().transmitted, panes(-50, 90).from_ground().transmitted, 1e-3);
+    EXPECT_NEAR(panes(50, 90).from_sky().transmitted, panes(-50, 90).from_ground().transmitted,
+                1e-3);
     EXPECT_NEAR(panes(50, 0).from_sky().transmitted, panes(-50, 0).from_sky().transmitted, 1e-3);
 }
 
-// No more leaves than arrives, whatever the layers; bright mirrors and slats with unlike faces included.
+// No more leaves than arrives, whatever the layers; bright mirrors and slats with unlike faces
+// included.
 TEST_F(Optics, KeepsTheBalance) {
     const Pane mirror = coated(0.5, 0.5, 0.5, 0.9);
     Blind unlike = slatted(BlindPlace::outside, 0, 0.9, 80);
     unlike.make = Slats{10, 80, 60, 0.9, 0.1};
-    for (const Blind& blind : {roller(BlindPlace::inside, 0, 1), roller(BlindPlace::outside, 0.9, 0.1), unlike,
-                               slatted(BlindPlace::between, 0, 0)})
+    for (const Blind& blind :
+         {roller(BlindPlace::inside, 0, 1), roller(BlindPlace::outside, 0.9, 0.1), unlike,
+          slatted(BlindPlace::between, 0, 0)})
         for (const double incidence : {0.0, 0.7, 1.4, 1.5707963})
             for (const double profile : {-0.8, 0.0, 0.8}) {
                 const Panes panes(unit({mirror, mirror}, air, 40), blind, 90);

@@ -1,5 +1,5 @@
-// What stands between a window and sun, sky and ground: against endless plates, whose shadows and views are known, and
-// against rays that are sent past boxes and plates in a way of their own.
+// What stands between a window and sun, sky and ground: against endless plates, whose shadows and
+// views are known, and against rays that are sent past boxes and plates in a way of their own.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -20,7 +20,8 @@ using OpennessTest = ShadingTest;
 
 constexpr double endless = 50;  // m that make a plate as good as endless
 
-Window window(double orientation, double tilt = 90, double width = 2, double height = 1.5, double sill = 1) {
+Window window(double orientation, double tilt = 90, double width = 2, double height = 1.5,
+              double sill = 1) {
     Window w{};
     w.orientation = orientation;
     w.tilt = tilt;
@@ -35,7 +36,9 @@ host::Sun sun(double altitude, double azimuth) {
     return {altitude * M_PI / 180, azimuth * M_PI / 180, 0, 0, 0};
 }
 
-double left_of(double shadow, double size) { return 1 - std::min(std::max(shadow / size, 0.0), 1.0); }
+double left_of(double shadow, double size) {
+    return 1 - std::min(std::max(shadow / size, 0.0), 1.0);
+}
 
 TEST_F(Sunlit, OfEndlessPlatesFollowsTheProfileAngles) {
     for (const double altitude : {15.0, 40.0, 65.0})
@@ -60,7 +63,8 @@ TEST_F(Sunlit, OfEndlessPlatesFollowsTheProfileAngles) {
         }
 }
 
-// The sky is even over the height of the window: the integral of the sine of what an endless edge leaves.
+// The sky is even over the height of the window: the integral of the sine of what an endless edge
+// leaves.
 TEST_F(OpennessTest, OfEndlessPlatesIsTheirViewFactor) {
     Window below = window(180);
     below.shades.overhang = Overhang{0.8, 0, endless, endless, 0};
@@ -88,7 +92,8 @@ class Rays {
     bool is_open(const Point& p, const Point& d) const {
         const Shades& s = window_.shades;
         if (s.left_fin && meets_fin(*s.left_fin, -s.left_fin->offset, p, d)) return false;
-        if (s.right_fin && meets_fin(*s.right_fin, window_.width + s.right_fin->offset, p, d)) return false;
+        if (s.right_fin && meets_fin(*s.right_fin, window_.width + s.right_fin->offset, p, d))
+            return false;
         if (s.overhang && meets_overhang(*s.overhang, p, d)) return false;
         for (const Obstruction& box : s.obstructions)
             if (meets_box(box, upright(p), upright(d))) return false;
@@ -97,14 +102,16 @@ class Rays {
 
     Point upright(const Point& p) const {
         const double slope = window_.tilt * M_PI / 180;
-        return {p[0], p[1] * std::sin(slope) + p[2] * std::cos(slope), p[2] * std::sin(slope) - p[1] * std::cos(slope)};
+        return {p[0], p[1] * std::sin(slope) + p[2] * std::cos(slope),
+                p[2] * std::sin(slope) - p[1] * std::cos(slope)};
     }
 
     // Of a direction east, north, up.
     Point in_frame(const Point& v) const {
         const double facing = window_.orientation * M_PI / 180, slope = window_.tilt * M_PI / 180;
         const double x = std::sin(facing), y = std::cos(facing);
-        return {-y * v[0] + x * v[1], -(x * v[0] + y * v[1]) * std::cos(slope) + v[2] * std::sin(slope),
+        return {-y * v[0] + x * v[1],
+                -(x * v[0] + y * v[1]) * std::cos(slope) + v[2] * std::sin(slope),
                 (x * v[0] + y * v[1]) * std::sin(slope) + v[2] * std::cos(slope)};
     }
 
@@ -117,9 +124,12 @@ class Rays {
 
     bool meets_overhang(const Overhang& o, const Point& p, const Point& d) const {
         const double a = o.slope * M_PI / 180, y = p[1] - window_.height - o.offset;
-        const double t = -(std::cos(a) * y + std::sin(a) * p[2]) / (std::cos(a) * d[1] + std::sin(a) * d[2]);
-        const double x = p[0] + t * d[0], along = -std::sin(a) * (y + t * d[1]) + std::cos(a) * (p[2] + t * d[2]);
-        return t > 0 && x >= -o.left && x <= window_.width + o.right && along >= 0 && along <= o.depth;
+        const double t =
+            -(std::cos(a) * y + std::sin(a) * p[2]) / (std::cos(a) * d[1] + std::sin(a) * d[2]);
+        const double x = p[0] + t * d[0],
+                     along = -std::sin(a) * (y + t * d[1]) + std::cos(a) * (p[2] + t * d[2]);
+        return t > 0 && x >= -o.left && x <= window_.width + o.right && along >= 0 &&
+               along <= o.depth;
     }
 
     bool meets_box(const Obstruction& box, const Point& p, const Point& d) const {
@@ -131,7 +141,8 @@ class Rays {
         const double high[] = {box.width / 2, box.depth, box.top - window_.sill};
         double first = 0, last = 1e9;
         for (int i = 0; i < 3; ++i) {
-            const double a = (low[i] - starts[i]) / speeds[i], b = (high[i] - starts[i]) / speeds[i];
+            const double a = (low[i] - starts[i]) / speeds[i],
+                         b = (high[i] - starts[i]) / speeds[i];
             first = std::max(first, std::min(a, b));
             last = std::min(last, std::max(a, b));
         }
@@ -145,14 +156,18 @@ Window random_scene(std::mt19937& source) {
     const auto between = [&](double low, double high) {
         return std::uniform_real_distribution<double>(low, high)(source);
     };
-    Window w = window(between(0, 360), between(0, 1) < 0.5 ? 90 : between(20, 120), between(0.5, 3), between(0.5, 3),
-                      between(0, 6));
-    if (between(0, 1) < 0.6) w.shades.overhang = Overhang{between(0.1, 1.5), between(0, 0.4), between(0, 1), between(0, 1), between(-30, 40)};
-    if (between(0, 1) < 0.5) w.shades.left_fin = Fin{between(0.1, 1), between(0, 0.4), between(0, 1), between(0, 1)};
-    if (between(0, 1) < 0.5) w.shades.right_fin = Fin{between(0.1, 1), between(0, 0.4), between(0, 1), between(0, 1)};
+    Window w = window(between(0, 360), between(0, 1) < 0.5 ? 90 : between(20, 120), between(0.5, 3),
+                      between(0.5, 3), between(0, 6));
+    if (between(0, 1) < 0.6)
+        w.shades.overhang = Overhang{between(0.1, 1.5), between(0, 0.4), between(0, 1),
+                                     between(0, 1), between(-30, 40)};
+    if (between(0, 1) < 0.5)
+        w.shades.left_fin = Fin{between(0.1, 1), between(0, 0.4), between(0, 1), between(0, 1)};
+    if (between(0, 1) < 0.5)
+        w.shades.right_fin = Fin{between(0.1, 1), between(0, 0.4), between(0, 1), between(0, 1)};
     for (int i = 0; i < 3; ++i)
-        w.shades.obstructions.push_back({"", between(3, 20), between(-12, 12), between(1, 15), between(0.1, 8), 0,
-                                         between(2, 14), between(-60, 60)});
+        w.shades.obstructions.push_back({"", between(3, 20), between(-12, 12), between(1, 15),
+                                         between(0.1, 8), 0, between(2, 14), between(-60, 60)});
     return w;
 }
 
@@ -163,11 +178,14 @@ TEST_F(Sunlit, AndOpenAreAsRaysSay) {
         const Window w = random_scene(source);
         const Shading shading(w);
         const Rays rays(w);
-        const auto anywhere = [&] { return Point{chance(source) * w.width, chance(source) * w.height, 0}; };
+        const auto anywhere = [&] {
+            return Point{chance(source) * w.width, chance(source) * w.height, 0};
+        };
 
         const host::Sun above = sun(10 + 60 * chance(source), 360 * chance(source));
         const Point towards = rays.in_frame({std::sin(above.azimuth) * std::cos(above.altitude),
-                                             std::cos(above.azimuth) * std::cos(above.altitude), std::sin(above.altitude)});
+                                             std::cos(above.azimuth) * std::cos(above.altitude),
+                                             std::sin(above.altitude)});
         EXPECT_EQ(shading.bearing(above).before, towards[2] > 0.002);
         if (towards[2] > 0.01) {
             int open = 0;

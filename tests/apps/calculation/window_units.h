@@ -6,10 +6,16 @@
 
 namespace quorvel::window {
 
-inline const Gas air{"air", {0.02336, 0.02416, 0.02496, 0.02576}, {1.326, 1.277, 1.232, 1.189},
-                     {1.661e-5, 1.711e-5, 1.761e-5, 1.811e-5}, 1008};
-inline const Gas argon{"argon", {0.01584, 0.01634, 0.01684, 0.01734}, {1.829, 1.762, 1.699, 1.640},
-                       {2.038e-5, 2.101e-5, 2.164e-5, 2.228e-5}, 519};
+inline const Gas air{"air",
+                     {0.02336, 0.02416, 0.02496, 0.02576},
+                     {1.326, 1.277, 1.232, 1.189},
+                     {1.661e-5, 1.711e-5, 1.761e-5, 1.811e-5},
+                     1008};
+inline const Gas argon{"argon",
+                       {0.01584, 0.01634, 0.01684, 0.01734},
+                       {1.829, 1.762, 1.699, 1.640},
+                       {2.038e-5, 2.101e-5, 2.164e-5, 2.228e-5},
+                       519};
 
 inline Pane clear(double thickness, double transmittance) {
     return {"clear", thickness, transmittance, {0, 0}, {plain_emissivity, plain_emissivity}};

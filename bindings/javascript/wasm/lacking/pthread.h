@@ -1,4 +1,5 @@
-// WebAssembly as it is built here has one thread for each instance: what src/base/lock.h asks of threads is nothing.
+// WebAssembly as it is built here has one thread for each instance: what src/base/lock.h asks of
+// threads is nothing.
 #pragma once
 
 typedef int pthread_t, pthread_mutex_t;
