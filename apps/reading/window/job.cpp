@@ -207,8 +207,19 @@ std::vector<Window> read_windows(const InputTable& root, const host::Library& li
     return windows;
 }
 
-Weather read_weather(const std::string& path) {
+// What was replaced in the weather, so far as it matters to a window.
+void note_what_was_replaced(const climatefile::WeatherYear& year, std::vector<std::string>& notes) {
+    for (const auto& [quantity, remedy, hours, first] : year.replaced) {
+        const bool matters = quantity.find("irradi") != quantity.npos || quantity.find("dry-bulb") != quantity.npos;
+        if (matters)
+            notes.push_back(year.place + ": " + quantity + ": " + remedy + ", " + std::to_string(hours) +
+                            " hours, the first " + first);
+    }
+}
+
+Weather read_weather(const std::string& path, std::vector<std::string>& notes) {
     const climatefile::WeatherYear year = climatefile::read_epw(path);
+    note_what_was_replaced(year, notes);
     Weather weather{year.place, year.latitude, year.longitude, year.height, year.zone, none, {}};
     for (const climatefile::WeatherDay& day : year.days)
         for (std::size_t h = 0; h < day.hours.size(); ++h) {
@@ -257,11 +268,13 @@ std::vector<Job> read_jobs(const std::string& path, const Request& request) {
     for (const std::string& file : request.libraries) library.add(file);
     std::vector<host::Variant> variants = host::read_variants(path, alternatives);
     std::optional<Weather> weather;
-    if (request.span == Span::year) weather = read_weather(request.weather);
+    std::vector<std::string> notes;
+    if (request.span == Span::year) weather = read_weather(request.weather, notes);
     std::vector<Job> jobs;
     for (const host::Variant& variant : variants) {
         jobs.push_back(read_job(variant.input->root(), path, request, library, weather));
         jobs.back().variant = variant.name;
+        jobs.back().notes.insert(jobs.back().notes.end(), notes.begin(), notes.end());
     }
     return jobs;
 }

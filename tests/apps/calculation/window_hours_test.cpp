@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 
 #include "calculation/window/hours.h"
 #include "quorvel/climate.h"
@@ -34,20 +35,20 @@ Window window(double orientation, double tilt = 90,
     return w;
 }
 
-double degrees(double radians) { return radians * 180 / M_PI; }
+double degrees(double radians) { return radians * 180 / std::numbers::pi; }
 
 // The published formula with its coefficients for the clearest skies.
 TEST_F(SkyOnPlane, OfPerezIsItsFormulaPartByPart) {
     constexpr double direct = 900, diffuse = 70;
     for (const double altitude : {0.6, 0.9, 1.1}) {
-        const Sky sky{{altitude, M_PI, 0, 0, 0}, 172, direct, diffuse};
-        const double zenith = M_PI / 2 - altitude, kappa = 1.041 * std::pow(zenith, 3);
+        const Sky sky{{altitude, std::numbers::pi, 0, 0, 0}, 172, direct, diffuse};
+        const double zenith = std::numbers::pi / 2 - altitude, kappa = 1.041 * std::pow(zenith, 3);
         ASSERT_GT(((diffuse + direct) / diffuse + kappa) / (1 + kappa), 6.2);
         const double brightness = diffuse / std::sin(altitude) / 1325;
         const double f1 = 0.678 - 0.327 * brightness - 0.250 * zenith,
                      f2 = 0.156 - 1.377 * brightness + 0.251 * zenith;
         for (const double tilt : {0.0, 40.0, 90.0, 130.0}) {
-            const double slope = tilt * M_PI / 180;
+            const double slope = tilt * std::numbers::pi / 180;
             const double towards =
                 std::cos(altitude) * std::sin(slope) + std::sin(altitude) * std::cos(slope);
             const OnPlane plane = on_plane(london, 0.2, sky, 180, tilt, std::acos(towards));
@@ -70,8 +71,8 @@ TEST_F(SkyOnPlane, OfEveryModelIsWholeOnLevelPlanes) {
         site.sky_model = model;
         const Sky sky = design_sky(site, site_constants(site, 6), 172, 10);
         const auto diffuse = [&](double tilt) {
-            const OnPlane plane =
-                on_plane(site, 0.2, sky, 180, tilt, tilt == 0 ? M_PI / 2 - sky.sun.altitude : 3);
+            const OnPlane plane = on_plane(site, 0.2, sky, 180, tilt,
+                                           tilt == 0 ? std::numbers::pi / 2 - sky.sun.altitude : 3);
             return plane.sky + plane.circumsolar + plane.horizon;
         };
         EXPECT_NEAR(diffuse(0), sky.diffuse_horizontal, 0.3);

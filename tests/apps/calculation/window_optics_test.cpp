@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <random>
 
 #include "quorvel/glazing.h"
@@ -123,7 +124,7 @@ TEST_F(Optics, OfBlackSlatsIsGeometry) {
     for (const double angle : {0.0, 40.0, -35.0})
         for (const double profile : {0.1, 0.5, 0.9}) {
             const Screen screen = in_direct_sun(slatted(BlindPlace::outside, angle, 1), profile);
-            const double turned = profile + angle * M_PI / 180;
+            const double turned = profile + angle * std::numbers::pi / 180;
             const double gap =
                 std::max(0.0, 1 - 25 * std::fabs(std::sin(turned)) / (20 * std::cos(profile)));
             EXPECT_NEAR(screen.straight, gap, 1e-3);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <random>
 
 #include "calculation/window/shading.h"
@@ -33,7 +34,7 @@ Window window(double orientation, double tilt = 90, double width = 2, double hei
 }
 
 host::Sun sun(double altitude, double azimuth) {
-    return {altitude * M_PI / 180, azimuth * M_PI / 180, 0, 0, 0};
+    return {altitude * std::numbers::pi / 180, azimuth * std::numbers::pi / 180, 0, 0, 0};
 }
 
 double left_of(double shadow, double size) {
@@ -43,15 +44,16 @@ double left_of(double shadow, double size) {
 TEST_F(Sunlit, OfEndlessPlatesFollowsTheProfileAngles) {
     for (const double altitude : {15.0, 40.0, 65.0})
         for (const double aside : {-50.0, 0.0, 30.0}) {
-            const double up = std::tan(altitude * M_PI / 180) / std::cos(aside * M_PI / 180);
-            const double left = std::tan(aside * M_PI / 180);
+            const double up = std::tan(altitude * std::numbers::pi / 180) /
+                              std::cos(aside * std::numbers::pi / 180);
+            const double left = std::tan(aside * std::numbers::pi / 180);
             const auto fraction = [&](const Shades& shades) {
                 Window w = window(200);
                 w.shades = shades;
                 return Shading(w).sunlit_fraction(sun(altitude, 200 + aside));
             };
             for (const double slope : {0.0, 25.0, -30.0}) {
-                const double a = slope * M_PI / 180;
+                const double a = slope * std::numbers::pi / 180;
                 EXPECT_NEAR(fraction({0, {}, {}, Overhang{0.6, 0.1, endless, endless, slope}, {}}),
                             left_of(0.6 * (std::cos(a) * up + std::sin(a)) - 0.1, 1.5), 2e-3);
             }
@@ -101,14 +103,15 @@ class Rays {
     }
 
     Point upright(const Point& p) const {
-        const double slope = window_.tilt * M_PI / 180;
+        const double slope = window_.tilt * std::numbers::pi / 180;
         return {p[0], p[1] * std::sin(slope) + p[2] * std::cos(slope),
                 p[2] * std::sin(slope) - p[1] * std::cos(slope)};
     }
 
     // Of a direction east, north, up.
     Point in_frame(const Point& v) const {
-        const double facing = window_.orientation * M_PI / 180, slope = window_.tilt * M_PI / 180;
+        const double facing = window_.orientation * std::numbers::pi / 180,
+                     slope = window_.tilt * std::numbers::pi / 180;
         const double x = std::sin(facing), y = std::cos(facing);
         return {-y * v[0] + x * v[1],
                 -(x * v[0] + y * v[1]) * std::cos(slope) + v[2] * std::sin(slope),
@@ -123,7 +126,7 @@ class Rays {
     }
 
     bool meets_overhang(const Overhang& o, const Point& p, const Point& d) const {
-        const double a = o.slope * M_PI / 180, y = p[1] - window_.height - o.offset;
+        const double a = o.slope * std::numbers::pi / 180, y = p[1] - window_.height - o.offset;
         const double t =
             -(std::cos(a) * y + std::sin(a) * p[2]) / (std::cos(a) * d[1] + std::sin(a) * d[2]);
         const double x = p[0] + t * d[0],
@@ -133,7 +136,8 @@ class Rays {
     }
 
     bool meets_box(const Obstruction& box, const Point& p, const Point& d) const {
-        const double turn = box.rotation * M_PI / 180, c = std::cos(turn), s = std::sin(turn);
+        const double turn = box.rotation * std::numbers::pi / 180, c = std::cos(turn),
+                     s = std::sin(turn);
         const double right = p[0] - window_.width / 2 - box.offset, out = p[2] - box.distance;
         const double starts[] = {right * c + out * s, out * c - right * s, p[1]};
         const double speeds[] = {d[0] * c + d[2] * s, d[2] * c - d[0] * s, d[1]};
@@ -195,7 +199,8 @@ TEST_F(Sunlit, AndOpenAreAsRaysSay) {
 
         int open[2] = {}, all[2] = {};
         for (int i = 0; i < 10000; ++i) {
-            const double r = std::sqrt(chance(source)), turn = 2 * M_PI * chance(source);
+            const double r = std::sqrt(chance(source)),
+                         turn = 2 * std::numbers::pi * chance(source);
             const Point d{r * std::cos(turn), r * std::sin(turn), std::sqrt(1 - r * r)};
             const bool sky = rays.upright(d)[1] > 0;
             ++all[sky];
