@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "telling/gnuplot.h"
-#include "telling/output_file.h"
 #include "telling/svg.h"
 #include "telling/text.h"
 
@@ -166,8 +165,6 @@ std::string Chart::draw(Format format) const {
         draw_with_gnuplot(terminal(format, width_, height_), setup + data_ + commands_, format);
     return format == Format::svg ? svg_without_names(std::move(picture)) : picture;
 }
-
-void Chart::write(const std::string& path) const { write_file(path, draw(Format::svg)); }
 
 std::string Chart::across(double x) const { return shortest(x / width_); }
 

@@ -101,9 +101,6 @@ class Chart {
     int width() const { return width_; }
     int height() const { return height_; }
 
-    // Draws into an SVG file.
-    void write(const std::string& path) const;
-
   private:
     std::string across(double x) const;
     std::string up(double y) const;
