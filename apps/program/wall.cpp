@@ -5,7 +5,6 @@
 
 #include "program/commands.h"
 #include "quorvel/library.h"
-#include "reading/variants.h"
 #include "reading/wall/question.h"
 #include "telling/climate/station_answer.h"
 #include "telling/wall/answer.h"
@@ -23,16 +22,6 @@ constexpr const char* description =
     "U-value, temperature factor and mould, condensation and drying through the months, and the "
     "answer to a daily\n"
     "swing of temperature, of a wall, roof or floor.";
-
-// Of which a variant's own takes the place of the others.
-const host::Alternatives alternatives = {{"vapour_resistivity", "mu", "s_d", "vapour_resistance"},
-                                         {"resistance", "emissivities", "ventilated"},
-                                         {"inside_humidity", "humidity_class"},
-                                         {"weather", "file", "outside_temperature"},
-                                         {"weather", "station", "outside_humidity"},
-                                         {"material", "conductivity"},
-                                         {"material", "density"},
-                                         {"material", "specific_heat"}};
 
 void add_options(CLI::App& app, Given& given) {
     app.add_option("--month", given.month,
@@ -56,24 +45,21 @@ std::vector<std::string> warnings(const wall::ReadClimate& climate) {
     return warnings;
 }
 
-std::vector<wall::Variation> read(const std::string& input, const Given& given) {
-    host::Library library;
-    for (const std::string& file : given.libraries) library.add(file);
+std::vector<wall::Variation> worked_out(const wall::Request& request) {
     host::load_library();
     std::vector<wall::Variation> variations;
-    for (const host::Variant& variant : host::read_variants(input, alternatives)) {
-        auto read = wall::read_question(variant.input->root(), {input, given.weather}, library);
-        variations.push_back(
-            {{read.name, read.climate.source, read.left_out, warnings(read.climate), variant.name},
-             std::move(read.question)});
+    for (wall::ReadQuestion& read : wall::read_questions(request)) {
+        const wall::Subject subject{read.name, read.climate.source, read.left_out,
+                                    warnings(read.climate), read.variant};
+        variations.push_back({subject, std::move(read.question)});
     }
+    for (wall::Variation& variation : variations)  // which from now on stays where it is
+        variation.assessment = wall::assess(variation.question);
     return variations;
 }
 
 host::Answer answer_wall(const std::string& input, const Given& given) {
-    std::vector<wall::Variation> variations = read(input, given);
-    for (wall::Variation& variation : variations)
-        variation.assessment = wall::assess(variation.question);
+    const auto variations = worked_out({input, given.weather, given.libraries});
     if (variations.size() > 1) return wall::comparison(variations);
     const auto& [subject, question, assessment] = variations.front();
     std::optional<std::size_t> month;

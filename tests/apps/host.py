@@ -4,12 +4,10 @@ import collections
 import csv
 import io
 import os
-import re
 import shutil
 import subprocess
 import tempfile
 import unittest
-import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 EMULATOR = os.environ.get("QUORVEL_EMULATOR")  # unset or empty where the program runs by itself
@@ -44,6 +42,8 @@ def toml(value):
         return "{ " + ", ".join(f"{key} = {toml(part)}" for key, part in value.items()) + " }"
     if isinstance(value, list):
         return "[" + ", ".join(map(toml, value)) + "]"
+    if isinstance(value, bool):
+        return str(value).lower()
     return f'"{value}"' if isinstance(value, str) else str(value)
 
 
@@ -61,11 +61,6 @@ def rows(text):
     return [{key: value(field) for key, field in row.items()} for row in csv.DictReader(io.StringIO(text))]
 
 
-def examples(program):
-    """The folder of the shipped ones."""
-    return Path(__file__).parents[2] / "apps" / program / "examples"
-
-
 def assert_refused(case, arguments, files, line, status=2):
     """One line, nothing said to be done, and every file as it was."""
     process = run(*arguments, files=files)
@@ -74,68 +69,3 @@ def assert_refused(case, arguments, files, line, status=2):
 
 
 needs_gnuplot = unittest.skipIf(EMULATOR or not shutil.which("gnuplot"), "no gnuplot for this program")
-
-
-class InputCase:
-    """What every host's bad input is held to; a test case adds it, with a `good` text, as `bad` texts with what the
-    one line must name after "job.toml:LINE: ", and as `at_line` one of them with the line that is at fault."""
-
-    def expect_refusal(self, arguments, line, text=None, status=2):
-        assert_refused(self, arguments, {"job.toml": self.good if text is None else text}, line, status)
-
-    def test_each_fault_gets_one_line_and_status_2(self):
-        for text, message in self.bad:
-            with self.subTest(message):
-                line = r"(:\d+)?" if message.startswith("missing") else r":\d+"  # of a table that is not there
-                self.expect_refusal(["job.toml"], rf"job\.toml{line}: {re.escape(message)}", text)
-
-    def test_the_line_is_that_of_the_value(self):
-        text, line, message = self.at_line
-        number = text.splitlines().index(line) + 1
-        self.expect_refusal(["job.toml"], rf"job\.toml:{number}: {re.escape(message)}", text)
-
-    def test_arguments_and_files(self):
-        for arguments, line in [(["none.toml"], "none.toml: cannot be read"), (["."], r"\.: cannot be read"),
-                                ([], ".*FILE is required"), (["job.toml", "more"], ".*more"), (["job.toml", "--svg"], ".*--svg")]:
-            with self.subTest(arguments):
-                self.expect_refusal(arguments, line)
-
-    def test_missing_library(self):
-        process = run("job.toml", files={"job.toml": self.good}, environment={"QUORVEL_LIBRARY": "none.so"})
-        self.assertEqual((process.returncode, process.stdout), (1, b""))
-        self.assertRegex(process.stderr.decode(), r"^\w+: cannot load none.so[^\n]*\n$")
-
-
-class ReportCase:
-    """What every host's printed report and help are held to; a test case adds it and names its `examples` and the
-    `keys` of its input."""
-
-    def report(self, text):
-        process = run("job.toml", files={"job.toml": text})
-        self.assertEqual((process.returncode, process.stderr), (0, b""))
-        self.assertNotIn(b"\r", process.stdout)
-        return process.stdout.decode()
-
-    def test_examples_run_and_say_the_same_twice(self):
-        examples = sorted(self.examples.glob("*.toml"))
-        self.assertGreaterEqual(len(examples), 3)
-        for example in examples:
-            first, second = (self.report(example.read_bytes()) for _ in range(2))
-            self.assertEqual(first, second)
-            self.assertNotRegex(first, r"\b(nan|inf)\b|-0\.0\b| \n")
-
-    def test_help_names_every_key(self):
-        text = run("--help").stdout.decode()
-        self.assertEqual([key for key in self.keys if key not in text], [])
-        self.assertLessEqual(max(map(len, text.splitlines())), 100)
-
-
-@needs_gnuplot
-class ChartCase:
-    def draw(self, text, *options):
-        """The picture, which is the same twice and leaves nothing behind; and the words in it."""
-        one, other = (run("--svg", "chart.svg", *options, "job.toml", files={"job.toml": text}) for _ in range(2))
-        self.assertEqual((one.returncode, one.stderr, list(one.written)), (0, b"", ["chart.svg"]))
-        self.assertEqual(one.written, other.written)
-        picture = one.written["chart.svg"].decode()
-        return picture, " ".join(ElementTree.fromstring(picture).itertext())

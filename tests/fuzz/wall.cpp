@@ -1,4 +1,4 @@
-// The input of wall: a construction and its climate.
+// The input of wall: a construction and its climate, and variants of both.
 #include "fuzz/input_file.h"
 #include "reading/wall/question.h"
 #include "telling/as_text.h"
@@ -7,11 +7,11 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace quorvel;
     fuzz::try_file(data, size, [](const std::string& file) {
-        static const host::Library library;
-        const host::InputFile input(file);
-        const wall::ReadQuestion read = wall::read_question(input.root(), {file}, library);
-        const wall::Subject subject{.name = read.name};
-        host::as_text(wall::answer(subject, read.question, wall::assess(read.question), {}), true);
+        for (const wall::ReadQuestion& read : wall::read_questions({file})) {
+            const wall::Subject subject{.name = read.name};
+            const wall::Assessment assessment = wall::assess(read.question);
+            host::as_text(wall::answer(subject, read.question, assessment, {}), true);
+        }
     });
     return 0;
 }

@@ -8,6 +8,7 @@
 #include "calculation/wall/climates.h"
 #include "reading/climate/data_file.h"
 #include "reading/climate/epw.h"
+#include "reading/climate/station_file.h"
 
 namespace quorvel::wall {
 namespace {
@@ -30,21 +31,27 @@ Outdoors of_weather(const std::string& file) {
             "Monthly means of the weather of " + weather.place, std::move(weather.replaced)};
 }
 
+bool is_station_file(const std::string& name) { return name.ends_with(".toml"); }
+
+climatefile::Station read_station(const InputTable& table, const std::string& file) {
+    if (!is_station_file(file))
+        return climatefile::DataFile(file).station(table.integer("station", 1, 9999));
+    if (table.has("station")) throw table.error("station", "a station file has one station only");
+    return climatefile::read_station(file);
+}
+
 Outdoors of_station(const InputTable& table, const std::string& input) {
     const std::string name = table.text("file", longest_file_name);
-    const int number = table.integer("station", 1, 9999);
     const int set = table.has("set") ? table.integer("set", 1, 2) : 1;
-    const auto station = climatefile::DataFile(host::beside(input, name)).station(number);
+    const auto station = read_station(table, host::beside(input, name));
     const double height = std::isnan(station.place.height) ? 0 : station.place.height;
     const auto means = climatefile::monthly_means(station, static_cast<std::size_t>(set - 1),
                                                   climatefile::standard_pressure(height));
     for (std::size_t month = 0; month < months; ++month)
         if (!(std::fabs(means.temperature[month]) <= 90) || !(means.vapour_pressure[month] > 0))
-            throw table.error("station", name + ", station " + std::to_string(number) +
-                                             ": no temperature or humidity in " +
-                                             std::string(host::month_names[month]));
-    return {outside_air(means), "Monthly means of " + station.place.name + ", station " +
-                                    std::to_string(number) + " of " + name};
+            throw table.error("file", name + ": no temperature or humidity in " +
+                                          std::string(host::month_names[month]));
+    return {outside_air(means), "Monthly means of " + station.place.name + ", of " + name};
 }
 
 // Every quantity is a number or a list of twelve; one list is enough to make it twelve cases.
@@ -74,8 +81,10 @@ Outdoors read_outdoors(const InputTable& table, const std::string& input,
         return of_weather(host::beside(input, table.text("weather", longest_file_name)));
     }
     if (table.has("file")) {
-        table.expect({"file", "station", "inside_temperature"},
-                     {"set", "inside_humidity", "humidity_class"});
+        table.expect({"file", "inside_temperature"},
+                     {"station", "set", "inside_humidity", "humidity_class"});
+        if (!table.has("station") && !is_station_file(table.text("file", longest_file_name)))
+            throw table.error("", "missing station");
         return of_station(table, input);
     }
     table.expect({"inside_temperature", "outside_temperature", "outside_humidity"},

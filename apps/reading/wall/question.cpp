@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "reading/variants.h"
 #include "reading/wall/layers.h"
 
 namespace quorvel::wall {
@@ -12,6 +13,16 @@ using host::InputTable;
 constexpr std::string_view heat_flows[] = {"up", "horizontal", "down"};
 constexpr std::string_view exposures[] = {"sheltered", "normal", "severe"};
 constexpr host::Range surface_resistance{0.01, 1, "m²K/W"};
+
+// Of which a variant's own takes the place of the others.
+const host::Alternatives alternatives = {{"vapour_resistivity", "mu", "s_d", "vapour_resistance"},
+                                         {"resistance", "emissivities", "ventilated"},
+                                         {"inside_humidity", "humidity_class"},
+                                         {"weather", "file", "outside_temperature"},
+                                         {"weather", "station", "outside_humidity"},
+                                         {"material", "conductivity"},
+                                         {"material", "density"},
+                                         {"material", "specific_heat"}};
 
 std::optional<double> surface(const InputTable& table, std::string_view key) {
     if (!table.has(key)) return std::nullopt;
@@ -61,15 +72,13 @@ std::size_t chosen_section(const InputTable& wall, const Element& element) {
     return static_cast<std::size_t>(found - all.begin());
 }
 
-}  // namespace
-
 ReadQuestion read_question(const InputTable& root, const Request& request,
                            const host::Library& materials) {
     root.expect({"wall", "layer", "climate"}, {"mould"});
     const InputTable wall = root.table("wall");
     wall.expect({"name"},
                 {"heat_flow", "exposure", "inside_resistance", "outside_resistance", "section"});
-    ReadQuestion read{wall.text("name"), {}, {}};
+    ReadQuestion read{.name = wall.text("name")};
     ReadLayers layers = read_layers(root, materials);
     read.left_out = layers.beyond.value_or(0);
     read.question.element = read_element(wall, std::move(layers));
@@ -78,6 +87,19 @@ ReadQuestion read_question(const InputTable& root, const Request& request,
     read.climate = read_climate(root.table("climate"), request.input, request.weather);
     read.question.climates = read.climate.climates;
     return read;
+}
+
+}  // namespace
+
+std::vector<ReadQuestion> read_questions(const Request& request) {
+    host::Library materials;
+    for (const std::string& file : request.libraries) materials.add(file);
+    std::vector<ReadQuestion> questions;
+    for (const host::Variant& variant : host::read_variants(request.input, alternatives)) {
+        questions.push_back(read_question(variant.input->root(), request, materials));
+        questions.back().variant = variant.name;
+    }
+    return questions;
 }
 
 }  // namespace quorvel::wall

@@ -2,29 +2,29 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "calculation/wall/assessment.h"
-#include "reading/library.h"
 #include "reading/wall/climate.h"
 
 namespace quorvel::wall {
+
+struct Request {
+    std::string input;                        // a file, beside which those are that it names
+    std::string weather = {};                 // a file, in place of the input's climate outside
+    std::vector<std::string> libraries = {};  // own tables of materials
+};
 
 struct ReadQuestion {
     std::string name;
     Question question;
     ReadClimate climate;
     std::size_t left_out = 0;  // layers in and beyond a well-ventilated gap
+    std::string variant = {};  // empty: the input as it is
 };
 
-// What the input is read with.
-struct Request {
-    std::string input;         // beside which the files are that it names
-    std::string weather = {};  // in place of its climate outside
-};
-
-// The library of materials is one of tables, that of calculations must have been loaded. Throws
+// The input as it is, and its variants. The library of calculations must have been loaded. Throws
 // host::InputError at the first fault.
-ReadQuestion read_question(const host::InputTable& root, const Request& request,
-                           const host::Library& materials);
+std::vector<ReadQuestion> read_questions(const Request& request);
 
 }  // namespace quorvel::wall

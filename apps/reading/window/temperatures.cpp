@@ -20,12 +20,6 @@ constexpr std::size_t set = 9, percentage = 10;  // given
 
 constexpr float unread = -1e30f;  // the library leaves what it cannot read as it was
 
-std::string beside(const std::string& input, const std::string& file) {
-    const bool rooted = file[0] == '/' || file[0] == '\\' || file.find(':') != std::string::npos;
-    const std::size_t folder = input.find_last_of("/\\");
-    return rooted || folder == std::string::npos ? file : input.substr(0, folder + 1) + file;
-}
-
 bool readable(const std::string& file) {
     std::ifstream stream(file, std::ios::binary);
     return stream && stream.peek() != std::ifstream::traits_type::eof();
@@ -49,7 +43,7 @@ void read_climate(const host::InputTable& table, const std::string& input, Desig
     const double share = table.number("percentage", {0, 100, "% of days"});
     const int which = table.has("set") ? table.integer("set", 1, 2) : 1;
 
-    const std::string file = beside(input, name);
+    const std::string file = host::beside(input, name);
     if (!readable(file)) throw table.error("file", file + " cannot be read");
     std::array<Record, 12> records;
     Record& record = records[static_cast<std::size_t>(day.month - 1)];

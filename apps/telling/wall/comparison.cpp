@@ -21,8 +21,7 @@ std::vector<host::Value> row(const Variation& v) {
             a.year ? a.year->peak() : host::none,
             wet ? month_name(a.year->months[a.year->wettest].month) : "",
             a.year ? a.year->left() : host::none,
-            a.periodic.decrement_factor,
-            a.periodic.inside_capacity / 1000};
+            a.periodic.decrement_factor};
 }
 
 }  // namespace
@@ -40,8 +39,7 @@ host::Answer comparison(const std::vector<Variation>& variations) {
                                       {"peak_content", "at most", "g/m²", 1, "Water", true},
                                       {"peak_month", "end of", "", 0, "Water"},
                                       {"left_content", "left", "g/m²", 1, "Water", true},
-                                      {"decrement_factor", "decrement factor", "", 3},
-                                      {"inside_capacity", "heat capacity", "kJ/m²K", 1}},
+                                      {"decrement_factor", "decrement", "", 3}},
                           .rows = {},
                           .main = true};
     for (const Variation& v : variations) {

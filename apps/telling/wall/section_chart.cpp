@@ -27,7 +27,7 @@ constexpr double numbers_row = 190, section_top = 216;
 constexpr double temperature_height = 240, pressure_top = 556, pressure_height = 270;
 constexpr double width = legend_left + legend_width;
 constexpr double height = pressure_top + pressure_height + 64;
-constexpr double number_spacing = 17, rate_spacing = 160;  // between neighbouring texts, at least
+constexpr double number_spacing = 17, rate_spacing = 52;  // between neighbouring texts, at least
 
 constexpr double air = 0.16;           // of the thickness, shown on either side
 constexpr int steps_per_segment = 12;  // smooth curves of saturation
@@ -177,11 +177,12 @@ void Picture::numbers() {
                  (monthly ? month_name(month_) + ": " : "") + wall::told(climate_));
     chart_.title(heading_margin, numbers_row - 30, "Temperature, °C", {});
     chart_.text(left + pixel(0) - 14, numbers_row + 4, "inside", {grey, 12, false, "right"});
-    chart_.text(left + pixel(thickness_) + 14, numbers_row + 4, "outside", {grey, 12});
 
     std::vector<double> middles;
     for (const Band& band : bands_) middles.push_back((band.left + band.right) / 2);
     const auto places = moved_apart(middles, number_spacing);
+    const double beyond = std::max(pixel(thickness_), places.back()) + 14;
+    chart_.text(left + beyond, numbers_row + 4, "outside", {grey, 12});
     std::vector<std::string> leaders;
     for (std::size_t i = 0; i < places.size(); ++i) {
         chart_.text(left + places[i], numbers_row, std::to_string(i + 1),
@@ -253,8 +254,7 @@ void Picture::rates() {
     for (const Rate& rate : rates) middles.push_back((rate.first + rate.last) / 2);
     const auto places = moved_apart(middles, rate_spacing);
     for (std::size_t i = 0; i < rates.size(); ++i)
-        chart_.text(left + places[i], pressure_top - 16,
-                    "condenses " + told_with_unit(water_gain, rates[i].gain),
+        chart_.text(left + places[i], pressure_top - 16, host::told(water_gain, rates[i].gain),
                     {vapour_colour, 12, true, "center"});
 }
 
@@ -262,8 +262,11 @@ void Picture::pressures() {
     double most = 0;
     for (const auto& row : rows_) most = std::max({most, row[2], row[3]});
     auto parts = begin_panel(pressure_top, pressure_height, host::round_scale(0, most));
-    chart_.title(heading_margin, pressure_top - 46, "Pressure of vapour, Pa",
-                 {{"━", saturation_colour, "at saturation"}, {"━", vapour_colour, "in the wall"}});
+    std::vector<host::Key> keys{{"━", saturation_colour, "at saturation"},
+                                {"━", vapour_colour, "in the wall"}};
+    if (std::ranges::any_of(profile_.gain, [](double gain) { return gain >= least_water; }))
+        keys.push_back({"╎", vapour_colour, "condenses, " + water_gain.unit});
+    chart_.title(heading_margin, pressure_top - 46, "Pressure of vapour, Pa", keys);
     chart_.text(right, pressure_top + pressure_height + 42, "mm from the inside surface",
                 {grey, 12, false, "right"});
     rates();

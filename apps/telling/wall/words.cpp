@@ -100,7 +100,9 @@ std::string section_name(const Element& element, const Section& section) {
     std::vector<std::string> names;
     for (std::size_t i = 0; i < element.layers.size(); ++i)
         if (!element.layers[i].homogeneous()) names.push_back(section.slabs[i].part->name);
-    return joined(names);
+    std::string told;
+    for (const std::string& name : names) told += (told.empty() ? "" : " + ") + name;
+    return told;
 }
 
 std::string told(const Climate& climate) {

@@ -33,8 +33,9 @@ std::string told_with_unit(const host::Quantity& quantity, double value);  // 0.
 std::string interface_name(std::size_t i, std::size_t layers);         // inside, 1|2, 2|3, outside
 std::string place_name(const Place& place, std::size_t layers);        // 2|3, or in 2 at 83 mm
 std::string deposit_name(const Deposit& deposit, std::size_t layers);  // 2|3, or in 2
-std::string section_name(const Element& element,
-                         const Section& section);  // stud; empty where all layers are homogeneous
+std::string section_name(
+    const Element& element,
+    const Section& section);  // batten + stud; empty where all layers are homogeneous
 
 std::string told(const Climate& climate);  // inside 20 °C 50 %, outside 4.4 °C 86 %
 

@@ -15,8 +15,9 @@ using host::colour::ink;
 using Rows = std::vector<std::vector<double>>;
 
 constexpr double left = 74, plot_width = 900, width = left + plot_width + 40;
-constexpr double water_top = 190, water_height = 270, surface_top = 540, surface_height = 180;
-constexpr double height = surface_top + surface_height + 50;
+constexpr double top = 190,
+                 below = 80;  // of the first panel; under each panel, for names and the next title
+constexpr double water_height = 270, surface_height = 180;
 
 // From the inside outwards; further places take the last.
 constexpr const char* water_colours[] = {"#2b6cb8", "#7fb2e5", "#1f9e89",
@@ -57,7 +58,7 @@ Rows stacked(const Year& year) {
 }
 
 void draw_water(host::Chart& chart, const Question& question, const Year& year) {
-    chart.panel({left, water_top, plot_width, water_height});
+    chart.panel({left, top, plot_width, water_height});
     chart.horizontal_names(names_of_months(year.months.front().month));
     chart.vertical_scale(host::round_scale(0, year.peak()));
     std::vector<host::Key> keys;
@@ -68,11 +69,7 @@ void draw_water(host::Chart& chart, const Question& question, const Year& year) 
         keys.push_back({"■", water_colour(i), name});
         parts.insert(parts.begin(), host::area(rows, i + 2, water_colour(i)));
     }
-    if (year.dry())
-        parts.push_back(host::curve(chart.data({{beginning(0), 0}, {beginning(months_of_year), 0}}),
-                                    2, ink, 2.5));
-    chart.title(heading_margin, water_top - 30,
-                year.dry() ? "Water: none" : "Water, g/m², stacked by interface", keys);
+    chart.title(heading_margin, top - 30, "Water, g/m², stacked by interface", keys);
     chart.mark(beginning(year.wettest + 1), year.peak(), "");
     chart.plot(parts);
 }
@@ -87,11 +84,11 @@ Rows demands(const SurfaceYear& surface, std::size_t first) {
     return rows;
 }
 
-void draw_surface(host::Chart& chart, const SurfaceYear& surface, std::size_t first) {
-    chart.panel({left, surface_top, plot_width, surface_height});
+void draw_surface(host::Chart& chart, double top, const SurfaceYear& surface, std::size_t first) {
+    chart.panel({left, top, plot_width, surface_height});
     chart.horizontal_names(names_of_months(first));
     chart.vertical_scale({0, 1, 0.2});
-    chart.title(heading_margin, surface_top - 30, "Temperature factor of the inside surface",
+    chart.title(heading_margin, top - 30, "Temperature factor of the inside surface",
                 {{"━", ink, "f_Rsi " + host::told(temperature_factor, surface.factor)},
                  {"■", demand_colour, "needed against mould"}});
     const Rows required = demands(surface, first);
@@ -123,20 +120,22 @@ Rows water_of(const Year& year, std::size_t first) {
 
 host::Chart year_chart(const Subject& subject, const Question& question,
                        const Assessment& assessment) {
-    host::Chart chart(static_cast<int>(width), static_cast<int>(height));
     const Year& year = *assessment.year;
+    const double surface_top = year.dry() ? top : top + water_height + below;
+    host::Chart chart(static_cast<int>(width),
+                      static_cast<int>(surface_top + surface_height + below));
     const std::size_t first = year.months.front().month;
-    chart.canvas({left, 0, plot_width, water_top});
+    chart.canvas({left, 0, plot_width, top});
     draw_heading(chart, subject, question, assessment, "twelve months from " + month_name(first));
     chart.plot({host::curve(chart.data({{0, 0}}), 2, ink, 1)});
-    draw_water(chart, question, year);
-    draw_surface(chart, assessment.surface, first);
+    if (!year.dry()) draw_water(chart, question, year);
+    draw_surface(chart, surface_top, assessment.surface, first);
     return chart;
 }
 
 host::Chart comparison_chart(const std::vector<Variation>& variations) {
     constexpr double top = 120;
-    host::Chart chart(static_cast<int>(width), static_cast<int>(top + water_height + 50));
+    host::Chart chart(static_cast<int>(width), static_cast<int>(top + water_height + below));
     double most = 0;
     const Variation* wettest = &variations.front();
     for (const Variation& v : variations) {

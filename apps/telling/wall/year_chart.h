@@ -5,8 +5,8 @@
 
 namespace quorvel::wall {
 
-// Water by interface through the months from that in which it begins to gather, and below what each
-// month asks of the inside surface.
+// Water by interface through the months from that in which it begins to gather, if any, and below
+// what each month asks of the inside surface.
 host::Chart year_chart(const Subject& subject, const Question& question,
                        const Assessment& assessment);
 
