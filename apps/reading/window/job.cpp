@@ -210,10 +210,11 @@ std::vector<Window> read_windows(const InputTable& root, const host::Library& li
 // What was replaced in the weather, so far as it matters to a window.
 void note_what_was_replaced(const climatefile::WeatherYear& year, std::vector<std::string>& notes) {
     for (const auto& [quantity, remedy, hours, first] : year.replaced) {
-        const bool matters = quantity.find("irradi") != quantity.npos || quantity.find("dry-bulb") != quantity.npos;
+        const bool matters =
+            quantity.find("irradi") != quantity.npos || quantity.find("dry-bulb") != quantity.npos;
         if (matters)
-            notes.push_back(year.place + ": " + quantity + ": " + remedy + ", " + std::to_string(hours) +
-                            " hours, the first " + first);
+            notes.push_back(year.place + ": " + quantity + ": " + remedy + ", " +
+                            std::to_string(hours) + " hours, the first " + first);
     }
 }
 
