@@ -78,7 +78,8 @@ ReadQuestion read_question(const InputTable& root, const Request& request,
     const InputTable wall = root.table("wall");
     wall.expect({"name"},
                 {"heat_flow", "exposure", "inside_resistance", "outside_resistance", "section"});
-    ReadQuestion read{.name = wall.text("name")};
+    ReadQuestion read{};
+    read.name = wall.text("name");
     ReadLayers layers = read_layers(root, materials);
     read.left_out = layers.beyond.value_or(0);
     read.question.element = read_element(wall, std::move(layers));
