@@ -293,7 +293,7 @@ class Descriptions(unittest.TestCase):
         self.assertEqual({Path(name).name for name in pages},
                          {"quorvel.1", "quorvel-help.1", "quorvel-read.1", "quorvel-group.1", "quorvel-group-read.1", "quorvel-group-write.1"})
         text = pages["share/man/man1/quorvel-read.1"]
-        for part in (".SH NAME\nquorvel\\-read \\- Answers about files\n", "\n\\&.dots begin lines\n\\&'quotes too", "\\fBtoy\\fR means, \\- and . and \\e too", ".nf\n    indented"):
+        for part in (".SH NAME\nquorvel\\-read \\- Answers about files, in", "\n\\&.dots begin lines\n\\&'quotes too", "\\fBtoy\\fR means, \\- and . and \\e too", ".nf\n    indented"):
             self.assertIn(part, text)
         if shutil.which("groff"):
             for text in pages.values():
