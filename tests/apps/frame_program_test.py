@@ -146,12 +146,12 @@ class Pictures(unittest.TestCase):
         arguments = ["read", "a.toml", "--svg", "p.svg", "--pdf", "p.pdf", "--png", "p.png", "--chart", "q.svg"]
         one, other = (host.run(*arguments, files=FILES) for _ in range(2))
         self.assertEqual(one.written, other.written)
-        self.assertEqual(set(one.written), {"p.svg", "p.pdf", "p.png", "q.svg", "p-second.svg", "p-second.pdf", "p-second.png", "q-second.svg"})
+        self.assertEqual(set(one.written), {"p.svg", "p.pdf", "p.png", "q.svg", "p-the-..-second.svg", "p-the-..-second.pdf", "p-the-..-second.png", "q-the-..-second.svg"})
         self.assertTrue(one.written["p.pdf"].startswith(b"%PDF") and one.written["p.png"].startswith(b"\x89PNG"))
         self.assertEqual(one.written["p.svg"], one.written["q.svg"])
         self.assertIn("Squares", "".join(ElementTree.fromstring(one.written["p.svg"]).itertext()))
-        several = host.run("read", "a.toml", "b.toml", "--svg", "p.svg", files=FILES)
-        self.assertEqual(set(several.written), {"p-a.svg", "p-a-second.svg", "p-b.svg", "p-b-second.svg"})
+        several = host.run("read", "a.toml", "x/a.toml", "--svg", "p.svg", files=FILES | {"x/a.toml": OTHER})
+        self.assertEqual(set(several.written), {"p-a.svg", "p-a-the-..-second.svg", "p-a-2.svg", "p-a-2-the-..-second.svg"})
 
     def test_other_endings_are_refused(self):
         for option, name, line in [("--svg", "z.pdf", ".*z.pdf does not end in .svg"), ("--chart", "z.jpg", "z.jpg: a picture's name must end in"),

@@ -78,7 +78,7 @@ Answer answer(const std::string& path) {
                                     {{"kind", "Kind"}, "a \"word\", and more"}},
                         .tables = {wide_table()},
                         .pictures = {{"square", "Squares <and> more", chart("Squares")},
-                                     {"second", "Again", chart("Again")}}},
+                                     {"the/../second", "Again", chart("Again")}}},
                        {.title = "North side",
                         .key = "north",
                         .figures = {{{"u_value", "U-value", "W/m²K", 2}, 1.0}},
