@@ -48,15 +48,22 @@ class Examples(unittest.TestCase):
 class Descriptions(unittest.TestCase):
     def test_of_every_command(self):
         process = host.run("--write-share", "share")
-        pages = {name.split("/")[-1].removesuffix(".1"): text for name, text in process.written.items() if name.endswith(".1")}
-        self.assertLess({"quorvel", "quorvel-window", "quorvel-wall", "quorvel-climate-pack", "quorvel-materials", "quorvel-check"}, set(pages))
+        pages = {
+            name.split("/")[-1].removesuffix(".1"): text
+            for name, text in process.written.items() if name.endswith(".1")
+        }
+        self.assertLess(
+            {"quorvel", "quorvel-window", "quorvel-wall", "quorvel-climate-pack", "quorvel-materials", "quorvel-check"},
+            set(pages))
         for name, page in pages.items():
             with self.subTest(name):
                 words = [name.removeprefix("quorvel-climate-")] if "climate-" in name else []
                 command = ["climate", *words] if words else name.split("-")[1:]
                 self.assertEqual([line for line in output("help", *command).splitlines() if len(line) > 78], [])
                 if shutil.which("groff"):
-                    lint = subprocess.run(["groff", "-man", "-Tutf8", "-Kutf8", "-ww", "-z"], input=page, capture_output=True)
+                    lint = subprocess.run(["groff", "-man", "-Tutf8", "-Kutf8", "-ww", "-z"],
+                                          input=page,
+                                          capture_output=True)
                     self.assertEqual(lint.stderr, b"")
 
 
