@@ -148,7 +148,8 @@ Page page_of(const CLI::App& app, const Command* command) {
 }
 
 std::string as_help(const Page& page) {
-    std::string text = page.name + ": " + page.purpose + "\n\nUsage: " + page.usage + '\n';
+    std::string text = host::wrapped(page.name + ": " + page.purpose, widest) + "\n" +
+                       host::wrapped("Usage: " + page.usage, widest);
     if (!page.description.empty()) append(text, host::wrapped(page.description, widest));
     for (const Group& group : page.groups)
         append(text, (group.title.empty() ? "" : group.title + ":\n") + entries_text(group));

@@ -1,7 +1,9 @@
 #include "program/pictures.h"
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
+#include <set>
 
 #include "reading/input.h"
 #include "telling/output_file.h"
@@ -35,11 +37,33 @@ std::string stem_of(const std::string& input) {
     return input == "-" ? "input" : std::filesystem::path(input).stem().string();
 }
 
-// day.svg and "shadow" are day-shadow.svg.
-std::string with_part(const std::string& file, const std::string& part) {
-    return file.substr(0, file.size() - picture_ending(file).size()) + '-' + part +
-           picture_ending(file);
+// What users call a thing, as part of a file's name.
+std::string file_part(std::string name) {
+    const auto stays = [](unsigned char c) {
+        return std::isalnum(c) || c == '_' || c == '.' || c >= 0x80;
+    };
+    std::ranges::replace_if(
+        name, [&](char c) { return !stays(static_cast<unsigned char>(c)); }, '-');
+    return name;
 }
+
+// Files beside one: day.svg and "shadow" are day-shadow.svg, or day-shadow-2.svg where that is
+// taken.
+class Names {
+  public:
+    std::string with(const std::string& file, const std::string& part) {
+        const std::string ending = picture_ending(file);
+        const std::string stem =
+            file.substr(0, file.size() - ending.size()) + '-' + file_part(part);
+        std::string name = stem + ending;
+        for (int n = 2; !taken_.insert(name).second; ++n)
+            name = stem + '-' + std::to_string(n) + ending;
+        return name;
+    }
+
+  private:
+    std::set<std::string> taken_;
+};
 
 }  // namespace
 
@@ -57,16 +81,17 @@ std::string picture_ending(const std::string& file) {
 std::vector<File> pictures(std::span<const Answered> answers,
                            const std::vector<std::string>& files) {
     std::vector<File> result;
+    Names names;
     for (const std::string& file : files)
         for (const auto& [input, answer] : answers) {
             const auto found = pictures_of(answer);
             const std::string about = input.empty() ? "" : host::told_path(input) + ": ";
             if (found.empty())
                 throw InputError(about + "there is no chart of this to draw into " + file);
-            const std::string own = answers.size() > 1 ? with_part(file, stem_of(input)) : file;
+            const std::string own = answers.size() > 1 ? names.with(file, stem_of(input)) : file;
             for (const Picture* picture : found)
                 result.push_back(
-                    {picture == found.front() ? own : with_part(own, picture->key),
+                    {picture == found.front() ? own : names.with(own, picture->key),
                      [picture, format = format_of(file)] { return picture->chart.draw(format); }});
         }
     return result;

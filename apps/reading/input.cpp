@@ -172,7 +172,7 @@ std::vector<double> InputTable::numbers(std::string_view key, std::size_t count,
 int InputTable::integer(std::string_view key, int low, int high) const {
     const auto* value = node(key).as_integer();
     if (value && value->get() >= low && value->get() <= high) return static_cast<int>(value->get());
-    throw not_allowed_whole(key, "whole numbers " + from_to(low, high));
+    throw not_allowed_whole(key, (low == high ? "" : "whole numbers ") + from_to(low, high));
 }
 
 bool InputTable::flag(std::string_view key, bool otherwise) const {

@@ -1,6 +1,7 @@
 #include "telling/as_text.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "telling/table.h"
 #include "telling/text.h"
@@ -71,14 +72,34 @@ std::string text_of(const DataTable& data) {
     return text;
 }
 
-// Numbers below each other, words and remarks beside them.
+struct Line {
+    std::string name, number, words;
+};
+
+Line line_of(const Figure& figure) {
+    const auto& [quantity, value, remark] = figure;
+    const auto* const word = std::get_if<std::string>(&value);
+    const std::string& first = word ? *word : quantity.unit;
+    const std::string between = first.empty() || remark.empty() ? "" : ", ";
+    return {quantity.name, word ? "" : told(quantity, value), first + between + remark};
+}
+
+// Numbers below each other, words and remarks beside them, on several lines where they are long.
 std::string text_of(const std::vector<Figure>& figures) {
+    constexpr std::size_t gaps = 6, least = 30;
+    std::vector<Line> lines;
+    std::size_t names = 0, numbers = 0;
+    for (const Figure& figure : figures) {
+        lines.push_back(line_of(figure));
+        names = std::max(names, character_count(lines.back().name));
+        numbers = std::max(numbers, character_count(lines.back().number));
+    }
+    const std::size_t room = std::max(widest - std::min(widest, names + numbers + gaps), least);
     Table table({{"", "", true}, {"", ""}, {"", "", true}});
-    for (const auto& [quantity, value, remark] : figures) {
-        const bool word = std::holds_alternative<std::string>(value);
-        const std::string& first = word ? std::get<std::string>(value) : quantity.unit;
-        const std::string between = first.empty() || remark.empty() ? "" : ", ";
-        table.add({quantity.name, word ? "" : told(quantity, value), first + between + remark});
+    for (auto& [name, number, words] : lines) {
+        std::istringstream parts(words.empty() ? "\n" : wrapped(words, room));
+        for (std::string part; std::getline(parts, part); name.clear(), number.clear())
+            table.add({name, number, part});
     }
     return table.text();
 }
@@ -95,19 +116,24 @@ std::string left_out(const Answer& answer) {
     return titles.empty() ? "" : wrapped("With --tables also: " + titles, widest);
 }
 
+// Nothing where all that it has is left out.
+std::string text_of(const Section& section, bool all_tables) {
+    std::string text;
+    for (const std::string& paragraph : section.paragraphs)
+        append(text, wrapped(paragraph, widest));
+    append(text, section.figures.empty() ? "" : text_of(section.figures));
+    for (const DataTable& table : section.tables)
+        if (all_tables || !table.on_request) append(text, text_of(table));
+    if (text.empty() || section.title.empty()) return text;
+    return section.title + "\n\n" + text;
+}
+
 }  // namespace
 
 std::string as_text(const Answer& answer, bool all_tables) {
     std::string text = answer.title + '\n';
     text += wrapped(answer.subtitle, widest);
-    for (const Section& section : answer.sections) {
-        append(text, section.title.empty() ? "" : section.title + '\n');
-        for (const std::string& paragraph : section.paragraphs)
-            append(text, wrapped(paragraph, widest));
-        append(text, section.figures.empty() ? "" : text_of(section.figures));
-        for (const DataTable& table : section.tables)
-            if (all_tables || !table.on_request) append(text, text_of(table));
-    }
+    for (const Section& section : answer.sections) append(text, text_of(section, all_tables));
     if (!all_tables) append(text, left_out(answer));
     return text;
 }

@@ -61,6 +61,11 @@ def rows(text):
     return [{key: value(field) for key, field in row.items()} for row in csv.DictReader(io.StringIO(text))]
 
 
+def examples(command):
+    """The folder of the shipped ones."""
+    return Path(__file__).parents[2] / "apps" / "examples" / command
+
+
 def assert_refused(case, arguments, files, line, status=2):
     """One line, nothing said to be done, and every file as it was."""
     process = run(*arguments, files=files)

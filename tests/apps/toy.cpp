@@ -69,13 +69,16 @@ Answer answer(const std::string& path) {
     Answer answer{.title = root.text("name"), .subtitle = "a toy & <more>"};
     answer.sections = {{.paragraphs = {"All of it."},
                         .figures = {{{"u_value", "U-value", "W/m²K", 2}, value},
-                                    {{"count", "Count"}, 7.0, "whole"},
+                                    {{"count", "Count"},
+                                     7.0,
+                                     "whole, with a remark that goes on and on until it reaches "
+                                     "the edge and beyond, to the next line"},
                                     {{"given", "Given", "%", host::as_given}, value},
                                     {{"unknown", "Unknown", "°C", 1}, host::none},
                                     {{"kind", "Kind"}, "a \"word\", and more"}},
                         .tables = {wide_table()},
                         .pictures = {{"square", "Squares <and> more", chart("Squares")},
-                                     {"second", "Again", chart("Again")}}},
+                                     {"the/../second", "Again", chart("Again")}}},
                        {.title = "North side",
                         .key = "north",
                         .figures = {{{"u_value", "U-value", "W/m²K", 2}, 1.0}},
@@ -92,7 +95,9 @@ Answer answer(const std::string& path) {
 
 program::Command reader() {
     return {.name = "read",
-            .purpose = "Answers about files",
+            .purpose =
+                "Answers about files, in more words than a line of the help has room for, and so "
+                "on and on",
             .description = "Reads each of them.",
             .input = "What it is about",
             .answer = answer,
