@@ -17,8 +17,8 @@ struct Request {
 
 struct ReadQuestion {
     std::string name;
-    Question question;
-    ReadClimate climate;
+    Question question = {};
+    ReadClimate climate = {};
     std::size_t left_out = 0;  // layers in and beyond a well-ventilated gap
     std::string variant = {};  // empty: the input as it is
 };
