@@ -48,7 +48,8 @@ BAD = [
     (layer(PLASTER, mu=10), "layer[1].mu: given beside vapour_resistivity; allowed is one of them"),
     (layer(PLASTER, density=None), "layer[1]: missing density, or a material by name"),
     (layer(PLASTER, material="oak"), 'layer[1].material: unknown material "oak"; known are'),
-    (layer(PLASTER, state="damp"), 'layer[1].state: value "damp"; allowed dry, wet'),
+    (layer(PLASTER, state="wet"), "layer[1].state: goes with mu"),
+    (layer(PLASTER, vapour_resistivity=None, mu=10, state="damp"), 'layer[1].state: value "damp"; allowed dry, wet'),
     (layer(PLASTER, drawing="marble"), 'layer[1].drawing: value "marble"; allowed plain, masonry'),
     (layer(PLASTER, resistance=0.1), "layer[1].conductivity: unknown key; known are name, resistance"),
     (layer(PLASTER, air_voids=3), "layer[1].air_voids: value 3; allowed whole numbers 0 to 2"),
@@ -119,7 +120,7 @@ class Output(unittest.TestCase):
             self.assertLessEqual(max(map(len, text.splitlines())), 100, example.name)
 
     def test_report_says_what_the_values_say(self):
-        text = job(PLASTER, WOOL, BRICK, climate={"outside_temperature": YEAR, "inside_humidity": 65})
+        text = job(PLASTER, WOOL, BRICK, climate={"outside_temperature": YEAR, "inside_humidity": 55})
         of, report = answer(text), self.report("job.toml", text)
         self.assertRegex(report, rf"U-value +{figure(of, 'u_value'):.3f}  W/m²K")
         self.assertRegex(report, rf"Most water +{figure(of, 'peak_content'):.1f}  g/m², at the end of ")
@@ -157,6 +158,14 @@ class Output(unittest.TestCase):
         own = host.run("materials", "hemp", "--library", "own.toml", files={"own.toml": '[material."hemp lime"]\nmu = [5, 4]\n'})
         self.assertRegex(own.stdout.decode(), r"\n  hemp lime +– +– +– +5 +4 ")
         self.assertIn("none", host.run("materials", "unobtainium").stdout.decode())
+
+    def test_faults_of_own_materials(self):
+        for text, line in [("conductivty = 1", r"own\.toml:2: material\.hemp\.conductivty: unknown key"),
+                           ("mu = 3", r"own\.toml:1: material\.hemp: missing conductivity"),
+                           ("mu = [3, 2, 1]\nconductivity = 1\ndensity = 9\nspecific_heat = 900",
+                            r"own\.toml:2: material\.hemp\.mu: value list of 3; allowed 2 numbers")]:
+            files = {"job.toml": job({"material": "hemp", "thickness": 10}), "own.toml": f"[material.hemp]\n{text}\n"}
+            host.assert_refused(self, ["wall", "--library", "own.toml", "job.toml"], files, line)
 
     def test_every_shipped_material_can_be_a_layer(self):
         names = [row["name"] for row in host.rows(host.run("materials", "--csv").stdout.decode())]

@@ -15,7 +15,10 @@ constexpr double insulates = 0.07;  // W/mK: below, a layer is drawn as insulati
 }  // namespace
 
 Properties::Properties(const host::InputTable& own, const host::Library& library) : own_(own) {
-    if (own.has("material")) material_ = library.named(own, "material", "material");
+    if (!own.has("material")) return;
+    material_ = library.named(own, "material", "material");
+    material_->expect({}, {"conductivity", "density", "specific_heat", "vapour_resistivity", "mu",
+                           "s_d", "drawing", "source"});
 }
 
 bool Properties::gap() const {
@@ -32,8 +35,9 @@ std::string Properties::name() const {
 
 double Properties::number(std::string_view key, const Range& range) const {
     if (has(key)) return holder(key).number(key, range);
-    throw own_.error("",
-                     "missing " + std::string(key) + (material_ ? "" : ", or a material by name"));
+    const std::string missing = "missing " + std::string(key);
+    throw material_ ? material_->error("", missing)
+                    : own_.error("", missing + ", or a material by name");
 }
 
 void Properties::expect(std::initializer_list<std::string_view> known,
@@ -76,6 +80,7 @@ Solid Properties::solid(double thickness) const {
     solid.density = number("density", {0.5, 12000, "kg/m³"});
     solid.specific_heat = number("specific_heat", {100, 5000, "J/kgK"});
     const std::string_view key = vapour_key({"vapour_resistivity", "mu", "s_d"});
+    if (own_.has("state") && key != "mu") throw own_.error("state", "goes with mu");
     solid.vapour_resistivity = key == "mu" ? diffusion_factor() * resistivity_of_air
                                : key == "s_d"
                                    ? number(key, {0.001, 1e5, "m"}) * resistivity_of_air / thickness

@@ -74,7 +74,7 @@ std::size_t chosen_section(const InputTable& wall, const Element& element) {
 
 ReadQuestion read_question(const InputTable& root, const Request& request,
                            const host::Library& materials) {
-    root.expect({"wall", "layer", "climate"}, {"mould"});
+    root.expect({"wall", "layer", "climate"}, {"mould", "variant"});
     const InputTable wall = root.table("wall");
     wall.expect({"name"},
                 {"heat_flow", "exposure", "inside_resistance", "outside_resistance", "section"});

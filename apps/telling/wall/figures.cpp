@@ -13,8 +13,8 @@ using Figures = std::vector<Figure>;
 
 std::string limits_told(const Transmittance& t) {
     if (t.error < 0.005) return "";
-    return "from limits of " + fixed(t.upper, 3) + " and " + fixed(t.lower, 3) +
-           " m²K/W, error at most " + fixed(t.error, 1) + " %";
+    return "limits " + fixed(t.upper, 3) + " and " + fixed(t.lower, 3) + " m²K/W, error up to " +
+           fixed(t.error, 1) + " %";
 }
 
 std::string corrections_told(const Transmittance& t) {
@@ -37,9 +37,8 @@ Figures surface_figures(const Question& question, const Assessment& assessment) 
     const std::string month =
         question.climates.size() > 1 ? "in " + month_name(s.critical) + ", " : "";
     const std::string humidity = host::shortest(question.demand.humidity) + " % at the surface";
-    const std::string film =
-        host::shortest(question.demand.inside_resistance) + " m²K/W at the inside surface";
-    const std::string coldest = assessment.sections.size() > 1 ? ", in the coldest section" : "";
+    const std::string film = host::shortest(question.demand.inside_resistance) + " m²K/W inside";
+    const std::string coldest = assessment.sections.size() > 1 ? ", coldest section" : "";
     return {{temperature_factor, s.factor, "with " + film + coldest},
             {{"required_f_rsi", "f_Rsi needed against mould", "", 3},
              s.required,

@@ -64,7 +64,7 @@ std::string year_told(const Question& question, const Year& year) {
         return where + "at most " + most + ", dry again in " + name(year.dry_from) + '.';
     const bool still_rising = year.wettest + 1 == months_of_year;
     return where + (still_rising ? "" : most + ", of which ") + grams(year.left()) +
-           " are left after a year, and every further year adds as much. It does not dry.";
+           " are left after a year, and every further year adds about as much. It does not dry.";
 }
 
 std::string surfaces_told(const Assessment& assessment) {
