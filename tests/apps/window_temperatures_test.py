@@ -63,7 +63,7 @@ class ClimateFile(unittest.TestCase):
             Path(folder, "job.toml").write_text(job(day=from_file(1, 25)))
             process = host.run("window", str(Path(folder, "job.toml")))
         self.assertIn(f"Outdoor air from {NAME}, station 1, at 25 % of set 1: 12.5 °C at 04:00, 33.5 °C at 15:00 solar time",
-                      process.stdout.decode())
+                      " ".join(process.stdout.decode().split()))
 
     def test_what_the_file_does_not_have_gets_one_line(self):
         for station, data, message in [
