@@ -288,7 +288,8 @@ void add_pictures(const DayCase& given, const std::vector<double>& shadow_hours,
     if (glazed) pictures.push_back({"day", "The day", day_chart(given)});
     for (const WindowDay& window : given.day.windows) {
         if (glazed && !window.window->shades.any()) continue;
-        pictures.push_back({"shadows-" + window.window->name, "Shadows on " + window.window->name,
+        const auto number = std::to_string(&window - given.day.windows.data() + 1);
+        pictures.push_back({"shadows-" + number, "Shadows on " + window.window->name,
                             shadow_chart(given, window, shadow_hours)});
     }
 }
@@ -301,15 +302,13 @@ host::Answer told(const DayCase& given, const std::vector<double>& shadow_hours)
     Section summary;
     for (const std::string& line : {site_told(given), air_told(given.design), sun_told(given.day)})
         if (!line.empty()) summary.paragraphs.push_back(line);
+    summary.tables.push_back(sun_table(given.day));
     add_pictures(given, shadow_hours, summary.pictures);
     answer.sections.push_back(std::move(summary));
     for (const WindowDay& window : given.day.windows)
         answer.sections.push_back(window_section(given, window));
     if (given.windows.size() > 1 && any_glazed(given.windows))
         answer.sections.push_back(all_windows(given));
-    Section sun{"The sun", ""};
-    sun.tables.push_back(sun_table(given.day));
-    answer.sections.push_back(std::move(sun));
     answer.method = method();
     answer.warnings = given.notes;
     return answer;

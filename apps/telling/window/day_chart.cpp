@@ -30,7 +30,7 @@ constexpr int steps_per_hour =
 
 // The places of the panels, in pixels.
 constexpr double margin = 24, left = 74, right = 30, between = 28;
-constexpr double irradiance_top = 206, irradiance_height = 170;
+constexpr double irradiance_top = 216, irradiance_height = 170;
 constexpr double heat_top = irradiance_top + irradiance_height + 112, heat_height = 170;
 constexpr double temperature_top = heat_top + heat_height + 88, temperature_height = 150;
 constexpr double all_top = temperature_top + temperature_height + 92, all_height = 150;
@@ -113,19 +113,24 @@ void Picture::heading() {
                 place(given_.site) + "  ·  " +
                     host::sun_times(hourly_.sunrise, hourly_.sunset, hourly_.solar_minus_clock),
                 {grey, 12});
-    chart_.title(margin, 112, "Irradiance on the glass, W/m²",
-                 {{"■", direct_colour, "direct sun"},
-                  {"■", sky_colour, "from the sky"},
-                  {"■", ground_colour, "from the ground"},
-                  {"╍", grey, "unshaded"}});
+    std::vector<Key> keys{{"■", direct_colour, "direct sun"},
+                          {"■", sky_colour, "from the sky"},
+                          {"■", ground_colour, "from the ground"}};
+    if (std::ranges::any_of(given_.windows, [](const Window& w) { return w.shades.any(); }))
+        keys.push_back({"╍", grey, "unshaded"});
+    chart_.title(margin, 112, "Irradiance on the glass, W/m²", keys);
 }
 
 void Picture::column_title(std::size_t i) {
     const WindowDay& window = hourly_.windows[i];
     const double x = column_left(i);
-    chart_.text(x, irradiance_top - 56, window.window->name, {ink, 14, true});
-    chart_.text(x, irradiance_top - 38, size_and_facing(*window.window), {grey, 12});
-    chart_.text(x, irradiance_top - 20, glazing_told(*window.window), {grey, 12});
+    const auto fitting = [&](const std::string& text) {
+        return shortened(text, static_cast<std::size_t>(column_ / 7.2));
+    };
+    chart_.text(x, irradiance_top - 68, window.window->name, {ink, 14, true});
+    chart_.text(x, irradiance_top - 50, size_and_facing(*window.window), {grey, 12});
+    chart_.text(x, irradiance_top - 34, fitting(glazing_told(*window.window)), {grey, 12});
+    chart_.text(x, irradiance_top - 18, fitting(blind_told(*window.window)), {grey, 12});
 }
 
 void Picture::irradiance(std::size_t i) {

@@ -89,8 +89,16 @@ std::string glazing_told(const Window& window) {
     if (const auto* unit = std::get_if<ShadingCoefficients>(&window.glazing))
         text = std::to_string(unit->panes) + (unit->panes == 1 ? " pane" : " panes") +
                " known by shading coefficients";
-    if (text.empty()) return "no glazing given";
-    return window.blind ? text + ", " + told(*window.blind) : text;
+    return text.empty() ? "no glazing given" : text;
+}
+
+std::string blind_told(const Window& window) { return window.blind ? told(*window.blind) : ""; }
+
+std::string shortened(const std::string& text, std::size_t most) {
+    if (host::character_count(text) <= most) return text;
+    std::string begin = text;
+    while (host::character_count(begin) >= most) begin.pop_back();
+    return begin + "…";
 }
 
 std::vector<std::string> shades_told(const Window& window) {
@@ -106,6 +114,7 @@ std::vector<std::string> shades_told(const Window& window) {
 
 std::string described(const Window& window) {
     std::string text = size_and_facing(window) + '\n' + glazing_told(window);
+    if (window.blind) text += '\n' + blind_told(window);
     for (const std::string& line : shades_told(window)) text += '\n' + line;
     return text;
 }

@@ -11,7 +11,9 @@ namespace quorvel::window {
 std::string place(const Site& site);                // 51.48° N, 0.29° W, 6 m above sea level
 std::string sky_told(const Site& site);             // clear sky after Perez
 std::string size_and_facing(const Window& window);  // 2.4 m² facing 180° (S), vertical
-std::string glazing_told(const Window& window);     // double low-e argon, slatted blind outside
+std::string glazing_told(const Window& window);     // double low-e argon
+std::string blind_told(const Window& window);       // slatted blind outside; empty without one
+std::string shortened(const std::string& text, std::size_t most);  // to so many characters
 std::vector<std::string> shades_told(
     const Window& window);                    // Overhang: 0.4 m deep, 0.2 m above the window
 std::string described(const Window& window);  // all of this, a line each

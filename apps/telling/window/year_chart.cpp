@@ -51,7 +51,9 @@ void draw(host::Chart& chart, const WindowYear& window, double top) {
         ink + "'");
     chart.text(left, top - 34, window.window->name, {ink, 14, true});
     chart.text(left, top - 16,
-               size_and_facing(*window.window) + "  ·  " + glazing_told(*window.window),
+               shortened(size_and_facing(*window.window) + "  ·  " + glazing_told(*window.window) +
+                             "  ·  " + blind_told(*window.window),
+                         108),
                {grey, 12});
     chart.text(width - right, top - 34,
                "solar gain " + host::fixed(window.year.solar_gain, 1) + " kWh, net " +
