@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include <csignal>
 #include <exception>
 #include <iostream>
 #include <system_error>
@@ -24,7 +25,8 @@ void prepare_output() {
     _setmode(_fileno(stdin), _O_BINARY);
 }
 #else
-void prepare_output() {}
+// A file at the limit of the process is a fault like a full disk, not the end of it.
+void prepare_output() { std::signal(SIGXFSZ, SIG_IGN); }
 #endif
 
 }  // namespace

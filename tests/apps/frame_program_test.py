@@ -227,8 +227,9 @@ class WrittenFiles(unittest.TestCase):
     def test_a_full_disk_leaves_what_was_there(self):
         (self.folder / "x").write_bytes(OLD)
         process = self.write("x", limit=8)
-        self.assertNotEqual(process.returncode, 0)
-        self.assertEqual((self.folder / "x").read_bytes(), OLD)
+        self.assertEqual(process.returncode, 1)
+        self.assertRegex(process.stderr, "cannot be written: File too large")
+        self.assertEqual(((self.folder / "x").read_bytes(), self.names()), (OLD, {"x"}))
         os.symlink("/dev/full", self.folder / "full")
         process = self.write("full")
         self.assertEqual(process.returncode, 1)
