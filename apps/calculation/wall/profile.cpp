@@ -8,7 +8,8 @@
 namespace quorvel::wall {
 namespace {
 
-constexpr double thickest_step = 0.25;         // m²K/W, EN ISO 13788
+constexpr double thickest_step = 0.25;  // m²K/W, EN ISO 13788
+constexpr int most_steps = 50;  // of a layer; thicker ones than any in buildings have coarser steps
 constexpr double grams_a_day = 86400e3 / 1e9;  // of 1 Pa through 1 GN s/kg
 
 // The taut string under the saturation pressures: between the ends and the wet places the lower
@@ -69,7 +70,8 @@ Path path(const Section& section, const Surfaces& surfaces) {
     for (std::size_t layer = 0; layer < section.slabs.size(); ++layer) {
         const Slab& slab = section.slabs[layer];
         const Place start = path.places.back();
-        const int steps = std::max(1, static_cast<int>(std::ceil(slab.resistance / thickest_step)));
+        const int steps =
+            std::clamp(static_cast<int>(std::ceil(slab.resistance / thickest_step)), 1, most_steps);
         for (int step = 1; step <= steps; ++step) {
             const double share = static_cast<double>(step) / steps;
             const bool within = step < steps;
@@ -92,13 +94,19 @@ Profile profile(const Path& path, const Climate& climate, const std::vector<bool
     profile.pressure = profile.saturation;
     profile.pressure.front() = std::min(inside, profile.saturation.front());
     profile.pressure.back() = std::min(outside, profile.saturation.back());
-    profile.gain.resize(path.places.size());
-    set_pressures(profile, path, bends(path.places, profile.pressure, wet));
+    settle(profile, path, wet);
     return profile;
 }
 
 Profile profile(const Path& path, const Climate& climate) {
     return profile(path, climate, std::vector<bool>(path.places.size()));
+}
+
+void settle(Profile& profile, const Path& path, const std::vector<bool>& wet) {
+    std::copy(profile.saturation.begin() + 1, profile.saturation.end() - 1,
+              profile.pressure.begin() + 1);
+    profile.gain.assign(path.places.size(), 0);
+    set_pressures(profile, path, bends(path.places, profile.pressure, wet));
 }
 
 }  // namespace quorvel::wall

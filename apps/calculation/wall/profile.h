@@ -46,4 +46,7 @@ Profile profile(const Path& path, const Climate& climate, const std::vector<bool
 // Where nothing is wet from before.
 Profile profile(const Path& path, const Climate& climate);
 
+// The pressures and gains anew, in the same climate with other places wet.
+void settle(Profile& profile, const Path& path, const std::vector<bool>& wet);
+
 }  // namespace quorvel::wall

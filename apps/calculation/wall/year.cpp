@@ -51,7 +51,7 @@ MonthOfYear pass_month(const Path& path, const Climate& climate, std::size_t num
         const double time = steady_time(now, content, rest);
         advance(month, now, content, time);
         rest -= time;
-        if (rest > 0) now = profile(path, climate, wet_places(content));
+        if (rest > 0) settle(now, path, wet_places(content));
     }
     month.content = std::accumulate(content.begin(), content.end(), 0.0);
     return month;

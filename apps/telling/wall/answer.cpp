@@ -73,6 +73,20 @@ host::Section year(const Subject& subject, const Question& question, const Asses
     return section;
 }
 
+// What is not in the tables of layers and months.
+host::Section conditions_given(const Question& question, const Assessment& assessment) {
+    const SurfaceDemand& demand = question.demand;
+    return {.title = "Conditions",
+            .figures = {{{"inside_resistance", "Resistance of the inside surface", "m²K/W", 3},
+                         assessment.surfaces.inside},
+                        {{"outside_resistance", "Resistance of the outside surface", "m²K/W", 3},
+                         assessment.surfaces.outside},
+                        {{"mould_inside_resistance", "Resistance inside, as for mould", "m²K/W", 3},
+                         demand.inside_resistance},
+                        {{"mould_surface_humidity", "Humidity at the surface, at most", "%", 0},
+                         demand.humidity}}};
+}
+
 std::vector<std::string> method() {
     return {
         "U-value: resistances in series; of layers of several parts the mean of the upper and the "
@@ -110,6 +124,7 @@ host::Answer answer(const Subject& subject, const Question& question, const Asse
     answer.sections.push_back({.title = "Layers", .tables = {layer_table(question, assessment)}});
     answer.sections.push_back(profile(subject, question, assessment, shown));
     if (assessment.year) answer.sections.push_back(year(subject, question, assessment));
+    answer.inputs.push_back(conditions_given(question, assessment));
     answer.method = method();
     answer.warnings = subject.warnings;
     return answer;
