@@ -131,7 +131,7 @@ host::Chart chart_of(std::span<const DayCase> cases) {
     double most = 1;
     std::vector<std::vector<double>> rows;
     for (const DayCase& given : cases)
-        days.push_back(calculate(given.site, given.design, given.windows, 12));
+        days.push_back(calculate(given.site, given.design, given.windows, 2));
     for (const std::size_t k : drawn_of(days.front(), 25)) {
         rows.push_back({days.front().exposure[k].hour});
         for (const Day& day : days) {

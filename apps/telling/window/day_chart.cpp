@@ -25,8 +25,9 @@ using host::colour::ink;
 using Rows = std::vector<std::vector<double>>;
 
 constexpr double lowest_smooth = 25;  // degrees of the sun's altitude, see drawn_of
-constexpr int steps_per_hour =
-    12;  // smooth curves; every number written is one of the hourly table
+// The sky of Perez has small steps at any height of the sun, which these do not tell from a curve.
+// Every number written is one of the hourly table.
+constexpr int steps_per_hour = 2;
 
 // The places of the panels, in pixels.
 constexpr double margin = 24, left = 74, right = 30, between = 28;
@@ -269,7 +270,7 @@ void Picture::all_windows() {
         double sum = 0;
         for (const WindowDay& window : day_.windows)
             rows.back().push_back(sum += window.power(k, &WindowHour::solar_gain));
-        rows.back().push_back(sum > 0 ? sum : none);
+        rows.back().push_back(sum);
         most = std::max(most, sum);
     }
     begin(left, all_top, width_ - left - right, all_height, host::round_scale(0, 1.2 * most), true);
