@@ -16,7 +16,7 @@ for sources in vba/quorvel.bas csharp/Quorvel fortran/src pascal/src; do
     mkdir -p "$out/$name/bindings/${sources%/*}"
     cp -r "bindings/$sources" "$out/$name/bindings/${sources%/*}"
 done
-(cd "$out" && zip -q -r "$name.zip" "$name" && rm -r "$name")
+(cd "$out" && cmake -E tar cf "$name.zip" --format=zip "$name" && rm -r "$name")
 
 trial=$out/trial
 rm -rf "$trial"
