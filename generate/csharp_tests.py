@@ -2,7 +2,7 @@
 each routine the calls of the corpus, without. What they call is in bindings/csharp/tests."""
 
 from binding_model import calls, camel, lower_camel
-from csharp_model import BY_HAND, EDIT, block, element, field, is_elementwise, laid_out, literal, qualified
+from csharp_model import EDIT, block, element, field, is_elementwise, laid_out, literal, qualified
 
 COLUMNS = {"Real": "Reals", "DoubleReal": "Doubles", "Integer": "Integers", "Text": "Texts"}
 
@@ -36,10 +36,10 @@ def _results(call, variable):
 
 def _example(call, example):
     given = [_literal(parameter, example.given[parameter.name]) for parameter in call.parameters]
-    is_checked = call.name not in BY_HAND and call.allows(example)
+    is_checked = not call.is_by_hand and call.allows(example)
     method = ("" if is_checked else "Unchecked.") + qualified(call)
     lines = [f"var one = {method}({', '.join(given)});"]
-    if not is_checked and call.name not in BY_HAND:
+    if not is_checked and not call.is_by_hand:
         lines.append(f'Test.Throws<System.ArgumentException>("invalid", () => {qualified(call)}({", ".join(given)}));')
     for result, place in _results(call, "one"):
         if result.name in example.gives:

@@ -1,10 +1,9 @@
 """How Fortran says a routine: its procedures' names, kinds, extents and declarations."""
 
 import itertools
-import math
 import textwrap
 
-from array_kernels import has_kernel
+from binding_model import fixed
 from plain_text import plain, wrapped
 
 WIDTH = 120
@@ -14,14 +13,6 @@ EDIT = "! Produced from the catalogue of routines (catalogue/); do not edit."
 
 # Intrinsic procedures of Fortran, which a module's name would hide, by what they are called here.
 _INTRINSIC = {"dot_product": "vector_dot_product"}
-
-# Polygons are clipped by a subroutine that is written by hand: quorvel_polygons.f90.
-_BY_HAND = {"clip"}
-
-
-def is_offered(call):
-    """Not those of the climate data file, for which there is a derived type: quorvel_climate_file.f90."""
-    return has_kernel(call.routine) and call.name not in _BY_HAND
 
 
 def procedure_name(call):
@@ -75,11 +66,6 @@ def literal(kind, value):
     return f"{float(value)!r}_{'dp' if kind == 'DoubleReal' else 'sp'}"
 
 
-def fixed(shape):
-    """How many numbers there are of what is counted."""
-    return math.prod(extent for extent in shape if isinstance(extent, int))
-
-
 def extents(shape, assumed):
     """In brackets: as given, or assumed where they are counted, or wherever `assumed` says so."""
     if not shape:
@@ -91,7 +77,7 @@ def extents(shape, assumed):
 
 def length(parameter):
     """Of a list, in what its count counts."""
-    per_element = fixed(parameter.shape)
+    per_element = fixed(parameter)
     return f"size({parameter.name})" + (f"/{per_element}" if per_element > 1 else "")
 
 

@@ -1,11 +1,9 @@
 """Tests of the Fortran modules: bits.f90 holds them to calls of the corpus, examples.f90 to the catalogue's examples;
 corpus.txt says how many bytes of the corpus bits.f90 reads of each routine."""
 
-import math
-
 import binding_model
 import corpus_layout
-from fortran_model import KINDS, folded, is_function, is_offered, literal, own, procedure_name
+from fortran_model import KINDS, folded, is_function, literal, own, procedure_name
 
 CASES = 2000
 
@@ -100,7 +98,7 @@ class Bits(corpus_layout.Layout):
         yield f"read (unit) {', '.join(left)}"
 
     def _wrapper_where_counts_allow(self):
-        if not is_offered(self.call):
+        if not self.call.is_offered:
             return []
         lines = [*self._prepare(), *self._by_wrapper()]
         order = " .and. ".join(f"{name} >= {low} .and. {name} <= {high}" for name, low, high in self.orders())
@@ -142,17 +140,12 @@ def _all(value):
     return value if isinstance(value, list) else [value]
 
 
-def _is_valid(parameter, value):
-    low, high = parameter.limits or (-math.inf, math.inf)
-    return parameter.kind == "Text" or all(low <= number <= high for number in _all(value))
-
-
 class Example:
     """A call of the wrapper, of the unchecked one where the example leaves a range; or by reference, without one."""
 
     def __init__(self, call, example, number):
         self.call, self.example, self.name = call, example, f"example_of_{call.name}"[:60] + f"_{number}"
-        self.is_valid = all(_is_valid(parameter, example.given[parameter.name]) for parameter in call.parameters)
+        self.is_valid = call.allows(example)
 
     def _expect(self, name, got):
         if name in self.example.gives:
@@ -211,7 +204,7 @@ class Example:
             yield from self._expect(arg.name, f"real({arg.name}, dp)")
 
     def text(self):
-        statements = self._by_wrapper() if is_offered(self.call) else self._by_reference()
+        statements = self._by_wrapper() if self.call.is_offered else self._by_reference()
         return f"   subroutine {self.name}()\n{_body(statements)}\n   end subroutine\n\n"
 
 
@@ -224,9 +217,7 @@ def _program(name, modules, calls, procedures):
 def files(families):
     calls = binding_model.calls(families)
     bits = [Bits(call) for call in calls if call.routine.export]
-    examples = [
-        Example(call, example, number)
-        for call in calls for number, example in enumerate(call.routine.examples, 1)]
+    examples = [Example(*each) for each in binding_model.examples(families)]
     return {
         "corpus.txt": corpus_layout.sizes(calls, CASES),
         "bits.f90": _program("bits", ["quorvel_unchecked"], [f"bits_of_{each.routine.export}" for each in bits],

@@ -4,7 +4,7 @@ subroutines whose results are optional."""
 from array_header import columns, name_of
 from fortran_model import (
     EDIT, KIND_PARAMETERS, KINDS, WIDTH, by_arrays, declared, documented, extents, folded, is_elemental, is_function,
-    is_offered, length, literal, own, procedure_name, result_extents)
+    length, literal, own, procedure_name, result_extents)
 from plain_text import in_clear_names, wrapped
 
 UNCHECKED = """\
@@ -225,7 +225,7 @@ class Checked(Wrapper):
 
 
 def unchecked(calls):
-    wrappers = [Unchecked(call) for call in calls if is_offered(call)]
+    wrappers = [Unchecked(call) for call in calls if call.is_offered]
     names = ", &\n      ".join(sorted(wrapper.name for wrapper in wrappers))
     procedures = "\n".join(wrapper.text() for wrapper in wrappers)
     return UNCHECKED.format(edit=EDIT, kinds=KIND_PARAMETERS, names=names, procedures=procedures)
@@ -233,5 +233,5 @@ def unchecked(calls):
 
 def checked(calls):
     names = {call.routine.export: procedure_name(call) for call in calls if call.routine.export}
-    procedures = "\n".join(Checked(call, names).text() for call in calls if is_offered(call))
+    procedures = "\n".join(Checked(call, names).text() for call in calls if call.is_offered)
     return CHECKED.format(edit=EDIT, kinds=KIND_PARAMETERS, procedures=procedures)

@@ -44,7 +44,7 @@ def _argument(arg, direction, parameter=None, name=None):
     elif parameter and parameter.selector:
         limits = {"selector": _Selector(parameter.selector)}
     else:
-        limits = {"range": parameter.limits} if parameter and parameter.limits else {}
+        limits = {"range": parameter.limits} if parameter and parameter.is_limited else {}
     kind = "Logical" if getattr(arg, "logical", False) else arg.type
     return {"dir": direction, "name": lower_camel(name or arg.name), "type": kind, **unit, **({"shape": extents} if extents else {}), **limits}
 

@@ -1,12 +1,10 @@
 """quorvelunchecked.pas and quorvel.pas: the routines under their readable names, as functions of values, arrays and
 enumerations that return a value or a record."""
 
-import math
-
 from array_header import columns, name_of
-from binding_model import camel
+from binding_model import camel, fixed
 from pascal_model import (
-    EDIT, TYPES, comment, element, first, fixed, folded, function_name, head, is_list, is_offered, length, literal,
+    EDIT, TYPES, comment, element, first, folded, function_name, head, is_list, length, literal,
     parameter_list, passed_names)
 from plain_text import in_clear_names
 
@@ -233,23 +231,15 @@ class Checked:
                 counted = count.lists[0]
                 yield self._check(counted, "ExpectCount", length(counted), str(count.low), str(count.high))
 
-    def _valid(self, parameter):
-        arg = parameter.arg
-        if arg.values:
-            return "valid " + ", ".join(f"{number} ({camel(name)})" for name, (number, _) in arg.values.items())
-        if not parameter.limits_in_words:
-            return "valid is any number"
-        return f"valid {parameter.limits_in_words}" + f" {arg.unit}" * (arg.unit not in ("", "1"))
-
     def _values(self):
         for parameter in self.call.parameters:
             arg, name = parameter.arg, camel(parameter.name)
-            if arg.type == "Text" or (arg.type == "Integer" and not parameter.limits):
+            if arg.type == "Text" or (arg.type == "Integer" and not parameter.is_limited):
                 continue
-            low, high = parameter.limits or (-math.inf, math.inf)
+            low, high = parameter.limits
             if arg.type == "Integer":
                 low, high = max(low, -2**31), min(high, 2**31 - 1)
-            limits = [literal(low), literal(high), f"'{self._valid(parameter)}'"]
+            limits = [literal(low), literal(high), f"'{parameter.valid(camel)}'"]
             if not arg.shape:
                 value = f"Ord({name})" if parameter.selector else name
                 yield self._check(parameter, f"Expect{TYPES[arg.type]}", value, *limits)
@@ -276,14 +266,14 @@ class Checked:
 
 
 def unchecked(calls):
-    offered = [call for call in calls if is_offered(call)]
+    offered = [call for call in calls if call.is_offered]
     return UNCHECKED.format(edit=EDIT, heads="\n".join(map(head, offered)),
                             functions="\n".join(Unchecked(call).text() for call in offered))
 
 
 def checked(calls):
     names = {call.routine.export: function_name(call) for call in calls if call.routine.export}
-    functions = [Checked(call, names) for call in calls if is_offered(call)]
+    functions = [Checked(call, names) for call in calls if call.is_offered]
     heads = "\n\n".join(f"{each.about()}\n{head(each.call)}" for each in functions)
     return CHECKED.format(edit=EDIT, heads=heads, functions="\n".join(each.text() for each in functions))
 

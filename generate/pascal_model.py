@@ -3,7 +3,6 @@
 import math
 import textwrap
 
-from array_kernels import has_kernel
 from binding_model import camel
 from plain_text import plain, wrapped
 
@@ -13,14 +12,6 @@ EDIT = "{ Produced from the catalogue of routines (catalogue/); do not edit. }"
 
 # Functions of Pascal's own, which a unit's name would hide, by what they are called here.
 _STANDARD = {"length": "VectorLength"}
-
-# Polygons are clipped by a function that is written by hand: quorvelpolygons.pas.
-_BY_HAND = {"clip"}
-
-
-def is_offered(call):
-    """Not those of the climate data file, for which there is a class: quorvelclimatefile.pas."""
-    return has_kernel(call.routine) and call.name not in _BY_HAND
 
 
 def function_name(call):
@@ -47,11 +38,6 @@ def comment(paragraphs):
 
 def is_list(arg):
     return any(not isinstance(extent, int) for extent in arg.shape)
-
-
-def fixed(arg):
-    """How many numbers there are of what is counted."""
-    return math.prod(extent for extent in arg.shape if isinstance(extent, int))
 
 
 def element(arg):

@@ -5,8 +5,8 @@ import math
 
 import binding_model
 import corpus_layout
-from binding_model import camel
-from pascal_model import TYPES, element, fixed, folded, function_name, function_type, is_list, is_offered, pointer
+from binding_model import camel, fixed
+from pascal_model import TYPES, element, folded, function_name, function_type, is_list, pointer
 
 CASES = 2000
 
@@ -66,7 +66,7 @@ class Bits(corpus_layout.Layout):
             yield f"  Got{camel(arg.name)}, Left{camel(arg.name)}: {self._type(arg)};"
         if self.routine.result:
             yield f"  GotResult, LeftResult: {TYPES[self.routine.result.type]};"
-        if is_offered(self.call):
+        if self.call.is_offered:
             yield f"  Own: {function_type(self.call)};"
 
     def _read(self):
@@ -113,7 +113,7 @@ class Bits(corpus_layout.Layout):
 
     def text(self):
         case = [*self._read(), *self._call()]
-        if is_offered(self.call):
+        if self.call.is_offered:
             order = " and ".join(
                 f"({camel(name)} >= {low}) and ({camel(name)} <= {high})" for name, low, high in self.orders())
             lines = list(self._function())
@@ -140,17 +140,12 @@ def _nested(arg, numbers):
     return f"({', '.join(rows)})"
 
 
-def _is_valid(parameter, value):
-    low, high = parameter.limits or (-math.inf, math.inf)
-    return parameter.kind == "Text" or all(low <= number <= high for number in _all(value))
-
-
 class Example:
     """A call of the function, of the unchecked one where the example leaves a range; or by reference, without one."""
 
     def __init__(self, call, example, number):
         self.call, self.example, self.name = call, example, f"{camel(call.name)}{number}"
-        self.is_valid = all(_is_valid(parameter, example.given[parameter.name]) for parameter in call.parameters)
+        self.is_valid = call.allows(example)
 
     def _variable(self, arg, value):
         """With what is given in it."""
@@ -199,7 +194,7 @@ class Example:
 
     def text(self):
         call, given = self.call, self.example.given
-        if is_offered(call):
+        if call.is_offered:
             tables = filter(self._is_constant, call.parameters)
             constants = [self._variable(each.arg, given[each.name]) for each in tables]
             declarations = [*["const"] * bool(constants), *constants, "var", f"  Own: {function_type(call)};"]
@@ -223,9 +218,7 @@ def _program(name, units, calls, procedures):
 def files(families):
     calls = binding_model.calls(families)
     bits = [Bits(call) for call in calls if call.routine.export]
-    examples = [
-        Example(call, example, number)
-        for call in calls for number, example in enumerate(call.routine.examples, 1)]
+    examples = [Example(*each) for each in binding_model.examples(families)]
     return {
         "corpus.txt": corpus_layout.sizes(calls, CASES),
         "bits.pas": _program(

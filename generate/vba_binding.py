@@ -15,7 +15,6 @@ HAND = Path(__file__).parents[1] / "bindings/vba/by_hand.bas"
 MARK = "\n' ---- Procedures\n"
 TYPES = {"Real": "Single", "DoubleReal": "Double", "Integer": "Long", "Text": "Byte"}
 LIMITS = {"Real": "largest", "DoubleReal": "1E+300", "Integer": "2147483647"}
-BY_HAND = {"clip"}
 LOCALS = {"fault", "held", "spread", "rowcount", "columncount", "rowat", "columnat"}  # of each function
 
 HEAD = """\
@@ -98,8 +97,7 @@ def _literal(value, kind):
 
 
 def _limits(parameter):
-    low, high = parameter.limits or (-math.inf, math.inf)
-    return f"{_literal(low, parameter.kind)}, {_literal(high, parameter.kind)}"
+    return ", ".join(_literal(limit, parameter.kind) for limit in parameter.limits)
 
 
 def _columns(thing):
@@ -284,7 +282,7 @@ def render(families):
     lines = [*(line for call in found for line in _declarations(call)), *_enumerations(families), ""]
     lines += [declarations, procedures]
     for call in found:
-        if call.name not in BY_HAND:
+        if not call.is_by_hand:
             lines += [*_function(call, names), ""]
     loader = 'Private Declare PtrSafe Function LoadLibraryW Lib "kernel32" (ByVal path As LongPtr) As LongPtr\n'
     return plain(HEAD + loader + "\n".join(lines).rstrip("\n") + "\n").replace("\n", "\r\n")  # else Excel imports no module
