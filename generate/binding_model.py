@@ -192,6 +192,12 @@ class Call:
         return counted and all(parameter.allows(example.given[parameter.name]) for parameter in self.parameters)
 
     @property
+    def remarks(self):
+        """Formula, notes and source, a text each."""
+        formula = [f"Formula: {self.routine.formula}"] if self.routine.formula else []
+        return [*formula, *self.routine.notes, f"Source: {self.routine.source}"]
+
+    @property
     def structure(self):
         """Of several results; empty for one."""
         return camel(self.name) if len(self.results) > 1 else ""

@@ -1,10 +1,9 @@
 """How Fortran says a routine: its procedures' names, kinds, extents and declarations."""
 
 import itertools
-import textwrap
 
 from binding_model import fixed
-from plain_text import plain, wrapped
+from plain_text import statement_lines, wrapped
 
 WIDTH = 120
 KINDS = {"Real": "real(sp)", "DoubleReal": "real(dp)", "Integer": "integer(i4)", "Logical": "logical"}
@@ -36,13 +35,7 @@ def is_function(call):
 def folded(statement, indent):
     """A statement on as many lines as it needs; it may be broken at blanks outside of texts."""
     pad = " " * indent
-    kept, inside = "", False
-    for character in plain(statement):
-        inside ^= character == "'"
-        kept += "\0" if inside and character == " " else character
-    lines = textwrap.wrap(kept, WIDTH - 2, initial_indent=pad, subsequent_indent=pad + "   ",
-                          break_long_words=False, break_on_hyphens=False)
-    return " &\n".join(lines).replace("\0", " ")
+    return " &\n".join(statement_lines(statement, WIDTH - 2, pad, pad + "   "))
 
 
 def documented(kind, attributes, name, about):

@@ -1,7 +1,7 @@
 """quorvel_unchecked.f90 and quorvel.f90: the routines under their readable names, as functions of one result, or as
 subroutines whose results are optional."""
 
-from array_header import columns, name_of
+from array_header import columns
 from fortran_model import (
     EDIT, KIND_PARAMETERS, KINDS, WIDTH, by_arrays, declared, documented, extents, folded, is_elemental, is_function,
     length, literal, own, procedure_name, result_extents)
@@ -155,9 +155,8 @@ class Unchecked(Wrapper):
         return f"answer = {invoked}" + " /= 0" * logical
 
     def _call_of_arrays(self):
-        given, returned = columns(self.call.routine)
-        places = {name_of(result.arg): self._place(result) for result in self.call.results}
-        addresses = [name for name, _ in given] + [places[name_of(arg)] for _, arg in returned]
+        given, _ = columns(self.call.routine)
+        addresses = [*(name for name, _ in given), *map(self._place, self.call.results)]
         strided = ", ".join(f"{address}, 0_c_ptrdiff_t" for address in addresses)
         return f"call array_{self.call.name}(1_c_size_t, {strided})"
 
@@ -189,8 +188,7 @@ class Checked(Wrapper):
     def _about(self):
         routine = self.call.routine
         yield from self._paragraph(routine.summary)
-        formula = [f"Formula: {routine.formula}"] if routine.formula else []
-        for text in [*formula, *routine.notes, f"Source: {routine.source}"]:
+        for text in self.call.remarks:
             yield "   !>"
             yield from self._paragraph(text)
         if routine.export:

@@ -1,10 +1,9 @@
 """How Pascal says a routine: names, types, and what stands in a call by reference."""
 
 import math
-import textwrap
 
 from binding_model import camel
-from plain_text import plain, wrapped
+from plain_text import statement_lines, wrapped
 
 WIDTH = 120
 TYPES = {"Real": "Single", "DoubleReal": "Double", "Integer": "LongInt", "Logical": "Boolean"}
@@ -21,13 +20,7 @@ def function_name(call):
 def folded(statement, indent=0):
     """A statement on as many lines as it needs; it may be broken at blanks outside of texts."""
     pad = " " * indent
-    kept, inside = "", False
-    for character in plain(statement):
-        inside ^= character == "'"
-        kept += "\0" if inside and character == " " else character
-    lines = textwrap.wrap(kept, WIDTH, initial_indent=pad, subsequent_indent=pad + "  ",
-                          break_long_words=False, break_on_hyphens=False)
-    return "\n".join(lines).replace("\0", " ")
+    return "\n".join(statement_lines(statement, WIDTH, pad, pad + "  "))
 
 
 def comment(paragraphs):

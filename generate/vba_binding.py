@@ -220,16 +220,15 @@ def _comment(call, names):
     def told(text, first, rest):
         return wrapped(in_clear_names(text, names), WIDTH, first, rest)
 
-    routine = call.routine
-    yield from told(routine.summary, "' ", "' ")
+    yield from told(call.routine.summary, "' ", "' ")
     for parameter in call.parameters:
         yield from told(f"{lower_camel(parameter.name)}: {parameter.sentence}", "'   ", "'     ")
     several = len(call.results) > 1
     for result in call.results:
         lead = f"{lower_camel(result.clear_name)}: " if several else ""
         yield from told(f"-> {lead}{result.sentence}".replace("not a number ", "#N/A "), "'   ", "'     ")
-    for note in [*([f"Formula: {routine.formula}"] if routine.formula else []), *routine.notes, f"Source: {routine.source}"]:
-        yield from told(note, "'   ", "'   ")
+    for remark in call.remarks:
+        yield from told(remark, "'   ", "'   ")
 
 
 def _spread(call):
