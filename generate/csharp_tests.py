@@ -1,6 +1,9 @@
 """What the tests of the C# binding are generated from: every example of the catalogue as a call with checks, and for
 each routine the calls of the corpus, without. What they call is in bindings/csharp/tests."""
 
+import math
+
+import corpus_layout
 from binding_model import calls, camel, lower_camel
 from csharp_model import EDIT, block, element, field, is_elementwise, laid_out, literal, qualified
 
@@ -56,22 +59,10 @@ def _example(call, example):
 
 # ---- Corpus ------------------------------------------------------------------------------------------------------
 
-def _rooms(call):
-    """As many as the corpus has room for of what each argument counts."""
-    return {arg.name: int(arg.draw[1]) + 2 for arg in call.routine.args if arg.draw}
-
-
-def _room(arg, rooms):
-    room = 1
-    for extent in arg.shape:
-        room *= extent if isinstance(extent, int) else rooms[extent]
-    return room
-
-
-def _column(arg, rooms):
+def _column(arg, layout):
     kind = f"Selectors<{camel(arg.quantity)}>" if arg.values else COLUMNS[arg.type]
     variable = "" if arg.ignored else f"var {lower_camel(arg.name)} = "
-    return f"{variable}corpus.{kind}({_room(arg, rooms) if arg.shape else ''});"
+    return f"{variable}corpus.{kind}({math.prod(layout.room(arg)) if arg.shape else ''});"
 
 
 def _of_case(parameter):
@@ -87,8 +78,8 @@ def _counted(call):
 
 
 def _corpus(call):
-    rooms = _rooms(call)
-    lines = [_column(arg, rooms) for arg in call.routine.args if arg.dir != "out"]
+    layout = corpus_layout.Layout(call.routine)
+    lines = [_column(arg, layout) for arg in layout.given]
     lines += _counted(call)
     given = ", ".join(map(_of_case, call.parameters))
     lines.append(f"var one = corpus.Each(i => Unchecked.{qualified(call)}({given}));")
@@ -96,7 +87,7 @@ def _corpus(call):
     if whole:
         lines.append(f"var all = Unchecked.{qualified(call)}({', '.join(lower_camel(p.name) for p in call.parameters)});")
     for (result, one), (_, other) in zip(_results(call, "one[i]"), _results(call, "all[i]")):
-        words = _room(result.arg, rooms) * (2 if result.kind == "DoubleReal" else 1)
+        words = math.prod(layout.room(result.arg)) * (2 if result.kind == "DoubleReal" else 1)
         got = f"i => {one}" + (f", i => {other}" if whole else "")
         lines.append(f'corpus.Left("{result.name}", {words}, {got});')
     return lines
