@@ -4,7 +4,7 @@ each routine the calls of the corpus, without. What they call is in bindings/csh
 import math
 
 import corpus_layout
-from binding_model import calls, camel, lower_camel
+from binding_model import calls, camel, examples, lower_camel
 from csharp_model import EDIT, block, element, field, is_elementwise, laid_out, literal, qualified
 
 COLUMNS = {"Real": "Reals", "DoubleReal": "Doubles", "Integer": "Integers", "Text": "Texts"}
@@ -95,22 +95,25 @@ def _corpus(call):
 
 # ---- Files -------------------------------------------------------------------------------------------------------
 
-def _class(name, methods, calls_of):
-    """Methods, and one that has them all called."""
+def _class(name, constant, methods, calls_of):
+    """A constant, methods, and one that has them all called."""
     run = block("internal static void Run()", calls_of)
-    body = [*run, *(line for head, lines in methods for line in ["", *block(f"private static void {head}", lines)])]
+    body = [f"internal const int {constant};", "", *run, *(line for head, lines in methods for line in ["", *block(f"private static void {head}", lines)])]
     return laid_out([EDIT, "using Quorvel;", "", *block(f"internal static class {name}", body)])
 
 
 def files(families):
     """The texts by their names."""
     found = calls(families)
-    examples = [(f"{call.family}_{call.name}_{index}", _example(call, example))
-                for call in found for index, example in enumerate(call.routine.examples)]
+    numbered = [(f"{call.family}_{call.name}_{number}", _example(call, example))
+                for call, example, number in examples(families)]
     exported = [call for call in found if call.routine.export]
     return {
-        "Examples.cs": _class("Examples", [(f"{name}()", lines) for name, lines in examples],
-                              [f"{name}();" for name, _ in examples]),
-        "CorpusCalls.cs": _class("CorpusCalls", [(f"{call.routine.export}(Corpus corpus)", _corpus(call)) for call in exported],
-                                 [f'Corpus.Run("{call.routine.export}", {call.routine.export});' for call in exported]),
+        "Examples.cs": _class(
+            "Examples", f"Count = {len(numbered)}", [(f"{name}()", lines) for name, lines in numbered],
+            [f"{name}();" for name, _ in numbered]),
+        "CorpusCalls.cs": _class(
+            "CorpusCalls", f"Cases = {corpus_layout.CASES}",
+            [(f"{call.routine.export}(Corpus corpus)", _corpus(call)) for call in exported],
+            [f'Corpus.Run("{call.routine.export}", {call.routine.export});' for call in exported]),
     }
