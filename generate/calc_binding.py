@@ -2,12 +2,12 @@
 (CalcAddIns.xcu), and the routines as its Python calls them (routines.py)."""
 
 import math
-import re
 from dataclasses import dataclass, replace
 from xml.sax.saxutils import escape, quoteattr
 
 import binding_model
 from binding_model import Parameter, lower_camel
+from plain_text import in_clear_names
 
 SERVICE = "org.quorvel.Functions"
 CATEGORY = "Quorvel"
@@ -116,13 +116,8 @@ def _gives(call):
 
 
 def _unit(call):
-    unit = call.results[0].arg.unit
-    return f" [{unit}]" if not call.structure and unit not in ("", "1") else ""
-
-
-def _in_calc(text, names):
-    """A sentence of the catalogue, with the functions of Calc in place of exported names."""
-    return re.sub(r"\b[A-Z][A-Z0-9]{3,8}\b", lambda found: names.get(found[0], found[0]), text)
+    unit = call.results[0].unit
+    return f" [{unit}]" if unit and not call.structure else ""
 
 
 def functions(families):
@@ -132,8 +127,8 @@ def functions(families):
         hidden = (HIDDEN,) if needs_file(call) else ()
         text = call.routine.summary.rstrip(".") + _unit(call) + "." + _gives(call)
         parameters = (_explained(parameter, left_out) for parameter in call.parameters)
-        yield Function(call.name, _in_calc(text, names),
-                       (*hidden, *(replace(each, text=_in_calc(each.text, names)) for each in parameters)))
+        yield Function(call.name, in_clear_names(text, names),
+                       (*hidden, *(replace(each, text=in_clear_names(each.text, names)) for each in parameters)))
     yield from BY_HAND
 
 
@@ -185,11 +180,10 @@ def _number(value):
 
 
 def _parameter(parameter: Parameter, left_out):
-    low, high = parameter.limits or (-math.inf, math.inf)
     words = {word: number for word, (number, _) in parameter.arg.values.items()}
     parts = [repr(parameter.name), repr(parameter.kind)]
-    parts += [f"unit={parameter.arg.unit!r}"] * (parameter.arg.unit not in ("", "1"))
-    parts += [f"limits=({_number(low)}, {_number(high)})"] * (parameter.limits is not None)
+    parts += [f"unit={parameter.unit!r}"] * bool(parameter.unit)
+    parts += [f"limits=({', '.join(map(_number, parameter.limits))})"] * parameter.is_limited
     parts += [f"words={words!r}"] * bool(words)
     parts += _shape(parameter)
     parts += [f"otherwise={left_out.get(parameter.name)!r}"] * (parameter.name in left_out)
@@ -197,8 +191,7 @@ def _parameter(parameter: Parameter, left_out):
 
 
 def _result(result):
-    place = f"new_{result.name}" if result.given else result.name
-    parts = [repr(place), repr(result.kind), *_shape(result)]
+    parts = [repr(result.name_in_arrays), repr(result.kind), *_shape(result)]
     parts += ["none=True"] * result.arg.none
     return f"Result({', '.join(parts)})"
 

@@ -6,7 +6,7 @@ from array_header import columns
 from binding_model import calls, camel, lower_camel, selectors
 from csharp_docs import Docs
 from csharp_model import (
-    BY_HAND, EDIT, NUMBERS, block, element, field, is_elementwise, laid_out, literal, parameter_list, qualified,
+    EDIT, NUMBERS, block, element, field, is_elementwise, laid_out, literal, parameter_list, qualified,
     returned, type_of)
 
 
@@ -153,7 +153,7 @@ def _inherited(call):
 def _unchecked(call):
     name = camel(call.name)
     by_hand = f"/// <summary>{call.routine.export} as it is in quorvel.h.</summary>"
-    yield by_hand if call.name in BY_HAND else _inherited(call)
+    yield by_hand if call.is_by_hand else _inherited(call)
     yield from block(f"public static {returned(call)} {name}({', '.join(parameter_list(call))})", _single(call))
     if is_elementwise(call):
         yield ""
@@ -211,7 +211,7 @@ def _file(using, body):
 
 def _family(docs, family, found):
     name = camel(family.family)
-    checked = _spaced(list(_checked(docs, call)) for call in found if call.name not in BY_HAND)
+    checked = _spaced(list(_checked(docs, call)) for call in found if not call.is_by_hand)
     unchecked = _spaced(list(_unchecked(call)) for call in found)
     parts = [_structure(docs, call) for call in found if call.structure]
     parts.append([f"/// <summary>{family.title}.</summary>", *block(f"public static partial class {name}", checked)])

@@ -5,20 +5,17 @@ from binding_model import lower_camel
 from csharp_model import literal, qualified
 
 
-def _unit(arg):
-    return f' {arg.unit}' if arg.unit not in ("", "1") else ""
-
-
 def _value(call, parameter):
     name = lower_camel(parameter.name)
     what = f'"{qualified(call)}", "{name}", {name}'
     if parameter.selector:
         low, high = parameter.limits
         return f"Check.Selector({what}, {low}, {high});"
-    if not parameter.limits and parameter.kind == "Integer":
+    if not parameter.is_limited and parameter.kind == "Integer":
         return ""
-    low, high = parameter.limits or (float("-inf"), float("inf"))
-    return f'Check.Range({what}, {literal(low, parameter.kind)}, {literal(high, parameter.kind)}, "{_unit(parameter.arg)}");'
+    low, high = (literal(limit, parameter.kind) for limit in parameter.limits)
+    unit = f" {parameter.unit}".rstrip()
+    return f'Check.Range({what}, {low}, {high}, "{unit}");'
 
 
 def _count(call, count):

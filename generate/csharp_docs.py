@@ -40,10 +40,7 @@ class Docs:
             yield self.tag("returns", call.results[0].sentence)
         yield '/// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>'
         yield "/// <remarks>"
-        if call.routine.formula:
-            yield f"/// <para>Formula: {self.text(call.routine.formula)}</para>"
-        yield from (f"/// <para>{self.text(note)}</para>" for note in call.routine.notes)
-        yield f"/// <para>Source: {self.text(call.routine.source)}</para>"
+        yield from (f"/// <para>{self.text(remark)}</para>" for remark in call.remarks)
         if call.routine.export:
             yield f"/// <para>The bits of {call.routine.export} in quorvel.h.</para>"
         yield "/// </remarks>"

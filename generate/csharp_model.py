@@ -11,9 +11,6 @@ EDIT = "// Produced from the catalogue of routines (catalogue/); do not edit."
 TYPES = {"Real": "float", "DoubleReal": "double", "Integer": "int", "Text": "string", "Logical": "bool"}
 NUMBERS = {**TYPES, "Logical": "int"}  # as the library has them
 
-# Offered by a class that is written by hand; as it is, among what is unchecked.
-BY_HAND = {"clip"}
-
 
 def qualified(call):
     return f"{camel(call.family)}.{camel(call.name)}"

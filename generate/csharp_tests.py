@@ -1,8 +1,11 @@
 """What the tests of the C# binding are generated from: every example of the catalogue as a call with checks, and for
 each routine the calls of the corpus, without. What they call is in bindings/csharp/tests."""
 
-from binding_model import calls, camel, lower_camel
-from csharp_model import BY_HAND, EDIT, block, element, field, is_elementwise, laid_out, literal, qualified
+import math
+
+import corpus_layout
+from binding_model import calls, camel, examples, lower_camel
+from csharp_model import EDIT, block, element, field, is_elementwise, laid_out, literal, qualified
 
 COLUMNS = {"Real": "Reals", "DoubleReal": "Doubles", "Integer": "Integers", "Text": "Texts"}
 
@@ -36,10 +39,10 @@ def _results(call, variable):
 
 def _example(call, example):
     given = [_literal(parameter, example.given[parameter.name]) for parameter in call.parameters]
-    is_checked = call.name not in BY_HAND and call.allows(example)
+    is_checked = not call.is_by_hand and call.allows(example)
     method = ("" if is_checked else "Unchecked.") + qualified(call)
     lines = [f"var one = {method}({', '.join(given)});"]
-    if not is_checked and call.name not in BY_HAND:
+    if not is_checked and not call.is_by_hand:
         lines.append(f'Test.Throws<System.ArgumentException>("invalid", () => {qualified(call)}({", ".join(given)}));')
     for result, place in _results(call, "one"):
         if result.name in example.gives:
@@ -56,22 +59,10 @@ def _example(call, example):
 
 # ---- Corpus ------------------------------------------------------------------------------------------------------
 
-def _rooms(call):
-    """As many as the corpus has room for of what each argument counts."""
-    return {arg.name: int(arg.draw[1]) + 2 for arg in call.routine.args if arg.draw}
-
-
-def _room(arg, rooms):
-    room = 1
-    for extent in arg.shape:
-        room *= extent if isinstance(extent, int) else rooms[extent]
-    return room
-
-
-def _column(arg, rooms):
+def _column(arg, layout):
     kind = f"Selectors<{camel(arg.quantity)}>" if arg.values else COLUMNS[arg.type]
     variable = "" if arg.ignored else f"var {lower_camel(arg.name)} = "
-    return f"{variable}corpus.{kind}({_room(arg, rooms) if arg.shape else ''});"
+    return f"{variable}corpus.{kind}({math.prod(layout.room(arg)) if arg.shape else ''});"
 
 
 def _of_case(parameter):
@@ -87,8 +78,8 @@ def _counted(call):
 
 
 def _corpus(call):
-    rooms = _rooms(call)
-    lines = [_column(arg, rooms) for arg in call.routine.args if arg.dir != "out"]
+    layout = corpus_layout.Layout(call.routine)
+    lines = [_column(arg, layout) for arg in layout.given]
     lines += _counted(call)
     given = ", ".join(map(_of_case, call.parameters))
     lines.append(f"var one = corpus.Each(i => Unchecked.{qualified(call)}({given}));")
@@ -96,7 +87,7 @@ def _corpus(call):
     if whole:
         lines.append(f"var all = Unchecked.{qualified(call)}({', '.join(lower_camel(p.name) for p in call.parameters)});")
     for (result, one), (_, other) in zip(_results(call, "one[i]"), _results(call, "all[i]")):
-        words = _room(result.arg, rooms) * (2 if result.kind == "DoubleReal" else 1)
+        words = math.prod(layout.room(result.arg)) * (2 if result.kind == "DoubleReal" else 1)
         got = f"i => {one}" + (f", i => {other}" if whole else "")
         lines.append(f'corpus.Left("{result.name}", {words}, {got});')
     return lines
@@ -104,22 +95,25 @@ def _corpus(call):
 
 # ---- Files -------------------------------------------------------------------------------------------------------
 
-def _class(name, methods, calls_of):
-    """Methods, and one that has them all called."""
+def _class(name, constant, methods, calls_of):
+    """A constant, methods, and one that has them all called."""
     run = block("internal static void Run()", calls_of)
-    body = [*run, *(line for head, lines in methods for line in ["", *block(f"private static void {head}", lines)])]
+    body = [f"internal const int {constant};", "", *run, *(line for head, lines in methods for line in ["", *block(f"private static void {head}", lines)])]
     return laid_out([EDIT, "using Quorvel;", "", *block(f"internal static class {name}", body)])
 
 
 def files(families):
     """The texts by their names."""
     found = calls(families)
-    examples = [(f"{call.family}_{call.name}_{index}", _example(call, example))
-                for call in found for index, example in enumerate(call.routine.examples)]
+    numbered = [(f"{call.family}_{call.name}_{number}", _example(call, example))
+                for call, example, number in examples(families)]
     exported = [call for call in found if call.routine.export]
     return {
-        "Examples.cs": _class("Examples", [(f"{name}()", lines) for name, lines in examples],
-                              [f"{name}();" for name, _ in examples]),
-        "CorpusCalls.cs": _class("CorpusCalls", [(f"{call.routine.export}(Corpus corpus)", _corpus(call)) for call in exported],
-                                 [f'Corpus.Run("{call.routine.export}", {call.routine.export});' for call in exported]),
+        "Examples.cs": _class(
+            "Examples", f"Count = {len(numbered)}", [(f"{name}()", lines) for name, lines in numbered],
+            [f"{name}();" for name, _ in numbered]),
+        "CorpusCalls.cs": _class(
+            "CorpusCalls", f"Cases = {corpus_layout.CASES}",
+            [(f"{call.routine.export}(Corpus corpus)", _corpus(call)) for call in exported],
+            [f'Corpus.Run("{call.routine.export}", {call.routine.export});' for call in exported]),
     }

@@ -1,7 +1,7 @@
 """src/math/tables.h: the tables of the elementary functions."""
 import struct
 
-from mpmath import acot, asin, atan, cos, floor, log, mp, mpf, pi, power, sin, sqrt
+from mpmath import asin, atan, cos, floor, log, mp, mpf, pi, power, sin, sqrt
 
 mp.prec = 200
 SINE_STEPS = 512  # per turn

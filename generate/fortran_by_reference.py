@@ -1,7 +1,7 @@
 """quorvel_by_reference.f90: the routines as Fortran calls what C has exported, without anything between."""
 
 from array_header import columns
-from fortran_model import EDIT, WIDTH, by_arrays, folded, is_offered
+from fortran_model import EDIT, WIDTH, by_arrays, folded
 from plain_text import wrapped
 
 C_KINDS = {"Real": "real(c_float)", "DoubleReal": "real(c_double)", "Integer": "integer(c_int32_t)",
@@ -76,5 +76,5 @@ def _interface_of_arrays(routine):
 
 def render(calls):
     routines = "\n".join(_interface(call.routine) for call in calls if call.routine.export)
-    of_arrays = "\n".join(_interface_of_arrays(call.routine) for call in calls if is_offered(call) and by_arrays(call))
+    of_arrays = "\n".join(_interface_of_arrays(call.routine) for call in calls if call.is_offered and by_arrays(call))
     return MODULE.format(edit=EDIT, routines=routines, of_arrays=of_arrays)

@@ -22,23 +22,10 @@ contains
 {checks}end module quorvel_checks
 """
 
-def _valid(parameter):
-    """In words."""
-    arg = parameter.arg
-    if arg.values:
-        return "valid " + ", ".join(f"{number} ({identifier})" for identifier, (number, _) in arg.values.items())
-    if not parameter.limits_in_words:
-        return "valid is any number"
-    return f"valid {parameter.limits_in_words}" + f" {arg.unit}" * (arg.unit not in ("", "1"))
-
-
-def _limits(parameter):
-    return parameter.limits or (-math.inf, math.inf)
-
 
 def _is_valid(parameter, name):
     """A condition; empty where anything goes."""
-    low, high = _limits(parameter)
+    low, high = parameter.limits
     above = "" if math.isinf(low) else f"{name} >= {literal(parameter.kind, low)}"
     below = "" if math.isinf(high) else f"{name} <= {literal(parameter.kind, high)}"
     if above or below:
@@ -75,7 +62,7 @@ class Check:
             condition = _is_valid(parameter, parameter.name)
             if not condition:
                 continue
-            valid = f"'{_valid(parameter)}'"
+            valid = f"'{parameter.valid()}'"
             if not parameter.shape:
                 yield f"if (.not. ({condition})) " + self._fault(parameter, "refuse", valid, parameter.name)
                 continue
@@ -95,7 +82,7 @@ class Check:
 
 
 def render(calls):
-    checks = [Check(call) for call in calls if call.name != "clip"]
+    checks = [Check(call) for call in calls if not call.is_by_hand]
     names = ", &\n      ".join(sorted(f"check_{check.name}" for check in checks))
     texts = "".join(check.text() for check in checks)
     return MODULE.format(edit=EDIT, kinds=KIND_PARAMETERS, names=names, checks=texts)

@@ -1,11 +1,9 @@
 """How Fortran says a routine: its procedures' names, kinds, extents and declarations."""
 
 import itertools
-import math
-import textwrap
 
-from array_kernels import has_kernel
-from plain_text import plain, wrapped
+from binding_model import fixed
+from plain_text import statement_lines, wrapped
 
 WIDTH = 120
 KINDS = {"Real": "real(sp)", "DoubleReal": "real(dp)", "Integer": "integer(i4)", "Logical": "logical"}
@@ -14,14 +12,6 @@ EDIT = "! Produced from the catalogue of routines (catalogue/); do not edit."
 
 # Intrinsic procedures of Fortran, which a module's name would hide, by what they are called here.
 _INTRINSIC = {"dot_product": "vector_dot_product"}
-
-# Polygons are clipped by a subroutine that is written by hand: quorvel_polygons.f90.
-_BY_HAND = {"clip"}
-
-
-def is_offered(call):
-    """Not those of the climate data file, for which there is a derived type: quorvel_climate_file.f90."""
-    return has_kernel(call.routine) and call.name not in _BY_HAND
 
 
 def procedure_name(call):
@@ -45,13 +35,7 @@ def is_function(call):
 def folded(statement, indent):
     """A statement on as many lines as it needs; it may be broken at blanks outside of texts."""
     pad = " " * indent
-    kept, inside = "", False
-    for character in plain(statement):
-        inside ^= character == "'"
-        kept += "\0" if inside and character == " " else character
-    lines = textwrap.wrap(kept, WIDTH - 2, initial_indent=pad, subsequent_indent=pad + "   ",
-                          break_long_words=False, break_on_hyphens=False)
-    return " &\n".join(lines).replace("\0", " ")
+    return " &\n".join(statement_lines(statement, WIDTH - 2, pad, pad + "   "))
 
 
 def documented(kind, attributes, name, about):
@@ -75,11 +59,6 @@ def literal(kind, value):
     return f"{float(value)!r}_{'dp' if kind == 'DoubleReal' else 'sp'}"
 
 
-def fixed(shape):
-    """How many numbers there are of what is counted."""
-    return math.prod(extent for extent in shape if isinstance(extent, int))
-
-
 def extents(shape, assumed):
     """In brackets: as given, or assumed where they are counted, or wherever `assumed` says so."""
     if not shape:
@@ -91,7 +70,7 @@ def extents(shape, assumed):
 
 def length(parameter):
     """Of a list, in what its count counts."""
-    per_element = fixed(parameter.shape)
+    per_element = fixed(parameter)
     return f"size({parameter.name})" + (f"/{per_element}" if per_element > 1 else "")
 
 

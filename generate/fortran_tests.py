@@ -1,13 +1,8 @@
-"""Tests of the Fortran modules: bits.f90 holds them to calls of the corpus, examples.f90 to the catalogue's examples;
-corpus.txt says how many bytes of the corpus bits.f90 reads of each routine."""
-
-import math
+"""Tests of the Fortran modules: bits.f90 holds them to calls of the corpus, examples.f90 to the catalogue's examples."""
 
 import binding_model
 import corpus_layout
-from fortran_model import KINDS, folded, is_function, is_offered, literal, own, procedure_name
-
-CASES = 2000
+from fortran_model import KINDS, folded, is_function, literal, own, procedure_name
 
 PROGRAM = """\
 program {name}
@@ -16,13 +11,14 @@ program {name}
    use quorvel_by_reference
 {modules}   use testing
    implicit none
-{calls}   call finish()
+{calls}   call finish({least})
 
 contains
 
 {procedures}end program {name}
 """
 
+TEXT = 64  # characters in the corpus
 UNTOUCHED = {"Real": "untouched", "DoubleReal": "untouched_pair", "Integer": "untouched_integer"}
 
 
@@ -38,10 +34,17 @@ def _call(routine, names):
 class Bits(corpus_layout.Layout):
     """Reads the cases of a routine, calls it by reference, then its wrapper where the counts are in order."""
 
+    def __init__(self, call):
+        super().__init__(call.routine)
+        self.call = call
+
+    def _room(self, arg):
+        return [TEXT] if arg.type == "Text" else self.room(arg)
+
     def _declarations(self):
         for arg, prefix in [(arg, "") for arg in self.given] + [
                 (arg, prefix) for arg in self.changed for prefix in ("got_", "left_")]:
-            room = self.room(arg)
+            room = self._room(arg)
             yield f"{_kind(arg)} :: {prefix}{arg.name}" + (f"({', '.join(map(str, room))})" if room else "")
         if self.routine.result:
             yield f"{_kind(self.routine.result)} :: left_result"
@@ -95,19 +98,18 @@ class Bits(corpus_layout.Layout):
         return f"agrees({got}, {left})" + f" .or. is_untouched({left})" * bool(result.unwritten)
 
     def _read(self):
-        left = ["left_result"] * bool(self.routine.result) + [f"left_{arg.name}" for arg in self.changed]
         yield f"read (unit) {', '.join(arg.name for arg in self.given)}"
-        yield f"read (unit) {', '.join(left)}"
+        yield f"read (unit) {', '.join(f'left_{name}' for name in self.left)}"
 
     def _wrapper_where_counts_allow(self):
-        if not is_offered(self.call):
+        if not self.call.is_offered:
             return []
         lines = [*self._prepare(), *self._by_wrapper()]
         order = " .and. ".join(f"{name} >= {low} .and. {name} <= {high}" for name, low, high in self.orders())
-        return [f"if ({order}) then", *(f"   {line}" for line in lines), "end if"] if order else lines
+        return [f"if (in_order({order})) then", *(f"   {line}" for line in lines), "end if"] if order else lines
 
     def text(self):
-        statements = [*self._declarations(), f"call open_corpus('{self.routine.export}')"]
+        statements = [*self._declarations(), f"call open_corpus('{self.routine.export}', {corpus_layout.CASES})"]
         statements += ["call open_example()"] * bool(self.routine.state)
         case = [*self._read(), *self._prepare(), *self._by_reference(), *self._wrapper_where_counts_allow()]
         statements += ["do while (more_cases())", *(f"   {line}" for line in case), "end do"]
@@ -142,17 +144,12 @@ def _all(value):
     return value if isinstance(value, list) else [value]
 
 
-def _is_valid(parameter, value):
-    low, high = parameter.limits or (-math.inf, math.inf)
-    return parameter.kind == "Text" or all(low <= number <= high for number in _all(value))
-
-
 class Example:
     """A call of the wrapper, of the unchecked one where the example leaves a range; or by reference, without one."""
 
     def __init__(self, call, example, number):
         self.call, self.example, self.name = call, example, f"example_of_{call.name}"[:60] + f"_{number}"
-        self.is_valid = all(_is_valid(parameter, example.given[parameter.name]) for parameter in call.parameters)
+        self.is_valid = call.allows(example)
 
     def _expect(self, name, got):
         if name in self.example.gives:
@@ -211,26 +208,23 @@ class Example:
             yield from self._expect(arg.name, f"real({arg.name}, dp)")
 
     def text(self):
-        statements = self._by_wrapper() if is_offered(self.call) else self._by_reference()
+        statements = self._by_wrapper() if self.call.is_offered else self._by_reference()
         return f"   subroutine {self.name}()\n{_body(statements)}\n   end subroutine\n\n"
 
 
-def _program(name, modules, calls, procedures):
+def _program(name, modules, calls, procedures, least):
     return PROGRAM.format(
         name=name, modules="".join(f"   use {module}\n" for module in modules),
-        calls="".join(f"   call {call}()\n" for call in calls), procedures="".join(procedures))
+        calls="".join(f"   call {call}()\n" for call in calls), procedures="".join(procedures), least=least)
 
 
 def files(families):
     calls = binding_model.calls(families)
     bits = [Bits(call) for call in calls if call.routine.export]
-    examples = [
-        Example(call, example, number)
-        for call in calls for number, example in enumerate(call.routine.examples, 1)]
+    examples = [Example(*each) for each in binding_model.examples(families)]
     return {
-        "corpus.txt": corpus_layout.sizes(calls, CASES),
         "bits.f90": _program("bits", ["quorvel_unchecked"], [f"bits_of_{each.routine.export}" for each in bits],
-                             [each.text() for each in bits]),
+                             [each.text() for each in bits], len(bits) * corpus_layout.CASES),
         "examples.f90": _program("examples", ["quorvel_faults, only: quorvel_fault"],
-                                 [each.name for each in examples], [each.text() for each in examples]),
+                                 [each.name for each in examples], [each.text() for each in examples], len(examples)),
     }

@@ -1,10 +1,10 @@
 """quorvel_unchecked.f90 and quorvel.f90: the routines under their readable names, as functions of one result, or as
 subroutines whose results are optional."""
 
-from array_header import columns, name_of
+from array_header import columns
 from fortran_model import (
     EDIT, KIND_PARAMETERS, KINDS, WIDTH, by_arrays, declared, documented, extents, folded, is_elemental, is_function,
-    is_offered, length, literal, own, procedure_name, result_extents)
+    length, literal, own, procedure_name, result_extents)
 from plain_text import in_clear_names, wrapped
 
 UNCHECKED = """\
@@ -155,9 +155,8 @@ class Unchecked(Wrapper):
         return f"answer = {invoked}" + " /= 0" * logical
 
     def _call_of_arrays(self):
-        given, returned = columns(self.call.routine)
-        places = {name_of(result.arg): self._place(result) for result in self.call.results}
-        addresses = [name for name, _ in given] + [places[name_of(arg)] for _, arg in returned]
+        given, _ = columns(self.call.routine)
+        addresses = [*(name for name, _ in given), *map(self._place, self.call.results)]
         strided = ", ".join(f"{address}, 0_c_ptrdiff_t" for address in addresses)
         return f"call array_{self.call.name}(1_c_size_t, {strided})"
 
@@ -189,8 +188,7 @@ class Checked(Wrapper):
     def _about(self):
         routine = self.call.routine
         yield from self._paragraph(routine.summary)
-        formula = [f"Formula: {routine.formula}"] if routine.formula else []
-        for text in [*formula, *routine.notes, f"Source: {routine.source}"]:
+        for text in self.call.remarks:
             yield "   !>"
             yield from self._paragraph(text)
         if routine.export:
@@ -225,7 +223,7 @@ class Checked(Wrapper):
 
 
 def unchecked(calls):
-    wrappers = [Unchecked(call) for call in calls if is_offered(call)]
+    wrappers = [Unchecked(call) for call in calls if call.is_offered]
     names = ", &\n      ".join(sorted(wrapper.name for wrapper in wrappers))
     procedures = "\n".join(wrapper.text() for wrapper in wrappers)
     return UNCHECKED.format(edit=EDIT, kinds=KIND_PARAMETERS, names=names, procedures=procedures)
@@ -233,5 +231,5 @@ def unchecked(calls):
 
 def checked(calls):
     names = {call.routine.export: procedure_name(call) for call in calls if call.routine.export}
-    procedures = "\n".join(Checked(call, names).text() for call in calls if is_offered(call))
+    procedures = "\n".join(Checked(call, names).text() for call in calls if call.is_offered)
     return CHECKED.format(edit=EDIT, kinds=KIND_PARAMETERS, procedures=procedures)

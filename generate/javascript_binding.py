@@ -7,6 +7,7 @@ import re
 import textwrap
 
 import binding_model
+import corpus_layout
 from array_kernels import has_kernel
 from binding_model import lower_camel
 
@@ -44,7 +45,7 @@ def _argument(arg, direction, parameter=None, name=None):
     elif parameter and parameter.selector:
         limits = {"selector": _Selector(parameter.selector)}
     else:
-        limits = {"range": parameter.limits} if parameter and parameter.limits else {}
+        limits = {"range": parameter.limits} if parameter and parameter.is_limited else {}
     kind = "Logical" if getattr(arg, "logical", False) else arg.type
     return {"dir": direction, "name": lower_camel(name or arg.name), "type": kind, **unit, **({"shape": extents} if extents else {}), **limits}
 
@@ -246,10 +247,11 @@ def _layouts(calls):
         routine = call.routine
         if not routine.export:
             continue
-        room = {arg.name: int(arg.draw[1]) + 2 for arg in routine.args if arg.type == "Integer" and arg.draw}
+        layout = corpus_layout.Layout(routine)
         arguments = [
             {"name": lower_camel(arg.name), "dir": arg.dir, "type": arg.type, "shape": [
-                [extent, 0] if isinstance(extent, int) else [room[extent], lower_camel(extent)] for extent in arg.shape]}
+                [room, 0 if isinstance(extent, int) else lower_camel(extent)]
+                for extent, room in zip(arg.shape, layout.room(arg))]}
             for arg in routine.args]
         if routine.result:
             name = lower_camel(call.results[0].clear_name)

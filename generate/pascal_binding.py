@@ -4,7 +4,7 @@ import binding_model
 import pascal_by_reference
 import pascal_functions
 from binding_model import camel
-from pascal_model import EDIT, TYPES, array_types, comment, function_type, is_offered, result_type
+from pascal_model import EDIT, TYPES, array_types, comment, function_type, result_type
 
 TYPES_UNIT = """\
 {edit}
@@ -44,7 +44,7 @@ def _types(families, calls):
     lists = "".join(f"  T{TYPES[kind]}s = array of {TYPES[kind]};\n" for kind in ("Real", "DoubleReal", "Integer"))
     arrays = "".join(f"  {name} = {definition};\n" for name, definition in array_types(calls).items())
     selectors = [_enumeration(name, arg) for name, arg in binding_model.selectors(families).items()]
-    records = [_record(call) for call in calls if is_offered(call) and len(call.results) > 1]
+    records = [_record(call) for call in calls if call.is_offered and len(call.results) > 1]
     return TYPES_UNIT.format(edit=EDIT, types="\n".join([lists + arrays, *selectors, *records]))
 
 

@@ -2,7 +2,7 @@
 
 from array_header import columns
 from binding_model import camel
-from pascal_model import EDIT, TYPES, comment, folded, is_offered, pointer
+from pascal_model import EDIT, TYPES, comment, folded, pointer
 
 UNIT = """\
 {edit}
@@ -65,5 +65,5 @@ def _declaration_of_arrays(routine):
 def render(calls):
     routines = "\n".join(_declaration(call.routine) for call in calls if call.routine.export)
     of_arrays = "\n".join(
-        _declaration_of_arrays(call.routine) for call in calls if is_offered(call) and not call.routine.export)
+        _declaration_of_arrays(call.routine) for call in calls if call.is_offered and not call.routine.export)
     return UNIT.format(edit=EDIT, routines=routines, of_arrays=of_arrays)

@@ -1,99 +1,57 @@
 """quorvelunchecked.pas and quorvel.pas: the routines under their readable names, as functions of values, arrays and
 enumerations that return a value or a record."""
 
-import math
-
-from array_header import columns, name_of
-from binding_model import camel
+from binding_model import Passed, camel, fixed
 from pascal_model import (
-    EDIT, TYPES, comment, element, first, fixed, folded, function_name, head, is_list, is_offered, length, literal,
+    EDIT, TYPES, comment, element, first, folded, function_name, head, is_list, length, literal,
     parameter_list, passed_names)
 from plain_text import in_clear_names
 
 UNCHECKED = """\
-{edit}
-
-{{ The routines without any check: the same functions as in unit Quorvel, and for whatever is given the bits that C
+The routines without any check: the same functions as in unit Quorvel, and for whatever is given the bits that C
   gets. Of lists of unequal lengths the shortest counts; arrays of a fixed length must have it. What a routine leaves as
-  it was is not a number (a LongInt: 0), or as it was given. }}
-unit QuorvelUnchecked;
-
-{{$mode objfpc}}{{$R-}}{{$Q-}}{{$T-}}
-
-interface
-
-uses
-  QuorvelTypes;
-
-{heads}
-
-implementation
-
-uses
-  Math, QuorvelByReference, QuorvelFloatingPoint;
-
-{functions}
-end.
-"""
+  it was is not a number (a LongInt: 0), or as it was given."""
 
 CHECKED = """\
-{edit}
-
-{{ Quorvel: building-physics and building-services calculations.
+Quorvel: building-physics and building-services calculations.
 
   What is given must lie in the ranges that are told with each function, and be a number; where it does not,
   EQuorvelError says so. QuorvelUnchecked has the same functions without any check.
 
   Angles are in radians; azimuths run from north, clockwise seen from above (east pi/2, south pi); tilt and solar
   altitude are measured from the horizontal. All functions may be called from any thread, whatever exceptions of
-  floating point are unmasked: they mask them, and leave them as they found them. }}
-unit Quorvel;
+  floating point are unmasked: they mask them, and leave them as they found them."""
 
-{{$mode objfpc}}{{$R-}}{{$Q-}}{{$T-}}
-
-interface
-
-uses
-  QuorvelTypes, QuorvelFaults;
+DECLARED = """\
 
 type
   EQuorvelError = QuorvelFaults.EQuorvelError;
 
 const
-  {{ Stands for a quantity that does not exist, where the documentation of a result says so. }}
+  { Stands for a quantity that does not exist, where the documentation of a result says so. }
   QuorvelNone = 1.0e20;
-
-{heads}
-
-implementation
-
-uses
-  Math, QuorvelUnchecked;
-
-{functions}
-end.
 """
 
+CLIMATE_CHECKS = "Whether what is asked of a climate data file lies in its ranges."
 
-CLIMATE_CHECKS = """\
+UNIT = """\
 {edit}
 
-{{ Whether what is asked of a climate data file lies in its ranges. }}
-unit QuorvelClimateChecks;
+{{ {about} }}
+unit {name};
 
-{{$mode objfpc}}{{$H+}}{{$R-}}{{$T-}}
+{{$mode objfpc}}{directives}
 
 interface
 
 uses
-  QuorvelTypes;
-
+  {uses};
 {heads}
 
 implementation
 
 uses
-  Math, QuorvelFaults;
+  {uses_within};
 
 {procedures}
 end.
@@ -172,23 +130,12 @@ class Unchecked:
         return [f"{_place(self.call, self.call.results[0])} := {invoked}{' <> 0' * logical};"]
 
     def _by_arrays(self):
-        given, returned = columns(self.call.routine)
-        parameters = {parameter.name: parameter for parameter in self.call.parameters}
-        results = {name_of(result.arg): result for result in self.call.results}
-        addresses = []
-        for name, arg in given:
-            if arg.shape:
-                addresses.append(first(camel(name), arg, len(arg.shape) > 1))
-            else:
-                addresses.append(f"Ord({camel(name)})" if parameters[name].selector else camel(name))
-        logical = ""
-        for _, arg in returned:
-            result = results[name_of(arg)]
-            if result.kind == "Logical":
-                logical = f"{_place(self.call, result)} := Truth <> 0;"
-            addresses.append("Truth" if result.kind == "Logical" else self._address(result))
+        addresses = [self._argument(Passed("parameter", each.arg, each)) for each in self.call.parameters]
+        addresses += ["Truth" if each.kind == "Logical" else self._address(each) for each in self.call.results]
         strided = ", ".join(f"{address}, 0" for address in addresses)
-        return [f"quorvel_{self.call.name}(1, {strided});", *([logical] if logical else [])]
+        yield f"quorvel_{self.call.name}(1, {strided});"
+        yield from (
+            f"{_place(self.call, each)} := Truth <> 0;" for each in self.call.results if each.kind == "Logical")
 
     def text(self):
         variables = "\n".join(f"  {line}" for line in self._variables())
@@ -206,15 +153,14 @@ class Checked:
         self.name = function_name(call)
 
     def about(self):
-        routine = self.call.routine
-        formula = [f"Formula: {routine.formula}"] if routine.formula else []
         parameters = [f"{camel(each.name)}: {each.sentence}" for each in self.call.parameters]
         if len(self.call.results) == 1:
             results = [f"Result: {self.call.results[0].sentence}"]
         else:
             results = [f"Result.{camel(each.clear_name)}: {each.sentence}" for each in self.call.results]
-        source = [f"Source: {routine.source}"] + [f"({routine.export} of QuorvelByReference)"] * bool(routine.export)
-        texts = [routine.summary, *parameters, *results, *formula, *routine.notes, *source]
+        routine = self.call.routine
+        same = [f"({routine.export} of QuorvelByReference)"] * bool(routine.export)
+        texts = [routine.summary, *parameters, *results, *self.call.remarks, *same]
         return comment([in_clear_names(text, self.names) for text in texts])
 
     def _check(self, parameter, procedure, *more):
@@ -233,23 +179,15 @@ class Checked:
                 counted = count.lists[0]
                 yield self._check(counted, "ExpectCount", length(counted), str(count.low), str(count.high))
 
-    def _valid(self, parameter):
-        arg = parameter.arg
-        if arg.values:
-            return "valid " + ", ".join(f"{number} ({camel(name)})" for name, (number, _) in arg.values.items())
-        if not parameter.limits_in_words:
-            return "valid is any number"
-        return f"valid {parameter.limits_in_words}" + f" {arg.unit}" * (arg.unit not in ("", "1"))
-
     def _values(self):
         for parameter in self.call.parameters:
             arg, name = parameter.arg, camel(parameter.name)
-            if arg.type == "Text" or (arg.type == "Integer" and not parameter.limits):
+            if arg.type == "Text" or (arg.type == "Integer" and not parameter.is_limited):
                 continue
-            low, high = parameter.limits or (-math.inf, math.inf)
+            low, high = parameter.limits
             if arg.type == "Integer":
                 low, high = max(low, -2**31), min(high, 2**31 - 1)
-            limits = [literal(low), literal(high), f"'{self._valid(parameter)}'"]
+            limits = [literal(low), literal(high), f"'{parameter.valid(camel)}'"]
             if not arg.shape:
                 value = f"Ord({name})" if parameter.selector else name
                 yield self._check(parameter, f"Expect{TYPES[arg.type]}", value, *limits)
@@ -276,19 +214,26 @@ class Checked:
 
 
 def unchecked(calls):
-    offered = [call for call in calls if is_offered(call)]
-    return UNCHECKED.format(edit=EDIT, heads="\n".join(map(head, offered)),
-                            functions="\n".join(Unchecked(call).text() for call in offered))
+    offered = [call for call in calls if call.is_offered]
+    return UNIT.format(
+        edit=EDIT, about=UNCHECKED, name="QuorvelUnchecked", directives="{$R-}{$Q-}{$T-}", uses="QuorvelTypes",
+        heads="\n" + "\n".join(map(head, offered)), uses_within="Math, QuorvelByReference, QuorvelFloatingPoint",
+        procedures="\n".join(Unchecked(call).text() for call in offered))
 
 
 def checked(calls):
     names = {call.routine.export: function_name(call) for call in calls if call.routine.export}
-    functions = [Checked(call, names) for call in calls if is_offered(call)]
-    heads = "\n\n".join(f"{each.about()}\n{head(each.call)}" for each in functions)
-    return CHECKED.format(edit=EDIT, heads=heads, functions="\n".join(each.text() for each in functions))
+    functions = [Checked(call, names) for call in calls if call.is_offered]
+    heads = [DECLARED, *(f"{each.about()}\n{head(each.call)}\n" for each in functions)]
+    return UNIT.format(
+        edit=EDIT, about=CHECKED, name="Quorvel", directives="{$R-}{$Q-}{$T-}", uses="QuorvelTypes, QuorvelFaults",
+        heads="\n".join(heads).rstrip("\n"), uses_within="Math, QuorvelUnchecked",
+        procedures="\n".join(each.text() for each in functions))
 
 
 def climate_checks(calls):
     checks = [Checked(call, {}) for call in calls if call.routine.state]
-    return CLIMATE_CHECKS.format(edit=EDIT, heads="\n".join(each.check_head() for each in checks),
-                                 procedures="\n".join(each.check() for each in checks))
+    return UNIT.format(
+        edit=EDIT, about=CLIMATE_CHECKS, name="QuorvelClimateChecks", directives="{$H+}{$R-}{$T-}", uses="QuorvelTypes",
+        heads="\n" + "\n".join(each.check_head() for each in checks), uses_within="Math, QuorvelFaults",
+        procedures="\n".join(each.check() for each in checks))

@@ -1,11 +1,9 @@
 """How Pascal says a routine: names, types, and what stands in a call by reference."""
 
 import math
-import textwrap
 
-from array_kernels import has_kernel
 from binding_model import camel
-from plain_text import plain, wrapped
+from plain_text import statement_lines, wrapped
 
 WIDTH = 120
 TYPES = {"Real": "Single", "DoubleReal": "Double", "Integer": "LongInt", "Logical": "Boolean"}
@@ -13,14 +11,6 @@ EDIT = "{ Produced from the catalogue of routines (catalogue/); do not edit. }"
 
 # Functions of Pascal's own, which a unit's name would hide, by what they are called here.
 _STANDARD = {"length": "VectorLength"}
-
-# Polygons are clipped by a function that is written by hand: quorvelpolygons.pas.
-_BY_HAND = {"clip"}
-
-
-def is_offered(call):
-    """Not those of the climate data file, for which there is a class: quorvelclimatefile.pas."""
-    return has_kernel(call.routine) and call.name not in _BY_HAND
 
 
 def function_name(call):
@@ -30,13 +20,7 @@ def function_name(call):
 def folded(statement, indent=0):
     """A statement on as many lines as it needs; it may be broken at blanks outside of texts."""
     pad = " " * indent
-    kept, inside = "", False
-    for character in plain(statement):
-        inside ^= character == "'"
-        kept += "\0" if inside and character == " " else character
-    lines = textwrap.wrap(kept, WIDTH, initial_indent=pad, subsequent_indent=pad + "  ",
-                          break_long_words=False, break_on_hyphens=False)
-    return "\n".join(lines).replace("\0", " ")
+    return "\n".join(statement_lines(statement, WIDTH, pad, pad + "  "))
 
 
 def comment(paragraphs):
@@ -47,11 +31,6 @@ def comment(paragraphs):
 
 def is_list(arg):
     return any(not isinstance(extent, int) for extent in arg.shape)
-
-
-def fixed(arg):
-    """How many numbers there are of what is counted."""
-    return math.prod(extent for extent in arg.shape if isinstance(extent, int))
 
 
 def element(arg):

@@ -1,14 +1,11 @@
-"""Tests of the Pascal units: bits.pas holds them to calls of the corpus, examples.pas to the catalogue's examples;
-corpus.txt says how many bytes of the corpus bits.pas reads of each routine."""
+"""Tests of the Pascal units: bits.pas holds them to calls of the corpus, examples.pas to the catalogue's examples."""
 
 import math
 
 import binding_model
 import corpus_layout
-from binding_model import camel
-from pascal_model import TYPES, element, fixed, folded, function_name, function_type, is_list, is_offered, pointer
-
-CASES = 2000
+from binding_model import camel, fixed
+from pascal_model import TYPES, element, folded, function_name, function_type, is_list, pointer
 
 PROGRAM = """\
 program {name};
@@ -20,7 +17,7 @@ uses
 
 {procedures}
 begin
-{calls}  Finish;
+{calls}  Finish({least});
 end.
 """
 
@@ -51,9 +48,13 @@ def _count(arg):
 class Bits(corpus_layout.Layout):
     """Reads the cases of a routine, calls it by reference, then its function where the counts are in order."""
 
+    def __init__(self, call):
+        super().__init__(call.routine)
+        self.call = call
+
     def _type(self, arg):
         if arg.type == "Text":
-            return f"array[0..{self.room(arg)[0] - 1}] of AnsiChar"
+            return "array[0..63] of AnsiChar"
         if not is_list(arg):
             return element(arg)
         return f"array[0..{self.room(arg)[-1] - 1}] of {element(arg)}"
@@ -66,16 +67,14 @@ class Bits(corpus_layout.Layout):
             yield f"  Got{camel(arg.name)}, Left{camel(arg.name)}: {self._type(arg)};"
         if self.routine.result:
             yield f"  GotResult, LeftResult: {TYPES[self.routine.result.type]};"
-        if is_offered(self.call):
+        if self.call.is_offered:
             yield f"  Own: {function_type(self.call)};"
 
     def _read(self):
         for arg in self.given:
             yield f"Take({camel(arg.name)}, SizeOf({camel(arg.name)}));"
-        if self.routine.result:
-            yield "Take(LeftResult, SizeOf(LeftResult));"
-        for arg in self.changed:
-            yield f"Take(Left{camel(arg.name)}, SizeOf(Left{camel(arg.name)}));"
+        for name in self.left:
+            yield f"Take(Left{camel(name)}, SizeOf(Left{camel(name)}));"
 
     def _call(self):
         for arg in self.changed:
@@ -86,8 +85,8 @@ class Bits(corpus_layout.Layout):
         yield "State := MaskExceptions;"
         yield f"{'GotResult := ' * bool(self.routine.result)}{call};"
         yield "RestoreExceptions(State);"
-        results = [("Result", self.routine.result)] if self.routine.result else []
-        for name, arg in results + [(camel(arg.name), arg) for arg in self.changed]:
+        for name, arg in self.left.items():
+            name = camel(name)
             yield (f"Expect(Same{TYPES[arg.type]}s(@Got{name}, @Left{name}, "
                    f"SizeOf(Left{name}) div SizeOf({TYPES[arg.type]}), False), '{self.routine.export}');")
 
@@ -113,12 +112,12 @@ class Bits(corpus_layout.Layout):
 
     def text(self):
         case = [*self._read(), *self._call()]
-        if is_offered(self.call):
+        if self.call.is_offered:
             order = " and ".join(
                 f"({camel(name)} >= {low}) and ({camel(name)} <= {high})" for name, low, high in self.orders())
             lines = list(self._function())
-            case += [f"if {order} then", "begin", *(f"  {line}" for line in lines), "end;"] if order else lines
-        statements = [f"OpenCorpus('{self.routine.export}');", *["OpenExample;"] * bool(self.routine.state)]
+            case += [f"if InOrder({order}) then", "begin", *(f"  {line}" for line in lines), "end;"] if order else lines
+        statements = [f"OpenCorpus('{self.routine.export}', {corpus_layout.CASES});", *["OpenExample;"] * bool(self.routine.state)]
         statements += ["while MoreCases do", "begin", *(f"  {line}" for line in case), "end;"]
         declarations = [*self._declarations(), "  State: TFloatingPointState;"]
         return _procedure(f"BitsOf{self.routine.export}", declarations, statements)
@@ -140,17 +139,12 @@ def _nested(arg, numbers):
     return f"({', '.join(rows)})"
 
 
-def _is_valid(parameter, value):
-    low, high = parameter.limits or (-math.inf, math.inf)
-    return parameter.kind == "Text" or all(low <= number <= high for number in _all(value))
-
-
 class Example:
     """A call of the function, of the unchecked one where the example leaves a range; or by reference, without one."""
 
     def __init__(self, call, example, number):
         self.call, self.example, self.name = call, example, f"{camel(call.name)}{number}"
-        self.is_valid = all(_is_valid(parameter, example.given[parameter.name]) for parameter in call.parameters)
+        self.is_valid = call.allows(example)
 
     def _variable(self, arg, value):
         """With what is given in it."""
@@ -181,7 +175,7 @@ class Example:
         numbers = ", ".join(repr(float(number)) for number in _all(self.example.gives[name]))
         within = repr(float(self.example.within[name]))
         at = f"Pointer({place})" if is_dynamic else f"@{place}"
-        yield f"ExpectNear{TYPES[arg.type]}s('{self.call.name}: {name}', {at}, [{numbers}], {within});"
+        yield f"specialize ExpectNear<{TYPES[arg.type]}>('{self.call.name}: {name}', {at}, [{numbers}], {within});"
 
     def _function(self):
         call = self.call
@@ -199,7 +193,7 @@ class Example:
 
     def text(self):
         call, given = self.call, self.example.given
-        if is_offered(call):
+        if call.is_offered:
             tables = filter(self._is_constant, call.parameters)
             constants = [self._variable(each.arg, given[each.name]) for each in tables]
             declarations = [*["const"] * bool(constants), *constants, "var", f"  Own: {function_type(call)};"]
@@ -215,23 +209,22 @@ class Example:
         return math.prod(extent if isinstance(extent, int) else self.example.given[extent] for extent in arg.shape)
 
 
-def _program(name, units, calls, procedures):
+def _program(name, units, calls, procedures, least):
     return PROGRAM.format(name=name, units=", ".join(units), calls="".join(f"  {call};\n" for call in calls),
-                          procedures="\n".join(procedures))
+                          procedures="\n".join(procedures), least=least)
 
 
 def files(families):
     calls = binding_model.calls(families)
     bits = [Bits(call) for call in calls if call.routine.export]
-    examples = [
-        Example(call, example, number)
-        for call in calls for number, example in enumerate(call.routine.examples, 1)]
+    examples = [Example(*each) for each in binding_model.examples(families)]
     return {
-        "corpus.txt": corpus_layout.sizes(calls, CASES),
         "bits.pas": _program(
             "bits", ["QuorvelTypes", "QuorvelByReference", "QuorvelUnchecked", "QuorvelFloatingPoint", "Testing"],
-            [f"BitsOf{each.routine.export}" for each in bits], [each.text() for each in bits]),
+            [f"BitsOf{each.routine.export}" for each in bits], [each.text() for each in bits],
+            len(bits) * corpus_layout.CASES),
         "examples.pas": _program(
             "examples", ["QuorvelTypes", "QuorvelByReference", "QuorvelUnchecked", "Quorvel", "Testing"],
-            [each.name for each in examples], [each.text() for each in examples]),
+            [each.name for each in examples], [each.text() for each in examples],
+            len(examples)),
     }

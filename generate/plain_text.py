@@ -18,6 +18,12 @@ def wrapped(text, width, first, rest=None):
                          break_long_words=False, break_on_hyphens=False)
 
 
+def statement_lines(statement, width, first, rest):
+    """The same of a statement, which is broken at blanks outside of its texts in single quotes."""
+    kept = re.sub(r"'[^']*'", lambda text: text[0].replace(" ", "\0"), statement)
+    return [line.replace("\0", " ") for line in wrapped(kept, width, first, rest)]
+
+
 def in_clear_names(text, names):
     """A text with clear names in place of exported ones, as `names` has them."""
     return re.sub(r"\b[A-Z][A-Z0-9]{3,8}\b", lambda found: names.get(found[0], found[0]), text)

@@ -19,7 +19,7 @@ def _axis(extent):
 
 
 def _operand(operand):
-    low, high = operand.interval or (-math.inf, math.inf)
+    low, high = operand.of.limits
     axes = ", ".join(map(_axis, operand.axes))
     return f'{{"{operand.name}", Kind::{operand.kind}, {_number(low)}, {_number(high)}, {len(operand.axes)}, {{{axes}}}}}'
 

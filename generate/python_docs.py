@@ -1,14 +1,12 @@
 """Docstrings of the Python package, in NumPy's form."""
 
-import math
-import re
 import textwrap
 from dataclasses import replace
 
 from array_header import name_of
 from cpp_types import bounds, counts
-from header import number
-from python_model import class_name, given_counts, operands, selector, signature
+from plain_text import in_clear_names
+from python_model import class_name, given_counts, operands, signature
 
 WIDTH = 100
 
@@ -17,11 +15,9 @@ TYPES = {"Real": "float32", "DoubleReal": "float64", "Integer": "int32", "Logica
 
 def in_python(routine, names):
     """Its texts, with the functions of the package in place of exported names."""
-    def renamed(text):
-        return re.sub(r"\b[A-Z][A-Z0-9]{3,8}\b", lambda found: f"`{names[found[0]]}`" if found[0] in names else found[0], text)
-
-    return replace(routine, summary=renamed(routine.summary), formula=renamed(routine.formula),
-                   notes=tuple(map(renamed, routine.notes)), source=renamed(routine.source))
+    quoted = {exported: f"`{name}`" for exported, name in names.items()}
+    texts = {key: in_clear_names(getattr(routine, key), quoted) for key in ("summary", "formula", "source")}
+    return replace(routine, notes=tuple(in_clear_names(note, quoted) for note in routine.notes), **texts)
 
 
 def wrapped(text, indent=""):
@@ -29,43 +25,25 @@ def wrapped(text, indent=""):
                          break_long_words=False, break_on_hyphens=False)
 
 
-def valid(operand):
-    """The valid range in words; empty without one."""
-    low, high = operand.interval or (-math.inf, math.inf)
-    if math.isinf(low):
-        return "" if math.isinf(high) else f"to {number(high)}"
-    return f"from {number(low)}" if math.isinf(high) else f"{number(low)} to {number(high)}"
-
-
 def _shape(operand):
     return f", shape (..., {', '.join(map(str, operand.axes))})" if operand.axes else ""
 
 
 def _type(operand):
-    if kind := selector(operand.arg):
-        return f"{kind} or array_like of int"
+    if operand.of.selector:
+        return f"{operand.of.selector} or array_like of int"
     return f"array_like of {'int' if operand.kind == 'Integer' else 'float'}"
 
 
-def _sentence(operand, returned):
-    arg = operand.arg
-    text = arg.meaning
-    if arg.values:
-        text += ": " + ", ".join(f"{value} {what}" for value, what in arg.values.values())
-    text += f" [{arg.unit}]" if arg.unit not in ("", "1") else ""
-    if returned:
-        text += "; 1e20 where there is none" * arg.none
-        if unwritten := getattr(arg, "unwritten", ""):
-            text += f"; {'as given' if arg.dir == 'inout' else 'not a number'} {unwritten}"
-    elif not arg.values and valid(operand):
-        text += f"; valid {valid(operand)}"
+def _sentence(operand):
+    text = operand.of.sentence
     return text[0].upper() + text[1:] + "."
 
 
 def _parameters(routine, inputs, several):
     for operand in inputs:
         yield f"{operand.field} : {_type(operand)}{_shape(operand)}"
-        yield from wrapped(_sentence(operand, returned=False), "    ")
+        yield from wrapped(_sentence(operand), "    ")
     yield "out : tuple of ndarray, optional" if several else "out : ndarray, optional"
     yield from wrapped("Where to put the results, as for any NumPy ufunc.", "    ")
     if not signature(routine):
@@ -79,9 +57,8 @@ def _returns(routine, outputs):
         yield "    A named tuple of:"
         yield ""
     for operand in outputs:
-        name = operand.field if operand.field != "result" else operand.arg.quantity
-        yield f"{name} : {TYPES[operand.kind]}{_shape(operand)}"
-        yield from wrapped(_sentence(operand, returned=True), "    ")
+        yield f"{operand.of.clear_name} : {TYPES[operand.kind]}{_shape(operand)}"
+        yield from wrapped(_sentence(operand), "    ")
 
 
 def _raises(routine):
@@ -111,7 +88,7 @@ def _literal(operand, value):
     if operand.arg.values and not operand.axes:
         name = next((name for name, (number, _) in operand.arg.values.items() if number == value), None)
         if name:
-            return f"{selector(operand.arg)}.{name}"
+            return f"{operand.of.selector}.{name}"
     if not operand.axes:
         return repr(value)
     rows = value
@@ -147,7 +124,7 @@ def example_lines(routine, family):
     if not example:
         return
     inputs, outputs = operands(routine)
-    names = sorted({routine.name} | {selector(o.arg) for o in inputs if o.arg.values and not o.axes})
+    names = sorted({routine.name} | {o.of.selector for o in inputs if o.of.selector and not o.axes})
     yield f">>> from quorvel.{family} import {', '.join(names)}"
     yield from _folded(f"result = {call(routine, example)}")
     for operand in outputs:

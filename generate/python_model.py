@@ -6,8 +6,8 @@ counts has then room for the most, and is not a number beyond the count.
 
 from dataclasses import dataclass
 
-from array_header import columns
 from array_kernels import has_kernel
+from binding_model import Parameter, Result, parameters, results
 from cpp_types import bounds, camel, taken_from_lists
 
 # Functions of polygons are written by hand: quorvel/geometry/polygon.py. Of two routines there is the ufunc beside.
@@ -17,22 +17,26 @@ WITHOUT_UFUNC = {"clip"}
 
 @dataclass(frozen=True)
 class Operand:
-    name: str   # in the arrays
-    field: str  # in Python: of the parameter, or of the result
-    arg: object
+    of: Parameter | Result
     axes: tuple  # the core dimensions, numbers or names of counts; the last one varies fastest
 
     @property
-    def kind(self):
-        return "Logical" if getattr(self.arg, "logical", False) else self.arg.type
+    def field(self):
+        """Its name in Python."""
+        return self.of.name
 
     @property
-    def interval(self):
-        """The valid values; none where any is."""
-        if self.arg.values:
-            numbers = [number for number, _ in self.arg.values.values()]
-            return min(numbers), max(numbers)
-        return tuple(self.arg.range)
+    def name(self):
+        """In the arrays."""
+        return self.of.name_in_arrays
+
+    @property
+    def arg(self):
+        return self.of.arg
+
+    @property
+    def kind(self):
+        return self.of.kind
 
 
 def is_offered(routine):
@@ -59,10 +63,9 @@ def _axes(arg, given):
 
 def operands(routine):
     """The inputs and the outputs."""
-    told, given = taken_from_lists(routine), given_counts(routine)
-    taken, returned = columns(routine)
-    inputs = [Operand(name, name, arg, _axes(arg, given)) for name, arg in taken if name not in told]
-    return inputs, [Operand(name, name.removeprefix("new_"), arg, _axes(arg, given)) for name, arg in returned]
+    given = given_counts(routine)
+    return tuple([Operand(each, _axes(each.arg, given)) for each in side] for side in (
+        parameters(routine), results(routine)))
 
 
 def signature(routine):
@@ -77,8 +80,3 @@ def signature(routine):
 def class_name(routine):
     """Of the named tuple that a routine with several outputs returns."""
     return camel(routine.name)
-
-
-def selector(arg):
-    """The enumeration of an argument; empty for others."""
-    return camel(arg.quantity) if arg.values else ""

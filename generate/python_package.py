@@ -4,7 +4,7 @@ all of them, and what is known of each routine at run time."""
 import textwrap
 
 from python_docs import TYPES, docstring, wrapped
-from python_model import class_name, is_documented, is_offered, operands, selector, signature
+from python_model import class_name, is_documented, is_offered, operands, signature
 
 EDIT = "# Produced from the catalogue of routines (catalogue/); do not edit."
 
@@ -18,7 +18,7 @@ def _kept(family):
 
 
 def _selectors_of(routines):
-    return sorted({selector(o.arg) for r in routines for side in operands(r) for o in side if o.arg.values})
+    return sorted({o.of.selector for r in routines for side in operands(r) for o in side if o.of.selector})
 
 
 def _parameters(routine):
@@ -29,8 +29,7 @@ def _parameters(routine):
 
 def _fields(routine):
     for operand in operands(routine)[1]:
-        unit = f" [{operand.arg.unit}]" if operand.arg.unit not in ("", "1") else ""
-        yield operand.field, operand.arg.meaning + unit
+        yield operand.field, operand.of.meaning
 
 
 def _class(routine):
@@ -121,7 +120,7 @@ def _selectors(families):
     found = {}
     for family in families:
         for routine in _kept(family):
-            found |= {selector(o.arg): o.arg for side in operands(routine) for o in side if o.arg.values}
+            found |= {o.of.selector: o.arg for side in operands(routine) for o in side if o.of.selector}
     text = f'"""What the selectors stand for."""\n\n{EDIT}\n\nfrom enum import IntEnum\n'
     for name, arg in found.items():
         values = "".join(
@@ -133,9 +132,9 @@ def _selectors(families):
 
 def _argument(operand):
     arg = operand.arg
-    interval = tuple(operand.interval)
-    name = arg.quantity if operand.field == "result" else operand.field
-    text = ", ".join(map(repr, (name, TYPES[operand.kind], arg.unit, arg.meaning, interval, selector(arg), operand.axes)))
+    interval = operand.of.limits if operand.of.is_limited else ()
+    text = ", ".join(map(repr, (
+        operand.of.clear_name, TYPES[operand.kind], arg.unit, arg.meaning, interval, operand.of.selector, operand.axes)))
     return f"A({text.replace('inf', 'INF')})" if "inf" in repr(interval) else f"A({text})"
 
 

@@ -15,7 +15,6 @@ HAND = Path(__file__).parents[1] / "bindings/vba/by_hand.bas"
 MARK = "\n' ---- Procedures\n"
 TYPES = {"Real": "Single", "DoubleReal": "Double", "Integer": "Long", "Text": "Byte"}
 LIMITS = {"Real": "largest", "DoubleReal": "1E+300", "Integer": "2147483647"}
-BY_HAND = {"clip"}
 LOCALS = {"fault", "held", "spread", "rowcount", "columncount", "rowat", "columnat"}  # of each function
 
 HEAD = """\
@@ -98,8 +97,7 @@ def _literal(value, kind):
 
 
 def _limits(parameter):
-    low, high = parameter.limits or (-math.inf, math.inf)
-    return f"{_literal(low, parameter.kind)}, {_literal(high, parameter.kind)}"
+    return ", ".join(_literal(limit, parameter.kind) for limit in parameter.limits)
 
 
 def _columns(thing):
@@ -222,16 +220,15 @@ def _comment(call, names):
     def told(text, first, rest):
         return wrapped(in_clear_names(text, names), WIDTH, first, rest)
 
-    routine = call.routine
-    yield from told(routine.summary, "' ", "' ")
+    yield from told(call.routine.summary, "' ", "' ")
     for parameter in call.parameters:
         yield from told(f"{lower_camel(parameter.name)}: {parameter.sentence}", "'   ", "'     ")
     several = len(call.results) > 1
     for result in call.results:
         lead = f"{lower_camel(result.clear_name)}: " if several else ""
         yield from told(f"-> {lead}{result.sentence}".replace("not a number ", "#N/A "), "'   ", "'     ")
-    for note in [*([f"Formula: {routine.formula}"] if routine.formula else []), *routine.notes, f"Source: {routine.source}"]:
-        yield from told(note, "'   ", "'   ")
+    for remark in call.remarks:
+        yield from told(remark, "'   ", "'   ")
 
 
 def _spread(call):
@@ -284,7 +281,7 @@ def render(families):
     lines = [*(line for call in found for line in _declarations(call)), *_enumerations(families), ""]
     lines += [declarations, procedures]
     for call in found:
-        if call.name not in BY_HAND:
+        if not call.is_by_hand:
             lines += [*_function(call, names), ""]
     loader = 'Private Declare PtrSafe Function LoadLibraryW Lib "kernel32" (ByVal path As LongPtr) As LongPtr\n'
     return plain(HEAD + loader + "\n".join(lines).rstrip("\n") + "\n").replace("\n", "\r\n")  # else Excel imports no module

@@ -5,7 +5,7 @@ set -eu
 cd "$(dirname "$0")/.."
 mkdir -p "$1"
 out=$(cd "$1" && pwd)
-version=$(sed -n 's/^project(quorvel VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+version=$(packaging/version)
 source=$out/quorvel-$version
 rm -rf "$source"
 mkdir "$source"

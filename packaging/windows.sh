@@ -6,7 +6,7 @@ set -eu
 cd "$(dirname "$0")/.."
 build=$(cd "$1" && pwd)
 out=$(cd "$2" && pwd)
-version=$(sed -n 's/^project(quorvel VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+version=$(packaging/version)
 name=quorvel-$version-windows-x64
 
 rm -rf "$out/$name" "$out/$name.zip"

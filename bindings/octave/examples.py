@@ -26,16 +26,25 @@ def script(call, example):
                    f"{str(result.kind == 'Logical').lower()});")
 
 
-def main():
-    print("""1;
+COMPARE = """\
+1;
+global compared = 0;
 function compare(name, got, want, within, logical)
+  global compared;
+  compared += 1;
   if (logical), got = (got != 0); want = (want != 0); end
   if (! all(abs(got(:) - want(:)) <= within)), error("%s: %s", name, num2str(got(:)', 9)); end
-end""")
-    calls = [call for call in binding_model.calls(catalogue.load(ROOT / "catalogue")) if not call.routine.state]
-    examples = [line for call in calls for example in call.routine.examples for line in script(call, example)]
-    print("\n".join(examples))
-    print(f'printf("%d examples\\n", {sum(line.startswith("[") for line in examples)})')
+end"""
+
+
+def main():
+    examples = [(call, example) for call, example, _ in binding_model.examples(catalogue.load(ROOT / "catalogue"))
+                if not call.routine.state]
+    print(COMPARE)
+    for call, example in examples:
+        print("\n".join(script(call, example)))
+    print(f"assert(compared, {sum(len(example.gives) for _, example in examples)});")
+    print(f'printf("%d examples\\n", {len(examples)})')
 
 
 main()

@@ -6,34 +6,27 @@ import subprocess
 import numpy as np
 import pytest
 from conftest import ROUTINES
+from corpus_layout import Layout
 from python_model import operands
 from quorvel import ufuncs
 
 CASES = 100000
 UNTOUCHED = 0xC5C5C5C5
-WORDS = {"Real": 1, "Integer": 1, "DoubleReal": 2}
 DTYPES = {"Real": "<f4", "Integer": "<i4", "DoubleReal": "<f8"}
-
-
-def extents(arg, routine):
-    """Of the room that the corpus has: as many as it draws at most, and two."""
-    highest = {each.name: int(each.draw[1]) + 2 for each in routine.args if each.draw}
-    return [extent if isinstance(extent, int) else highest[extent] for extent in reversed(arg.shape)]
 
 
 class Cases:
     """Arguments before the calls, and what these left, by name: arrays of (cases, room)."""
 
-    def __init__(self, words, routine):
+    def __init__(self, words, layout):
         self.words, self.place = words.reshape(CASES, -1), 0
-        self.given = {arg.name: self._take(arg, routine) for arg in routine.args if arg.dir != "out"}
-        self.left = {"result": self._take(routine.result, routine)} if routine.result else {}
-        self.left |= {arg.name: self._take(arg, routine) for arg in routine.args if arg.dir != "in"}
+        self.given = {arg.name: self._take(arg, layout) for arg in layout.given}
+        self.left = {name: self._take(arg, layout) for name, arg in layout.left.items()}
         assert self.place == self.words.shape[1]
 
-    def _take(self, arg, routine):
-        shape = extents(arg, routine)
-        count = WORDS[arg.type] * int(np.prod(shape))
+    def _take(self, arg, layout):
+        shape = layout.room(arg)[::-1]
+        count = np.dtype(DTYPES[arg.type]).itemsize // 4 * int(np.prod(shape))
         block = np.ascontiguousarray(self.words[:, self.place:self.place + count])
         self.place += count
         return block.view(DTYPES[arg.type]).reshape(CASES, *shape)
@@ -45,17 +38,16 @@ def counted(array, arg, counts):
     return array[(slice(None), *(slice(extent) for extent in room))]
 
 
-def groups(routine, cases):
+def groups(layout, cases):
     """Cases with the same counts, as far as counts are valid and fit the room."""
-    names = sorted({extent for arg in routine.args for extent in arg.shape if not isinstance(extent, int)})
-    described = {arg.name: arg for arg in routine.args}
-    if not names:
+    orders = layout.orders()
+    if not orders:
         yield {}, slice(None)
         return
+    names = [name for name, _, _ in orders]
     counts = np.stack([cases.given[name] for name in names], axis=1)
     for row in np.unique(counts, axis=0):
-        low_high = [(max(arg.range[0], 0), min(arg.range[1], arg.draw[1] + 2)) for arg in map(described.get, names)]
-        if all(low <= count <= high for count, (low, high) in zip(row, low_high)):
+        if all(low <= count <= high for count, (_, low, high) in zip(row, orders)):
             yield dict(zip(names, map(int, row))), (counts == row).all(axis=1)
 
 
@@ -82,10 +74,11 @@ def test_bits_of_the_corpus(name, build, tmp_path):
     if not routine.export:
         pytest.skip("has no form by reference")
     done = subprocess.run([build / "quorvel_corpus", "--words", routine.export], capture_output=True, check=True, cwd=tmp_path)
-    cases = Cases(np.frombuffer(done.stdout, "<u4"), routine)
+    layout = Layout(routine)
+    cases = Cases(np.frombuffer(done.stdout, "<u4"), layout)
     inputs, outputs = operands(routine)
     compared = 0
-    for counts, chosen in groups(routine, cases):
+    for counts, chosen in groups(layout, cases):
         given = [counted(cases.given[o.arg.name][chosen], o.arg, counts) for o in inputs]
         results = getattr(ufuncs, name)(*given)
         for operand, got in zip(outputs, results if isinstance(results, tuple) else [results]):

@@ -1,9 +1,9 @@
 """The functions of the cells, without the office: the corpus of calls to the bit, and what Python they need."""
 
 import ast
+import math
 import os
 import struct
-import subprocess
 import unittest
 from math import copysign, isnan
 from pathlib import Path
@@ -11,48 +11,30 @@ from pathlib import Path
 import calc_binding
 import catalogue
 import quorvel_calc
+from corpus_layout import CASES, Layout
+from quorvel_calc import library
 from quorvel_calc.evaluation import Evaluation
 
-BUILD, OUT = Path(os.environ["QUORVEL_BUILD"]), Path(os.environ["QUORVEL_OUT"])
+OUT = Path(os.environ["QUORVEL_OUT"])
 FAMILIES = catalogue.load(Path(calc_binding.__file__).parents[1] / "catalogue")
 CALLS = [call for call in calc_binding.calls(FAMILIES) if call.routine.export and not calc_binding.needs_file(call)]
-CASES = 2000
 CODES = {"Real": "f", "DoubleReal": "d", "Integer": "i"}
 UNTOUCHED = {code: struct.unpack(f"<{code}", b"\xC5" * struct.calcsize(code))[0] for code in CODES.values()}
-
-
-def room(arg, highest):
-    """Of an array in the corpus: as many as it draws at most, and two."""
-    count = 1
-    for extent in arg.shape:
-        count *= extent if isinstance(extent, int) else highest[extent]
-    return count
 
 
 class Corpus:
     """Arguments before the calls, and what these left, by name: a list of numbers for each case."""
 
     def __init__(self, call):
-        routine = call.routine
-        highest = {arg.name: int(arg.draw[1]) + 2 for arg in routine.args if arg.draw}
-        given = [arg for arg in routine.args if arg.dir != "out"]
-        left = [arg for arg in routine.args if arg.dir != "in"]
-        fields = [*given, *([routine.result] if routine.result else []), *left]
-        sizes = [room(arg, highest) for arg in fields]
+        layout = Layout(call.routine)
+        fields = [*layout.given, *layout.left.values()]
+        sizes = [math.prod(layout.room(arg)) for arg in fields]
         form = "<" + "".join(f"{size}{CODES[arg.type]}" for arg, size in zip(fields, sizes))
-        self.cases = [self._split(row, sizes) for row in struct.iter_unpack(form, self._words(call, struct.calcsize(form)))]
-        self.given = {arg.name: index for index, arg in enumerate(given)}
-        self.left = {getattr(arg, "name", "result"): index for index, arg in enumerate(fields) if index >= len(given)}
-        counts = {extent for arg in routine.args for extent in arg.shape if not isinstance(extent, int)}
-        self.limits = [(arg.name, max(arg.range[0], 0), min(arg.range[1], highest[arg.name]))
-                       for arg in routine.args if arg.name in counts]
-
-    @staticmethod
-    def _words(call, size):
-        with subprocess.Popen([BUILD / "quorvel_corpus", "--words", call.routine.export], stdout=subprocess.PIPE, cwd=OUT) as corpus:
-            words = corpus.stdout.read(size * CASES)
-            corpus.terminate()
-        return words
+        words = (OUT / "corpus" / call.routine.export).read_bytes()
+        self.cases = [self._split(row, sizes) for row in struct.iter_unpack(form, words)]
+        self.given = {arg.name: index for index, arg in enumerate(layout.given)}
+        self.left = {name: index for index, name in enumerate(layout.left, len(layout.given))}
+        self.limits = layout.orders()
 
     @staticmethod
     def _split(row, sizes):
@@ -69,7 +51,7 @@ class Corpus:
 
 
 def part(numbers, arg, counts):
-    return numbers[:room(arg, counts)]
+    return numbers[:math.prod(counts.get(extent, extent) for extent in arg.shape)]
 
 
 def cells(numbers, parameter):
@@ -87,13 +69,21 @@ def same(got, left, result):
 
 
 class Bits(unittest.TestCase):
+    def test_every_function_is_there(self):
+        exported = {name for name, routine in quorvel_calc.ROUTINES.items()
+                    if not routine.of_file and library.description(name)[0].contents.exported_name}
+        self.assertEqual({call.name for call in CALLS}, exported)
+        self.assertGreater(len(exported), 100)
+
     def test_corpus(self):
         for call in CALLS:
             with self.subTest(call.name):
                 routine, corpus = quorvel_calc.ROUTINES[call.name], Corpus(call)
-                compare = self.columns if all(each.is_line for each in routine.results) and not corpus.limits and not any(
-                    len(each.shape) > 1 for each in routine.parameters) else self.single_calls
-                self.assertGreaterEqual(compare(call, routine, corpus), CASES // 2)
+                self.assertEqual(len(corpus.cases), CASES)
+                together = all(each.is_line for each in routine.results) and not corpus.limits and not any(
+                    len(each.shape) > 1 for each in routine.parameters)
+                compared = (self.columns if together else self.single_calls)(call, routine, corpus)
+                self.assertGreaterEqual(compared, CASES // 2)
 
     def columns(self, call, routine, corpus):
         """All calls as one, with an argument in each column or, of coordinates, few columns."""

@@ -9,9 +9,11 @@ using Quorvel;
 /// </summary>
 internal sealed class Corpus
 {
-    internal const int Cases = 2000;
+    private const int Cases = CorpusCalls.Cases;
     private const uint Untouched = 0xC5C5C5C5;
     private const int TextWords = 16;
+
+    internal static int Routines { get; private set; }
 
     private readonly string routine;
     private readonly byte[] bytes;
@@ -22,13 +24,14 @@ internal sealed class Corpus
     private Corpus(string routine)
     {
         this.routine = routine;
-        bytes = File.ReadAllBytes(Path.Combine("words", routine));
+        bytes = File.ReadAllBytes(Path.Combine("corpus", routine));
         wordsOfCase = bytes.Length / 4 / Cases;
     }
 
     /// <summary>From the state in which the corpus begins.</summary>
     internal static void Run(string routine, Action<Corpus> test)
     {
+        ++Routines;
         var records = new float[12, 11];
         for (int k = 0; k < records.Length; ++k) records[k / 11, k % 11] = 1;
         Unchecked.Climate.StationRecords("example.climate", 1, 0, records);

@@ -19,7 +19,7 @@ program by_hand
    call polygons_with_faults()
    call climate_files()
    call threads()
-   call finish()
+   call finish(59)
 
 contains
 

@@ -6,7 +6,7 @@ module testing
    use quorvel_by_reference, only: CLBNF0
    implicit none
    private
-   public :: unit, expect, expect_near, finish, agrees, is_untouched, open_corpus, more_cases, open_example
+   public :: unit, expect, expect_near, finish, agrees, is_untouched, open_corpus, more_cases, in_order, open_example
    public :: untouched, untouched_pair, untouched_integer
 
    ! What the corpus has in an output before the call.
@@ -15,6 +15,8 @@ module testing
    real(dp), parameter :: untouched_pair = transfer([untouched_integer, untouched_integer], 0.0_dp)
 
    integer :: unit, checks = 0, failures = 0
+   character(len=:), allocatable :: routine ! of the corpus that is open
+   integer :: cases_left, orders_asked, orders_found
 
    !> Equal to the bit, or both not numbers.
    interface agrees
@@ -43,22 +45,42 @@ contains
       call expect(all(abs(got(:size(wanted)) - wanted) <= tolerance), what)
    end subroutine
 
-   subroutine finish()
+   !> No fewer checks than `least` must have been made.
+   subroutine finish(least)
+      integer, intent(in) :: least
       print '(i0, a, i0, a)', checks, ' checks, ', failures, ' failures'
-      if (failures > 0 .or. checks == 0) error stop 1
+      if (failures > 0 .or. checks < least) error stop 1
    end subroutine
 
-   subroutine open_corpus(name)
+   subroutine open_corpus(name, cases)
       character(len=*), intent(in) :: name
+      integer, intent(in) :: cases
       open (newunit=unit, file='corpus/'//name, access='stream', form='unformatted', action='read', status='old')
+      routine = name
+      cases_left = cases
+      orders_asked = 0
+      orders_found = 0
    end subroutine
 
    function more_cases() result(more)
       logical :: more
       integer(8) :: place, size
+      more = cases_left > 0
+      cases_left = cases_left - 1
+      if (more) return
       inquire (unit=unit, pos=place, size=size)
-      more = place <= size
-      if (.not. more) close (unit)
+      call expect(place == size + 1, 'all that there is of '//routine)
+      call expect(2*orders_found >= orders_asked, 'most calls have counts that a list can tell: '//routine)
+      close (unit)
+   end function
+
+   !> Whether the counts of a call are such that lists can tell them.
+   function in_order(counts_are)
+      logical, intent(in) :: counts_are
+      logical :: in_order
+      in_order = counts_are
+      orders_asked = orders_asked + 1
+      if (in_order) orders_found = orders_found + 1
    end function
 
    !> The state with which the corpus begins.

@@ -6,7 +6,14 @@ import * as quorvel from 'quorvel';
 import { faultOf, isValid } from './examples.js';
 
 const examples = JSON.parse(readFileSync(new URL('examples.json', import.meta.url)));
-quorvel.climate.files.set('example.climate', readFileSync('corpus.climate'));
+quorvel.climate.files.set('example.climate', readFileSync('example.climate'));
+
+test('every function has an example', () => {
+  const functions = Object.entries(quorvel.unchecked).flatMap(([family, routines]) =>
+    Object.keys(routines).map((name) => `${family}.${name}`));
+  const shown = new Set(examples.map(([family, name]) => `${family}.${name}`));
+  assert.deepEqual([...shown].sort(), functions.sort());
+});
 
 test('examples of the catalogue', () => {
   for (const example of examples) assert.equal(faultOf(quorvel.unchecked, example), '');

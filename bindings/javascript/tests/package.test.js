@@ -4,7 +4,7 @@ import { test } from 'node:test';
 import { Worker } from 'node:worker_threads';
 import { climate, fabric, geometry, glazing, psychro, Psychrometer, unchecked } from 'quorvel';
 
-const stations = readFileSync('corpus.climate');
+const stations = readFileSync('example.climate');
 
 function refusal(call) {
   try {

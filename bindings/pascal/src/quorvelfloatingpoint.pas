@@ -79,17 +79,13 @@ end;
 {$endif}
 
 procedure SetNoNumbers(First: PSingle; Count: SizeInt);
-var
-  I: SizeInt;
 begin
-  for I := 0 to Count - 1 do First[I] := NaN;
+  FillDWord(First^, Count, $7FC00000);
 end;
 
 procedure SetNoNumbers(First: PDouble; Count: SizeInt);
-var
-  I: SizeInt;
 begin
-  for I := 0 to Count - 1 do First[I] := NaN;
+  FillQWord(First^, Count, $7FF8000000000000);
 end;
 
 procedure SetNoNumbers(First: PLongInt; Count: SizeInt);

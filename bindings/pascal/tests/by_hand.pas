@@ -208,5 +208,5 @@ begin
   Polygons;
   ClimateFiles;
   Threads;
-  Finish;
+  Finish(44);
 end.

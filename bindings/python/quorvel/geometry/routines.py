@@ -219,8 +219,8 @@ def count_enclosed(x, y, point_x, point_y, enclosed, *, out=None):
         A named tuple of:
 
     enclosed : int32, shape (..., points)
-        1 for points that are enclosed; left as given for others: 0 not enclosed, 1 enclosed; as
-        given for points that are not enclosed.
+        1 for points that are enclosed; left as given for others; as given for points that are not
+        enclosed.
     enclosed_points : int32
         Number of enclosed points.
 
