@@ -7,13 +7,8 @@
 //         return {
 //             .name = "wall",
 //             .purpose = "Heat and vapour through a wall or roof",
-//             .options = [given](CLI::App& app) { app.add_option("--month", given->month, "Month, 1
-//             to 12"); }, .answer =
-//                 [given](const std::string& input) {
-//                     const wall::Job job = wall::read_job(input);
-//                     host::load_library();
-//                     return wall::told(job, wall::calculate(job));
-//                 },
+//             .options = [given](CLI::App& app) { app.add_option("--month", given->month); },
+//             .answer = [given](const std::string& input) { return answer(input, *given); },
 //         };
 //     }
 #pragma once
@@ -34,17 +29,14 @@ struct Command {
     std::string name;
     std::string purpose;           // one line, without a full stop
     std::string description = {};  // paragraphs of the help ahead of the options
-    std::string input =
-        {};  // what the files hold that `answer` takes, such as "The construction and its climate"
+    std::string input = {};        // what its files hold: "The construction and its climate"
 
     // Adds what only this command has.
     std::function<void(CLI::App&)> options = {};
 
-    // One of these does the work, after all options have been read. All throw host::InputError for
-    // what the user can mend.
-    std::function<host::Answer(const std::string& input)> answer =
-        {};                                     // on an input file, "-" for standard input;
-                                                // called for each of several
+    // One of these does the work, after all options have been read; the first on each input file,
+    // "-" for standard input. All throw host::InputError for what the user can mend.
+    std::function<host::Answer(const std::string& input)> answer = {};
     std::function<host::Answer()> report = {};  // without input files
     std::function<void()> act = {};             // what writes files and tells nothing
     std::vector<Command> commands = {};         // or it has commands of its own

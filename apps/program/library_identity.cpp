@@ -32,7 +32,7 @@ std::string file_of(void* address) {
     return name;
 }
 #else
-constexpr const char* array_library_name = "libquorvel_arrays.so.0";
+constexpr const char* array_library_name = "libquorvel_arrays.so." QUORVEL_SOVERSION;
 
 std::string file_of(void* address) {
     Dl_info info;

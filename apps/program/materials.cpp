@@ -5,6 +5,7 @@
 
 #include "calculation/none.h"
 #include "program/commands.h"
+#include "program/options.h"
 #include "reading/library.h"
 
 namespace quorvel::program {
@@ -73,8 +74,7 @@ DataTable table_of(const Kind& kind, const std::vector<host::LibraryEntry>& entr
 }
 
 host::Answer list(const Given& given) {
-    host::Library library;
-    for (const std::string& file : given.libraries) library.add(file);
+    const host::Library library(given.libraries);
     host::Answer answer{.title = given.word.empty()
                                      ? "Materials by name"
                                      : "Materials with \"" + given.word + "\" in their names"};
@@ -98,10 +98,8 @@ Command materials_command() {
             [given](CLI::App& app) {
                 app.add_option("WORD", given->word, "Only those with this in their names")
                     ->option_text(" ");
-                app.add_option("--library", given->libraries,
-                               "A file of your own, listed with those of the program")
-                    ->option_text("FILE")
-                    ->allow_extra_args(false);
+                add_library_option(app, given->libraries,
+                                   "A file of your own, listed with those of the program");
             },
         .report = [given] { return list(*given); },
     };

@@ -1,4 +1,4 @@
-// What every host program does around its work.
+// What the program does around its work.
 #pragma once
 
 #include <functional>

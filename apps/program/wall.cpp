@@ -2,8 +2,10 @@
 #include <CLI/CLI.hpp>
 
 #include <memory>
+#include <optional>
 
 #include "program/commands.h"
+#include "program/options.h"
 #include "quorvel/library.h"
 #include "reading/wall/question.h"
 #include "telling/climate/station_answer.h"
@@ -20,20 +22,15 @@ struct Given {
 
 constexpr const char* description =
     "U-value, temperature factor and mould, condensation and drying through the months, and the "
-    "answer to a daily\n"
-    "swing of temperature, of a wall, roof or floor.";
+    "answer to a daily swing of temperature, of a wall, roof or floor.";
 
 void add_options(CLI::App& app, Given& given) {
     app.add_option("--month", given.month,
                    "Show the profile of this month, 1 to 12, in place of that which matters")
         ->option_text("M")
         ->check(CLI::Range(1, 12));
-    app.add_option("--weather", given.weather,
-                   "A year of hourly weather, an EPW file, in place of the climate outside")
-        ->option_text("FILE");
-    app.add_option("--library", given.libraries, "Own tables of materials; may be repeated")
-        ->option_text("FILE")
-        ->allow_extra_args(false);
+    add_weather_option(app, given.weather, ", in place of the climate outside");
+    add_library_option(app, given.libraries, "Own tables of materials; may be repeated");
 }
 
 std::vector<std::string> warnings(const wall::ReadClimate& climate) {

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "program/commands.h"
+#include "program/options.h"
 #include "quorvel/library.h"
 #include "reading/window/job.h"
 #include "telling/window/told.h"
@@ -18,15 +19,11 @@ struct Given {
 };
 
 void add_options(CLI::App& app, Given& given) {
-    auto* weather =
-        app.add_option("--weather", given.request.weather, "A year of hourly weather, an EPW file");
-    weather->option_text("FILE");
+    auto* const weather = add_weather_option(app, given.request.weather);
     app.add_flag("--months", given.months, "The twelve design days in place of one day")
         ->excludes(weather);
-    app.add_option("--library", given.request.libraries,
-                   "Own tables of glass, gases and units; may be repeated")
-        ->option_text("FILE")
-        ->allow_extra_args(false);
+    add_library_option(app, given.request.libraries,
+                       "Own tables of glass, gases and units; may be repeated");
     app.add_option("--hours", given.hours,
                    "Hours whose shadows are drawn, such as 9,12,15.5; else some with sun")
         ->option_text("H,H,...")

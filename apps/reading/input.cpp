@@ -73,6 +73,24 @@ std::optional<double> number_within(const toml::node& node, const Range& range) 
     return std::nullopt;
 }
 
+// Nothing unless it is a text on one line, of 1 to so many characters.
+const std::string* text_within(const toml::node& node, std::size_t longest) {
+    const auto* value = node.as_string();
+    if (!value || value->get().empty() || character_count(value->get()) > longest) return nullptr;
+    return std::ranges::none_of(value->get(), is_control) ? &value->get() : nullptr;
+}
+
+std::string allowed_text(std::size_t longest) {
+    return "text of 1 to " + std::to_string(longest) + " characters on one line";
+}
+
+std::string beside(std::string_view input, const std::string& file) {
+    const bool rooted = file[0] == '/' || file[0] == '\\' || file.find(':') != std::string::npos;
+    const std::size_t folder = input.find_last_of("/\\");
+    return rooted || folder == std::string::npos ? file
+                                                 : std::string(input.substr(0, folder + 1)) + file;
+}
+
 }  // namespace
 
 InputError::InputError(std::string message) : std::runtime_error(on_one_line(std::move(message))) {}
@@ -84,12 +102,6 @@ InputError InputError::all(const std::vector<std::string>& messages) {
         lines.text += on_one_line(message);
     }
     return InputError(lines);
-}
-
-std::string beside(const std::string& input, const std::string& file) {
-    const bool rooted = file[0] == '/' || file[0] == '\\' || file.find(':') != std::string::npos;
-    const std::size_t folder = input.find_last_of("/\\");
-    return rooted || folder == std::string::npos ? file : input.substr(0, folder + 1) + file;
 }
 
 std::string read_bytes(const std::string& path) {
@@ -161,9 +173,7 @@ std::vector<double> InputTable::numbers(std::string_view key, std::size_t count,
     std::vector<double> result;
     for (const toml::node& entry : *list) {
         const auto value = number_within(entry, range);
-        const std::string place = path_of(key) + '[' + std::to_string(result.size() + 1) + ']';
-        if (!value)
-            throw located(entry, place + ": value " + shown(entry) + "; allowed " + told(range));
+        if (!value) throw not_allowed(key, result.size(), entry, told(range));
         result.push_back(*value);
     }
     return result;
@@ -182,13 +192,16 @@ bool InputTable::flag(std::string_view key, bool otherwise) const {
 }
 
 std::string InputTable::text(std::string_view key, std::size_t longest) const {
-    if (const auto* value = node(key).as_string()) {
-        const std::string& text = value->get();
-        const bool short_enough = !text.empty() && character_count(text) <= longest;
-        if (short_enough && std::ranges::none_of(text, is_control)) return text;
-    }
-    throw not_allowed(key, "text of 1 to " + std::to_string(longest) + " characters on one line");
+    if (const auto* text = text_within(node(key), longest)) return *text;
+    throw not_allowed(key, allowed_text(longest));
 }
+
+std::string InputTable::file_name(std::string_view key) const {
+    constexpr std::size_t longest = 400;
+    return text(key, longest);
+}
+
+std::string InputTable::file(std::string_view key) const { return beside(file_, file_name(key)); }
 
 std::vector<std::string> InputTable::texts(std::string_view key, std::size_t count,
                                            std::size_t longest) const {
@@ -196,13 +209,9 @@ std::vector<std::string> InputTable::texts(std::string_view key, std::size_t cou
     if (!list || list->size() != count) throw not_allowed(key, std::to_string(count) + " texts");
     std::vector<std::string> result;
     for (const toml::node& entry : *list) {
-        const auto* value = entry.as_string();
-        if (!value || value->get().empty() || character_count(value->get()) > longest ||
-            std::ranges::any_of(value->get(), is_control))
-            throw located(entry, path_of(key) + '[' + std::to_string(result.size() + 1) +
-                                     "]: value " + shown(entry) + "; allowed text of 1 to " +
-                                     std::to_string(longest) + " characters on one line");
-        result.push_back(value->get());
+        const auto* text = text_within(entry, longest);
+        if (!text) throw not_allowed(key, result.size(), entry, allowed_text(longest));
+        result.push_back(*text);
     }
     return result;
 }
@@ -269,6 +278,12 @@ InputError InputTable::error(std::string_view key, std::string_view message) con
 
 InputError InputTable::not_allowed(std::string_view key, std::string_view allowed) const {
     return error(key, "value " + shown(node(key)) + "; allowed " + std::string(allowed));
+}
+
+InputError InputTable::not_allowed(std::string_view key, std::size_t index, const toml::node& entry,
+                                   std::string_view allowed) const {
+    return located(entry, path_of(key) + '[' + std::to_string(index + 1) + "]: value " +
+                              shown(entry) + "; allowed " + std::string(allowed));
 }
 
 InputError InputTable::not_allowed_whole(std::string_view key, std::string_view allowed) const {

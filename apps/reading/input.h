@@ -1,4 +1,4 @@
-// Reading of a host program's input, a TOML file. Every fault of it becomes one line for the user:
+// Reading of an input, a TOML file. Every fault of it becomes one line for the user:
 //
 //     london.toml:7: site.latitude: value 95; allowed -90 to 90 degrees north
 #pragma once
@@ -30,9 +30,6 @@ class InputError : public std::runtime_error {
     };
     explicit InputError(const Lines& lines) : std::runtime_error(lines.text) {}
 };
-
-// Where a file that an input names is: beside the input, unless its name has a root.
-std::string beside(const std::string& input, const std::string& file);
 
 // All bytes of a file, or of standard input where the path is "-". Throws InputError.
 std::string read_bytes(const std::string& path);
@@ -66,11 +63,15 @@ class InputTable {
     std::vector<std::string> texts(std::string_view key, std::size_t count,
                                    std::size_t longest = 40) const;
     bool is_list(std::string_view key) const { return node(key).is_array(); }
-    bool is_text(std::string_view key) const { return node(key).is_string(); }
     bool is_table(std::string_view key) const { return node(key).is_table(); }
     int integer(std::string_view key, int low, int high) const;
     bool flag(std::string_view key, bool otherwise) const;
     std::string text(std::string_view key, std::size_t longest = 40) const;
+
+    // The name of a file, of up to 400 characters.
+    std::string file_name(std::string_view key) const;
+    // Where that file is: beside the input, unless its name has a root.
+    std::string file(std::string_view key) const;
 
     // The number of one of the names, counted from `first`; the number itself may stand in the file
     // too.
@@ -87,6 +88,8 @@ class InputTable {
   private:
     const toml::node& node(std::string_view key) const { return *table_->get(key); }
     InputError not_allowed(std::string_view key, std::string_view allowed) const;
+    InputError not_allowed(std::string_view key, std::size_t index, const toml::node& entry,
+                           std::string_view allowed) const;  // of an entry of a list
     InputError not_allowed_whole(std::string_view key, std::string_view allowed) const;
     InputError located(const toml::node& node, const std::string& message) const;
     std::string path_of(std::string_view key) const;
@@ -102,8 +105,8 @@ toml::table parsed(std::string_view text, const std::string& name);
 class InputFile {
   public:
     explicit InputFile(const std::string& path);  // "-" for standard input
-    InputFile(std::string name,
-              std::string_view text);  // of a text that is no file, by a name for messages
+    // Of a text that is no file, by a name for messages.
+    InputFile(std::string name, std::string_view text);
     InputFile(std::string name, toml::table table);
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;

@@ -29,12 +29,11 @@ bool shares_word(std::string_view name, std::string_view wanted) {
 
 }  // namespace
 
-Library::Library() {
+Library::Library(const std::vector<std::string>& own) {
     for (const auto& [file, text] : shipped_tables)
         add(std::make_unique<InputFile>(std::string(file), text), true);
+    for (const std::string& path : own) add(std::make_unique<InputFile>(path), false);
 }
-
-void Library::add(const std::string& path) { add(std::make_unique<InputFile>(path), false); }
 
 void Library::add(std::unique_ptr<InputFile> file, bool may_add_kinds) {
     const InputTable root = file->root();

@@ -23,10 +23,9 @@ struct LibraryEntry {
 
 class Library {
   public:
-    Library();  // with what the program brings along
-
-    // Adds the user's own file: entries of the kinds that there are. Throws InputError.
-    void add(const std::string& path);
+    // What the program brings along, and the user's own files: entries of the same kinds. Throws
+    // InputError.
+    explicit Library(const std::vector<std::string>& own);
 
     std::vector<std::string> kinds() const;
 

@@ -63,8 +63,8 @@ struct Answer {
     std::vector<Section> sections = {};    // the summary first
     std::vector<Section> inputs = {};      // what was asked, for the report
     std::vector<std::string> method = {};  // how it was worked out, a paragraph each
-    std::vector<std::string> warnings =
-        {};              // what was replaced or assumed; on standard error too, refused by --strict
+    // What was replaced or assumed; on standard error too, refused by --strict.
+    std::vector<std::string> warnings = {};
     bool wrong = false;  // what was checked is not as it should be: exit status 1
 };
 

@@ -142,9 +142,14 @@ void Chart::keys(double x, double y, const std::vector<Key>& keys) {
     }
 }
 
-void Chart::title(double x, double y, const std::string& title, const std::vector<Key>& keys) {
-    text(x, y, title, {colour::ink, 14, true});
-    this->keys(x + 30 + 8.8 * static_cast<double>(character_count(title)), y, keys);
+void Chart::heading(const std::string& title, const std::string& subtitle) {
+    text(chart_margin, 38, title, {colour::ink, 24, true});
+    text(chart_margin, 68, subtitle, {colour::grey, 12});
+}
+
+void Chart::title(double y, const std::string& title, const std::vector<Key>& keys) {
+    text(chart_margin, y, title, {colour::ink, 14, true});
+    this->keys(chart_margin + 30 + 8.8 * static_cast<double>(character_count(title)), y, keys);
 }
 
 void Chart::mark(double x, double y, const std::string& text, const char* colour) {

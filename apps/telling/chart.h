@@ -20,6 +20,8 @@ inline constexpr const char* grey = "#6b7280";  // secondary text
 
 enum class Format { svg, pdf, png };
 
+inline constexpr double chart_margin = 24;  // pixels, of what stands above the panels
+
 // The plotting area inside the axes, in pixels from the upper left corner of the picture.
 struct Panel {
     double left, top, width, height;
@@ -85,8 +87,11 @@ class Chart {
     void text(double x, double y, const std::string& text, const Style& style);
     void keys(double x, double y, const std::vector<Key>& keys);
 
+    // What stands above all panels, in the first that is begun.
+    void heading(const std::string& title, const std::string& subtitle);
+
     // The title of a row of panels, with keys behind it.
-    void title(double x, double y, const std::string& title, const std::vector<Key>& keys);
+    void title(double y, const std::string& title, const std::vector<Key>& keys);
 
     // A dot at a point of the panel, with a text on white above it.
     void mark(double x, double y, const std::string& text, const char* colour = colour::ink);

@@ -5,6 +5,15 @@
 #include <cmath>
 
 namespace quorvel::host {
+namespace {
+
+template <class Number>
+std::string shortest_of(Number value) {
+    char buffer[40];
+    return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr};
+}
+
+}  // namespace
 
 std::string fixed(double value, int decimals) {
     if (std::isnan(value)) return absent;
@@ -17,10 +26,8 @@ std::string fixed(double value, int decimals) {
     return zero && text[0] == '-' ? text.substr(1) : text;
 }
 
-std::string shortest(double value) {
-    char buffer[40];
-    return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr};
-}
+std::string shortest(double value) { return shortest_of(value); }
+std::string shortest(float value) { return shortest_of(value); }
 
 std::string clock_time(double hours) {
     const long minutes = ((std::lround(hours * 60.0) % 1440) + 1440) % 1440;
@@ -41,10 +48,6 @@ std::string joined(std::span<const std::string_view> names) {
         result += name;
     }
     return result;
-}
-
-std::string csv_number(double value, int decimals) {
-    return std::isnan(value) ? "" : fixed(value, decimals);
 }
 
 std::string csv_line(const std::vector<std::string>& fields) {

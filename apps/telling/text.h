@@ -22,6 +22,7 @@ std::string fixed(double value, int decimals);
 
 // As many digits as the value needs: 51.5, 0.01, nan.
 std::string shortest(double value);
+std::string shortest(float value);  // tells it from its neighbours in single precision
 
 // Hours since midnight as hh:mm, wrapped into the day.
 std::string clock_time(double hours);
@@ -31,9 +32,6 @@ std::size_t character_count(std::string_view text);
 
 // Names in a row: "one, two, three".
 std::string joined(std::span<const std::string_view> names);
-
-// A number in a comma-separated file; nothing for NaN.
-std::string csv_number(double value, int decimals);
 
 // One line of a comma-separated file; a field is quoted where it must be.
 std::string csv_line(const std::vector<std::string>& fields);

@@ -1,4 +1,4 @@
-"""Runs a host program on input that a test writes for it."""
+"""Runs the program on input that a test writes for it."""
 
 import collections
 import csv

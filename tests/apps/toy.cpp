@@ -1,7 +1,6 @@
 // The frame of the program around toy commands: answers with all that an answer can have.
 #include <CLI/CLI.hpp>
 
-#include <cmath>
 #include <memory>
 
 #include "calculation/none.h"
@@ -21,7 +20,7 @@ host::Chart chart(const std::string& words) {
     chart.panel({40, 30, 240, 140});
     chart.horizontal_scale({0, 3, 1});
     chart.vertical_scale({0, 9, 3});
-    chart.title(20, 12, words, {});
+    chart.title(12, words, {});
     chart.mark(2, 4, "4 at 2");
     chart.text(90, 80, "over it", {.backed = true});
     chart.plot(

@@ -33,7 +33,8 @@ STATIONS = climate_file(
     ((16, 6), lambda s, band, month: 10 - band / 2, lambda s, band, month: 5 - band / 2),
     ((15, 4), lambda s, band, month: 10, lambda s, band, month: math.nan if month == 6 else 11),
     ((14, 23), lambda s, band, month: 10, lambda s, band, month: 5),
-    ((14, 5), lambda s, band, month: 5, lambda s, band, month: 10))
+    ((14, 5), lambda s, band, month: 5, lambda s, band, month: 10),
+    ((15, 15), lambda s, band, month: 10, lambda s, band, month: 5))
 
 
 def from_file(station, percentage, **keys):
@@ -57,6 +58,13 @@ class ClimateFile(unittest.TestCase):
                 self.assertAlmostEqual(outdoor[coldest - 1], lowest, delta=0.051)
                 self.assertEqual((max(outdoor), min(outdoor)), (outdoor[warmest - 1], outdoor[coldest - 1]))
 
+    def test_an_hour_that_is_assumed_is_told_and_refused_when_strict(self):
+        files = {"job.toml": job(day=from_file(6, 50)), NAME: STATIONS}
+        process = host.run("window", "job.toml", files=files)
+        self.assertIn("5.0 °C at 05:00, 10.0 °C at 15:00", " ".join(process.stdout.decode().split()))
+        self.assertRegex(process.stderr.decode(), "^job.toml: warning: .*, station 6: its hours A and B in June are the same")
+        self.assertEqual(host.run("window", "--strict", "job.toml", files=files).returncode, 2)
+
     def test_the_report_names_the_file_which_lies_beside_the_input(self):
         with tempfile.TemporaryDirectory() as folder:
             Path(folder, NAME).write_bytes(STATIONS)
@@ -67,9 +75,10 @@ class ClimateFile(unittest.TestCase):
 
     def test_what_the_file_does_not_have_gets_one_line(self):
         for station, data, message in [
-                (1, None, f"file: {NAME} cannot be read"), (1, b"", f"file: {NAME} cannot be read"),
-                (6, STATIONS, f"station: {NAME} has no station 6"), (1, STATIONS[:5000], f"station: {NAME} has no station 1"),
-                (1, STATIONS[:4] + b"\x7f" * 4 + STATIONS[8:], f"station: {NAME} has no station 1"),
+                (1, None, f"file: {NAME}: cannot be read"), (1, b"", f"file: {NAME}: cannot be read"),
+                (7, STATIONS, f"file: {NAME}: station 7: not in the file"),
+                (1, STATIONS[:5000], f"file: {NAME}: station 1: not in the file"),
+                (1, STATIONS[:4] + b"\x7f" * 4 + STATIONS[8:], f"file: {NAME}: station 1: not in the file"),
                 (3, STATIONS, f"station: {NAME}, station 3: no day's temperatures in June")]:
             files = {"job.toml": job(day=from_file(station, 50))} | ({NAME: data} if data is not None else {})
             with self.subTest(message):

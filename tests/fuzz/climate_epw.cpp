@@ -1,9 +1,9 @@
 // Hourly weather, as quorvel climate takes it. A year is too long for a seed, so that one is made
 // of the header and a few hours, which follow one another round and round: the columns from the
 // dry-bulb temperature on, a line each.
-#include <array>
 #include <vector>
 
+#include "calculation/calendar.h"
 #include "calculation/climate/band_climate.h"
 #include "fuzz/input_file.h"
 #include "reading/climate/epw.h"
@@ -16,7 +16,6 @@ using namespace quorvel;
 using namespace quorvel::climatefile;
 
 constexpr int header_lines = 8;
-constexpr std::array month_days{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
 std::string year_of(fuzz::Bytes bytes) {
     std::string year;
@@ -25,8 +24,8 @@ std::string year_of(fuzz::Bytes bytes) {
     while (!bytes.empty()) hours.push_back(bytes.line());
     if (hours.empty()) return year;
     std::size_t next = 0;
-    for (std::size_t month = 0; month < month_days.size(); ++month)
-        for (int day = 1; day <= month_days[month]; ++day)
+    for (std::size_t month = 0; month < host::months_of_year; ++month)
+        for (int day = 1; day <= host::days_of_month[month]; ++day)
             for (int hour = 1; hour <= 24; ++hour) {
                 for (const auto number : {static_cast<int>(month) + 1, day, hour})
                     year.append(",").append(std::to_string(number));

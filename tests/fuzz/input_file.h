@@ -1,5 +1,5 @@
-// What all harnesses of the host programs do: the input is a file, and whatever is in it, the
-// program works or says in one line what is wrong with it.
+// What all harnesses of the program do: the input is a file, and whatever is in it, the program
+// works or says in one line what is wrong with it.
 #pragma once
 
 #include <fstream>

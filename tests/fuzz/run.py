@@ -26,7 +26,7 @@ def fuzz(build, name, seconds):
     corpus, findings = build / "corpus" / name, build / "findings"
     for folder in (corpus, findings):
         folder.mkdir(parents=True, exist_ok=True)
-    seeds = [folder for folder in (ROOT / "tests/fuzz/seeds" / name, ROOT / "apps/examples" / name, ROOT / "apps" / name / "examples") if folder.is_dir()]
+    seeds = [folder for folder in (ROOT / "tests/fuzz/seeds" / name, ROOT / "apps/examples" / name) if folder.is_dir()]
     before = set(findings.glob(f"{name}-*"))
     process = subprocess.run(
         [build / f"fuzz_{name}", corpus, *seeds, f"-max_total_time={seconds}", f"-dict={dictionary(build)}",

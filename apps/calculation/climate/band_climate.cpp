@@ -6,14 +6,13 @@
 #include <optional>
 
 #include "calculation/climate/solar_clock.h"
+#include "calculation/moist_air.h"
 #include "calculation/sun.h"
 #include "quorvel/climate.h"
-#include "quorvel/psychro.h"
 
 namespace quorvel::climatefile {
 namespace {
 
-constexpr int sling = 1;  // the psychrometer in moving air
 constexpr int clear = 0;
 
 // The day from midnight to midnight of solar time, as near as whole hours allow: where the clock is
@@ -67,7 +66,7 @@ double factor(double measured, double design) {
 
 double wet_bulb(const Hour& hour) {
     const double wet =
-        lib::psychrometer_wet_bulb(hour.dry_bulb, hour.relative_humidity, hour.pressure, sling);
+        lib::psychrometer_wet_bulb(hour.dry_bulb, hour.relative_humidity, hour.pressure, host::sling);
     return std::min(wet, hour.dry_bulb);
 }
 
@@ -104,7 +103,7 @@ std::array<double, 24> ends_of_hours(const Days& days) {
     begin /= static_cast<double>(days.size());
     std::array<double, 24> ends;
     for (std::size_t h = 0; h < 24; ++h)
-        ends[h] = rounded(begin + static_cast<double>(h + 1), time_a.decimals);
+        ends[h] = rounded(begin + static_cast<double>(h + 1), times[0].decimals);
     return ends;
 }
 

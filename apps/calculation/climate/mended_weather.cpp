@@ -3,16 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <span>
-#include <utility>
 
 #include "calculation/calendar.h"
 #include "calculation/climate/atmosphere.h"
 #include "calculation/climate/sky_cover.h"
 #include "calculation/climate/solar_clock.h"
+#include "calculation/moist_air.h"
 #include "calculation/none.h"
 #include "calculation/sun.h"
-#include "quorvel/psychro.h"
 
 namespace quorvel::climatefile {
 namespace {
@@ -49,7 +47,7 @@ class Mender {
     // Puts the remedy's values in place of those that are missing, or at fault in another way.
     void replace(const char* quantity, Field field, const char* kind, const Remedy& remedy,
                  const std::function<bool(double)>& is_fault = is_missing) {
-        Replacement done{quantity, kind, 0, ""};
+        Replacement done{field, quantity, kind, 0, ""};
         for (std::size_t i = 0; i < hours_.size(); ++i) {
             if (!is_fault(hours_[i]->*field)) continue;
             const double value = remedy(i);
@@ -100,9 +98,8 @@ class Mender {
         replace(quantity, field, "missing: from the dew point", [this](std::size_t i) {
             const double dew_point = hours_[i]->dew_point;
             if (is_missing(dew_point)) return host::none;
-            return std::min(100 * lib::vapour_pressure(dew_point, 100) /
-                                lib::vapour_pressure(hours_[i]->dry_bulb, 100),
-                            100.0);
+            return host::relative_humidity(hours_[i]->dry_bulb,
+                                           lib::saturation_pressure(dew_point));
         });
         fill_gaps(quantity, field, long_gap);
         require(quantity, field);

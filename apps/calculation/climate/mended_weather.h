@@ -2,7 +2,6 @@
 #pragma once
 
 #include <stdexcept>
-#include <string>
 
 #include "calculation/climate/weather.h"
 
@@ -18,10 +17,9 @@ class NotMendable : public std::runtime_error {
 // of what was replaced. Throws NotMendable. What is done to each quantity:
 //   temperature       gaps of up to 6 hours: a straight line between the hours on either side
 //   humidity          above 100 %: 100 %; missing: from the dew point, else as the temperature
-//   pressure          as the temperature; longer gaps: that of the standard atmosphere at the
-//   height irradiances       below 0: 0; missing while the sun is down: 0; gaps of up to 3 hours by
-//   day as
-//                     the temperature
+//   pressure          as the temperature; longer gaps: that of the standard atmosphere
+//   irradiances       below 0: 0; missing while the sun is down: 0; gaps of up to 3 hours by day
+//                     as the temperature
 //   sky cover         gaps of up to 3 hours as the temperature; longer ones, each hour: the opaque
 //                     cover, the clearness of the irradiances, the infrared radiation of the sky,
 //                     what there is first; the rest a straight line between what there is then

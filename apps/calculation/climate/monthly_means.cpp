@@ -2,12 +2,11 @@
 
 #include <algorithm>
 
-#include "quorvel/psychro.h"
+#include "calculation/moist_air.h"
 
 namespace quorvel::climatefile {
 
 MonthlyMeans monthly_means(const Station& station, std::size_t set, double pressure) {
-    constexpr int sling = 1;
     MonthlyMeans means{};
     for (std::size_t month = 0; month < month_count; ++month) {
         double before = 0;
@@ -16,7 +15,7 @@ MonthlyMeans monthly_means(const Station& station, std::size_t set, double press
                 return station.rows[band_row(set, q, band)][month];
             };
             const auto vapour = [&](double air, double wet_bulb) {
-                return lib::vapour_pressure_from_psychrometer(air, wet_bulb, pressure, sling);
+                return lib::vapour_pressure_from_psychrometer(air, wet_bulb, pressure, host::sling);
             };
             const double share = Q(0) - before;
             means.temperature[month] += share * (Q(3) + Q(4)) / 2;

@@ -19,7 +19,7 @@ struct MonthlyMeans {
 // (atmosphere.h).
 MonthlyMeans monthly_means(const Station& station, std::size_t set, double pressure);
 
-// Of the hours, relative humidity above 100 % as 100 %. The library must have been loaded.
+// Of the hours, relative humidity above 100 % as 100 %.
 MonthlyMeans monthly_means(const WeatherYear& weather);
 
 }  // namespace quorvel::climatefile

@@ -3,15 +3,17 @@
 #include <algorithm>
 #include <cmath>
 
+#include "calculation/heat_radiation.h"
 #include "calculation/none.h"
 
 namespace quorvel::climatefile {
 namespace {
 
+using host::kelvin;
+using host::stefan_boltzmann;
+
 constexpr double overcast = 10;            // tenths
 constexpr double least_sine = 0.17364818;  // of 10°
-constexpr double stefan_boltzmann = 5.670374e-8;
-constexpr double freezing = 273.15;  // K
 
 // Of the sky's emissivity, a clear one's; rises with the cover throughout.
 double emissivity_factor(double n) { return 1 + n * (0.0224 + n * (-0.0035 + n * 0.00028)); }
@@ -28,9 +30,9 @@ double cover_by_clearness(const Hour& hour, double sine_of_altitude) {
 
 double cover_by_infrared(const Hour& hour) {
     const double clear_emissivity =
-        0.787 + 0.764 * std::log((hour.dew_point + freezing) / freezing);
+        0.787 + 0.764 * std::log((hour.dew_point + kelvin) / kelvin);
     const double factor = hour.horizontal_infrared / stefan_boltzmann /
-                          std::pow(hour.dry_bulb + freezing, 4) / clear_emissivity;
+                          std::pow(hour.dry_bulb + kelvin, 4) / clear_emissivity;
     if (std::isnan(factor)) return host::none;
     double low = 0, high = overcast;
     while (high - low > 0.01) {

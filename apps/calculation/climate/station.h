@@ -3,7 +3,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <string>
 
 #include "calculation/none.h"
@@ -25,8 +24,11 @@ struct Quantity {
     int decimals;  // worth showing
 };
 
-inline constexpr Quantity time_a{"time_A", "hour of the warmest air, solar time", 0, 24, "h", 2};
-inline constexpr Quantity time_b{"time_B", "hour of the coldest air, solar time", 0, 24, "h", 2};
+inline constexpr std::array<const char*, set_count> set_keys = {"set1", "set2"};
+inline constexpr std::array<Quantity, 2> times = {{
+    {"time_A", "hour of the warmest air, solar time", 0, 24, "h", 2},
+    {"time_B", "hour of the coldest air, solar time", 0, 24, "h", 2},
+}};
 inline constexpr std::array<Quantity, quantity_count> quantities = {{
     {"F", "share of the days in a band and those before it", 0, 1, "of the days", 4},
     {"Q1", "beam factor, on the design irradiance of a clear sky", 0, 10, "of the design value", 3},

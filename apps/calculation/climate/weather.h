@@ -29,6 +29,7 @@ struct WeatherDay {
 // The hours of the year in which one kind of remedy was put in place of one quantity's values,
 // since they were missing or impossible: see mended_weather.h.
 struct Replacement {
+    double Hour::*of;
     std::string quantity, remedy;  // "relative humidity", "above 100 %: taken as 100 %"
     int hours;
     std::string first;  // "4 March, hour 5"

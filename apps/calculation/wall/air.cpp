@@ -2,15 +2,14 @@
 
 #include <algorithm>
 
-#include "quorvel/psychro.h"
+#include "calculation/moist_air.h"
 
 namespace quorvel::wall {
 
 double Air::vapour_pressure() const { return lib::vapour_pressure(temperature, humidity); }
 
 Air air_of_pressure(double temperature, double vapour_pressure) {
-    return {temperature,
-            std::min(100 * vapour_pressure / lib::saturation_pressure(temperature), 100.0)};
+    return {temperature, host::relative_humidity(temperature, vapour_pressure)};
 }
 
 double saturation_temperature(double vapour_pressure) {

@@ -16,8 +16,7 @@ struct Indoors {
     std::optional<int> humidity_class;  // 1 to 5
 };
 
-// Of the twelve months, the humidity by the mean vapour pressure. The library must have been
-// loaded.
+// Of the twelve months, the humidity by the mean vapour pressure.
 std::vector<Air> outside_air(const climatefile::MonthlyMeans& means);
 
 std::vector<Climate> climates(const Indoors& inside, const std::vector<Air>& outside);

@@ -66,8 +66,7 @@ struct Layer {
     bool in_line = false;
 
     std::optional<Fasteners> fasteners = {};
-    int air_voids =
-        0;  // level 0, 1 or 2 of EN ISO 6946: none, bridging, and with air moving behind as well
+    int air_voids = 0;  // EN ISO 6946, level 0 none, 1 bridging, 2 with air moving behind as well
 
     bool homogeneous() const { return parts.size() == 1; }
 };
@@ -76,9 +75,8 @@ struct Element {
     HeatFlow heat_flow = HeatFlow::horizontal;
     int exposure = 2;  // to the wind: 1 sheltered, 2 normal, 3 severe
     std::optional<double> inside_resistance, outside_resistance;  // m²K/W of the surfaces
-    bool in_ventilated_gap =
-        false;                  // at the outside, where what lies beyond is left out (EN ISO 6946)
-    std::vector<Layer> layers;  // 1 to 20, the first at the room
+    bool in_ventilated_gap = false;  // outside, what lies beyond being left out (EN ISO 6946)
+    std::vector<Layer> layers;       // 1 to 20, the first at the room
 };
 
 }  // namespace quorvel::wall

@@ -90,7 +90,6 @@ Profile profile(const Path& path, const Climate& climate, const std::vector<bool
     const double inside = climate.inside.vapour_pressure(),
                  outside = climate.outside.vapour_pressure();
     profile.inside_wet = inside > profile.saturation.front();
-    profile.outside_wet = outside > profile.saturation.back();
     profile.pressure = profile.saturation;
     profile.pressure.front() = std::min(inside, profile.saturation.front());
     profile.pressure.back() = std::min(outside, profile.saturation.back());

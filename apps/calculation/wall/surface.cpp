@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "quorvel/psychro.h"
+#include "calculation/moist_air.h"
 
 namespace quorvel::wall {
 namespace {
@@ -20,7 +20,7 @@ SurfaceOfMonth month(const Climate& climate, double factor, double humidity) {
     const double pressure = climate.inside.vapour_pressure();
     SurfaceOfMonth month{};
     month.temperature = std::lerp(outside, inside, factor);
-    month.humidity = std::min(100 * pressure / lib::saturation_pressure(month.temperature), 100.0);
+    month.humidity = host::relative_humidity(month.temperature, pressure);
     month.least_temperature = saturation_temperature(100 * pressure / humidity);
     if (outside < std::min(inside, month.least_temperature))
         month.required = (month.least_temperature - outside) / (inside - outside);

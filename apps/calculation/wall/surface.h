@@ -22,8 +22,7 @@ struct SurfaceOfMonth {
     double temperature;        // of the surface, °C
     double humidity;           // at the surface, %; 100 where vapour condenses
     double least_temperature;  // °C, at which the humidity there is that of the demand
-    double required =
-        none;  // f_Rsi; none where the air outside is as warm as that temperature or inside
+    double required = none;    // f_Rsi; none where the air outside is as warm as that, or as inside
 };
 
 struct SurfaceYear {

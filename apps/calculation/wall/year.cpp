@@ -7,9 +7,6 @@
 namespace quorvel::wall {
 namespace {
 
-constexpr std::array<double, months_of_year> days = {31, 28, 31, 30, 31, 30,
-                                                     31, 31, 30, 31, 30, 31};
-
 bool condenses(const Profile& profile, double days) {
     double gain = 0;
     for (const double at : profile.gain) gain += std::max(at, 0.0);
@@ -35,7 +32,7 @@ void advance(MonthOfYear& month, const Profile& profile, std::vector<double>& co
              double time) {
     for (std::size_t i = 0; i < content.size(); ++i) {
         const double gain = profile.gain[i] * time;
-        const bool dried = gain < 0 && profile.gain[i] * time <= -content[i] * (1 - 1e-12);
+        const bool dried = gain < 0 && gain <= -content[i] * (1 - 1e-12);
         (gain > 0 ? month.condensed : month.evaporated) += gain > 0 ? gain
                                                            : dried  ? content[i]
                                                                     : -gain;
@@ -47,7 +44,7 @@ MonthOfYear pass_month(const Path& path, const Climate& climate, std::size_t num
                        std::vector<double>& content) {
     MonthOfYear month{number, profile(path, climate, wet_places(content)), 0, 0, 0};
     Profile now = month.profile;
-    for (double rest = days[number]; rest > 0;) {  // a place dries at most once, so that this ends
+    for (double rest = host::days_of_month[number]; rest > 0;) {  // a place dries at most once, so that this ends
         const double time = steady_time(now, content, rest);
         advance(month, now, content, time);
         rest -= time;
@@ -109,7 +106,7 @@ const MonthOfYear& Year::of(std::size_t month) const {
 Year year(const Path& path, std::span<const Climate> months) {
     std::array<bool, months_of_year> wet;
     for (std::size_t m = 0; m < months_of_year; ++m)
-        wet[m] = condenses(profile(path, months[m]), days[m]);
+        wet[m] = condenses(profile(path, months[m]), host::days_of_month[m]);
     std::optional<Year> best;
     for (std::size_t m = 0; m < months_of_year; ++m) {
         if (!wet[m] || wet[(m + months_of_year - 1) % months_of_year]) continue;

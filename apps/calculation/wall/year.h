@@ -5,11 +5,12 @@
 #include <span>
 #include <vector>
 
+#include "calculation/calendar.h"
 #include "calculation/wall/profile.h"
 
 namespace quorvel::wall {
 
-inline constexpr std::size_t months_of_year = 12;
+using host::months_of_year;
 using Monthly = std::array<double, months_of_year>;
 
 // Less water than this, in g/m², is none: saturation pressures are known to single precision.
@@ -38,14 +39,12 @@ struct MonthOfYear {
 struct Year {
     std::vector<MonthOfYear> months;
     std::vector<Deposit> deposits;  // from the inside outwards; empty where it stays dry
-    std::size_t wettest;            // the month with the most water at its end, counted in this row
-    std::size_t
-        dry_from;  // the month in which the last of it dries; 12 where it does not, 0 if never wet
+    std::size_t wettest;   // the month with the most water at its end, counted in this row
+    std::size_t dry_from;  // that in which the last of it dries; 12 if it does not, 0 if never wet
 
     double peak() const { return months[wettest].content; }
-    double left() const {
-        return months.back().content;
-    }  // g/m² after the year, which every year adds
+    // g/m² after the year, which every year adds.
+    double left() const { return months.back().content; }
     bool dry() const { return deposits.empty(); }
     bool dries() const { return left() < least_water; }
     const MonthOfYear& of(std::size_t month) const;  // 0 January

@@ -70,8 +70,8 @@ Side mean(const Halves& halves) {
 }
 
 Screen screen(const Slats& slats, double profile) {
-    const Slats behind =
-        from_inside(slats);  // met by what the panes reflect, which comes from above as before
+    // Met by what the panes reflect, which comes from above as before.
+    const Slats behind = from_inside(slats);
     const double through = straight(slats, profile), through_back = straight(behind, profile);
     Side front = in_direct_sun(slats, profile), back = in_direct_sun(behind, profile);
     front.transmittance = std::max(front.transmittance - through, 0.0);

@@ -7,9 +7,8 @@ namespace quorvel::window {
 
 // For radiation of one kind: what passes straight, and what is scattered or absorbed.
 struct Screen {
-    double straight = 0,
-           straight_back = 0;  // from outdoors and, once reflected, from the room's side
-    Layer scattered = {};      // without what passes straight
+    double straight = 0, straight_back = 0;  // from outdoors; once reflected, from the room's side
+    Layer scattered = {};                    // without what passes straight
 };
 
 // For the sun at a profile angle [rad]: its angle off the window's normal in the plane across the

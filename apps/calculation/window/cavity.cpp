@@ -4,11 +4,16 @@
 #include <cmath>
 #include <numeric>
 
+#include "calculation/angle.h"
+#include "calculation/heat_radiation.h"
+
 namespace quorvel::window {
 namespace {
 
-constexpr double gravity = 9.81, stefan_boltzmann = 5.67e-8, kelvin = 273.15;
-constexpr double glass_conductivity = 1;  // W/mK, soda lime glass
+using host::kelvin;
+using host::stefan_boltzmann;
+
+constexpr double gravity = 9.81;  // m/s²
 
 double between(const std::array<double, 4>& values, double temperature) {
     const double place = (temperature + 10) / 10;
@@ -38,7 +43,7 @@ double nusselt(double grashof_prandtl, double tilt, bool outwards) {
         return std::max(1.0, l.factor * std::pow(grashof_prandtl, l.exponent));
     };
     if (rises) return number(by_tilt);
-    return 1 + (number(vertical) - 1) * std::sin(slope * 3.14159265358979 / 180);
+    return 1 + (number(vertical) - 1) * std::sin(host::radians(slope));
 }
 
 }  // namespace

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numeric>
 
 #include "calculation/angle.h"
-#include "calculation/none.h"
 #include "calculation/window/cavity.h"
 #include "quorvel/glazing.h"
 
@@ -256,8 +254,8 @@ AnyGlazing glazing_of(const Window& window, bool with_blind) {
 }
 
 UnitFigures unit_figures(const Window& window) {
-    using host::none;
-    UnitFigures figures{none, none, none, none, none, none, none};
+    UnitFigures figures;
+    if (!window.is_glazed()) return figures;
     if (const auto* coefficients = std::get_if<ShadingCoefficients>(&window.glazing)) {
         const EquivalentPane pane(*coefficients);
         const Passage normal = pane.direct(0, 0);
@@ -275,9 +273,7 @@ UnitFigures unit_figures(const Window& window) {
     figures.g_diffuse = bare.rated_gain(bare.from_sky());
     if (!window.blind) return figures;
     const Panes shaded(unit, window.blind, window.tilt);
-    const Passage through_blind = shaded.direct(0, 0);
-    figures.transmittance_with_blind = through_blind.transmitted;
-    figures.g_with_blind = shaded.rated_gain(through_blind);
+    figures.g_with_blind = shaded.rated_gain(shaded.direct(0, 0));
     figures.g_diffuse_with_blind =
         (shaded.rated_gain(shaded.from_sky()) + shaded.rated_gain(shaded.from_ground())) / 2;
     return figures;

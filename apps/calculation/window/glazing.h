@@ -2,11 +2,12 @@
 // the heat.
 #pragma once
 
-#include <string>
-
+#include "calculation/none.h"
 #include "calculation/window/heat_balance.h"
 
 namespace quorvel::window {
+
+using host::none;
 
 // Fractions of the incident radiation; what is neither transmitted nor absorbed is reflected.
 struct Passage {
@@ -115,14 +116,15 @@ AnyGlazing glazing_of(const Window& window, bool with_blind);
 // terms of.
 inline constexpr double reference_gain = 0.87;
 
+// What is not known, as without a blind, is none.
 struct UnitFigures {
-    double u_value;        // W/m²K, EN 673; NaN where the panes are not known
-    double transmittance;  // of solar radiation at normal incidence
-    double g, g_diffuse;   // solar heat gain at normal incidence, of diffuse radiation
-    double transmittance_with_blind, g_with_blind, g_diffuse_with_blind;  // NaN without one
+    double u_value = none;               // W/m²K, EN 673
+    double transmittance = none;         // of solar radiation at normal incidence
+    double g = none, g_diffuse = none;   // solar heat gain at normal incidence, of diffuse radiation
+    double g_with_blind = none, g_diffuse_with_blind = none;
 };
 
-// Of glazed windows.
+// Of a window; of an opening without glazing nothing is known.
 UnitFigures unit_figures(const Window& window);
 
 }  // namespace quorvel::window

@@ -2,17 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
+#include "calculation/heat_radiation.h"
 #include "calculation/window/cavity.h"
 
 namespace quorvel::window {
 namespace {
 
-constexpr double stefan_boltzmann = 5.67e-8, kelvin = 273.15;
-constexpr double glass_conductivity = 1;  // W/mK
-constexpr double through_blind = 1000;    // W/m²K, thin as it is
-constexpr double settled = 0.001;         // K between two iterations
+constexpr double through_blind = 1000;  // W/m²K, thin as it is
+constexpr double settled = 0.001;       // K between two iterations
 constexpr int most_iterations = 100;
 
 std::size_t front(std::size_t layer) { return 2 * layer; }
@@ -108,8 +106,8 @@ void HeatBalance::exchange_heat_by_radiation() {
 void HeatBalance::add_radiation(Matrix& matrix, const PerNode& temperature) const {
     for (std::size_t i = 0; i <= room(); ++i)
         for (std::size_t j = 0; j < i; ++j) {
-            const double a = temperature[i] + kelvin, b = temperature[j] + kelvin;
-            matrix[i][j] += exchange_[i][j] * stefan_boltzmann * (a * a + b * b) * (a + b);
+            const double a = temperature[i] + host::kelvin, b = temperature[j] + host::kelvin;
+            matrix[i][j] += exchange_[i][j] * host::stefan_boltzmann * (a * a + b * b) * (a + b);
             matrix[j][i] = matrix[i][j];
         }
 }

@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "calculation/angle.h"
+#include "calculation/calendar.h"
+#include "calculation/climate/solar_clock.h"
 #include "calculation/daily_temperature.h"
 #include "quorvel/climate.h"
 
@@ -11,11 +13,9 @@ namespace quorvel::window {
 namespace {
 
 using host::degrees;
-using host::radians;
+using host::right_angle;
 
-constexpr double quarter_turn = 1.5707963;
 constexpr double hours_a_day = host::hours_a_day;
-constexpr int month_days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
 // The coldest hour is the full hour next to sunrise; where there is none, half a day from the
 // warmest.
@@ -23,11 +23,6 @@ host::DailyTemperature outdoor_temperature(const DesignDay& day, double sunrise,
     const bool rises = sunrise < sunset && sunset <= 24;
     const double coldest = rises ? std::round(sunrise) : day.hour_of_max - 12;
     return {day.outdoor_min, day.outdoor_max, day.hour_of_min.value_or(coldest), day.hour_of_max};
-}
-
-double solar_minus_clock(double utc_offset, int day_of_year, double longitude) {
-    // The correction takes longitudes positive west; the zone enters as the clock's own offset.
-    return lib::solar_time_correction(utc_offset, day_of_year, radians(-longitude), 0);
 }
 
 template <class Work>
@@ -68,7 +63,7 @@ void Model::irradiate(WindowHour& at, Irradiance& on_glass, const Exposure& expo
     at.ground = plane.ground * open.ground;
     const double from_sun = bearing.before ? circumsolar : 0;
     on_glass = {at.direct + from_sun, from_sky + circumsolar - from_sun, at.ground,
-                std::fmin(bearing.incidence, quarter_turn), bearing.vertical};
+                std::fmin(bearing.incidence, right_angle), bearing.vertical};
 }
 
 void Model::let_in(WindowHour& at, const Irradiance& on_glass, const Exposure& exposure) const {
@@ -114,7 +109,7 @@ Day calculate(const Site& site, const DesignDay& design, std::span<const Window>
     day.constants = site_constants(site, design.month);
     if (site.utc_offset && !std::isnan(site.longitude))
         day.solar_minus_clock =
-            solar_minus_clock(*site.utc_offset, day.day_of_year, site.longitude);
+            climatefile::SolarClock(site.longitude, *site.utc_offset).correction(day.day_of_year);
     for (int step = 1; step <= host::hours_a_day * steps_per_hour; ++step) {
         const double hour = static_cast<double>(step) / steps_per_hour;
         day.exposure.push_back(
@@ -171,8 +166,8 @@ host::Sun sun_within(double latitude, int day_of_year, double begin, double end)
 }
 
 Exposure exposure_of(const Weather& weather, const WeatherHour& hour) {
-    const double correction = solar_minus_clock(weather.zone, hour.day_of_year, weather.longitude);
-    const double end = hour.hour + correction;
+    const climatefile::SolarClock clock(weather.longitude, weather.zone);
+    const double end = hour.hour + clock.correction(hour.day_of_year);
     Exposure exposure;
     exposure.sky = {sun_within(weather.latitude, hour.day_of_year, end - 1, end), hour.day_of_year,
                     hour.direct_normal, hour.diffuse_horizontal};
@@ -197,7 +192,7 @@ class Account {
     }
 
     // So many hours like this one.
-    double add(const Exposure& exposure, double ground_reflectance, int month, double hours) {
+    void add(const Exposure& exposure, double ground_reflectance, int month, double hours) {
         const WindowHour at = model_.at(exposure, ground_reflectance);
         year_.months[static_cast<std::size_t>(month - 1)].add(at, window_.area, hours);
         year_.year.add(at, window_.area, hours);
@@ -209,7 +204,6 @@ class Account {
             year_.warmest = std::fmax(year_.warmest, pane);
             year_.coldest = std::fmin(year_.coldest, pane);
         }
-        return gain;
     }
 
     WindowYear& year() { return year_; }
@@ -235,9 +229,7 @@ Year calculate(const Site& site, const Weather& weather, std::span<const Window>
         Account account(window, site);
         for (std::size_t i = 0; i < exposures.size(); ++i) {
             const int month = weather.hours[i].month;
-            const double gain =
-                account.add(exposures[i], ground[static_cast<std::size_t>(month - 1)], month, 1);
-            account.year().solar_gain.push_back(static_cast<float>(gain));
+            account.add(exposures[i], ground[static_cast<std::size_t>(month - 1)], month, 1);
         }
         year.windows.push_back(std::move(account.year()));
     }
@@ -252,7 +244,7 @@ Year calculate(const Site& site, std::span<const DesignDay> days, std::span<cons
             const Day day = calculate(site, design, {});
             for (const Exposure& exposure : day.exposure)
                 account.add(exposure, day.constants.ground_reflectance, design.month,
-                            month_days[design.month - 1]);
+                            host::days_of_month[static_cast<std::size_t>(design.month - 1)]);
         }
         year.windows.push_back(std::move(account.year()));
     }

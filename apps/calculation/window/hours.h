@@ -5,14 +5,11 @@
 #include <span>
 #include <vector>
 
-#include "calculation/none.h"
 #include "calculation/window/glazing.h"
 #include "calculation/window/shading.h"
 #include "calculation/window/sky.h"
 
 namespace quorvel::window {
-
-using host::none;
 
 // What a window is exposed to.
 struct Exposure {
@@ -22,11 +19,10 @@ struct Exposure {
 };
 
 struct WindowHour {
-    double incidence =
-        none;  // degrees; above 90 the sun is behind the window; none while it is down
-    double vertical = none,
-           horizontal = none;  // profile angles, degrees; none unless the sun is before the window
-    double sunlit = none;      // fraction of the glass; none unless the sun is before it
+    double incidence = none;  // degrees, above 90 of a sun behind the window; none while it is down
+    // None unless the sun is before the window:
+    double vertical = none, horizontal = none;  // profile angles, degrees
+    double sunlit = none;                       // fraction of the glass
     double direct_unshaded = 0;                  // W/m² on the plane
     double direct = 0, diffuse = 0, ground = 0;  // W/m² on the glass, in the mean
     bool blind_down = false;
@@ -102,6 +98,12 @@ double daily_sum(const WindowDay& window, Member member) {
     return sum * host::hours_a_day / static_cast<double>(window.at.size());
 }
 
+// The same of the whole glass [kWh].
+template <class Member>
+double daily_energy(const WindowDay& window, Member member) {
+    return window.window->area * daily_sum(window, member) / 1000;
+}
+
 // The largest power of an hourly day; hour 0 when nothing ever comes in.
 struct Peak {
     int hour;
@@ -146,7 +148,6 @@ struct WindowYear {
     Sums year;
     PeakOfYear peak;
     double warmest = none, coldest = none;  // °C of the pane nearest the room
-    std::vector<float> solar_gain;          // W, hour by hour; empty for design days
     Method method;
     Openness open;
 };

@@ -1,8 +1,10 @@
 // What is asked of a window: the place, the glazing with its blind, and what shades it, as values.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -45,7 +47,9 @@ struct Cavity {
 // The faces of a pane: outside, inside.
 using Faces = std::array<double, 2>;
 
-inline constexpr double plain_emissivity = 0.837;  // of glass without a coating, EN 673
+// Of soda lime glass, EN 673.
+inline constexpr double plain_emissivity = 0.837;  // without a coating
+inline constexpr double glass_conductivity = 1;    // W/mK
 
 struct Pane {
     std::string name;
@@ -89,8 +93,7 @@ struct Blind {
     double emissivity;     // of the slats or the fabric
     Cavity gap;            // to the glass, of a blind outside or inside
     bool sealed;           // no air passes between that gap and its surroundings
-    double lowered_above;  // W/m² on the plane of the window from which it is lowered; 0: always
-                           // lowered
+    double lowered_above;  // W/m² on the window from which it is lowered; 0: always
 
     // Where it stands among the layers, from the outermost, of a unit of so many panes.
     std::size_t place_among(std::size_t panes) const {
@@ -151,6 +154,10 @@ struct Window {
 
     bool is_glazed() const { return !std::holds_alternative<std::monostate>(glazing); }
 };
+
+inline bool any_glazed(std::span<const Window> windows) {
+    return std::ranges::any_of(windows, &Window::is_glazed);
+}
 
 // A day of design weather.
 struct DesignDay {

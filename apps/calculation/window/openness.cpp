@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <numbers>
-#include <span>
 
 namespace quorvel::window {
 namespace {

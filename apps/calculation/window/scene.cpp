@@ -11,9 +11,11 @@ using host::radians;
 
 Scene::Scene(const Window& window) {
     Matrix inverse;
-    const float orientation = radians(window.orientation);
-    lib::GERSET(orientation, radians(window.tilt), rotation_, inverse);
-    lib::GERSET(orientation, radians(90), upright_, inverse);
+    const auto set = [&](double tilt, Matrix& rotation) {
+        lib::GERSET(radians(window.orientation), radians(tilt), rotation, inverse);
+    };
+    set(window.tilt, rotation_);
+    set(90, upright_);
     const Shades& shades = window.shades;
     if (shades.reveal > 0) add_reveal(window);
     if (shades.left_fin) add_fin(*shades.left_fin, window, -shades.left_fin->offset);
@@ -25,7 +27,7 @@ Scene::Scene(const Window& window) {
 
 Vector Scene::towards_sun(const host::Sun& sun) const {
     Vector global, result;
-    lib::GESUNV(static_cast<float>(sun.altitude), static_cast<float>(sun.azimuth), global);
+    lib::GESUNV(sun.altitude, sun.azimuth, global);
     lib::GERAX2(global, rotation_, result);
     return result;
 }

@@ -10,11 +10,11 @@ namespace quorvel::window {
 namespace {
 
 using host::radians;
+using host::right_angle;
 
-constexpr double quarter_turn = 1.5707963;
 constexpr double solar_constant = 1367;  // W/m²
-constexpr double lowest_with_height =
-    0.0803;  // rad, from which the design sky knows the height of the site
+// rad; with a lower sun the design sky leaves out the height of the site.
+constexpr double lowest_with_height = 0.0803;
 
 double beam_horizontal(const Sky& sky) { return sky.direct_normal * std::sin(sky.sun.altitude); }
 
@@ -27,11 +27,11 @@ void add_perez(OnPlane& plane, const Sky& sky, double tilt, double incidence) {
         return lib::perez_diffuse(sky.sun.altitude, tilt_of_plane, beam_horizontal(sky),
                                   sky.diffuse_horizontal, incidence_on_plane, extraterrestrial);
     };
-    const double even = received(0, quarter_turn);  // the share that is left to the even sky
-    const double brightening = received(quarter_turn, quarter_turn) - even / 2;
+    const double even = received(0, right_angle);  // the share that is left to the even sky
+    const double brightening = received(right_angle, right_angle) - even / 2;
     plane.sky = even * (1 + std::cos(tilt)) / 2;
     plane.horizon = brightening * std::sin(tilt);
-    plane.circumsolar = received(tilt, incidence) - received(tilt, quarter_turn);
+    plane.circumsolar = received(tilt, incidence) - received(tilt, right_angle);
 }
 
 }  // namespace

@@ -147,8 +147,7 @@ Answer look_at_installation(bool quick) {
 
 constexpr const char* description =
     "Looks at the Quorvel library of this machine: that it can be loaded, is of this version, "
-    "gives "
-    "the published values, and gives the same bits as on every other machine.";
+    "gives the published values, and gives the same bits as on every other machine.";
 
 constexpr const char* details =
     "Of the array library beside it the version is checked, and the level of instructions told "

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quorvel::program {
+
+inline constexpr std::string_view station_ending = ".toml";  // of station files
 
 // Station files, and folders of them, into a climate data file with its places beside it. Throws
 // host::InputError.

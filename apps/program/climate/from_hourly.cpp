@@ -24,7 +24,6 @@ using climatefile::Station;
 using climatefile::WeatherYear;
 using host::InputError;
 
-constexpr const char* station_ending = ".toml";
 constexpr std::size_t longest_name = 40;  // characters that a station file takes
 
 // The first characters of a text in UTF-8.
@@ -92,14 +91,15 @@ std::vector<std::string> outputs_of(const Derivation& derivation) {
     }
     const bool is_folder = host::names_in(output).has_value();
     if (!is_folder && std::ifstream(output))
-        throw InputError(output + ": a station file's name must end in " + station_ending);
+        throw InputError(output + ": a station file's name must end in " +
+                         std::string(station_ending));
     std::vector<std::string> outputs;
     std::set<std::string> names;
     for (const std::string& year : years) {
         const std::string stem = without_ending(file_name(year));
         if (!names.insert(stem).second)
             throw InputError(year + ": another year is named " + stem + " too");
-        outputs.push_back(output + '/' + stem + station_ending);
+        outputs.push_back(output + '/' + stem + std::string(station_ending));
     }
     if (!is_folder) std::filesystem::create_directories(output);
     return outputs;

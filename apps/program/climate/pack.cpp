@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
-#include <string_view>
 
 #include "program/climate/files.h"
 #include "reading/climate/place.h"
@@ -17,8 +16,6 @@ namespace {
 
 using climatefile::Station;
 using host::InputError;
-
-constexpr std::string_view station_ending = ".toml";
 
 // The station files of a folder. The places of a climate data file that is there too are no
 // station.

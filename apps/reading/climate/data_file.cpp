@@ -75,8 +75,7 @@ MonthRecord DataFile::month(int number, int month, int set, double percentage) c
     const auto value = [&](std::size_t i) { return filled[begin + i]; };
     if (std::all_of(&filled[begin], &filled[begin] + 9, [](double x) { return x == 0; }))
         throw error(number, left_out);
-    return {value(5), value(2), value(3), value(0), value(4),
-            value(1), value(6), value(7), value(8)};
+    return {value(5), value(2), value(3), value(0)};
 }
 
 }  // namespace quorvel::climatefile

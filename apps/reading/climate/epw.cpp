@@ -1,7 +1,6 @@
 #include "reading/climate/epw.h"
 
 #include <charconv>
-#include <cmath>
 #include <fstream>
 #include <optional>
 #include <string_view>
@@ -19,7 +18,8 @@ using host::InputError;
 
 constexpr int longest_header = 100;  // lines; eight are usual
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-constexpr int month_days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+
+constexpr const char* blanks = " \r\x1A";  // the last one: an end mark of old files
 
 // A value outside is impossible, or one of those that stand for a missing one: 99.9, 999, 9999.
 struct Column {
@@ -67,8 +67,7 @@ class Lines {
         const bool more = static_cast<bool>(std::getline(stream_, line_));
         if (!more) line_.clear();
         ++number_;
-        line_.erase(line_.find_last_not_of(" \r\x1A") +
-                    1);  // the last one: an end mark of old files
+        line_.erase(line_.find_last_not_of(blanks) + 1);
         fields_.clear();
         std::string_view rest = line_;
         if (number_ == 1 && rest.starts_with(byte_order_mark))
@@ -212,11 +211,12 @@ WeatherYear read_as_given(const std::string& path) {
     read_header(lines, year);
     lines.next();
     int day_of_year = 0;
-    for (int month = 1; month <= 12; ++month) {
-        for (int day = 1; day <= month_days[month - 1]; ++day)
+    for (int month = 1; const int days : host::days_of_month) {
+        for (int day = 1; day <= days; ++day)
             read_day(lines, year, month, day, ++day_of_year);
         if (month == 2 && !lines.blank() && is_hour(lines, 2, 29, 1))
             read_day(lines, year, month, 29, day_of_year);
+        ++month;
     }
     if (!lines.blank()) throw lines.error("31 December, hour 24 must be the last line");
     return year;

@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "calculation/calendar.h"
-#include "telling/climate/single.h"
 #include "telling/text.h"
 
 namespace quorvel::climatefile {
@@ -14,7 +13,7 @@ namespace {
 std::string range_fault(const Quantity& quantity, float value) {
     if (value >= quantity.low && value <= quantity.high) return "";
     return std::string(quantity.key) + " is " +
-           (std::isnan(value) ? "not a number" : shortest(value)) + "; allowed " +
+           (std::isnan(value) ? "not a number" : host::shortest(value)) + "; allowed " +
            host::shortest(quantity.low) + " to " + host::shortest(quantity.high) + ' ' +
            quantity.unit;
 }
@@ -50,11 +49,11 @@ std::string frequency_fault(const Station& station, std::size_t set, std::size_t
     if (band > 0) {
         const float before = station.rows[band_row(set, 0, band - 1)][month];
         if (F < before)
-            return "F falls from " + shortest(before) + " to " + shortest(F) +
+            return "F falls from " + host::shortest(before) + " to " + host::shortest(F) +
                    "; it must rise from band to band";
     }
     if (band + 1 == band_count && F != 1.0f)
-        return "F is " + shortest(F) + "; allowed 1 in band " + std::to_string(band_count);
+        return "F is " + host::shortest(F) + "; allowed 1 in band " + std::to_string(band_count);
     return "";
 }
 
@@ -68,8 +67,8 @@ std::vector<std::string> violations(const Station& station) {
             const auto value = [&](std::size_t row) { return station.rows[row][month]; };
             const std::string place =
                 "set " + std::to_string(set + 1) + ", " + std::string(host::month_names[month]);
-            report(place, range_fault(time_a, value(time_row(set, 0))));
-            report(place, range_fault(time_b, value(time_row(set, 1))));
+            for (std::size_t time = 0; time < times.size(); ++time)
+                report(place, range_fault(times[time], value(time_row(set, time))));
             for (std::size_t band = 0; band < band_count; ++band) {
                 const std::string in_band = place + ", band " + std::to_string(band + 1);
                 for (std::size_t q = 0; q < quantities.size(); ++q)

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "calculation/calendar.h"
 #include "reading/climate/place.h"
@@ -14,9 +13,6 @@ namespace {
 
 using host::InputTable;
 using host::month_names;
-
-constexpr const char* set_keys[] = {"set1", "set2"};
-constexpr const Quantity* times[] = {&time_a, &time_b};
 
 host::Range range_of(const Quantity& quantity) {
     return {quantity.low, quantity.high, quantity.unit};
@@ -48,7 +44,7 @@ void read_quantity(const InputTable& table, Station& station, std::size_t set, s
 void read_set(const InputTable& table, Station& station, std::size_t set) {
     table.expect({"time_A", "time_B", "F", "Q1", "Q2", "Q3", "Q4", "Q5", "Q6", "Q7"});
     for (std::size_t time = 0; time < 2; ++time) {
-        const auto hours = table.numbers(times[time]->key, month_count, range_of(*times[time]));
+        const auto hours = table.numbers(times[time].key, month_count, range_of(times[time]));
         std::ranges::transform(hours, station.rows[time_row(set, time)].begin(),
                                [](double hour) { return static_cast<float>(hour); });
     }

@@ -16,8 +16,6 @@ namespace {
 using host::InputTable;
 
 constexpr host::Range temperature{-50, 60, "°C"}, humidity{0, 100, "%"};
-constexpr std::size_t longest_file_name = 400;
-constexpr std::size_t months = 12;
 
 struct Outdoors {
     std::vector<Air> air;
@@ -33,21 +31,23 @@ Outdoors of_weather(const std::string& file) {
 
 bool is_station_file(const std::string& name) { return name.ends_with(".toml"); }
 
-climatefile::Station read_station(const InputTable& table, const std::string& file) {
+climatefile::Station read_station(const InputTable& table) {
+    const std::string file = table.file("file");
     if (!is_station_file(file))
-        return climatefile::DataFile(file).station(table.integer("station", 1, 9999));
+        return climatefile::DataFile(file).station(
+            table.integer("station", 1, climatefile::last_station_number));
     if (table.has("station")) throw table.error("station", "a station file has one station only");
     return climatefile::read_station(file);
 }
 
-Outdoors of_station(const InputTable& table, const std::string& input) {
-    const std::string name = table.text("file", longest_file_name);
+Outdoors of_station(const InputTable& table) {
+    const std::string name = table.file_name("file");
     const int set = table.has("set") ? table.integer("set", 1, 2) : 1;
-    const auto station = read_station(table, host::beside(input, name));
+    const auto station = read_station(table);
     const double height = std::isnan(station.place.height) ? 0 : station.place.height;
     const auto means = climatefile::monthly_means(station, static_cast<std::size_t>(set - 1),
                                                   climatefile::standard_pressure(height));
-    for (std::size_t month = 0; month < months; ++month)
+    for (std::size_t month = 0; month < host::months_of_year; ++month)
         if (!(std::fabs(means.temperature[month]) <= 90) || !(means.vapour_pressure[month] > 0))
             throw table.error("file", name + ": no temperature or humidity in " +
                                           std::string(host::month_names[month]));
@@ -60,7 +60,7 @@ Outdoors of_input(const InputTable& table) {
     for (const char* key :
          {"inside_temperature", "inside_humidity", "outside_temperature", "outside_humidity"})
         monthly = monthly || (table.has(key) && table.is_list(key));
-    const std::size_t cases = monthly ? months : 1;
+    const std::size_t cases = monthly ? host::months_of_year : 1;
     const auto t = table.numbers("outside_temperature", cases, temperature);
     const auto rh = table.numbers("outside_humidity", cases, humidity);
     Outdoors outdoors;
@@ -68,8 +68,7 @@ Outdoors of_input(const InputTable& table) {
     return outdoors;
 }
 
-Outdoors read_outdoors(const InputTable& table, const std::string& input,
-                       const std::string& weather) {
+Outdoors read_outdoors(const InputTable& table, const std::string& weather) {
     if (!weather.empty()) {
         table.expect({"inside_temperature"},
                      {"inside_humidity", "humidity_class", "outside_temperature",
@@ -78,14 +77,14 @@ Outdoors read_outdoors(const InputTable& table, const std::string& input,
     }
     if (table.has("weather")) {
         table.expect({"weather", "inside_temperature"}, {"inside_humidity", "humidity_class"});
-        return of_weather(host::beside(input, table.text("weather", longest_file_name)));
+        return of_weather(table.file("weather"));
     }
     if (table.has("file")) {
         table.expect({"file", "inside_temperature"},
                      {"station", "set", "inside_humidity", "humidity_class"});
-        if (!table.has("station") && !is_station_file(table.text("file", longest_file_name)))
+        if (!table.has("station") && !is_station_file(table.file_name("file")))
             throw table.error("", "missing station");
-        return of_station(table, input);
+        return of_station(table);
     }
     table.expect({"inside_temperature", "outside_temperature", "outside_humidity"},
                  {"inside_humidity", "humidity_class"});
@@ -105,9 +104,8 @@ Indoors read_indoors(const InputTable& table, std::size_t cases) {
 
 }  // namespace
 
-ReadClimate read_climate(const InputTable& table, const std::string& input,
-                         const std::string& weather) {
-    Outdoors outdoors = read_outdoors(table, input, weather);
+ReadClimate read_climate(const InputTable& table, const std::string& weather) {
+    Outdoors outdoors = read_outdoors(table, weather);
     const Indoors indoors = read_indoors(table, outdoors.air.size());
     ReadClimate read{climates(indoors, outdoors.air), std::move(outdoors.source),
                      std::move(outdoors.replaced)};

@@ -18,10 +18,8 @@ struct ReadClimate {
     bool saturated_inside = false;  // the humidity class asks for more than air can hold
 };
 
-// Files that the table names are looked for beside the input; a file of weather, if any, takes the
-// place of all that it says of the air outside. The library must have been loaded. Throws
+// A file of weather, if any, takes the place of all that the table says of the air outside. Throws
 // host::InputError.
-ReadClimate read_climate(const host::InputTable& table, const std::string& input,
-                         const std::string& weather);
+ReadClimate read_climate(const host::InputTable& table, const std::string& weather);
 
 }  // namespace quorvel::wall

@@ -85,7 +85,7 @@ ReadQuestion read_question(const InputTable& root, const Request& request,
     read.question.element = read_element(wall, std::move(layers));
     read.question.demand = read_demand(root);
     read.question.section = chosen_section(wall, read.question.element);
-    read.climate = read_climate(root.table("climate"), request.input, request.weather);
+    read.climate = read_climate(root.table("climate"), request.weather);
     read.question.climates = read.climate.climates;
     return read;
 }
@@ -93,8 +93,7 @@ ReadQuestion read_question(const InputTable& root, const Request& request,
 }  // namespace
 
 std::vector<ReadQuestion> read_questions(const Request& request) {
-    host::Library materials;
-    for (const std::string& file : request.libraries) materials.add(file);
+    const host::Library materials(request.libraries);
     std::vector<ReadQuestion> questions;
     for (const host::Variant& variant : host::read_variants(request.input, alternatives)) {
         questions.push_back(read_question(variant.input->root(), request, materials));

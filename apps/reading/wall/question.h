@@ -23,8 +23,7 @@ struct ReadQuestion {
     std::string variant = {};  // empty: the input as it is
 };
 
-// The input as it is, and its variants. The library of calculations must have been loaded. Throws
-// host::InputError at the first fault.
+// The input as it is, and its variants. Throws host::InputError at the first fault.
 std::vector<ReadQuestion> read_questions(const Request& request);
 
 }  // namespace quorvel::wall

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "calculation/angle.h"
+
 namespace quorvel::window {
 namespace {
 
@@ -23,9 +25,8 @@ double rest_of(double transmittance) { return std::round(1000 * (1 - transmittan
 // A pane as it is made, before anyone turns it.
 struct Glass {
     double thickness, transmittance;
-    double reflectance,
-        coated_reflectance;  // 0: plain glass, which reflects as its transmittance tells
-    double emissivity;       // of the coated face
+    double reflectance, coated_reflectance;  // 0: plain glass, as its transmittance tells
+    double emissivity;                       // of the coated face
     bool has_emissivity;
 };
 
@@ -166,7 +167,7 @@ void place_between(const InputTable& table, const Glazing& glazing, Blind& blind
                        1;
     const auto* slats = std::get_if<Slats>(&blind.make);
     const double width = cavities[blind.cavity].width;
-    if (slats && slats->width * std::cos(slats->angle * 3.14159265 / 180) > width)
+    if (slats && slats->width * std::cos(host::radians(slats->angle)) > width)
         throw table.error("width", "the slats are wider than the gap between the panes");
 }
 

@@ -9,6 +9,7 @@
 #include "reading/window/glazing.h"
 #include "reading/window/shades.h"
 #include "reading/window/temperatures.h"
+#include "telling/climate/station_answer.h"
 
 namespace quorvel::window {
 namespace {
@@ -96,11 +97,11 @@ void expect_day(const InputTable& table, Span span, bool glazed) {
                           "hour_of_max", "climate"});
 }
 
-void read_temperatures(const InputTable& table, const std::string& input, DesignDay& day) {
+void read_temperatures(const InputTable& table, DesignDay& day, std::vector<std::string>& notes) {
     day.room = table.has("room") ? of_month(table, "room", day.month, {-30, 60, "°C"}) : none;
     day.outdoor_min = day.outdoor_max = none;
     day.hour_of_max = 15;
-    if (table.has("climate")) return read_climate(table.table("climate"), input, day);
+    if (table.has("climate")) return read_climate(table.table("climate"), day, notes);
     if (table.has("outdoor_min"))
         day.outdoor_min = of_month(table, "outdoor_min", day.month, {-60, 60, "°C"});
     if (table.has("outdoor_max")) {
@@ -116,20 +117,14 @@ void read_temperatures(const InputTable& table, const std::string& input, Design
     day.hour_of_max = table.number("hour_of_max", {13, 18, "h solar time"}, 15);
 }
 
-int month_of(int day_of_year) {
-    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    int month = 1;
-    for (; day_of_year > days[month - 1]; ++month) day_of_year -= days[month - 1];
-    return month;
-}
-
-std::vector<DesignDay> read_days(const InputTable& table, const std::string& input, Span span) {
+std::vector<DesignDay> read_days(const InputTable& table, Span span,
+                                 std::vector<std::string>& notes) {
     std::vector<DesignDay> days;
     if (span == Span::year) return days;
     if (span == Span::months) {
         for (int month = 1; month <= 12; ++month) {
             days.push_back({month, 0, 0, 0, 0, 0, {}, ""});
-            read_temperatures(table, input, days.back());
+            read_temperatures(table, days.back(), notes);
         }
         return days;
     }
@@ -140,9 +135,9 @@ std::vector<DesignDay> read_days(const InputTable& table, const std::string& inp
         day.month = table.choice("month", host::month_names, 1);
     } else {
         day.day_of_year = table.integer("day_of_year", 1, 365);
-        day.month = month_of(day.day_of_year);
+        day.month = static_cast<int>(host::date_of(day.day_of_year).month) + 1;
     }
-    read_temperatures(table, input, day);
+    read_temperatures(table, day, notes);
     return {day};
 }
 
@@ -208,14 +203,14 @@ std::vector<Window> read_windows(const InputTable& root, const host::Library& li
 }
 
 // What was replaced in the weather, so far as it matters to a window.
-void note_what_was_replaced(const climatefile::WeatherYear& year, std::vector<std::string>& notes) {
-    for (const auto& [quantity, remedy, hours, first] : year.replaced) {
-        const bool matters =
-            quantity.find("irradi") != quantity.npos || quantity.find("dry-bulb") != quantity.npos;
-        if (matters)
-            notes.push_back(year.place + ": " + quantity + ": " + remedy + ", " +
-                            std::to_string(hours) + " hours, the first " + first);
-    }
+void note_what_was_replaced(climatefile::WeatherYear year, std::vector<std::string>& notes) {
+    using climatefile::Hour;
+    std::erase_if(year.replaced, [](const climatefile::Replacement& done) {
+        return done.of != &Hour::dry_bulb && done.of != &Hour::direct_normal &&
+               done.of != &Hour::diffuse_horizontal;
+    });
+    for (const std::string& line : climatefile::told(year.replaced))
+        notes.push_back(year.place + ": " + line);
 }
 
 Weather read_weather(const std::string& path, std::vector<std::string>& notes) {
@@ -231,14 +226,8 @@ Weather read_weather(const std::string& path, std::vector<std::string>& notes) {
     return weather;
 }
 
-bool any_glazed(const std::vector<Window>& windows) {
-    for (const Window& window : windows)
-        if (window.is_glazed()) return true;
-    return false;
-}
-
-Job read_job(const InputTable& root, const std::string& input, const Request& request,
-             const host::Library& library, const std::optional<Weather>& weather) {
+Job read_job(const InputTable& root, const Request& request, const host::Library& library,
+             const std::optional<Weather>& weather) {
     if (weather)
         root.expect({"window"},
                     {"site", "day", "reveal", "left_fin", "right_fin", "overhang", "obstruction"});
@@ -246,7 +235,6 @@ Job read_job(const InputTable& root, const std::string& input, const Request& re
         root.expect({"site", "day", "window"},
                     {"reveal", "left_fin", "right_fin", "overhang", "obstruction"});
     Job job{};
-    job.span = request.span;
     job.weather = weather;
     job.site = root.has("site") ? read_site(root.table("site"), weather) : site_of(*weather);
     job.windows = read_windows(root, library, job.notes);
@@ -257,7 +245,7 @@ Job read_job(const InputTable& root, const std::string& input, const Request& re
     }
     const InputTable day = root.table("day");
     expect_day(day, request.span, glazed);
-    job.days = read_days(day, input, request.span);
+    job.days = read_days(day, request.span, job.notes);
     if (job.weather && day.has("room")) job.weather->room = day.number("room", {-30, 60, "°C"});
     return job;
 }
@@ -265,15 +253,14 @@ Job read_job(const InputTable& root, const std::string& input, const Request& re
 }  // namespace
 
 std::vector<Job> read_jobs(const std::string& path, const Request& request) {
-    host::Library library;
-    for (const std::string& file : request.libraries) library.add(file);
+    const host::Library library(request.libraries);
     std::vector<host::Variant> variants = host::read_variants(path, alternatives);
     std::optional<Weather> weather;
     std::vector<std::string> notes;
     if (request.span == Span::year) weather = read_weather(request.weather, notes);
     std::vector<Job> jobs;
     for (const host::Variant& variant : variants) {
-        jobs.push_back(read_job(variant.input->root(), path, request, library, weather));
+        jobs.push_back(read_job(variant.input->root(), request, library, weather));
         jobs.back().variant = variant.name;
         jobs.back().notes.insert(jobs.back().notes.end(), notes.begin(), notes.end());
     }

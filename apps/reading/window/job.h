@@ -21,7 +21,6 @@ struct Request {
 
 struct Job {
     std::string variant;  // its name; empty: the input as it is
-    Span span;
     Site site;
     std::vector<DesignDay> days;     // one, or twelve for the months, none for a year of weather
     std::optional<Weather> weather;  // of the year
@@ -29,8 +28,7 @@ struct Job {
     std::vector<std::string> notes;  // what was taken for granted
 };
 
-// The input as it is, then its variants. Throws host::InputError at the first fault. A climate data
-// file is read by the library, which must have been loaded.
+// The input as it is, then its variants. Throws host::InputError at the first fault.
 std::vector<Job> read_jobs(const std::string& path, const Request& request);
 
 }  // namespace quorvel::window

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "calculation/window/input.h"
 #include "reading/input.h"
 
 namespace quorvel::window {
 
-// Sets the outdoor temperatures and their hours for the month of the day. A file name without a
-// root is taken from the folder of the input file. Throws host::InputError.
-void read_climate(const host::InputTable& table, const std::string& input, DesignDay& day);
+// Sets the outdoor temperatures and their hours for the month of the day, and adds a note where
+// something had to be assumed. Throws host::InputError.
+void read_climate(const host::InputTable& table, DesignDay& day, std::vector<std::string>& notes);
 
 }  // namespace quorvel::window

@@ -7,16 +7,12 @@
 #include <cstdint>
 
 #include "calculation/calendar.h"
-#include "telling/climate/single.h"
 #include "telling/text.h"
 
 namespace quorvel::climatefile {
 namespace {
 
 using host::month_names;
-
-constexpr const char* set_keys[] = {"set1", "set2"};
-constexpr const Quantity* times[] = {&time_a, &time_b};
 
 // A key and its list, each number in the width of the widest of the table.
 std::string line(std::string_view key, const std::vector<std::string>& numbers,
@@ -40,7 +36,7 @@ std::string quantity_text(const Station& station, std::size_t set, std::size_t q
     std::size_t width = 0;
     for (std::size_t month = 0; month < month_count; ++month) {
         for (std::size_t band = 0; band < band_count; ++band)
-            months[month].push_back(shortest(station.rows[band_row(set, q, band)][month]));
+            months[month].push_back(host::shortest(station.rows[band_row(set, q, band)][month]));
         width = std::max(width, widest(months[month]));
     }
     const Quantity& quantity = quantities[q];
@@ -55,9 +51,9 @@ std::string set_text(const Station& station, std::size_t set) {
     std::string text = std::string("\n[") + set_keys[set] + "]  # January to December\n";
     for (std::size_t time = 0; time < 2; ++time) {
         std::vector<std::string> hours;
-        for (const float hour : station.rows[time_row(set, time)]) hours.push_back(shortest(hour));
+        for (const float hour : station.rows[time_row(set, time)]) hours.push_back(host::shortest(hour));
         text +=
-            line(times[time]->key, hours, 6, widest(hours)) + "  # " + times[time]->meaning + '\n';
+            line(times[time].key, hours, 6, widest(hours)) + "  # " + times[time].meaning + '\n';
     }
     for (std::size_t q = 0; q < quantities.size(); ++q) text += quantity_text(station, set, q);
     return text;

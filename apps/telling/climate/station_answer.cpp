@@ -38,7 +38,7 @@ DataTable bands(const Station& station, std::size_t set, std::size_t month) {
 }
 
 host::Figure time(const Station& station, std::size_t set, std::size_t month, std::size_t time) {
-    const Quantity& quantity = time == 0 ? time_a : time_b;
+    const Quantity& quantity = times[time];
     return {{quantity.key, time == 0 ? "time A" : "time B", "h", quantity.decimals},
             station.rows[time_row(set, time)][month],
             time == 0 ? "solar time, warmest" : "solar time, coldest"};
@@ -104,7 +104,7 @@ Answer told_violations(const std::string& file, std::size_t stations,
 
 std::vector<std::string> told(const std::vector<Replacement>& replaced) {
     std::vector<std::string> lines;
-    for (const auto& [quantity, remedy, hours, first] : replaced)
+    for (const auto& [of, quantity, remedy, hours, first] : replaced)
         lines.push_back(quantity + ": " + std::to_string(hours) +
                         (hours == 1 ? " hour " : " hours ") + remedy +
                         (hours == 1 ? " (" : " (first ") + first + ')');

@@ -38,8 +38,7 @@ std::vector<std::string> notes(const Subject& subject, const Question& question,
     if (!assessment.transmittance.applies())
         notes.push_back(
             "The limits of the resistance are further apart than the method is meant for: look for "
-            "the "
-            "U-value in two or three dimensions.");
+            "the U-value in two or three dimensions.");
     return notes;
 }
 
@@ -90,27 +89,20 @@ host::Section conditions_given(const Question& question, const Assessment& asses
 std::vector<std::string> method() {
     return {
         "U-value: resistances in series; of layers of several parts the mean of the upper and the "
-        "lower limit of the "
-        "resistance (EN ISO 6946).",
-        "Water: Glaser's method through the months (EN ISO 13788). The state of a month is steady; "
-        "vapour pressure "
-        "nowhere exceeds saturation, and is held to it where there is water. What arrives there "
-        "and does not pass on "
-        "condenses; what leaves and does not arrive evaporates. A month is parted where a place "
-        "has dried. Layers of "
-        "more than 0.25 m²K/W are divided. The year begins, dry, with the first month in which "
-        "vapour condenses. "
-        "Rain, sun, the cold of the sky, air leaking through joints, water that moves as a liquid "
-        "and water built in "
-        "are left out.",
+        "lower limit of the resistance (EN ISO 6946).",
+        "Water: Glaser's method through the months (EN ISO 13788). The state of a month is "
+        "steady; vapour pressure nowhere exceeds saturation, and is held to it where there is "
+        "water. What arrives there and does not pass on condenses; what leaves and does not "
+        "arrive evaporates. A month is parted where a place has dried. Layers of more than 0.25 "
+        "m²K/W are divided. The year begins, dry, with the first month in which vapour "
+        "condenses. Rain, sun, the cold of the sky, air leaking through joints, water that moves "
+        "as a liquid and water built in are left out.",
         "Mould: the temperature factor of the plane element, and the one at which the humidity at "
-        "the surface is at "
-        "most that asked for (EN ISO 13788). Corners and other thermal bridges are colder.",
+        "the surface is at most that asked for (EN ISO 13788). Corners and other thermal bridges "
+        "are colder.",
         "Daily swing of temperature: transfer matrices of the layers with the surface resistances "
-        "(EN ISO 13786); "
-        "gaps and sheets store no heat, layers of several parts count with their mean conductivity "
-        "and heat "
-        "capacity."};
+        "(EN ISO 13786); gaps and sheets store no heat, layers of several parts count with their "
+        "mean conductivity and heat capacity."};
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ bool all_years(const std::vector<Variation>& variations) {
 std::vector<host::Value> row(const Variation& v) {
     const Assessment& a = v.assessment;
     const bool wet = a.year && !a.year->dry();
-    return {v.subject.variant.empty() ? "as it is" : v.subject.variant,
+    return {v.subject.variant_name(),
             a.transmittance.u_value,
             a.surface.factor,
             a.surface.required,

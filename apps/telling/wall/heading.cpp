@@ -6,7 +6,6 @@
 namespace quorvel::wall {
 namespace {
 
-using host::colour::grey;
 using host::colour::ink;
 
 constexpr const char* water_colour = "#2b6cb8";
@@ -24,17 +23,13 @@ std::vector<std::string> lines(const std::string& text) {
 void draw_heading(host::Chart& chart, const Subject& subject, const Question& question,
                   const Assessment& assessment, const std::string& shown) {
     const bool wet = assessment.year ? !assessment.year->dry() : assessment.dry.front().inside_wet;
-    chart.text(heading_margin, 38,
-               subject.name + (subject.variant.empty() ? "" : ": " + subject.variant),
-               {ink, 24, true});
-    chart.text(heading_margin, 66,
-               "U-value " + told_with_unit(u_value, assessment.transmittance.u_value) +
-                   "  ·  f_Rsi " + host::told(temperature_factor, assessment.surface.factor) +
-                   "  ·  " + shown,
-               {grey, 12});
+    chart.heading(subject.name + (subject.variant.empty() ? "" : ": " + subject.variant),
+                  "U-value " + told_with_unit(u_value, assessment.transmittance.u_value) +
+                      "  ·  f_Rsi " + host::told(temperature_factor, assessment.surface.factor) +
+                      "  ·  " + shown);
     double y = 94;
     for (const std::string& line : lines(condensation_told(question, assessment))) {
-        chart.text(heading_margin, y, line, {wet ? water_colour : ink, 13, true});
+        chart.text(host::chart_margin, y, line, {wet ? water_colour : ink, 13, true});
         y += 20;
     }
 }

@@ -5,8 +5,6 @@
 
 namespace quorvel::wall {
 
-inline constexpr double heading_margin = 24, heading_height = 140;  // pixels
-
 // Name, figures, a line on what is shown, and what becomes of the water; in the panel that is
 // begun.
 void draw_heading(host::Chart& chart, const Subject& subject, const Question& question,

@@ -175,7 +175,7 @@ void Picture::numbers() {
     const bool monthly = question_.climates.size() > 1;
     draw_heading(chart_, subject_, question_, assessment_,
                  (monthly ? month_name(month_) + ": " : "") + wall::told(climate_));
-    chart_.title(heading_margin, numbers_row - 30, "Temperature, °C", {});
+    chart_.title(numbers_row - 30, "Temperature, °C", {});
     chart_.text(left + pixel(0) - 14, numbers_row + 4, "inside", {grey, 12, false, "right"});
 
     std::vector<double> middles;
@@ -266,7 +266,7 @@ void Picture::pressures() {
                                 {"━", vapour_colour, "in the wall"}};
     if (std::ranges::any_of(profile_.gain, [](double gain) { return gain >= least_water; }))
         keys.push_back({"╎", vapour_colour, "condenses, " + water_gain.unit});
-    chart_.title(heading_margin, pressure_top - 46, "Pressure of vapour, Pa", keys);
+    chart_.title(pressure_top - 46, "Pressure of vapour, Pa", keys);
     chart_.text(right, pressure_top + pressure_height + 42, "mm from the inside surface",
                 {grey, 12, false, "right"});
     rates();

@@ -32,8 +32,7 @@ std::string steady_condensation(const Question& question, const Assessment& asse
     std::vector<std::string> places;
     for (std::size_t i = 0; i < profile.gain.size(); ++i) {
         const Place& place = assessment.path.places[i];
-        const std::string name = place.within ? "in " + std::to_string(place.index + 1)
-                                              : interface_name(place.index, layers);
+        const std::string name = deposit_name({place.index, place.within, {}, {}}, layers);
         if (profile.gain[i] >= least_water && (places.empty() || places.back() != name))
             places.push_back(name);
     }

@@ -16,6 +16,8 @@ struct Subject {
     std::size_t left_out = 0;  // layers in and beyond a well-ventilated gap
     std::vector<std::string> warnings = {};
     std::string variant = {};  // empty for the input as it is
+
+    std::string variant_name() const { return variant.empty() ? "as it is" : variant; }
 };
 
 // What is told has the same digits in tables and pictures.
@@ -33,9 +35,8 @@ std::string told_with_unit(const host::Quantity& quantity, double value);  // 0.
 std::string interface_name(std::size_t i, std::size_t layers);         // inside, 1|2, 2|3, outside
 std::string place_name(const Place& place, std::size_t layers);        // 2|3, or in 2 at 83 mm
 std::string deposit_name(const Deposit& deposit, std::size_t layers);  // 2|3, or in 2
-std::string section_name(
-    const Element& element,
-    const Section& section);  // batten + stud; empty where all layers are homogeneous
+// batten + stud; empty where all layers are homogeneous
+std::string section_name(const Element& element, const Section& section);
 
 std::string told(const Climate& climate);  // inside 20 °C 50 %, outside 4.4 °C 86 %
 

@@ -1,7 +1,6 @@
 #include "telling/wall/year_chart.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "telling/text.h"
 #include "telling/value.h"
@@ -10,13 +9,12 @@
 namespace quorvel::wall {
 namespace {
 
-using host::colour::grey;
 using host::colour::ink;
 using Rows = std::vector<std::vector<double>>;
 
 constexpr double left = 74, plot_width = 900, width = left + plot_width + 40;
-constexpr double top = 190,
-                 below = 80;  // of the first panel; under each panel, for names and the next title
+constexpr double top = 190;   // of the first panel
+constexpr double below = 80;  // each panel, for names and the next title
 constexpr double water_height = 270, surface_height = 180;
 
 // From the inside outwards; further places take the last.
@@ -31,13 +29,6 @@ const char* water_colour(std::size_t i) {
 }
 const char* variant_colour(std::size_t i) {
     return variant_colours[i % std::size(variant_colours)];
-}
-
-std::vector<std::string> names_of_months(std::size_t first) {
-    std::vector<std::string> names;
-    for (std::size_t m = 0; m < months_of_year; ++m)
-        names.push_back(month_name((first + m) % months_of_year).substr(0, 3));
-    return names;
 }
 
 // Where the m-th of the months in a row begins; their names stand at the whole numbers.
@@ -59,7 +50,7 @@ Rows stacked(const Year& year) {
 
 void draw_water(host::Chart& chart, const Question& question, const Year& year) {
     chart.panel({left, top, plot_width, water_height});
-    chart.horizontal_names(names_of_months(year.months.front().month));
+    chart.horizontal_names(host::short_month_names(year.months.front().month));
     chart.vertical_scale(host::round_scale(0, year.peak()));
     std::vector<host::Key> keys;
     std::vector<std::string> parts;
@@ -69,7 +60,7 @@ void draw_water(host::Chart& chart, const Question& question, const Year& year) 
         keys.push_back({"■", water_colour(i), name});
         parts.insert(parts.begin(), host::area(rows, i + 2, water_colour(i)));
     }
-    chart.title(heading_margin, top - 30, "Water, g/m², stacked by interface", keys);
+    chart.title(top - 30, "Water, g/m², stacked by interface", keys);
     chart.mark(beginning(year.wettest + 1), year.peak(), "");
     chart.plot(parts);
 }
@@ -86,9 +77,9 @@ Rows demands(const SurfaceYear& surface, std::size_t first) {
 
 void draw_surface(host::Chart& chart, double top, const SurfaceYear& surface, std::size_t first) {
     chart.panel({left, top, plot_width, surface_height});
-    chart.horizontal_names(names_of_months(first));
+    chart.horizontal_names(host::short_month_names(first));
     chart.vertical_scale({0, 1, 0.2});
-    chart.title(heading_margin, top - 30, "Temperature factor of the inside surface",
+    chart.title(top - 30, "Temperature factor of the inside surface",
                 {{"━", ink, "f_Rsi " + host::told(temperature_factor, surface.factor)},
                  {"■", demand_colour, "needed against mould"}});
     const Rows required = demands(surface, first);
@@ -144,21 +135,18 @@ host::Chart comparison_chart(const std::vector<Variation>& variations) {
     }
     const std::size_t first = wettest->assessment.year->months.front().month;
     chart.panel({left, top, plot_width, water_height});
-    chart.horizontal_names(names_of_months(first));
+    chart.horizontal_names(host::short_month_names(first));
     chart.vertical_scale(host::round_scale(0, most));
-    chart.text(heading_margin, 38, variations.front().subject.name, {ink, 24, true});
-    chart.text(heading_margin, 68, "Water in the element at the end of the month, g/m²",
-               {grey, 13});
+    chart.heading(variations.front().subject.name,
+                  "Water in the element at the end of the month, g/m²");
     std::vector<host::Key> keys;
     std::vector<std::string> curves;
     for (std::size_t i = 0; i < variations.size(); ++i) {
-        const Subject& subject = variations[i].subject;
-        keys.push_back(
-            {"━", variant_colour(i), subject.variant.empty() ? "as it is" : subject.variant});
+        keys.push_back({"━", variant_colour(i), variations[i].subject.variant_name()});
         curves.push_back(host::curve(chart.data(water_of(*variations[i].assessment.year, first)), 2,
                                      variant_colour(i), 2.5));
     }
-    chart.keys(heading_margin, 94, keys);
+    chart.keys(host::chart_margin, 94, keys);
     chart.plot(curves);
     return chart;
 }

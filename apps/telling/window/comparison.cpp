@@ -1,6 +1,5 @@
 // Variants beside each other.
 #include <algorithm>
-#include <cmath>
 
 #include "calculation/calendar.h"
 #include "telling/sun.h"
@@ -18,7 +17,7 @@ using host::Section;
 using host::colour::grey;
 using host::colour::ink;
 
-constexpr double margin = 24, left = 84, right = 30, width = 900, top = 130, height = 300,
+constexpr double left = 84, right = 30, width = 900, top = 130, height = 300,
                  line = 22;
 
 std::string name_of(const Case& given) {
@@ -40,12 +39,10 @@ struct Result {
 std::vector<Result> results(const DayCase& given) {
     std::vector<Result> all;
     for (const WindowDay& window : given.day.windows) {
-        const auto sum = [&](auto member) {
-            return window.window->area * daily_sum(window, member) / 1000;
-        };
         const Peak peak = peak_of(window, &WindowHour::solar_gain);
-        all.push_back({window.window, sum(&WindowHour::solar_gain), sum(&WindowHour::conduction),
-                       sum(&WindowHour::net), peak.power,
+        all.push_back({window.window, daily_energy(window, &WindowHour::solar_gain),
+                       daily_energy(window, &WindowHour::conduction),
+                       daily_energy(window, &WindowHour::net), peak.power,
                        peak.hour > 0 ? "hour " + std::to_string(peak.hour) : ""});
     }
     return all;
@@ -81,9 +78,7 @@ DataTable comparison(std::span<const AnyCase> cases, int decimals) {
     for (const AnyCase& given : cases)
         for (const Result& result : results(given)) {
             const Window& window = *result.window;
-            const UnitFigures unit = window.is_glazed()
-                                         ? unit_figures(window)
-                                         : UnitFigures{none, none, none, none, none, none, none};
+            const UnitFigures unit = unit_figures(window);
             table.rows.emplace_back();
             table.rows.back().emplace_back(name_of(given));
             if (several) table.rows.back().emplace_back(window.name);
@@ -103,11 +98,10 @@ host::Chart empty_chart(std::span<const AnyCase> cases) {
 }
 
 template <class AnyCase>
-void head(host::Chart& chart, std::span<const AnyCase> cases, const std::string& title,
-          const std::string& panel, int decimals) {
-    chart.text(margin, 38, title, {ink, 24, true});
-    chart.text(margin, 68, place(cases.front().site), {grey, 12});
-    chart.text(margin, top - 24, panel, {ink, 14, true});
+void head(host::Chart& chart, std::span<const AnyCase> cases, const std::string& panel,
+          int decimals) {
+    chart.heading(cases.front().title(), place(cases.front().site));
+    chart.text(host::chart_margin, top - 24, panel, {ink, 14, true});
     double y = top + height + 72;
     for (std::size_t i = 0; i < cases.size(); ++i, y += line) {
         double gain = 0, peak = 0;
@@ -145,8 +139,7 @@ host::Chart chart_of(std::span<const DayCase> cases) {
     chart.panel({left, top, width - left - right, height});
     chart.horizontal_scale(host::hours_shown(first.day.sunrise, first.day.sunset, 1));
     chart.vertical_scale(host::round_scale(0, most));
-    head(chart, cases, first.site.name + ", " + host::date(first.day.day_of_year),
-         "Solar heat gain into the room, W", 2);
+    head(chart, cases, "Solar heat gain into the room, W", 2);
     chart.text(width - right, top + height + 44, "hour, solar time", {grey, 12, false, "right"});
     const std::string data = chart.data(rows);
     std::vector<std::string> curves;
@@ -157,7 +150,6 @@ host::Chart chart_of(std::span<const DayCase> cases) {
 }
 
 host::Chart chart_of(std::span<const YearCase> cases) {
-    const YearCase& first = cases.front();
     host::Chart chart = empty_chart(cases);
     const auto count = static_cast<double>(cases.size());
     const double bar = 0.8 / count;
@@ -176,14 +168,10 @@ host::Chart chart_of(std::span<const YearCase> cases) {
         }
         data.push_back(chart.data(rows));
     }
-    std::vector<std::string> names;
-    for (const std::string_view name : host::month_names) names.emplace_back(name.substr(0, 3));
     chart.panel({left, top, width - left - right, height});
-    chart.horizontal_names(names);
+    chart.horizontal_names(host::short_month_names());
     chart.vertical_scale(host::round_scale(0, most));
-    head(chart, cases,
-         first.site.name + (first.of_weather ? ", a year of weather" : ", design days of the year"),
-         "Solar heat gain into the room, kWh a month", 1);
+    head(chart, cases, "Solar heat gain into the room, kWh a month", 1);
     std::vector<std::string> parts;
     for (std::size_t i = 0; i < cases.size(); ++i)
         parts.push_back(host::bars(data[i], 2, series_colour(i), bar));
@@ -192,8 +180,8 @@ host::Chart chart_of(std::span<const YearCase> cases) {
 }
 
 template <class AnyCase>
-host::Answer answer_of(std::span<const AnyCase> cases, const std::string& title, int decimals) {
-    host::Answer answer{title, place(cases.front().site)};
+host::Answer answer_of(std::span<const AnyCase> cases, int decimals) {
+    host::Answer answer{cases.front().title(), place(cases.front().site)};
     Section section;
     section.paragraphs.push_back(std::to_string(cases.size() - 1) +
                                  (cases.size() == 2 ? " variant" : " variants") +
@@ -211,17 +199,8 @@ host::Answer answer_of(std::span<const AnyCase> cases, const std::string& title,
 
 }  // namespace
 
-host::Answer compared(std::span<const DayCase> days) {
-    return answer_of(days, days.front().site.name + ", " + host::date(days.front().day.day_of_year),
-                     2);
-}
+host::Answer compared(std::span<const DayCase> days) { return answer_of(days, 2); }
 
-host::Answer compared(std::span<const YearCase> years) {
-    const YearCase& first = years.front();
-    return answer_of(
-        years,
-        first.site.name + (first.of_weather ? ", a year of weather" : ", design days of the year"),
-        1);
-}
+host::Answer compared(std::span<const YearCase> years) { return answer_of(years, 1); }
 
 }  // namespace quorvel::window

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "calculation/angle.h"
-#include "calculation/calendar.h"
 #include "telling/sun.h"
 #include "telling/window/day_chart.h"
 #include "telling/window/shadow_chart.h"
@@ -127,12 +127,15 @@ class Hours {
 
 double incidence_told(const WindowHour& at) { return at.incidence <= 90 ? at.incidence : none; }
 
+std::string key_of(std::string name) {
+    std::ranges::replace(name, ' ', '_');
+    return name;
+}
+
 void add_temperatures(Hours& hours, const WindowDay& window) {
     for (std::size_t k = window.layers; k-- > 0;) {
         const std::string name = layer_name(*window.window, k);
-        std::string key = name;
-        std::ranges::replace(key, ' ', '_');
-        hours.add(celsius(key, name == "pane 1" ? "pane 1 (room)" : name, "Temperature"),
+        hours.add(celsius(key_of(name), name == "pane 1" ? "pane 1 (room)" : name, "Temperature"),
                   [&window, k](std::size_t i) { return window.at[i].gain.temperature[k]; });
     }
 }
@@ -196,10 +199,6 @@ std::string at_hour(const Peak& peak) {
     return peak.hour > 0 ? "at hour " + std::to_string(peak.hour) : "";
 }
 
-double kilowatt_hours(const WindowDay& window, double (WindowHour::*member)() const) {
-    return window.window->area * daily_sum(window, member) / 1000;
-}
-
 std::string of_unshaded(const WindowDay& window) {
     const double all = daily_sum(window, &WindowHour::direct_unshaded);
     return all > 0 ? fixed(100 * daily_sum(window, &WindowHour::direct) / all, 0) +
@@ -212,24 +211,20 @@ void add_day_figures(const WindowDay& window, std::vector<Figure>& figures) {
     figures.push_back({{"irradiation", "Irradiation of the glass", "kWh/m²", 2},
                        daily_sum(window, &WindowHour::incident) / 1000,
                        shaded ? of_unshaded(window) : ""});
-    if (shaded) {
-        figures.push_back(
-            {percent("sky_left", "Sky left by what shades it"), 100 * window.open.sky});
-        figures.push_back({percent("ground_left", "Ground left"), 100 * window.open.ground});
-    }
+    if (shaded) add_openness(window.open, figures);
     if (!window.window->is_glazed()) return;
     const Peak peak = peak_of(window, &WindowHour::solar_gain);
     figures.push_back({energy("solar_gain", "Solar heat gain of the day"),
-                       kilowatt_hours(window, &WindowHour::solar_gain)});
+                       daily_energy(window, &WindowHour::solar_gain)});
     figures.push_back({energy("transmitted", "of this transmitted"),
-                       kilowatt_hours(window, &WindowHour::transmitted)});
+                       daily_energy(window, &WindowHour::transmitted)});
     if (window.blind)
         figures.push_back({energy("solar_gain_without_blind", "without the blind"),
-                           kilowatt_hours(window, &WindowHour::solar_gain_without_blind)});
+                           daily_energy(window, &WindowHour::solar_gain_without_blind)});
     figures.push_back(
-        {energy("conduction", "Conduction"), kilowatt_hours(window, &WindowHour::conduction)});
+        {energy("conduction", "Conduction"), daily_energy(window, &WindowHour::conduction)});
     figures.push_back(
-        {energy("net", "Net heat into the room"), kilowatt_hours(window, &WindowHour::net)});
+        {energy("net", "Net heat into the room"), daily_energy(window, &WindowHour::net)});
     figures.push_back({watts("peak_gain", "Greatest solar heat gain"), peak.power, at_hour(peak)});
     const Peak net = peak_of(window, &WindowHour::net);
     figures.push_back({watts("peak_net", "Greatest net heat flow"), net.power, at_hour(net)});
@@ -242,9 +237,7 @@ void add_warmest(const WindowDay& window, std::vector<Figure>& figures) {
         double most = none;
         for (const WindowHour& at : window.at) most = std::fmax(most, at.gain.temperature[k]);
         const std::string name = layer_name(*window.window, k);
-        std::string key = "warmest_" + name;
-        std::ranges::replace(key, ' ', '_');
-        figures.push_back({celsius(key, "Warmest: " + name), most});
+        figures.push_back({celsius("warmest_" + key_of(name), "Warmest: " + name), most});
     }
 }
 
@@ -268,18 +261,14 @@ Section all_windows(const DayCase& given) {
     Section section{"All windows", "all"};
     double gain = 0, net = 0;
     for (const WindowDay& window : given.day.windows) {
-        gain += kilowatt_hours(window, &WindowHour::solar_gain);
-        net += kilowatt_hours(window, &WindowHour::net);
+        gain += daily_energy(window, &WindowHour::solar_gain);
+        net += daily_energy(window, &WindowHour::net);
     }
     const Peak peak = peak_of(given.day.windows, &WindowHour::solar_gain);
     section.figures = {{energy("solar_gain", "Solar heat gain of the day"), gain},
                        {energy("net", "Net heat into the room"), net},
                        {watts("peak_gain", "Greatest solar heat gain"), peak.power, at_hour(peak)}};
     return section;
-}
-
-bool any_glazed(std::span<const Window> windows) {
-    return std::ranges::any_of(windows, [](const Window& window) { return window.is_glazed(); });
 }
 
 void add_pictures(const DayCase& given, const std::vector<double>& shadow_hours,
@@ -297,8 +286,7 @@ void add_pictures(const DayCase& given, const std::vector<double>& shadow_hours,
 }  // namespace
 
 host::Answer told(const DayCase& given, const std::vector<double>& shadow_hours) {
-    host::Answer answer{given.site.name + ", " + host::date(given.day.day_of_year),
-                        place(given.site)};
+    host::Answer answer{given.title(), place(given.site)};
     Section summary;
     for (const std::string& line : {site_told(given), air_told(given.design), sun_told(given.day)})
         if (!line.empty()) summary.paragraphs.push_back(line);

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <span>
 
-#include "calculation/calendar.h"
 #include "telling/sun.h"
 #include "telling/text.h"
 #include "telling/window/colours.h"
@@ -30,7 +28,7 @@ constexpr double lowest_smooth = 25;  // degrees of the sun's altitude, see draw
 constexpr int steps_per_hour = 2;
 
 // The places of the panels, in pixels.
-constexpr double margin = 24, left = 74, right = 30, between = 28;
+constexpr double left = 74, right = 30, between = 28;
 constexpr double irradiance_top = 216, irradiance_height = 170;
 constexpr double heat_top = irradiance_top + irradiance_height + 112, heat_height = 170;
 constexpr double temperature_top = heat_top + heat_height + 88, temperature_height = 150;
@@ -108,18 +106,15 @@ void Picture::say_the_hour(double bottom) {
 }
 
 void Picture::heading() {
-    chart_.text(margin, 38, given_.site.name + ", " + host::date(hourly_.day_of_year),
-                {ink, 24, true});
-    chart_.text(margin, 68,
-                place(given_.site) + "  ·  " +
-                    host::sun_times(hourly_.sunrise, hourly_.sunset, hourly_.solar_minus_clock),
-                {grey, 12});
+    chart_.heading(given_.title(), place(given_.site) + "  ·  " +
+                                       host::sun_times(hourly_.sunrise, hourly_.sunset,
+                                                       hourly_.solar_minus_clock));
     std::vector<Key> keys{{"■", direct_colour, "direct sun"},
                           {"■", sky_colour, "from the sky"},
                           {"■", ground_colour, "from the ground"}};
     if (std::ranges::any_of(given_.windows, [](const Window& w) { return w.shades.any(); }))
         keys.push_back({"╍", grey, "unshaded"});
-    chart_.title(margin, 112, "Irradiance on the glass, W/m²", keys);
+    chart_.title(112, "Irradiance on the glass, W/m²", keys);
 }
 
 void Picture::column_title(std::size_t i) {
@@ -183,7 +178,7 @@ void Picture::heat(std::size_t i) {
         if (std::ranges::any_of(day_.windows,
                                 [](const WindowDay& w) { return w.blind.has_value(); }))
             keys.push_back({"╍", blind_colour, "without blind"});
-        chart_.title(margin, heat_top - 50, "Heat into the room, W/m²", keys);
+        chart_.title(heat_top - 50, "Heat into the room, W/m²", keys);
     }
     const WindowDay& hourly = hourly_.windows[i];
     if (const Peak peak = peak_of(hourly, &WindowHour::solar_gain); peak.hour > 0) {
@@ -192,7 +187,7 @@ void Picture::heat(std::size_t i) {
             column_left(i), heat_top - 24,
             "peak " + fixed(peak.power, 0) + " W at hour " + std::to_string(peak.hour) +
                 "  ·  day " +
-                fixed(hourly.window->area * daily_sum(hourly, &WindowHour::solar_gain) / 1000, 2) +
+                fixed(daily_energy(hourly, &WindowHour::solar_gain), 2) +
                 " kWh",
             {grey, 12});
     }
@@ -220,7 +215,7 @@ void Picture::temperatures(std::size_t i) {
     }
     begin(column_left(i), temperature_top, column_, temperature_height, temperature_scale(),
           i == 0);
-    if (i == 0) chart_.title(margin, temperature_top - 26, "Temperatures, °C", temperature_keys());
+    if (i == 0) chart_.title(temperature_top - 26, "Temperatures, °C", temperature_keys());
     if (count() == 1) say_the_hour(temperature_top + temperature_height);
     const std::string data = chart_.data(rows);
     std::vector<std::string> curves{curve(data, 3, room_colour, 1.5, "2"),
@@ -279,9 +274,8 @@ void Picture::all_windows() {
         keys.push_back(
             {"■", series_colour(keys.size()),
              window.window->name + ' ' +
-                 fixed(window.window->area * daily_sum(window, &WindowHour::solar_gain) / 1000, 2) +
-                 " kWh"});
-    chart_.title(margin, all_top - 26, "Solar heat gain of all windows, W", keys);
+                 fixed(daily_energy(window, &WindowHour::solar_gain), 2) + " kWh"});
+    chart_.title(all_top - 26, "Solar heat gain of all windows, W", keys);
     say_the_hour(all_top + all_height);
     if (const Peak peak = peak_of(hourly_.windows, &WindowHour::solar_gain); peak.hour > 0)
         chart_.mark(peak.hour, peak.power,

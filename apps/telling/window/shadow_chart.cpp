@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "calculation/angle.h"
-#include "calculation/calendar.h"
+#include "telling/direction.h"
 #include "telling/sun.h"
 #include "telling/text.h"
 #include "telling/window/times.h"
@@ -31,7 +31,7 @@ constexpr const char* no_sun_colour = "#c5cedb";
 constexpr const char* frame_colour = "#4b5160";
 
 // The places of the panels, in pixels.
-constexpr double margin = 24, left = 74, right = 30, width = 900;
+constexpr double margin = host::chart_margin, left = 74, right = 30, width = 900;
 constexpr double first_row = 160, row_gap = 66, column_gap = 28, highest_view = 280;
 constexpr double below_views = 70, curve_height = 130, between_curves = 80;
 constexpr std::size_t most_columns = 4;
@@ -164,14 +164,10 @@ std::string totals(const WindowDay& window) {
 
 void Picture::heading() {
     const Day& day = given_.day;
-    chart_.text(margin, 38,
-                window_.name + ", " + given_.site.name + ", " + host::date(day.day_of_year),
-                {ink, 24, true});
-    chart_.text(margin, 68,
-                size_and_facing(window_) + "  ·  " +
-                    host::on_the_globe(given_.site.latitude, "N", "S") + ", " +
-                    host::sun_times(day.sunrise, day.sunset),
-                {grey, 12});
+    chart_.heading(window_.name + ", " + given_.title(),
+                   size_and_facing(window_) + "  ·  " +
+                       host::on_the_globe(given_.site.latitude, "N", "S") + ", " +
+                       host::sun_times(day.sunrise, day.sunset));
     chart_.text(margin, 92, "Day: " + totals(hourly_), {ink, 12, true});
 }
 
@@ -247,7 +243,7 @@ void Picture::begin_curves(double top, const std::string& title, const std::vect
     chart_.panel({left, top, width - left - right, curve_height});
     chart_.horizontal_scale(host::hours_shown(day_.sunrise, day_.sunset, 1));
     chart_.vertical_scale(vertical);
-    chart_.title(margin, top - 22, title, keys);
+    chart_.title(top - 22, title, keys);
 }
 
 void Picture::sunlit() {

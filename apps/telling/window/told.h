@@ -2,8 +2,10 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <vector>
 
+#include "calculation/calendar.h"
 #include "calculation/window/hours.h"
 #include "telling/answer.h"
 
@@ -20,11 +22,17 @@ struct Case {
 struct DayCase : Case {
     const DesignDay& design;
     Day day;
+
+    std::string title() const { return site.name + ", " + host::date(day.day_of_year); }
 };
 
 struct YearCase : Case {
     bool of_weather;  // else of the twelve design days
     Year year;
+
+    std::string title() const {
+        return site.name + (of_weather ? ", a year of weather" : ", design days of the year");
+    }
 };
 
 // The day by the hour, with the shadows at these hours of it (a choice of those with sun when there

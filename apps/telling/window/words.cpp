@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "calculation/angle.h"
+#include "telling/direction.h"
 #include "telling/text.h"
 #include "telling/value.h"
 
@@ -166,12 +166,12 @@ Quantity angle(std::string key, std::string name, std::string group) {
 Quantity word(std::string key, std::string name) { return {std::move(key), std::move(name)}; }
 Quantity hour_of_day() { return {"hour", "hour"}; }
 
-std::string told(const Quantity& quantity, double value) {
-    return host::told(quantity, value) + (quantity.unit.empty() ? "" : ' ' + quantity.unit);
+void add_openness(const Openness& open, std::vector<host::Figure>& figures) {
+    figures.push_back({percent("sky_left", "Sky left by what shades it"), 100 * open.sky});
+    figures.push_back({percent("ground_left", "Ground left"), 100 * open.ground});
 }
 
 std::vector<host::Figure> unit_figures_told(const Window& window) {
-    if (!window.is_glazed()) return {};
     const UnitFigures unit = unit_figures(window);
     std::vector<host::Figure> figures;
     const auto add = [&](const Quantity& quantity, double value, std::string remark = "") {

@@ -14,8 +14,8 @@ std::string size_and_facing(const Window& window);  // 2.4 m² facing 180° (S),
 std::string glazing_told(const Window& window);     // double low-e argon
 std::string blind_told(const Window& window);       // slatted blind outside; empty without one
 std::string shortened(const std::string& text, std::size_t most);  // to so many characters
-std::vector<std::string> shades_told(
-    const Window& window);                    // Overhang: 0.4 m deep, 0.2 m above the window
+// Overhang: 0.4 m deep, 0.2 m above the window
+std::vector<std::string> shades_told(const Window& window);
 std::string described(const Window& window);  // all of this, a line each
 std::string layer_name(const Window& window, std::size_t layer);  // pane 1 (room), blind
 std::string method_told(Method method);
@@ -35,8 +35,8 @@ Quantity angle(std::string key, std::string name, std::string group = "");
 Quantity word(std::string key, std::string name);
 Quantity hour_of_day();
 
-// What a number is told as, with its unit.
-std::string told(const Quantity& quantity, double value);
+// What is left of sky and ground.
+void add_openness(const Openness& open, std::vector<host::Figure>& figures);
 
 // What is known of each unit: U-value, solar heat gain, shading coefficients.
 std::vector<host::Figure> unit_figures_told(const Window& window);

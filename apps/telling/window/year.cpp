@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <cmath>
-
 #include "calculation/calendar.h"
 #include "telling/text.h"
 #include "telling/window/told.h"
@@ -11,7 +8,6 @@ namespace quorvel::window {
 namespace {
 
 using host::DataTable;
-using host::Figure;
 using host::Section;
 
 std::string when(const PeakOfYear& peak, bool of_weather) {
@@ -69,12 +65,7 @@ Section window_section(const YearCase& given, const WindowYear& window) {
     section.figures = unit_figures_told(*window.window);
     section.figures.push_back(
         {{"irradiation", "Irradiation of the glass", "kWh/m²", 1}, window.year.incident});
-    if (window.window->shades.any()) {
-        section.figures.push_back(
-            {percent("sky_left", "Sky left by what shades it"), 100 * window.open.sky});
-        section.figures.push_back(
-            {percent("ground_left", "Ground left"), 100 * window.open.ground});
-    }
+    if (window.window->shades.any()) add_openness(window.open, section.figures);
     if (window.window->is_glazed()) {
         section.figures.push_back(
             {kilowatt_hours("solar_gain", "Solar heat gain"), window.year.solar_gain});
@@ -100,17 +91,14 @@ Section window_section(const YearCase& given, const WindowYear& window) {
 }  // namespace
 
 host::Answer told(const YearCase& given) {
-    host::Answer answer{
-        given.site.name + (given.of_weather ? ", a year of weather" : ", design days of the year"),
-        place(given.site)};
+    host::Answer answer{given.title(), place(given.site)};
     Section summary;
     summary.paragraphs.push_back(
         given.of_weather
             ? "Every hour of the weather file with the sun in the middle of its sunlit part; " +
                   sky_told(given.site) + "."
             : "The design day of every month, counted as often as the month has days; sunny all "
-              "the "
-              "year, so a limit rather than an expectation; " +
+              "the year, so a limit rather than an expectation; " +
                   sky_told(given.site) + ".");
     summary.pictures.push_back({"year", "The year", year_chart(given)});
     answer.sections.push_back(std::move(summary));

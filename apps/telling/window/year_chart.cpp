@@ -14,14 +14,8 @@ using host::bars;
 using host::colour::grey;
 using host::colour::ink;
 
-constexpr double margin = 24, left = 84, right = 30, width = 900;
+constexpr double left = 84, right = 30, width = 900;
 constexpr double first_top = 190, row_height = 170, between = 96;
-
-std::vector<std::string> short_months() {
-    std::vector<std::string> names;
-    for (const std::string_view name : host::month_names) names.emplace_back(name.substr(0, 3));
-    return names;
-}
 
 host::Scale scale_of(const Year& year) {
     double low = 0, high = 1;
@@ -72,21 +66,17 @@ host::Chart year_chart(const YearCase& given) {
     double top = first_top;
     for (const WindowYear& window : given.year.windows) {
         chart.panel({left, top, width - left - right, row_height});
-        chart.horizontal_names(short_months());
+        chart.horizontal_names(host::short_month_names());
         chart.vertical_scale(scale);
         if (top == first_top) {
-            chart.text(
-                margin, 38,
-                given.site.name + (given.of_weather ? ", a year of weather" : ", design days"),
-                {ink, 24, true});
-            chart.text(margin, 68, place(given.site), {grey, 12});
+            chart.heading(given.title(), place(given.site));
             std::vector<host::Key> keys{{"■", gain_colour, "solar heat gain"},
                                         {"■", direct_colour, "of it transmitted"},
                                         {"●", ink, "net"}};
             if (std::ranges::any_of(given.windows,
                                     [](const Window& w) { return w.blind.has_value(); }))
                 keys.push_back({"■", pale_blind_colour, "without blind"});
-            chart.title(margin, 112, "Heat into the room, kWh a month", keys);
+            chart.title(112, "Heat into the room, kWh a month", keys);
         }
         draw(chart, window, top);
         top += row_height + between;

@@ -26,7 +26,7 @@ std::string last_error() { return "Windows error " + std::to_string(GetLastError
 #else
 // By its soname, which names the interface, as an installed program finds it; the other is the link
 // for compilers, and what a library copied by hand is called.
-constexpr const char* default_names[] = {"libquorvel.so.0", "libquorvel.so"};
+constexpr const char* default_names[] = {"libquorvel.so." QUORVEL_SOVERSION, "libquorvel.so"};
 
 void* open(const char* name) { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
 void* find(void* library, const char* symbol) { return dlsym(library, symbol); }

@@ -20,9 +20,9 @@
 
 namespace quorvel::host {
 
-// Loads quorvel.dll or libquorvel.so.0 as the loader finds it (beside the program first), or the
-// file named by the environment variable QUORVEL_LIBRARY. Throws std::runtime_error with the
-// reason.
+// Loads quorvel.dll or libquorvel.so, of the interface that this was made for, as the loader finds
+// it (beside the program first), or the file named by the environment variable QUORVEL_LIBRARY.
+// Throws std::runtime_error with the reason.
 void load_library();
 
 // Address of an exported routine; throws std::runtime_error when the library does not export it.

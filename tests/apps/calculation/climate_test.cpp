@@ -1,6 +1,7 @@
 // Days and months of a climate data file's station.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "calculation/climate/atmosphere.h"
@@ -12,7 +13,7 @@
 namespace quorvel::climatefile {
 namespace {
 
-constexpr MonthRecord july{15, 5, 30, 18, 20, 15, 0.7, 1.1, 0.6};
+constexpr MonthRecord july{15, 5, 30, 18};
 
 MonthRecord with(double MonthRecord::*value, double changed) {
     MonthRecord record = july;
@@ -22,18 +23,16 @@ MonthRecord with(double MonthRecord::*value, double changed) {
 
 TEST(StationDay, RunsBetweenTheTimesOfTheStation) {
     const auto day = station_day(july).value();
-    EXPECT_TRUE(day.notes.empty());
+    EXPECT_FALSE(day.is_turned || day.is_assumed);
     EXPECT_DOUBLE_EQ(day.air(15), 30);
     EXPECT_DOUBLE_EQ(day.air(5), 18);
-    EXPECT_EQ(day.wet_bulb_at_max, 20);
-    EXPECT_EQ(day.wet_bulb_at_min, 15);
 }
 
 // Against the library's own day, for any order of the hours.
 TEST(StationDay, IsPeriodicWhateverTheOrderOfTheHours) {
     for (const double b : {0.0, 5.0, 14.9, 15.1, 22.5, 24.0}) {
         const auto day = station_day(with(&MonthRecord::hour_b, b)).value();
-        EXPECT_TRUE(day.notes.empty()) << b;
+        EXPECT_FALSE(day.is_assumed) << b;
         for (double hour = 0; hour < 24; hour += 0.25)
             EXPECT_NEAR(day.air(hour), lib::daily_temperature(hour, 30, 18, 15, std::fmod(b, 24)),
                         2e-4)
@@ -41,15 +40,23 @@ TEST(StationDay, IsPeriodicWhateverTheOrderOfTheHours) {
     }
 }
 
-TEST(StationDay, AssumesWhatItMustAndSaysSo) {
-    const auto flat = station_day(with(&MonthRecord::air_a, 10)).value();
-    EXPECT_EQ(flat.notes.size(), 1u);
-    for (int hour = 0; hour < 24; ++hour) EXPECT_DOUBLE_EQ(flat.air(hour), 14);
+TEST(StationDay, IsTurnedWhereItIsWarmerAtHourB) {
+    const auto day = station_day(with(&MonthRecord::air_a, 10)).value();
+    EXPECT_TRUE(day.is_turned);
+    EXPECT_DOUBLE_EQ(day.air(15), 10);
+    EXPECT_DOUBLE_EQ(day.air(5), 18);
+    EXPECT_EQ(day.air.maximum, 18);
+}
 
-    const auto coinciding = station_day(with(&MonthRecord::hour_b, 15)).value();
-    EXPECT_EQ(coinciding.notes.size(), 1u);
-    EXPECT_DOUBLE_EQ(coinciding.air(15), 30);
-    EXPECT_DOUBLE_EQ(coinciding.air(5), 18);
+TEST(StationDay, AssumesAnHourWhereBothAreTheSame) {
+    for (const double air_a : {30.0, 10.0}) {
+        MonthRecord record = with(&MonthRecord::hour_b, 15);
+        record.air_a = air_a;
+        const auto day = station_day(record).value();
+        EXPECT_TRUE(day.is_assumed);
+        EXPECT_DOUBLE_EQ(day.air(15), std::max(air_a, 18.0));
+        EXPECT_DOUBLE_EQ(day.air(5), std::min(air_a, 18.0));
+    }
 }
 
 TEST(StationDay, NeedsTemperaturesAndHours) {

@@ -168,7 +168,6 @@ std::vector<double> relaxed_year(const Path& path, const std::vector<Climate>& m
                                  std::size_t first) {
     constexpr double day = 86400e3 / 1e9, step = 0.25;
     const std::size_t n = path.places.size();
-    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     std::vector<double> content(n), told;
     for (std::size_t m = 0; m < 12; ++m) {
         const std::size_t month = (first + m) % 12;
@@ -177,7 +176,7 @@ std::vector<double> relaxed_year(const Path& path, const std::vector<Climate>& m
         for (std::size_t i = 1; i < n; ++i)
             conductance[i] =
                 day / (path.places[i].vapour_resistance - path.places[i - 1].vapour_resistance);
-        for (int s = 0; s < days[month] / step; ++s) {
+        for (int s = 0; s < host::days_of_month[month] / step; ++s) {
             for (double change = 1; change > 1e-7;) {
                 change = 0;
                 for (std::size_t i = 1; i + 1 < n; ++i) {

@@ -1,8 +1,6 @@
 // Glazing units and blinds against the standards that rate them.
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "calculation/window/cavity.h"
 #include "window_units.h"
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "calculation/angle.h"
 #include "calculation/window/hours.h"
 #include "quorvel/climate.h"
 #include "quorvel/glazing.h"
@@ -35,8 +36,6 @@ Window window(double orientation, double tilt = 90,
     return w;
 }
 
-double degrees(double radians) { return radians * 180 / std::numbers::pi; }
-
 // The published formula with its coefficients for the clearest skies.
 TEST_F(SkyOnPlane, OfPerezIsItsFormulaPartByPart) {
     constexpr double direct = 900, diffuse = 70;
@@ -48,7 +47,7 @@ TEST_F(SkyOnPlane, OfPerezIsItsFormulaPartByPart) {
         const double f1 = 0.678 - 0.327 * brightness - 0.250 * zenith,
                      f2 = 0.156 - 1.377 * brightness + 0.251 * zenith;
         for (const double tilt : {0.0, 40.0, 90.0, 130.0}) {
-            const double slope = tilt * std::numbers::pi / 180;
+            const double slope = host::radians(tilt);
             const double towards =
                 std::cos(altitude) * std::sin(slope) + std::sin(altitude) * std::cos(slope);
             const OnPlane plane = on_plane(london, 0.2, sky, 180, tilt, std::acos(towards));
@@ -88,7 +87,7 @@ TEST_F(SkyOnPlane, OfTheDesignSkyHasNoStepByHeight) {
     double before = 0;
     for (double hour = 3.8; hour < 4.6; hour += 0.005) {
         const Sky sky = design_sky(alpine, constants, 172, hour);
-        if (degrees(sky.sun.altitude) > 4.9) break;
+        if (host::degrees(sky.sun.altitude) > 4.9) break;
         EXPECT_LT(std::fabs(sky.direct_normal - before), 15);
         before = sky.direct_normal;
     }
@@ -223,10 +222,10 @@ TEST_F(Temperatures, KeepTheBalanceOfHeat) {
 
 Weather weather(double longitude, double zone) {
     Weather all{"", 48, longitude, 0, zone, 20, {}};
-    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    for (int month = 1, day = 1; month <= 12; ++month)
-        for (int i = 0; i < days[month - 1]; ++i, ++day)
-            for (int hour = 1; hour <= 24; ++hour) all.hours.push_back({month, day, hour, 0, 0, 5});
+    for (int day = 1; day <= 365; ++day) {
+        const int month = static_cast<int>(host::date_of(day).month) + 1;
+        for (int hour = 1; hour <= 24; ++hour) all.hours.push_back({month, day, hour, 0, 0, 5});
+    }
     return all;
 }
 
@@ -253,8 +252,8 @@ TEST_F(Years, StandTheSunByLongitudeAndZone) {
     const Window windows[] = {window(90), window(270)};
     const Year year = calculate(site, mornings, windows);
     EXPECT_GT(year.windows[0].year.incident, 250);
-    EXPECT_LT(year.windows[1].year.incident,
-              0.25 * year.windows[0].year.incident);  // the ground, and the diffuse sky
+    // The west has the ground and the diffuse sky.
+    EXPECT_LT(year.windows[1].year.incident, 0.25 * year.windows[0].year.incident);
     const Window level = window(0, 0);
     const Year horizontal = calculate(site, mornings, {&level, 1});
     double expected = 0;

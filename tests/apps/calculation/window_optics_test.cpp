@@ -6,6 +6,7 @@
 #include <numbers>
 #include <random>
 
+#include "calculation/angle.h"
 #include "quorvel/glazing.h"
 #include "window_units.h"
 
@@ -124,7 +125,7 @@ TEST_F(Optics, OfBlackSlatsIsGeometry) {
     for (const double angle : {0.0, 40.0, -35.0})
         for (const double profile : {0.1, 0.5, 0.9}) {
             const Screen screen = in_direct_sun(slatted(BlindPlace::outside, angle, 1), profile);
-            const double turned = profile + angle * std::numbers::pi / 180;
+            const double turned = profile + host::radians(angle);
             const double gap =
                 std::max(0.0, 1 - 25 * std::fabs(std::sin(turned)) / (20 * std::cos(profile)));
             EXPECT_NEAR(screen.straight, gap, 1e-3);
@@ -155,7 +156,7 @@ TEST_F(Optics, KeepsTheBalance) {
     for (const Blind& blind :
          {roller(BlindPlace::inside, 0, 1), roller(BlindPlace::outside, 0.9, 0.1), unlike,
           slatted(BlindPlace::between, 0, 0)})
-        for (const double incidence : {0.0, 0.7, 1.4, 1.5707963})
+        for (const double incidence : {0.0, 0.7, 1.4, host::right_angle})
             for (const double profile : {-0.8, 0.0, 0.8}) {
                 const Panes panes(unit({mirror, mirror}, air, 40), blind, 90);
                 const Passage all = panes.direct(incidence, profile);

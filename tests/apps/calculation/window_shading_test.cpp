@@ -6,6 +6,7 @@
 #include <numbers>
 #include <random>
 
+#include "calculation/angle.h"
 #include "calculation/window/shading.h"
 #include "quorvel/library.h"
 
@@ -34,7 +35,7 @@ Window window(double orientation, double tilt = 90, double width = 2, double hei
 }
 
 host::Sun sun(double altitude, double azimuth) {
-    return {altitude * std::numbers::pi / 180, azimuth * std::numbers::pi / 180, 0, 0, 0};
+    return {host::radians(altitude), host::radians(azimuth), 0, 0, 0};
 }
 
 double left_of(double shadow, double size) {
@@ -44,16 +45,16 @@ double left_of(double shadow, double size) {
 TEST_F(Sunlit, OfEndlessPlatesFollowsTheProfileAngles) {
     for (const double altitude : {15.0, 40.0, 65.0})
         for (const double aside : {-50.0, 0.0, 30.0}) {
-            const double up = std::tan(altitude * std::numbers::pi / 180) /
-                              std::cos(aside * std::numbers::pi / 180);
-            const double left = std::tan(aside * std::numbers::pi / 180);
+            const double up = std::tan(host::radians(altitude)) /
+                              std::cos(host::radians(aside));
+            const double left = std::tan(host::radians(aside));
             const auto fraction = [&](const Shades& shades) {
                 Window w = window(200);
                 w.shades = shades;
                 return Shading(w).sunlit_fraction(sun(altitude, 200 + aside));
             };
             for (const double slope : {0.0, 25.0, -30.0}) {
-                const double a = slope * std::numbers::pi / 180;
+                const double a = host::radians(slope);
                 EXPECT_NEAR(fraction({0, {}, {}, Overhang{0.6, 0.1, endless, endless, slope}, {}}),
                             left_of(0.6 * (std::cos(a) * up + std::sin(a)) - 0.1, 1.5), 2e-3);
             }
@@ -103,15 +104,15 @@ class Rays {
     }
 
     Point upright(const Point& p) const {
-        const double slope = window_.tilt * std::numbers::pi / 180;
+        const double slope = host::radians(window_.tilt);
         return {p[0], p[1] * std::sin(slope) + p[2] * std::cos(slope),
                 p[2] * std::sin(slope) - p[1] * std::cos(slope)};
     }
 
     // Of a direction east, north, up.
     Point in_frame(const Point& v) const {
-        const double facing = window_.orientation * std::numbers::pi / 180,
-                     slope = window_.tilt * std::numbers::pi / 180;
+        const double facing = host::radians(window_.orientation),
+                     slope = host::radians(window_.tilt);
         const double x = std::sin(facing), y = std::cos(facing);
         return {-y * v[0] + x * v[1],
                 -(x * v[0] + y * v[1]) * std::cos(slope) + v[2] * std::sin(slope),
@@ -126,7 +127,7 @@ class Rays {
     }
 
     bool meets_overhang(const Overhang& o, const Point& p, const Point& d) const {
-        const double a = o.slope * std::numbers::pi / 180, y = p[1] - window_.height - o.offset;
+        const double a = host::radians(o.slope), y = p[1] - window_.height - o.offset;
         const double t =
             -(std::cos(a) * y + std::sin(a) * p[2]) / (std::cos(a) * d[1] + std::sin(a) * d[2]);
         const double x = p[0] + t * d[0],
@@ -136,7 +137,7 @@ class Rays {
     }
 
     bool meets_box(const Obstruction& box, const Point& p, const Point& d) const {
-        const double turn = box.rotation * std::numbers::pi / 180, c = std::cos(turn),
+        const double turn = host::radians(box.rotation), c = std::cos(turn),
                      s = std::sin(turn);
         const double right = p[0] - window_.width / 2 - box.offset, out = p[2] - box.distance;
         const double starts[] = {right * c + out * s, out * c - right * s, p[1]};
