@@ -15,7 +15,7 @@ inline constexpr std::array<std::string_view, months_of_year> month_names = {
     "July",    "August",   "September", "October", "November", "December"};
 
 inline constexpr std::array<int, months_of_year> days_of_month = {31, 28, 31, 30, 31, 30,
-                                                                 31, 31, 30, 31, 30, 31};
+                                                                  31, 31, 30, 31, 30, 31};
 
 struct Date {
     std::size_t month;  // 0 January

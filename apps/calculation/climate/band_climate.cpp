@@ -65,8 +65,8 @@ double factor(double measured, double design) {
 }
 
 double wet_bulb(const Hour& hour) {
-    const double wet =
-        lib::psychrometer_wet_bulb(hour.dry_bulb, hour.relative_humidity, hour.pressure, host::sling);
+    const double wet = lib::psychrometer_wet_bulb(hour.dry_bulb, hour.relative_humidity,
+                                                  hour.pressure, host::sling);
     return std::min(wet, hour.dry_bulb);
 }
 

@@ -29,8 +29,7 @@ double cover_by_clearness(const Hour& hour, double sine_of_altitude) {
 }
 
 double cover_by_infrared(const Hour& hour) {
-    const double clear_emissivity =
-        0.787 + 0.764 * std::log((hour.dew_point + kelvin) / kelvin);
+    const double clear_emissivity = 0.787 + 0.764 * std::log((hour.dew_point + kelvin) / kelvin);
     const double factor = hour.horizontal_infrared / stefan_boltzmann /
                           std::pow(hour.dry_bulb + kelvin, 4) / clear_emissivity;
     if (std::isnan(factor)) return host::none;

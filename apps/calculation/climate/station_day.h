@@ -17,8 +17,8 @@ struct MonthRecord {
 
 struct StationDay {
     host::DailyTemperature air;
-    bool is_turned;    // it is warmer at hour B, as days of a band may be in a polar night
-    bool is_assumed;   // the hours coincide: the coldest is taken 10 hours ahead of the warmest
+    bool is_turned;   // it is warmer at hour B, as days of a band may be in a polar night
+    bool is_assumed;  // the hours coincide: the coldest is taken 10 hours ahead of the warmest
 };
 
 // Temperatures within -90 to 60 °C and hours within 0 to 24 make a day, whatever their order:

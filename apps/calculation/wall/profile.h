@@ -15,7 +15,7 @@ struct Place {
     std::size_t index;  // of the interface, 0 at the inside surface; or of the layer around it
     bool within;        // a layer
     double position;    // m from the inside surface
-    double resistance;         // m²K/W from the air inside
+    double resistance;  // m²K/W from the air inside
     double vapour_resistance;  // GN s/kg from the inside surface; the air has none
 };
 
@@ -31,8 +31,8 @@ struct Profile {
     std::vector<double> temperature;  // °C
     std::vector<double> saturation;   // Pa
     std::vector<double> pressure;     // of vapour, Pa
-    std::vector<double> gain;         // of water, g/m² a day; 0 at the surfaces, below it if it dries
-    bool inside_wet;                  // vapour of the room condenses on the surface
+    std::vector<double> gain;  // of water, g/m² a day; 0 at the surfaces, below it if it dries
+    bool inside_wet;           // vapour of the room condenses on the surface
 
     double relative_humidity(std::size_t i) const { return 100 * pressure[i] / saturation[i]; }
 };

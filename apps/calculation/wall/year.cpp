@@ -44,7 +44,8 @@ MonthOfYear pass_month(const Path& path, const Climate& climate, std::size_t num
                        std::vector<double>& content) {
     MonthOfYear month{number, profile(path, climate, wet_places(content)), 0, 0, 0};
     Profile now = month.profile;
-    for (double rest = host::days_of_month[number]; rest > 0;) {  // a place dries at most once, so that this ends
+    // A place dries at most once, so that this ends.
+    for (double rest = host::days_of_month[number]; rest > 0;) {
         const double time = steady_time(now, content, rest);
         advance(month, now, content, time);
         rest -= time;

@@ -39,7 +39,7 @@ struct MonthOfYear {
 struct Year {
     std::vector<MonthOfYear> months;
     std::vector<Deposit> deposits;  // from the inside outwards; empty where it stays dry
-    std::size_t wettest;   // the month with the most water at its end, counted in this row
+    std::size_t wettest;            // the month with the most water at its end, counted in this row
     std::size_t dry_from;  // that in which the last of it dries; 12 if it does not, 0 if never wet
 
     double peak() const { return months[wettest].content; }

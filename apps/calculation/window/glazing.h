@@ -118,9 +118,9 @@ inline constexpr double reference_gain = 0.87;
 
 // What is not known, as without a blind, is none.
 struct UnitFigures {
-    double u_value = none;               // W/m²K, EN 673
-    double transmittance = none;         // of solar radiation at normal incidence
-    double g = none, g_diffuse = none;   // solar heat gain at normal incidence, of diffuse radiation
+    double u_value = none;              // W/m²K, EN 673
+    double transmittance = none;        // of solar radiation at normal incidence
+    double g = none, g_diffuse = none;  // solar heat gain at normal incidence, of diffuse radiation
     double g_with_blind = none, g_diffuse_with_blind = none;
 };
 

@@ -21,8 +21,8 @@ struct Exposure {
 struct WindowHour {
     double incidence = none;  // degrees, above 90 of a sun behind the window; none while it is down
     // None unless the sun is before the window:
-    double vertical = none, horizontal = none;  // profile angles, degrees
-    double sunlit = none;                       // fraction of the glass
+    double vertical = none, horizontal = none;   // profile angles, degrees
+    double sunlit = none;                        // fraction of the glass
     double direct_unshaded = 0;                  // W/m² on the plane
     double direct = 0, diffuse = 0, ground = 0;  // W/m² on the glass, in the mean
     bool blind_down = false;

@@ -212,8 +212,7 @@ WeatherYear read_as_given(const std::string& path) {
     lines.next();
     int day_of_year = 0;
     for (int month = 1; const int days : host::days_of_month) {
-        for (int day = 1; day <= days; ++day)
-            read_day(lines, year, month, day, ++day_of_year);
+        for (int day = 1; day <= days; ++day) read_day(lines, year, month, day, ++day_of_year);
         if (month == 2 && !lines.blank() && is_hour(lines, 2, 29, 1))
             read_day(lines, year, month, 29, day_of_year);
         ++month;

@@ -51,7 +51,8 @@ std::string set_text(const Station& station, std::size_t set) {
     std::string text = std::string("\n[") + set_keys[set] + "]  # January to December\n";
     for (std::size_t time = 0; time < 2; ++time) {
         std::vector<std::string> hours;
-        for (const float hour : station.rows[time_row(set, time)]) hours.push_back(host::shortest(hour));
+        for (const float hour : station.rows[time_row(set, time)])
+            hours.push_back(host::shortest(hour));
         text +=
             line(times[time].key, hours, 6, widest(hours)) + "  # " + times[time].meaning + '\n';
     }

@@ -17,8 +17,7 @@ using host::Section;
 using host::colour::grey;
 using host::colour::ink;
 
-constexpr double left = 84, right = 30, width = 900, top = 130, height = 300,
-                 line = 22;
+constexpr double left = 84, right = 30, width = 900, top = 130, height = 300, line = 22;
 
 std::string name_of(const Case& given) {
     return given.variant.empty() ? "as given" : given.variant;

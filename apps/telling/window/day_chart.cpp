@@ -106,9 +106,9 @@ void Picture::say_the_hour(double bottom) {
 }
 
 void Picture::heading() {
-    chart_.heading(given_.title(), place(given_.site) + "  ·  " +
-                                       host::sun_times(hourly_.sunrise, hourly_.sunset,
-                                                       hourly_.solar_minus_clock));
+    chart_.heading(given_.title(),
+                   place(given_.site) + "  ·  " +
+                       host::sun_times(hourly_.sunrise, hourly_.sunset, hourly_.solar_minus_clock));
     std::vector<Key> keys{{"■", direct_colour, "direct sun"},
                           {"■", sky_colour, "from the sky"},
                           {"■", ground_colour, "from the ground"}};
@@ -183,13 +183,11 @@ void Picture::heat(std::size_t i) {
     const WindowDay& hourly = hourly_.windows[i];
     if (const Peak peak = peak_of(hourly, &WindowHour::solar_gain); peak.hour > 0) {
         chart_.mark(peak.hour, peak.power / hourly.window->area, "");
-        chart_.text(
-            column_left(i), heat_top - 24,
-            "peak " + fixed(peak.power, 0) + " W at hour " + std::to_string(peak.hour) +
-                "  ·  day " +
-                fixed(daily_energy(hourly, &WindowHour::solar_gain), 2) +
-                " kWh",
-            {grey, 12});
+        chart_.text(column_left(i), heat_top - 24,
+                    "peak " + fixed(peak.power, 0) + " W at hour " + std::to_string(peak.hour) +
+                        "  ·  day " + fixed(daily_energy(hourly, &WindowHour::solar_gain), 2) +
+                        " kWh",
+                    {grey, 12});
     }
     const std::string data = chart_.data(rows);
     std::vector<std::string> parts{area(data, 2, gain_colour), area(data, 3, direct_colour),
@@ -271,10 +269,9 @@ void Picture::all_windows() {
     begin(left, all_top, width_ - left - right, all_height, host::round_scale(0, 1.2 * most), true);
     std::vector<Key> keys;
     for (const WindowDay& window : hourly_.windows)
-        keys.push_back(
-            {"■", series_colour(keys.size()),
-             window.window->name + ' ' +
-                 fixed(daily_energy(window, &WindowHour::solar_gain), 2) + " kWh"});
+        keys.push_back({"■", series_colour(keys.size()),
+                        window.window->name + ' ' +
+                            fixed(daily_energy(window, &WindowHour::solar_gain), 2) + " kWh"});
     chart_.title(all_top - 26, "Solar heat gain of all windows, W", keys);
     say_the_hour(all_top + all_height);
     if (const Peak peak = peak_of(hourly_.windows, &WindowHour::solar_gain); peak.hour > 0)

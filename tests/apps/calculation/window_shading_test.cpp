@@ -45,8 +45,7 @@ double left_of(double shadow, double size) {
 TEST_F(Sunlit, OfEndlessPlatesFollowsTheProfileAngles) {
     for (const double altitude : {15.0, 40.0, 65.0})
         for (const double aside : {-50.0, 0.0, 30.0}) {
-            const double up = std::tan(host::radians(altitude)) /
-                              std::cos(host::radians(aside));
+            const double up = std::tan(host::radians(altitude)) / std::cos(host::radians(aside));
             const double left = std::tan(host::radians(aside));
             const auto fraction = [&](const Shades& shades) {
                 Window w = window(200);
@@ -137,8 +136,7 @@ class Rays {
     }
 
     bool meets_box(const Obstruction& box, const Point& p, const Point& d) const {
-        const double turn = host::radians(box.rotation), c = std::cos(turn),
-                     s = std::sin(turn);
+        const double turn = host::radians(box.rotation), c = std::cos(turn), s = std::sin(turn);
         const double right = p[0] - window_.width / 2 - box.offset, out = p[2] - box.distance;
         const double starts[] = {right * c + out * s, out * c - right * s, p[1]};
         const double speeds[] = {d[0] * c + d[2] * s, d[2] * c - d[0] * s, d[1]};
