@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "calculation/angle.h"
+#include "calculation/calendar.h"
 #include "calculation/window/hours.h"
 #include "quorvel/climate.h"
 #include "quorvel/glazing.h"
