@@ -4,12 +4,12 @@ namespace quorvel::window {
 namespace {
 
 // Of the area that is looked at: what is smaller is a face seen edge on.
-constexpr double speck = 1e-6;
+constexpr double edge_on = 1e-6;
 
 }  // namespace
 
 Beam::Beam(const Vector& towards_sun, const Rectangle& area)
-    : towards_sun_(towards_sun), least_area_(speck * window::area(area.polygon())) {
+    : towards_sun_(towards_sun), least_area_(edge_on * window::area(area.polygon())) {
     const Vector low = vector(area.left, area.bottom, 0), high = vector(area.right, area.top, 0);
     sides_ = {{low, outwards},
               {low, cross(up, towards_sun)},
