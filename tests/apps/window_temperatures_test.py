@@ -75,7 +75,7 @@ class ClimateFile(unittest.TestCase):
 
     def test_what_the_file_does_not_have_gets_one_line(self):
         for station, data, message in [
-                (1, None, f"file: {NAME}: cannot be read"), (1, b"", f"file: {NAME}: cannot be read"),
+                (1, None, f"file: {NAME}: cannot be read"), (1, b"", f"file: {NAME}: station 1: not in the file"),
                 (7, STATIONS, f"file: {NAME}: station 7: not in the file"),
                 (1, STATIONS[:5000], f"file: {NAME}: station 1: not in the file"),
                 (1, STATIONS[:4] + b"\x7f" * 4 + STATIONS[8:], f"file: {NAME}: station 1: not in the file"),
