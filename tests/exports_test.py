@@ -76,6 +76,21 @@ class EitherLibrary(unittest.TestCase):
         for name in (soname, f"{stem}.so"):
             self.assertEqual(library.with_name(name).resolve(), library.resolve())
 
+    @unittest.skipUnless(WINDOWS, "has a soname instead")
+    @each_library
+    def test_details_that_windows_shows(self, library):
+        content = library.read_bytes()
+        found = content.index("VS_VERSION_INFO".encode("utf-16-le"))
+        resource = content[found - 6:found - 6 + struct.unpack_from("<H", content, found - 6)[0]]
+        numbers = [int(part) for part in VERSION.split(".")]
+        fixed = struct.pack("<II", 0xFEEF04BD, 0x10000) + 2 * struct.pack("<HHHH", numbers[1], numbers[0], 0, numbers[2])
+        self.assertEqual(resource[40:64], fixed)
+        texts = resource[92:].decode("utf-16-le", "replace")
+        for name, value in {"ProductName": "Quorvel", "ProductVersion": VERSION, "FileVersion": VERSION,
+                            "FileDescription": "Building-physics and building-services calculations",
+                            "OriginalFilename": library.name}.items():
+            self.assertRegex(texts, f"{name}\0+{re.escape(value)}\0")
+
     @unittest.skipIf(WINDOWS, "binds no names of its own")
     @each_library
     def test_nothing_of_its_own_is_called_by_an_exported_name(self, library):
@@ -105,19 +120,6 @@ class Exports(unittest.TestCase):
         """A routine may come, but none go or change how it is called, unless SOVERSION rises: ./dev interface."""
         recorded = (ROOT / "conformance" / "interface.txt").read_text(encoding="utf-8").splitlines()
         self.assertLessEqual(set(recorded), set(interface.render(FAMILIES).splitlines()))
-
-    @unittest.skipUnless(WINDOWS, "has a soname instead")
-    def test_details_that_windows_shows(self):
-        content = LIBRARY.read_bytes()
-        found = content.index("VS_VERSION_INFO".encode("utf-16-le"))
-        resource = content[found - 6:found - 6 + struct.unpack_from("<H", content, found - 6)[0]]
-        numbers = [int(part) for part in VERSION.split(".")]
-        fixed = struct.pack("<II", 0xFEEF04BD, 0x10000) + 2 * struct.pack("<HHHH", numbers[1], numbers[0], 0, numbers[2])
-        self.assertEqual(resource[40:64], fixed)
-        texts = resource[92:].decode("utf-16-le", "replace")
-        for name, value in {"ProductName": "Quorvel", "ProductVersion": VERSION, "FileVersion": VERSION,
-                            "FileDescription": "Building-physics and building-services calculations"}.items():
-            self.assertRegex(texts, f"{name}\0+{re.escape(value)}\0")
 
     @unittest.skipIf(WINDOWS, "has no run paths")
     def test_run_paths_start_at_the_file(self):
