@@ -14,6 +14,7 @@ import incidence_bands
 import javascript_binding
 import pascal_binding
 import python_package
+import rust_binding
 import vba_binding
 
 ROOT = Path(__file__).parents[1]
@@ -33,6 +34,7 @@ def texts(families):
         ROOT / "bindings/vba/quorvel.bas": vba_binding.render(families),
         **{ROOT / "bindings/fortran/src" / name: text for name, text in fortran_binding.files(families).items()},
         **{ROOT / "bindings/pascal/src" / name: text for name, text in pascal_binding.files(families).items()},
+        **{ROOT / "bindings/rust" / name: text for name, text in rust_binding.files(families).items()},
         **{ROOT / "bindings/calc/addin" / name: text for name, text in calc_binding.files(families).items()},
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
