@@ -24,6 +24,7 @@ import interface
 import pascal_tests
 import python_core
 import routine_table
+import rust_tests
 
 PRODUCTS = {
     "interface": interface.render,
@@ -47,6 +48,7 @@ FOLDERS = {
     "pascal-tests": pascal_tests.files,
     "host-headers": host_headers.files,
     "pack-kernels": array_kernels.with_packs,
+    "rust-tests": rust_tests.files,
     "single-kernels": array_kernels.alone,
 }
 

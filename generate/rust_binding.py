@@ -80,6 +80,9 @@ def _memory(call):
         if count.lists:
             lengths = [f'("{listed.name}", {listed.name}.len())' for listed in count.lists]
             yield from listed(f'let {count.name} = check::count("{path(call)}", &[', lengths, "])?;")
+        else:
+            yield from listed(
+                f"let room_of_{count.name} = check::room(", [f'"{path(call)}"', f'"{count.name}"', count.name], ")?;")
     for parameter in call.parameters:
         if parameter.kind == "Text":
             yield f'let {parameter.name} = check::text("{path(call)}", "{parameter.name}", {parameter.name}.as_ref())?;'
@@ -92,7 +95,7 @@ def _before(call, result):
     if result.given:
         return f"{result.given}.to_vec()" if is_counted(result) else f"{'*' * bool(result.shape)}{result.given}"
     extent = next((extent for extent in result.shape if not isinstance(extent, int)), None)
-    return f'vec![{blank(result)}; check::room("{path(call)}", "{extent}", {extent})?]' if extent else blank(result)
+    return f"vec![{blank(result)}; room_of_{extent}]" if extent else blank(result)
 
 
 def _address(thing, place, is_input):
@@ -227,15 +230,16 @@ def _array_unchecked(call):
     lengths = [f'{parameter.name}.length("{parameter.name}")' for parameter in call.parameters]
     places = [f"{each.name}.first(){'.cast()' * bool(each.shape)}, {each.name}.stride()" for each in call.parameters]
     for result in call.results:
-        place = f"addr_of_mut!((*results).{result.clear_name})" if call.structure else "results"
+        place = f"addr_of_mut!((*at).{result.clear_name})" if call.structure else "at"
         places.append(f"{place}{'.cast()' * bool(result.shape)}, stride")
     logical = not call.structure and call.results[0].kind == "Logical"
     kind = "i32" if logical else returned(call)
     lines = [*taken, *listed("let lengths = [", lengths, "];"),
-             f'{"let results = " * logical}elements::whole("{path(call)}", &lengths, |count, results: *mut {kind}, stride| unsafe {{',
-             *(f"    {line}" for line in listed(f"sys::quorvel_{call.name}(", ["count", *places], ")")),
-             "})?;" if logical else "})"]
-    return block(_array_head(call, False), [*lines, *["Ok(elements::logical(results))"] * logical])
+             *listed(f"let mut results = elements::results::<{kind}>(", [f'"{path(call)}"', "&lengths"], ")?;"),
+             "let (count, at, stride) = elements::room(&mut results);",
+             *listed(f"elements::done(unsafe {{ sys::quorvel_{call.name}(", ["count", *places], ") });"),
+             "Ok(elements::logical(results))" if logical else "Ok(results)"]
+    return block(_array_head(call, False), lines)
 
 
 # ---- Files -------------------------------------------------------------------------------------------------------

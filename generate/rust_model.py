@@ -107,6 +107,7 @@ def indented(lines, depth=1):
 
 def listed(head, items, tail):
     """Items in brackets: on one line, or on as many as they need, set in."""
+    items = list(items)
     line = f"{head}{', '.join(items)}{tail}"
     if len(line) <= WIDTH - 12:
         return [line]
@@ -156,7 +157,9 @@ class Docs:
         if not known:
             return found[0]
         family, name = known.rsplit("::", 1)
-        return f"[`{name}`]" if family == self._family else f"[`{known}`](crate::{known})"
+        if family == self._family:
+            return f"[`{name}`]"
+        return f"[`{known}`]" if family.startswith("unchecked") else f"[`{known}`](crate::{known})"
 
     def lines(self, text, first="", rest=""):
         text = self.text(text)

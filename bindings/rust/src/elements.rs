@@ -85,17 +85,19 @@ impl<T: Values> Values for Input<'_, T> {
     }
 }
 
-/// Results for all elements. `call` gets their number, where the first result goes, and how far the next lies from it
-/// in bytes; it is a function of the array library, which writes each of them, and returns what that returns.
-pub(crate) fn whole<T: Clone + Default>(
-    function: &'static str, lengths: &[(&'static str, Option<usize>)], call: impl FnOnce(usize, *mut T, isize) -> i32,
+/// Results for all elements, before the call.
+pub(crate) fn results<T: Clone + Default>(
+    function: &'static str, lengths: &[(&'static str, Option<usize>)],
 ) -> Result<Vec<T>, Error> {
     let count = count(function, lengths)?;
-    let mut results = vec![T::default(); count];
-    if count > 0 {
-        done(call(count, results.as_mut_ptr(), std::mem::size_of::<T>() as isize));
-    }
+    let mut results = Vec::with_capacity(count.max(1)); // of none too, there is a place for the first
+    results.resize(count, T::default());
     Ok(results)
+}
+
+/// How many there are, where the first goes, and how far the next lies from it in bytes.
+pub(crate) fn room<T>(results: &mut Vec<T>) -> (usize, *mut T, isize) {
+    (results.len(), results.as_mut_ptr(), std::mem::size_of::<T>() as isize)
 }
 
 fn count(function: &'static str, lengths: &[(&'static str, Option<usize>)]) -> Result<usize, Error> {

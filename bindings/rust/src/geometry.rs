@@ -129,19 +129,19 @@ pub struct PolygonOrientation {
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * The overlap of [`unchecked::geometry::clip`](crate::unchecked::geometry::clip) with polygon 2 as A and
-///   polygon 1 as B, and with its accuracy. The pieces run in the sense of polygon 2.
+/// * The overlap of [`unchecked::geometry::clip`] with polygon 2 as A and polygon 1 as B, and with its
+///   accuracy. The pieces run in the sense of polygon 2.
 /// * A coordinate nearer to 0 than 1e-4 is taken as 0.
-/// * The outputs are all 0 where the polygons do not overlap, and where
-///   [`unchecked::geometry::clip`](crate::unchecked::geometry::clip) fails: a polygon that crosses itself, more
-///   than 10 crossings, more than 50 vertices and crossings in all. Likewise for more than 5 pieces, or more
-///   than 24 vertices in one. Of pairs of real polygons 0.75 % exceed one of these capacities.
+/// * The outputs are all 0 where the polygons do not overlap, and where [`unchecked::geometry::clip`] fails: a
+///   polygon that crosses itself, more than 10 crossings, more than 50 vertices and crossings in all. Likewise
+///   for more than 5 pieces, or more than 24 vertices in one. Of pairs of real polygons 0.75 % exceed one of
+///   these capacities.
 /// * The outputs are also 0 where polygon 1 lies in polygon 2 and the two have 42 vertices or more together:
 ///   what is left of polygon 2 around it does not fit. Where polygon 2 lies in polygon 1 they may have 50, as
 ///   anywhere else.
 ///
 /// # Source
-/// As [`unchecked::geometry::clip`](crate::unchecked::geometry::clip).
+/// As [`unchecked::geometry::clip`].
 ///
 /// `GEOVER` in quorvel.h.
 pub fn overlap(x_1: &[f32], y_1: &[f32], x_2: &[f32], y_2: &[f32]) -> Result<Overlap, Error> {
@@ -169,7 +169,7 @@ pub fn overlap(x_1: &[f32], y_1: &[f32], x_2: &[f32], y_2: &[f32]) -> Result<Ove
 /// * As [`overlap`], in all.
 ///
 /// # Source
-/// As [`unchecked::geometry::clip`](crate::unchecked::geometry::clip).
+/// As [`unchecked::geometry::clip`].
 ///
 /// `GEHOLE` in quorvel.h.
 pub fn overlap_alias(x_1: &[f32], y_1: &[f32], x_2: &[f32], y_2: &[f32]) -> Result<OverlapAlias, Error> {

@@ -360,13 +360,14 @@ pub mod arrays {
         let month = month.into();
         let frequencies = frequencies.into();
         let lengths = [fraction.length("fraction"), month.length("month"), frequencies.length("frequencies")];
-        elements::whole("climate::locate_band", &lengths, |count, results: *mut LocateBand, stride| unsafe {
-            sys::quorvel_locate_band(
-                count, fraction.first(), fraction.stride(), month.first(), month.stride(),
-                frequencies.first().cast(), frequencies.stride(), addr_of_mut!((*results).lower_band), stride,
-                addr_of_mut!((*results).upper_band), stride, addr_of_mut!((*results).band_weight), stride,
-            )
-        })
+        let mut results = elements::results::<LocateBand>("climate::locate_band", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_locate_band(
+            count, fraction.first(), fraction.stride(), month.first(), month.stride(),
+            frequencies.first().cast(), frequencies.stride(), addr_of_mut!((*at).lower_band), stride,
+            addr_of_mut!((*at).upper_band), stride, addr_of_mut!((*at).band_weight), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::band_climate`] of whole arrays, without checks.
@@ -382,17 +383,17 @@ pub mod arrays {
             band.length("band"), month.length("month"), band_set.length("band_set"),
             percentage.length("percentage"),
         ];
-        elements::whole("climate::band_climate", &lengths, |count, results: *mut BandClimate, stride| unsafe {
-            sys::quorvel_band_climate(
-                count, band.first(), band.stride(), month.first(), month.stride(), band_set.first(), band_set.stride(),
-                percentage.first(), percentage.stride(), addr_of_mut!((*results).percentage), stride,
-                addr_of_mut!((*results).q1), stride, addr_of_mut!((*results).q2), stride,
-                addr_of_mut!((*results).q3), stride, addr_of_mut!((*results).q4), stride,
-                addr_of_mut!((*results).q5), stride, addr_of_mut!((*results).q6), stride,
-                addr_of_mut!((*results).time_a), stride, addr_of_mut!((*results).time_b), stride,
-                addr_of_mut!((*results).q7), stride, addr_of_mut!((*results).q8), stride,
-            )
-        })
+        let mut results = elements::results::<BandClimate>("climate::band_climate", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_band_climate(
+            count, band.first(), band.stride(), month.first(), month.stride(), band_set.first(), band_set.stride(),
+            percentage.first(), percentage.stride(), addr_of_mut!((*at).percentage), stride,
+            addr_of_mut!((*at).q1), stride, addr_of_mut!((*at).q2), stride, addr_of_mut!((*at).q3), stride,
+            addr_of_mut!((*at).q4), stride, addr_of_mut!((*at).q5), stride, addr_of_mut!((*at).q6), stride,
+            addr_of_mut!((*at).time_a), stride, addr_of_mut!((*at).time_b), stride, addr_of_mut!((*at).q7), stride,
+            addr_of_mut!((*at).q8), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::interpolate_band_rows`] of whole arrays, without checks.
@@ -410,31 +411,34 @@ pub mod arrays {
             base_row.length("base_row"), lower_band.length("lower_band"), upper_band.length("upper_band"),
             month.length("month"), band_weight.length("band_weight"),
         ];
-        elements::whole("climate::interpolate_band_rows", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_interpolate_band_rows(
-                count, base_row.first(), base_row.stride(), lower_band.first(), lower_band.stride(),
-                upper_band.first(), upper_band.stride(), month.first(), month.stride(),
-                band_weight.first(), band_weight.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::interpolate_band_rows", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_interpolate_band_rows(
+            count, base_row.first(), base_row.stride(), lower_band.first(), lower_band.stride(),
+            upper_band.first(), upper_band.stride(), month.first(), month.stride(),
+            band_weight.first(), band_weight.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::band_row`] of whole arrays, without checks.
     pub fn band_row<'a>(row: impl Into<Input<'a, i32>>) -> Result<Vec<[f32; 12]>, Error> {
         let row = row.into();
         let lengths = [row.length("row")];
-        elements::whole("climate::band_row", &lengths, |count, results: *mut [f32; 12], stride| unsafe {
-            sys::quorvel_band_row(count, row.first(), row.stride(), results.cast(), stride)
-        })
+        let mut results = elements::results::<[f32; 12]>("climate::band_row", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_band_row(count, row.first(), row.stride(), at.cast(), stride) });
+        Ok(results)
     }
 
     /// [`crate::climate::store_design_day`] of whole arrays, without checks.
     pub fn store_design_day<'a>(month: impl Into<Input<'a, i32>>) -> Result<Vec<i32>, Error> {
         let month = month.into();
         let lengths = [month.length("month")];
-        elements::whole("climate::store_design_day", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_store_design_day(count, month.first(), month.stride(), results, stride)
-        })
+        let mut results = elements::results::<i32>("climate::store_design_day", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_store_design_day(count, month.first(), month.stride(), at, stride) });
+        Ok(results)
     }
 
     /// [`crate::climate::store_design_day_by_option`] of whole arrays, without checks.
@@ -444,20 +448,22 @@ pub mod arrays {
         let month = month.into();
         let day_kind = day_kind.into();
         let lengths = [month.length("month"), day_kind.length("day_kind")];
-        elements::whole("climate::store_design_day_by_option", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_store_design_day_by_option(
-                count, month.first(), month.stride(), day_kind.first(), day_kind.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<i32>("climate::store_design_day_by_option", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_store_design_day_by_option(
+            count, month.first(), month.stride(), day_kind.first(), day_kind.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::design_day`] of whole arrays, without checks.
     pub fn design_day<'a>(month: impl Into<Input<'a, i32>>) -> Result<Vec<i32>, Error> {
         let month = month.into();
         let lengths = [month.length("month")];
-        elements::whole("climate::design_day", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_design_day(count, month.first(), month.stride(), results, stride)
-        })
+        let mut results = elements::results::<i32>("climate::design_day", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_design_day(count, month.first(), month.stride(), at, stride) });
+        Ok(results)
     }
 
     /// [`crate::climate::design_day_by_option`] of whole arrays, without checks.
@@ -467,20 +473,22 @@ pub mod arrays {
         let month = month.into();
         let day_kind = day_kind.into();
         let lengths = [month.length("month"), day_kind.length("day_kind")];
-        elements::whole("climate::design_day_by_option", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_design_day_by_option(
-                count, month.first(), month.stride(), day_kind.first(), day_kind.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<i32>("climate::design_day_by_option", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_design_day_by_option(
+            count, month.first(), month.stride(), day_kind.first(), day_kind.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::second_design_day`] of whole arrays, without checks.
     pub fn second_design_day<'a>(month: impl Into<Input<'a, i32>>) -> Result<Vec<i32>, Error> {
         let month = month.into();
         let lengths = [month.length("month")];
-        elements::whole("climate::second_design_day", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_second_design_day(count, month.first(), month.stride(), results, stride)
-        })
+        let mut results = elements::results::<i32>("climate::second_design_day", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_second_design_day(count, month.first(), month.stride(), at, stride) });
+        Ok(results)
     }
 
     /// [`crate::climate::second_design_day_by_option`] of whole arrays, without checks.
@@ -490,11 +498,12 @@ pub mod arrays {
         let month = month.into();
         let day_kind = day_kind.into();
         let lengths = [month.length("month"), day_kind.length("day_kind")];
-        elements::whole("climate::second_design_day_by_option", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_second_design_day_by_option(
-                count, month.first(), month.stride(), day_kind.first(), day_kind.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<i32>("climate::second_design_day_by_option", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_second_design_day_by_option(
+            count, month.first(), month.stride(), day_kind.first(), day_kind.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::daily_temperature`] of whole arrays, without checks.
@@ -513,14 +522,15 @@ pub mod arrays {
             lowest_temperature.length("lowest_temperature"), hour_of_highest.length("hour_of_highest"),
             hour_of_lowest.length("hour_of_lowest"),
         ];
-        elements::whole("climate::daily_temperature", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_daily_temperature(
-                count, hour.first(), hour.stride(), highest_temperature.first(), highest_temperature.stride(),
-                lowest_temperature.first(), lowest_temperature.stride(),
-                hour_of_highest.first(), hour_of_highest.stride(), hour_of_lowest.first(), hour_of_lowest.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::daily_temperature", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_daily_temperature(
+            count, hour.first(), hour.stride(), highest_temperature.first(), highest_temperature.stride(),
+            lowest_temperature.first(), lowest_temperature.stride(),
+            hour_of_highest.first(), hour_of_highest.stride(), hour_of_lowest.first(), hour_of_lowest.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::daily_value`] of whole arrays, without checks.
@@ -540,13 +550,14 @@ pub mod arrays {
             first_hour.length("first_hour"), second_hour.length("second_hour"),
             amplitude_factor.length("amplitude_factor"),
         ];
-        elements::whole("climate::daily_value", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_daily_value(
-                count, hour.first(), hour.stride(), mean.first(), mean.stride(), amplitude.first(), amplitude.stride(),
-                first_hour.first(), first_hour.stride(), second_hour.first(), second_hour.stride(),
-                amplitude_factor.first(), amplitude_factor.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::daily_value", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_daily_value(
+            count, hour.first(), hour.stride(), mean.first(), mean.stride(), amplitude.first(), amplitude.stride(),
+            first_hour.first(), first_hour.stride(), second_hour.first(), second_hour.stride(),
+            amplitude_factor.first(), amplitude_factor.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::design_irradiance`] of whole arrays, without checks.
@@ -560,13 +571,14 @@ pub mod arrays {
         let lengths = [
             solar_altitude.length("solar_altitude"), site_height.length("site_height"), sky_kind.length("sky_kind"),
         ];
-        elements::whole("climate::design_irradiance", &lengths, |count, results: *mut DesignIrradiance, stride| unsafe {
-            sys::quorvel_design_irradiance(
-                count, solar_altitude.first(), solar_altitude.stride(), site_height.first(), site_height.stride(),
-                sky_kind.first(), sky_kind.stride(), addr_of_mut!((*results).direct_normal), stride,
-                addr_of_mut!((*results).diffuse_horizontal), stride,
-            )
-        })
+        let mut results = elements::results::<DesignIrradiance>("climate::design_irradiance", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_design_irradiance(
+            count, solar_altitude.first(), solar_altitude.stride(), site_height.first(), site_height.stride(),
+            sky_kind.first(), sky_kind.stride(), addr_of_mut!((*at).direct_normal), stride,
+            addr_of_mut!((*at).diffuse_horizontal), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::height_factor`] of whole arrays, without checks.
@@ -576,21 +588,23 @@ pub mod arrays {
         let site_height = site_height.into();
         let solar_altitude = solar_altitude.into();
         let lengths = [site_height.length("site_height"), solar_altitude.length("solar_altitude")];
-        elements::whole("climate::height_factor", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_height_factor(
-                count, site_height.first(), site_height.stride(), solar_altitude.first(), solar_altitude.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::height_factor", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_height_factor(
+            count, site_height.first(), site_height.stride(), solar_altitude.first(), solar_altitude.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::eccentricity_factor`] of whole arrays, without checks.
     pub fn eccentricity_factor<'a>(day: impl Into<Input<'a, i32>>) -> Result<Vec<f32>, Error> {
         let day = day.into();
         let lengths = [day.length("day")];
-        elements::whole("climate::eccentricity_factor", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_eccentricity_factor(count, day.first(), day.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("climate::eccentricity_factor", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_eccentricity_factor(count, day.first(), day.stride(), at, stride) });
+        Ok(results)
     }
 
     /// [`crate::climate::clearness_index`] of whole arrays, without checks.
@@ -605,12 +619,13 @@ pub mod arrays {
             day.length("day"), solar_altitude.length("solar_altitude"),
             global_horizontal.length("global_horizontal"),
         ];
-        elements::whole("climate::clearness_index", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_clearness_index(
-                count, day.first(), day.stride(), solar_altitude.first(), solar_altitude.stride(),
-                global_horizontal.first(), global_horizontal.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::clearness_index", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_clearness_index(
+            count, day.first(), day.stride(), solar_altitude.first(), solar_altitude.stride(),
+            global_horizontal.first(), global_horizontal.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::muneer_slope`] of whole arrays, without checks.
@@ -635,18 +650,19 @@ pub mod arrays {
             extraterrestrial_horizontal.length("extraterrestrial_horizontal"),
             ground_reflectance.length("ground_reflectance"),
         ];
-        elements::whole("climate::muneer_slope", &lengths, |count, results: *mut MuneerSlope, stride| unsafe {
-            sys::quorvel_muneer_slope(
-                count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
-                surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
-                beam_horizontal.first(), beam_horizontal.stride(),
-                diffuse_horizontal.first(), diffuse_horizontal.stride(),
-                extraterrestrial_horizontal.first(), extraterrestrial_horizontal.stride(),
-                ground_reflectance.first(), ground_reflectance.stride(), addr_of_mut!((*results).surface_beam), stride,
-                addr_of_mut!((*results).surface_diffuse), stride, addr_of_mut!((*results).ground_reflected), stride,
-                addr_of_mut!((*results).incidence), stride,
-            )
-        })
+        let mut results = elements::results::<MuneerSlope>("climate::muneer_slope", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_muneer_slope(
+            count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
+            surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
+            beam_horizontal.first(), beam_horizontal.stride(),
+            diffuse_horizontal.first(), diffuse_horizontal.stride(),
+            extraterrestrial_horizontal.first(), extraterrestrial_horizontal.stride(),
+            ground_reflectance.first(), ground_reflectance.stride(), addr_of_mut!((*at).surface_beam), stride,
+            addr_of_mut!((*at).surface_diffuse), stride, addr_of_mut!((*at).ground_reflected), stride,
+            addr_of_mut!((*at).incidence), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::perez_diffuse`] of whole arrays, without checks.
@@ -666,14 +682,15 @@ pub mod arrays {
             diffuse_horizontal.length("diffuse_horizontal"), incidence.length("incidence"),
             extraterrestrial_normal.length("extraterrestrial_normal"),
         ];
-        elements::whole("climate::perez_diffuse", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_perez_diffuse(
-                count, solar_altitude.first(), solar_altitude.stride(), tilt.first(), tilt.stride(),
-                beam_horizontal.first(), beam_horizontal.stride(),
-                diffuse_horizontal.first(), diffuse_horizontal.stride(), incidence.first(), incidence.stride(),
-                extraterrestrial_normal.first(), extraterrestrial_normal.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::perez_diffuse", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_perez_diffuse(
+            count, solar_altitude.first(), solar_altitude.stride(), tilt.first(), tilt.stride(),
+            beam_horizontal.first(), beam_horizontal.stride(),
+            diffuse_horizontal.first(), diffuse_horizontal.stride(), incidence.first(), incidence.stride(),
+            extraterrestrial_normal.first(), extraterrestrial_normal.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::site_constants`] of whole arrays, without checks.
@@ -683,14 +700,14 @@ pub mod arrays {
         let site_class = site_class.into();
         let month = month.into();
         let lengths = [site_class.length("site_class"), month.length("month")];
-        elements::whole("climate::site_constants", &lengths, |count, results: *mut SiteConstants, stride| unsafe {
-            sys::quorvel_site_constants(
-                count, site_class.first(), site_class.stride(), month.first(), month.stride(),
-                addr_of_mut!((*results).ground_reflectance), stride, addr_of_mut!((*results).beam_factor), stride,
-                addr_of_mut!((*results).diffuse_factor), stride,
-                addr_of_mut!((*results).alternative_diffuse_factor), stride,
-            )
-        })
+        let mut results = elements::results::<SiteConstants>("climate::site_constants", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_site_constants(
+            count, site_class.first(), site_class.stride(), month.first(), month.stride(),
+            addr_of_mut!((*at).ground_reflectance), stride, addr_of_mut!((*at).beam_factor), stride,
+            addr_of_mut!((*at).diffuse_factor), stride, addr_of_mut!((*at).alternative_diffuse_factor), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::diffuse_tilt_factor`] of whole arrays, without checks.
@@ -708,13 +725,14 @@ pub mod arrays {
             day.length("day"), solar_altitude.length("solar_altitude"), beam_horizontal.length("beam_horizontal"),
             tilt.length("tilt"), sky_model.length("sky_model"),
         ];
-        elements::whole("climate::diffuse_tilt_factor", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_diffuse_tilt_factor(
-                count, day.first(), day.stride(), solar_altitude.first(), solar_altitude.stride(),
-                beam_horizontal.first(), beam_horizontal.stride(), tilt.first(), tilt.stride(),
-                sky_model.first(), sky_model.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::diffuse_tilt_factor", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_diffuse_tilt_factor(
+            count, day.first(), day.stride(), solar_altitude.first(), solar_altitude.stride(),
+            beam_horizontal.first(), beam_horizontal.stride(), tilt.first(), tilt.stride(),
+            sky_model.first(), sky_model.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::slope_diffuse`] of whole arrays, without checks.
@@ -738,15 +756,16 @@ pub mod arrays {
             beam_horizontal.length("beam_horizontal"), diffuse_horizontal.length("diffuse_horizontal"),
             sky_model.length("sky_model"),
         ];
-        elements::whole("climate::slope_diffuse", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_slope_diffuse(
-                count, day.first(), day.stride(), solar_altitude.first(), solar_altitude.stride(),
-                solar_azimuth.first(), solar_azimuth.stride(), surface_azimuth.first(), surface_azimuth.stride(),
-                tilt.first(), tilt.stride(), beam_horizontal.first(), beam_horizontal.stride(),
-                diffuse_horizontal.first(), diffuse_horizontal.stride(), sky_model.first(), sky_model.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::slope_diffuse", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_slope_diffuse(
+            count, day.first(), day.stride(), solar_altitude.first(), solar_altitude.stride(),
+            solar_azimuth.first(), solar_azimuth.stride(), surface_azimuth.first(), surface_azimuth.stride(),
+            tilt.first(), tilt.stride(), beam_horizontal.first(), beam_horizontal.stride(),
+            diffuse_horizontal.first(), diffuse_horizontal.stride(), sky_model.first(), sky_model.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::sol_air_temperature`] of whole arrays, without checks.
@@ -765,14 +784,14 @@ pub mod arrays {
             absorptance.length("absorptance"), irradiance.length("irradiance"),
             long_wave_loss.length("long_wave_loss"),
         ];
-        elements::whole("climate::sol_air_temperature", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_sol_air_temperature(
-                count, base_temperature.first(), base_temperature.stride(),
-                surface_coefficient.first(), surface_coefficient.stride(), absorptance.first(), absorptance.stride(),
-                irradiance.first(), irradiance.stride(), long_wave_loss.first(), long_wave_loss.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::sol_air_temperature", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_sol_air_temperature(
+            count, base_temperature.first(), base_temperature.stride(),
+            surface_coefficient.first(), surface_coefficient.stride(), absorptance.first(), absorptance.stride(),
+            irradiance.first(), irradiance.stride(), long_wave_loss.first(), long_wave_loss.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::long_wave_loss`] of whole arrays, without checks.
@@ -782,11 +801,12 @@ pub mod arrays {
         let tilt = tilt.into();
         let cloud_cover = cloud_cover.into();
         let lengths = [tilt.length("tilt"), cloud_cover.length("cloud_cover")];
-        elements::whole("climate::long_wave_loss", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_long_wave_loss(
-                count, tilt.first(), tilt.stride(), cloud_cover.first(), cloud_cover.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::long_wave_loss", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_long_wave_loss(
+            count, tilt.first(), tilt.stride(), cloud_cover.first(), cloud_cover.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::solar_time_correction`] of whole arrays, without checks.
@@ -802,13 +822,14 @@ pub mod arrays {
             clock_offset.length("clock_offset"), day.length("day"), longitude.length("longitude"),
             reference_longitude.length("reference_longitude"),
         ];
-        elements::whole("climate::solar_time_correction", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_solar_time_correction(
-                count, clock_offset.first(), clock_offset.stride(), day.first(), day.stride(),
-                longitude.first(), longitude.stride(), reference_longitude.first(), reference_longitude.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("climate::solar_time_correction", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_solar_time_correction(
+            count, clock_offset.first(), clock_offset.stride(), day.first(), day.stride(),
+            longitude.first(), longitude.stride(), reference_longitude.first(), reference_longitude.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::almanac_position`] of whole arrays, without checks.
@@ -831,17 +852,18 @@ pub mod arrays {
             day_of_month.length("day_of_month"), clock_time.length("clock_time"), latitude.length("latitude"),
             longitude.length("longitude"), zone_meridian.length("zone_meridian"),
         ];
-        elements::whole("climate::almanac_position", &lengths, |count, results: *mut AlmanacPosition, stride| unsafe {
-            sys::quorvel_almanac_position(
-                count, time_kind.first(), time_kind.stride(), year.first(), year.stride(),
-                month.first(), month.stride(), day_of_month.first(), day_of_month.stride(),
-                clock_time.first(), clock_time.stride(), latitude.first(), latitude.stride(),
-                longitude.first(), longitude.stride(), zone_meridian.first(), zone_meridian.stride(),
-                addr_of_mut!((*results).longitude), stride, addr_of_mut!((*results).zone_meridian), stride,
-                addr_of_mut!((*results).solar_altitude), stride, addr_of_mut!((*results).solar_azimuth), stride,
-                addr_of_mut!((*results).declination), stride,
-            )
-        })
+        let mut results = elements::results::<AlmanacPosition>("climate::almanac_position", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_almanac_position(
+            count, time_kind.first(), time_kind.stride(), year.first(), year.stride(),
+            month.first(), month.stride(), day_of_month.first(), day_of_month.stride(),
+            clock_time.first(), clock_time.stride(), latitude.first(), latitude.stride(),
+            longitude.first(), longitude.stride(), zone_meridian.first(), zone_meridian.stride(),
+            addr_of_mut!((*at).longitude), stride, addr_of_mut!((*at).zone_meridian), stride,
+            addr_of_mut!((*at).solar_altitude), stride, addr_of_mut!((*at).solar_azimuth), stride,
+            addr_of_mut!((*at).declination), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::almanac_sun_hours`] of whole arrays, without checks.
@@ -857,13 +879,14 @@ pub mod arrays {
             year.length("year"), month.length("month"), day_of_month.length("day_of_month"),
             latitude.length("latitude"),
         ];
-        elements::whole("climate::almanac_sun_hours", &lengths, |count, results: *mut AlmanacSunHours, stride| unsafe {
-            sys::quorvel_almanac_sun_hours(
-                count, year.first(), year.stride(), month.first(), month.stride(),
-                day_of_month.first(), day_of_month.stride(), latitude.first(), latitude.stride(),
-                addr_of_mut!((*results).sunrise), stride, addr_of_mut!((*results).sunset), stride,
-            )
-        })
+        let mut results = elements::results::<AlmanacSunHours>("climate::almanac_sun_hours", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_almanac_sun_hours(
+            count, year.first(), year.stride(), month.first(), month.stride(),
+            day_of_month.first(), day_of_month.stride(), latitude.first(), latitude.stride(),
+            addr_of_mut!((*at).sunrise), stride, addr_of_mut!((*at).sunset), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::solar_geometry`] of whole arrays, without checks.
@@ -875,14 +898,15 @@ pub mod arrays {
         let day = day.into();
         let solar_time = solar_time.into();
         let lengths = [latitude.length("latitude"), day.length("day"), solar_time.length("solar_time")];
-        elements::whole("climate::solar_geometry", &lengths, |count, results: *mut SolarGeometry, stride| unsafe {
-            sys::quorvel_solar_geometry(
-                count, latitude.first(), latitude.stride(), day.first(), day.stride(),
-                solar_time.first(), solar_time.stride(), addr_of_mut!((*results).declination), stride,
-                addr_of_mut!((*results).solar_altitude), stride, addr_of_mut!((*results).solar_azimuth), stride,
-                addr_of_mut!((*results).sunrise), stride, addr_of_mut!((*results).sunset), stride,
-            )
-        })
+        let mut results = elements::results::<SolarGeometry>("climate::solar_geometry", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_solar_geometry(
+            count, latitude.first(), latitude.stride(), day.first(), day.stride(),
+            solar_time.first(), solar_time.stride(), addr_of_mut!((*at).declination), stride,
+            addr_of_mut!((*at).solar_altitude), stride, addr_of_mut!((*at).solar_azimuth), stride,
+            addr_of_mut!((*at).sunrise), stride, addr_of_mut!((*at).sunset), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::surface_angles`] of whole arrays, without checks.
@@ -898,14 +922,15 @@ pub mod arrays {
             solar_altitude.length("solar_altitude"), solar_azimuth.length("solar_azimuth"),
             surface_azimuth.length("surface_azimuth"), tilt.length("tilt"),
         ];
-        elements::whole("climate::surface_angles", &lengths, |count, results: *mut SurfaceAngles, stride| unsafe {
-            sys::quorvel_surface_angles(
-                count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
-                surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
-                addr_of_mut!((*results).incidence), stride, addr_of_mut!((*results).vertical_shadow_angle), stride,
-                addr_of_mut!((*results).horizontal_shadow_angle), stride,
-            )
-        })
+        let mut results = elements::results::<SurfaceAngles>("climate::surface_angles", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_surface_angles(
+            count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
+            surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
+            addr_of_mut!((*at).incidence), stride, addr_of_mut!((*at).vertical_shadow_angle), stride,
+            addr_of_mut!((*at).horizontal_shadow_angle), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::surface_irradiance`] of whole arrays, without checks.
@@ -931,16 +956,17 @@ pub mod arrays {
             diffuse_horizontal.length("diffuse_horizontal"), ground_reflectance.length("ground_reflectance"),
             beam_factor.length("beam_factor"), diffuse_factor.length("diffuse_factor"),
         ];
-        elements::whole("climate::surface_irradiance", &lengths, |count, results: *mut SurfaceIrradiance, stride| unsafe {
-            sys::quorvel_surface_irradiance(
-                count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
-                surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
-                direct_normal.first(), direct_normal.stride(), diffuse_horizontal.first(), diffuse_horizontal.stride(),
-                ground_reflectance.first(), ground_reflectance.stride(), beam_factor.first(), beam_factor.stride(),
-                diffuse_factor.first(), diffuse_factor.stride(), addr_of_mut!((*results).surface_beam), stride,
-                addr_of_mut!((*results).surface_diffuse), stride, addr_of_mut!((*results).ground_reflected), stride,
-            )
-        })
+        let mut results = elements::results::<SurfaceIrradiance>("climate::surface_irradiance", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_surface_irradiance(
+            count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
+            surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
+            direct_normal.first(), direct_normal.stride(), diffuse_horizontal.first(), diffuse_horizontal.stride(),
+            ground_reflectance.first(), ground_reflectance.stride(), beam_factor.first(), beam_factor.stride(),
+            diffuse_factor.first(), diffuse_factor.stride(), addr_of_mut!((*at).surface_beam), stride,
+            addr_of_mut!((*at).surface_diffuse), stride, addr_of_mut!((*at).ground_reflected), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::climate::surface_irradiance_and_incidence`] of whole arrays, without checks.
@@ -966,16 +992,19 @@ pub mod arrays {
             diffuse_horizontal.length("diffuse_horizontal"), ground_reflectance.length("ground_reflectance"),
             beam_factor.length("beam_factor"), diffuse_factor.length("diffuse_factor"),
         ];
-        elements::whole("climate::surface_irradiance_and_incidence", &lengths, |count, results: *mut SurfaceIrradianceAndIncidence, stride| unsafe {
-            sys::quorvel_surface_irradiance_and_incidence(
-                count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
-                surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
-                direct_normal.first(), direct_normal.stride(), diffuse_horizontal.first(), diffuse_horizontal.stride(),
-                ground_reflectance.first(), ground_reflectance.stride(), beam_factor.first(), beam_factor.stride(),
-                diffuse_factor.first(), diffuse_factor.stride(), addr_of_mut!((*results).surface_beam), stride,
-                addr_of_mut!((*results).surface_diffuse), stride, addr_of_mut!((*results).ground_reflected), stride,
-                addr_of_mut!((*results).incidence), stride,
-            )
-        })
+        let mut results = elements::results::<SurfaceIrradianceAndIncidence>(
+            "climate::surface_irradiance_and_incidence", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_surface_irradiance_and_incidence(
+            count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
+            surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
+            direct_normal.first(), direct_normal.stride(), diffuse_horizontal.first(), diffuse_horizontal.stride(),
+            ground_reflectance.first(), ground_reflectance.stride(), beam_factor.first(), beam_factor.stride(),
+            diffuse_factor.first(), diffuse_factor.stride(), addr_of_mut!((*at).surface_beam), stride,
+            addr_of_mut!((*at).surface_diffuse), stride, addr_of_mut!((*at).ground_reflected), stride,
+            addr_of_mut!((*at).incidence), stride,
+        ) });
+        Ok(results)
     }
 }

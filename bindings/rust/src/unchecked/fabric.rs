@@ -223,9 +223,12 @@ pub mod arrays {
     pub fn vertical_cavity_resistance<'a>(cavity_width: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let cavity_width = cavity_width.into();
         let lengths = [cavity_width.length("cavity_width")];
-        elements::whole("fabric::vertical_cavity_resistance", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_vertical_cavity_resistance(count, cavity_width.first(), cavity_width.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("fabric::vertical_cavity_resistance", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_vertical_cavity_resistance(
+            count, cavity_width.first(), cavity_width.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::air_cavity_resistance`] of whole arrays, without checks.
@@ -241,13 +244,13 @@ pub mod arrays {
             tilt.length("tilt"), cavity_width.length("cavity_width"), emissivity_1.length("emissivity_1"),
             emissivity_2.length("emissivity_2"),
         ];
-        elements::whole("fabric::air_cavity_resistance", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_air_cavity_resistance(
-                count, tilt.first(), tilt.stride(), cavity_width.first(), cavity_width.stride(),
-                emissivity_1.first(), emissivity_1.stride(), emissivity_2.first(), emissivity_2.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("fabric::air_cavity_resistance", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_air_cavity_resistance(
+            count, tilt.first(), tilt.stride(), cavity_width.first(), cavity_width.stride(),
+            emissivity_1.first(), emissivity_1.stride(), emissivity_2.first(), emissivity_2.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::gas_cavity_resistance`] of whole arrays, without checks.
@@ -270,14 +273,15 @@ pub mod arrays {
             emissivity_2.length("emissivity_2"), density.length("density"), conductivity.length("conductivity"),
             specific_heat.length("specific_heat"), viscosity.length("viscosity"),
         ];
-        elements::whole("fabric::gas_cavity_resistance", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_gas_cavity_resistance(
-                count, tilt.first(), tilt.stride(), cavity_width.first(), cavity_width.stride(),
-                emissivity_1.first(), emissivity_1.stride(), emissivity_2.first(), emissivity_2.stride(),
-                density.first(), density.stride(), conductivity.first(), conductivity.stride(),
-                specific_heat.first(), specific_heat.stride(), viscosity.first(), viscosity.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("fabric::gas_cavity_resistance", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_gas_cavity_resistance(
+            count, tilt.first(), tilt.stride(), cavity_width.first(), cavity_width.stride(),
+            emissivity_1.first(), emissivity_1.stride(), emissivity_2.first(), emissivity_2.stride(),
+            density.first(), density.stride(), conductivity.first(), conductivity.stride(),
+            specific_heat.first(), specific_heat.stride(), viscosity.first(), viscosity.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::condenses_within_layer`] of whole arrays, without checks.
@@ -294,14 +298,15 @@ pub mod arrays {
             warm_vapour_pressure.length("warm_vapour_pressure"),
             cold_vapour_pressure.length("cold_vapour_pressure"),
         ];
-        elements::whole("fabric::condenses_within_layer", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_condenses_within_layer(
-                count, warm_temperature.first(), warm_temperature.stride(),
-                cold_temperature.first(), cold_temperature.stride(),
-                warm_vapour_pressure.first(), warm_vapour_pressure.stride(),
-                cold_vapour_pressure.first(), cold_vapour_pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<i32>("fabric::condenses_within_layer", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_condenses_within_layer(
+            count, warm_temperature.first(), warm_temperature.stride(),
+            cold_temperature.first(), cold_temperature.stride(),
+            warm_vapour_pressure.first(), warm_vapour_pressure.stride(),
+            cold_vapour_pressure.first(), cold_vapour_pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::natural_convection_coefficient`] of whole arrays, without checks.
@@ -317,13 +322,14 @@ pub mod arrays {
             characteristic_length.length("characteristic_length"),
             heat_flow_direction.length("heat_flow_direction"),
         ];
-        elements::whole("fabric::natural_convection_coefficient", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_natural_convection_coefficient(
-                count, temperature_difference.first(), temperature_difference.stride(),
-                characteristic_length.first(), characteristic_length.stride(),
-                heat_flow_direction.first(), heat_flow_direction.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("fabric::natural_convection_coefficient", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_natural_convection_coefficient(
+            count, temperature_difference.first(), temperature_difference.stride(),
+            characteristic_length.first(), characteristic_length.stride(),
+            heat_flow_direction.first(), heat_flow_direction.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::pack_two_fractions`] of whole arrays, without checks.
@@ -339,14 +345,15 @@ pub mod arrays {
             packing.length("packing"), packed_number.length("packed_number"), fraction_1.length("fraction_1"),
             fraction_2.length("fraction_2"),
         ];
-        elements::whole("fabric::pack_two_fractions", &lengths, |count, results: *mut PackTwoFractions, stride| unsafe {
-            sys::quorvel_pack_two_fractions(
-                count, packing.first(), packing.stride(), packed_number.first(), packed_number.stride(),
-                fraction_1.first(), fraction_1.stride(), fraction_2.first(), fraction_2.stride(),
-                addr_of_mut!((*results).packed_number), stride, addr_of_mut!((*results).fraction_1), stride,
-                addr_of_mut!((*results).fraction_2), stride,
-            )
-        })
+        let mut results = elements::results::<PackTwoFractions>("fabric::pack_two_fractions", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_pack_two_fractions(
+            count, packing.first(), packing.stride(), packed_number.first(), packed_number.stride(),
+            fraction_1.first(), fraction_1.stride(), fraction_2.first(), fraction_2.stride(),
+            addr_of_mut!((*at).packed_number), stride, addr_of_mut!((*at).fraction_1), stride,
+            addr_of_mut!((*at).fraction_2), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::pack_three_fractions`] of whole arrays, without checks.
@@ -364,15 +371,16 @@ pub mod arrays {
             packing.length("packing"), packed_number.length("packed_number"), fraction_1.length("fraction_1"),
             fraction_2.length("fraction_2"), fraction_3.length("fraction_3"),
         ];
-        elements::whole("fabric::pack_three_fractions", &lengths, |count, results: *mut PackThreeFractions, stride| unsafe {
-            sys::quorvel_pack_three_fractions(
-                count, packing.first(), packing.stride(), packed_number.first(), packed_number.stride(),
-                fraction_1.first(), fraction_1.stride(), fraction_2.first(), fraction_2.stride(),
-                fraction_3.first(), fraction_3.stride(), addr_of_mut!((*results).packed_number), stride,
-                addr_of_mut!((*results).fraction_1), stride, addr_of_mut!((*results).fraction_2), stride,
-                addr_of_mut!((*results).fraction_3), stride,
-            )
-        })
+        let mut results = elements::results::<PackThreeFractions>("fabric::pack_three_fractions", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_pack_three_fractions(
+            count, packing.first(), packing.stride(), packed_number.first(), packed_number.stride(),
+            fraction_1.first(), fraction_1.stride(), fraction_2.first(), fraction_2.stride(),
+            fraction_3.first(), fraction_3.stride(), addr_of_mut!((*at).packed_number), stride,
+            addr_of_mut!((*at).fraction_1), stride, addr_of_mut!((*at).fraction_2), stride,
+            addr_of_mut!((*at).fraction_3), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::pack_three_fractions_third_first`] of whole arrays, without checks.
@@ -390,15 +398,18 @@ pub mod arrays {
             packing.length("packing"), packed_number.length("packed_number"), fraction_3.length("fraction_3"),
             fraction_1.length("fraction_1"), fraction_2.length("fraction_2"),
         ];
-        elements::whole("fabric::pack_three_fractions_third_first", &lengths, |count, results: *mut PackThreeFractionsThirdFirst, stride| unsafe {
-            sys::quorvel_pack_three_fractions_third_first(
-                count, packing.first(), packing.stride(), packed_number.first(), packed_number.stride(),
-                fraction_3.first(), fraction_3.stride(), fraction_1.first(), fraction_1.stride(),
-                fraction_2.first(), fraction_2.stride(), addr_of_mut!((*results).packed_number), stride,
-                addr_of_mut!((*results).fraction_3), stride, addr_of_mut!((*results).fraction_1), stride,
-                addr_of_mut!((*results).fraction_2), stride,
-            )
-        })
+        let mut results = elements::results::<PackThreeFractionsThirdFirst>(
+            "fabric::pack_three_fractions_third_first", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_pack_three_fractions_third_first(
+            count, packing.first(), packing.stride(), packed_number.first(), packed_number.stride(),
+            fraction_3.first(), fraction_3.stride(), fraction_1.first(), fraction_1.stride(),
+            fraction_2.first(), fraction_2.stride(), addr_of_mut!((*at).packed_number), stride,
+            addr_of_mut!((*at).fraction_3), stride, addr_of_mut!((*at).fraction_1), stride,
+            addr_of_mut!((*at).fraction_2), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::pack_pane`] of whole arrays, without checks.
@@ -416,15 +427,16 @@ pub mod arrays {
             packing.length("packing"), packed_number.length("packed_number"), absorptance.length("absorptance"),
             reflectance_1.length("reflectance_1"), reflectance_2.length("reflectance_2"),
         ];
-        elements::whole("fabric::pack_pane", &lengths, |count, results: *mut PackPane, stride| unsafe {
-            sys::quorvel_pack_pane(
-                count, packing.first(), packing.stride(), packed_number.first(), packed_number.stride(),
-                absorptance.first(), absorptance.stride(), reflectance_1.first(), reflectance_1.stride(),
-                reflectance_2.first(), reflectance_2.stride(), addr_of_mut!((*results).packed_number), stride,
-                addr_of_mut!((*results).absorptance), stride, addr_of_mut!((*results).reflectance_1), stride,
-                addr_of_mut!((*results).reflectance_2), stride,
-            )
-        })
+        let mut results = elements::results::<PackPane>("fabric::pack_pane", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_pack_pane(
+            count, packing.first(), packing.stride(), packed_number.first(), packed_number.stride(),
+            absorptance.first(), absorptance.stride(), reflectance_1.first(), reflectance_1.stride(),
+            reflectance_2.first(), reflectance_2.stride(), addr_of_mut!((*at).packed_number), stride,
+            addr_of_mut!((*at).absorptance), stride, addr_of_mut!((*at).reflectance_1), stride,
+            addr_of_mut!((*at).reflectance_2), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::surface_resistance`] of whole arrays, without checks.
@@ -436,12 +448,13 @@ pub mod arrays {
         let tilt = tilt.into();
         let exposure = exposure.into();
         let lengths = [surface.length("surface"), tilt.length("tilt"), exposure.length("exposure")];
-        elements::whole("fabric::surface_resistance", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_surface_resistance(
-                count, surface.first(), surface.stride(), tilt.first(), tilt.stride(),
-                exposure.first(), exposure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("fabric::surface_resistance", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_surface_resistance(
+            count, surface.first(), surface.stride(), tilt.first(), tilt.stride(),
+            exposure.first(), exposure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::surface_resistance_at_emissivity`] of whole arrays, without checks.
@@ -457,12 +470,13 @@ pub mod arrays {
             surface.length("surface"), tilt.length("tilt"), exposure.length("exposure"),
             emissivity.length("emissivity"),
         ];
-        elements::whole("fabric::surface_resistance_at_emissivity", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_surface_resistance_at_emissivity(
-                count, surface.first(), surface.stride(), tilt.first(), tilt.stride(),
-                exposure.first(), exposure.stride(), emissivity.first(), emissivity.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("fabric::surface_resistance_at_emissivity", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_surface_resistance_at_emissivity(
+            count, surface.first(), surface.stride(), tilt.first(), tilt.stride(),
+            exposure.first(), exposure.stride(), emissivity.first(), emissivity.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::u_value_at_tilt_and_exposure`] of whole arrays, without checks.
@@ -474,12 +488,13 @@ pub mod arrays {
         let tilt = tilt.into();
         let exposure = exposure.into();
         let lengths = [u_value.length("u_value"), tilt.length("tilt"), exposure.length("exposure")];
-        elements::whole("fabric::u_value_at_tilt_and_exposure", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_u_value_at_tilt_and_exposure(
-                count, u_value.first(), u_value.stride(), tilt.first(), tilt.stride(),
-                exposure.first(), exposure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("fabric::u_value_at_tilt_and_exposure", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_u_value_at_tilt_and_exposure(
+            count, u_value.first(), u_value.stride(), tilt.first(), tilt.stride(),
+            exposure.first(), exposure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::fabric::window_parameters`] of whole arrays, without checks.
@@ -510,19 +525,20 @@ pub mod arrays {
             cavity_width_1.length("cavity_width_1"), cavity_width_2.length("cavity_width_2"),
             outer_surface.length("outer_surface"), exposure.length("exposure"), tilt.length("tilt"),
         ];
-        elements::whole("fabric::window_parameters", &lengths, |count, results: *mut WindowParameters, stride| unsafe {
-            sys::quorvel_window_parameters(
-                count, panes.first(), panes.stride(), pane_kind_1.first(), pane_kind_1.stride(),
-                emissivity_1.first(), emissivity_1.stride(), pane_kind_2.first(), pane_kind_2.stride(),
-                emissivity_2.first(), emissivity_2.stride(), pane_kind_3.first(), pane_kind_3.stride(),
-                emissivity_3.first(), emissivity_3.stride(), cavity_width_1.first(), cavity_width_1.stride(),
-                cavity_width_2.first(), cavity_width_2.stride(), outer_surface.first(), outer_surface.stride(),
-                exposure.first(), exposure.stride(), tilt.first(), tilt.stride(),
-                addr_of_mut!((*results).admittance), stride, addr_of_mut!((*results).admittance_lead), stride,
-                addr_of_mut!((*results).decrement_factor), stride, addr_of_mut!((*results).decrement_lag), stride,
-                addr_of_mut!((*results).surface_factor), stride, addr_of_mut!((*results).surface_factor_lag), stride,
-                addr_of_mut!((*results).u_value), stride,
-            )
-        })
+        let mut results = elements::results::<WindowParameters>("fabric::window_parameters", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_window_parameters(
+            count, panes.first(), panes.stride(), pane_kind_1.first(), pane_kind_1.stride(),
+            emissivity_1.first(), emissivity_1.stride(), pane_kind_2.first(), pane_kind_2.stride(),
+            emissivity_2.first(), emissivity_2.stride(), pane_kind_3.first(), pane_kind_3.stride(),
+            emissivity_3.first(), emissivity_3.stride(), cavity_width_1.first(), cavity_width_1.stride(),
+            cavity_width_2.first(), cavity_width_2.stride(), outer_surface.first(), outer_surface.stride(),
+            exposure.first(), exposure.stride(), tilt.first(), tilt.stride(),
+            addr_of_mut!((*at).admittance), stride, addr_of_mut!((*at).admittance_lead), stride,
+            addr_of_mut!((*at).decrement_factor), stride, addr_of_mut!((*at).decrement_lag), stride,
+            addr_of_mut!((*at).surface_factor), stride, addr_of_mut!((*at).surface_factor_lag), stride,
+            addr_of_mut!((*at).u_value), stride,
+        ) });
+        Ok(results)
     }
 }

@@ -14,11 +14,15 @@ pub fn clip(
     let vertices_a = check::count("unchecked::geometry::clip", &[("positions_a", positions_a.len())])?;
     let vertices_b = check::count("unchecked::geometry::clip", &[("positions_b", positions_b.len())])?;
     let point_capacity = check::count("unchecked::geometry::clip", &[("x", x.len()), ("y", y.len())])?;
+    let room_of_difference_capacity = check::room(
+        "unchecked::geometry::clip", "difference_capacity", difference_capacity,
+    )?;
+    let room_of_overlap_capacity = check::room(
+        "unchecked::geometry::clip", "overlap_capacity", overlap_capacity,
+    )?;
     let mut results = Clip {
-        x: x.to_vec(), y: y.to_vec(), used_points,
-        difference_pieces: vec![0; check::room("unchecked::geometry::clip", "difference_capacity", difference_capacity)?],
-        overlap_pieces: vec![0; check::room("unchecked::geometry::clip", "overlap_capacity", overlap_capacity)?],
-        status: 0,
+        x: x.to_vec(), y: y.to_vec(), used_points, difference_pieces: vec![0; room_of_difference_capacity],
+        overlap_pieces: vec![0; room_of_overlap_capacity], status: 0,
     };
     unsafe { sys::HOHOLEDP(
         results.x.as_mut_ptr(), results.y.as_mut_ptr(), &vertices_a, positions_a.as_ptr(), &vertices_b,
@@ -336,12 +340,12 @@ pub mod arrays {
         let triangle_1 = triangle_1.into();
         let triangle_2 = triangle_2.into();
         let lengths = [triangle_1.length("triangle_1"), triangle_2.length("triangle_2")];
-        let results = elements::whole("geometry::parallel_planes", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_parallel_planes(
-                count, triangle_1.first().cast(), triangle_1.stride(), triangle_2.first().cast(), triangle_2.stride(),
-                results, stride,
-            )
-        })?;
+        let mut results = elements::results::<i32>("geometry::parallel_planes", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_parallel_planes(
+            count, triangle_1.first().cast(), triangle_1.stride(), triangle_2.first().cast(), triangle_2.stride(),
+            at, stride,
+        ) });
         Ok(elements::logical(results))
     }
 
@@ -349,9 +353,11 @@ pub mod arrays {
     pub fn rectangular<'a>(quadrilateral: impl Into<Input<'a, [[f64; 3]; 4]>>) -> Result<Vec<bool>, Error> {
         let quadrilateral = quadrilateral.into();
         let lengths = [quadrilateral.length("quadrilateral")];
-        let results = elements::whole("geometry::rectangular", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_rectangular(count, quadrilateral.first().cast(), quadrilateral.stride(), results, stride)
-        })?;
+        let mut results = elements::results::<i32>("geometry::rectangular", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_rectangular(
+            count, quadrilateral.first().cast(), quadrilateral.stride(), at, stride,
+        ) });
         Ok(elements::logical(results))
     }
 
@@ -362,12 +368,13 @@ pub mod arrays {
         let triangle = triangle.into();
         let azimuth = azimuth.into();
         let lengths = [triangle.length("triangle"), azimuth.length("azimuth")];
-        elements::whole("geometry::facing", &lengths, |count, results: *mut Facing, stride| unsafe {
-            sys::quorvel_facing(
-                count, triangle.first().cast(), triangle.stride(), azimuth.first(), azimuth.stride(),
-                addr_of_mut!((*results).azimuth), stride, addr_of_mut!((*results).tilt), stride,
-            )
-        })
+        let mut results = elements::results::<Facing>("geometry::facing", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_facing(
+            count, triangle.first().cast(), triangle.stride(), azimuth.first(), azimuth.stride(),
+            addr_of_mut!((*at).azimuth), stride, addr_of_mut!((*at).tilt), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::local_coordinates`] of whole arrays, without checks.
@@ -378,13 +385,14 @@ pub mod arrays {
         let quadrilateral_1 = quadrilateral_1.into();
         let quadrilateral_2 = quadrilateral_2.into();
         let lengths = [quadrilateral_1.length("quadrilateral_1"), quadrilateral_2.length("quadrilateral_2")];
-        elements::whole("geometry::local_coordinates", &lengths, |count, results: *mut LocalCoordinates, stride| unsafe {
-            sys::quorvel_local_coordinates(
-                count, quadrilateral_1.first().cast(), quadrilateral_1.stride(),
-                quadrilateral_2.first().cast(), quadrilateral_2.stride(),
-                addr_of_mut!((*results).local_1).cast(), stride, addr_of_mut!((*results).local_2).cast(), stride,
-            )
-        })
+        let mut results = elements::results::<LocalCoordinates>("geometry::local_coordinates", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_local_coordinates(
+            count, quadrilateral_1.first().cast(), quadrilateral_1.stride(),
+            quadrilateral_2.first().cast(), quadrilateral_2.stride(), addr_of_mut!((*at).local_1).cast(), stride,
+            addr_of_mut!((*at).local_2).cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::to_local`] of whole arrays, without checks.
@@ -399,12 +407,13 @@ pub mod arrays {
         let lengths = [
             corners.length("corners"), x_axis.length("x_axis"), y_axis.length("y_axis"), z_axis.length("z_axis"),
         ];
-        elements::whole("geometry::to_local", &lengths, |count, results: *mut [[f64; 3]; 4], stride| unsafe {
-            sys::quorvel_to_local(
-                count, corners.first().cast(), corners.stride(), x_axis.first().cast(), x_axis.stride(),
-                y_axis.first().cast(), y_axis.stride(), z_axis.first().cast(), z_axis.stride(), results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[[f64; 3]; 4]>("geometry::to_local", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_to_local(
+            count, corners.first().cast(), corners.stride(), x_axis.first().cast(), x_axis.stride(),
+            y_axis.first().cast(), y_axis.stride(), z_axis.first().cast(), z_axis.stride(), at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::meeting_point`] of whole arrays, without checks.
@@ -420,13 +429,14 @@ pub mod arrays {
             line_1_start.length("line_1_start"), line_1_end.length("line_1_end"),
             line_2_start.length("line_2_start"), line_2_end.length("line_2_end"),
         ];
-        elements::whole("geometry::meeting_point", &lengths, |count, results: *mut [f32; 2], stride| unsafe {
-            sys::quorvel_meeting_point(
-                count, line_1_start.first().cast(), line_1_start.stride(),
-                line_1_end.first().cast(), line_1_end.stride(), line_2_start.first().cast(), line_2_start.stride(),
-                line_2_end.first().cast(), line_2_end.stride(), results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 2]>("geometry::meeting_point", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_meeting_point(
+            count, line_1_start.first().cast(), line_1_start.stride(),
+            line_1_end.first().cast(), line_1_end.stride(), line_2_start.first().cast(), line_2_start.stride(),
+            line_2_end.first().cast(), line_2_end.stride(), at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::crossing_point`] of whole arrays, without checks.
@@ -442,14 +452,15 @@ pub mod arrays {
             segment_1_start.length("segment_1_start"), segment_1_end.length("segment_1_end"),
             segment_2_start.length("segment_2_start"), segment_2_end.length("segment_2_end"),
         ];
-        elements::whole("geometry::crossing_point", &lengths, |count, results: *mut [f32; 2], stride| unsafe {
-            sys::quorvel_crossing_point(
-                count, segment_1_start.first().cast(), segment_1_start.stride(),
-                segment_1_end.first().cast(), segment_1_end.stride(),
-                segment_2_start.first().cast(), segment_2_start.stride(),
-                segment_2_end.first().cast(), segment_2_end.stride(), results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 2]>("geometry::crossing_point", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_crossing_point(
+            count, segment_1_start.first().cast(), segment_1_start.stride(),
+            segment_1_end.first().cast(), segment_1_end.stride(),
+            segment_2_start.first().cast(), segment_2_start.stride(),
+            segment_2_end.first().cast(), segment_2_end.stride(), at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::in_span`] of whole arrays, without checks.
@@ -461,12 +472,13 @@ pub mod arrays {
         let second_end = second_end.into();
         let point = point.into();
         let lengths = [first_end.length("first_end"), second_end.length("second_end"), point.length("point")];
-        elements::whole("geometry::in_span", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_in_span(
-                count, first_end.first().cast(), first_end.stride(), second_end.first().cast(), second_end.stride(),
-                point.first().cast(), point.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("geometry::in_span", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_in_span(
+            count, first_end.first().cast(), first_end.stride(), second_end.first().cast(), second_end.stride(),
+            point.first().cast(), point.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::ahead_and_nearer`] of whole arrays, without checks.
@@ -478,12 +490,13 @@ pub mod arrays {
         let second_end = second_end.into();
         let point = point.into();
         let lengths = [first_end.length("first_end"), second_end.length("second_end"), point.length("point")];
-        elements::whole("geometry::ahead_and_nearer", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_ahead_and_nearer(
-                count, first_end.first().cast(), first_end.stride(), second_end.first().cast(), second_end.stride(),
-                point.first().cast(), point.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("geometry::ahead_and_nearer", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_ahead_and_nearer(
+            count, first_end.first().cast(), first_end.stride(), second_end.first().cast(), second_end.stride(),
+            point.first().cast(), point.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::coincide`] of whole arrays, without checks.
@@ -496,12 +509,12 @@ pub mod arrays {
         let x_2 = x_2.into();
         let y_2 = y_2.into();
         let lengths = [x_1.length("x_1"), y_1.length("y_1"), x_2.length("x_2"), y_2.length("y_2")];
-        let results = elements::whole("geometry::coincide", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_coincide(
-                count, x_1.first(), x_1.stride(), y_1.first(), y_1.stride(), x_2.first(), x_2.stride(),
-                y_2.first(), y_2.stride(), results, stride,
-            )
-        })?;
+        let mut results = elements::results::<i32>("geometry::coincide", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_coincide(
+            count, x_1.first(), x_1.stride(), y_1.first(), y_1.stride(), x_2.first(), x_2.stride(),
+            y_2.first(), y_2.stride(), at, stride,
+        ) });
         Ok(elements::logical(results))
     }
 
@@ -514,21 +527,23 @@ pub mod arrays {
         let line_end = line_end.into();
         let point = point.into();
         let lengths = [line_start.length("line_start"), line_end.length("line_end"), point.length("point")];
-        elements::whole("geometry::side_of_line", &lengths, |count, results: *mut i32, stride| unsafe {
-            sys::quorvel_side_of_line(
-                count, line_start.first().cast(), line_start.stride(), line_end.first().cast(), line_end.stride(),
-                point.first().cast(), point.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<i32>("geometry::side_of_line", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_side_of_line(
+            count, line_start.first().cast(), line_start.stride(), line_end.first().cast(), line_end.stride(),
+            point.first().cast(), point.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::back_azimuth`] of whole arrays, without checks.
     pub fn back_azimuth<'a>(angle: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let angle = angle.into();
         let lengths = [angle.length("angle")];
-        elements::whole("geometry::back_azimuth", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_back_azimuth(count, angle.first(), angle.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("geometry::back_azimuth", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_back_azimuth(count, angle.first(), angle.stride(), at, stride) });
+        Ok(results)
     }
 
     /// [`crate::geometry::direction_to`] of whole arrays, without checks.
@@ -538,12 +553,13 @@ pub mod arrays {
         let solar_altitude = solar_altitude.into();
         let solar_azimuth = solar_azimuth.into();
         let lengths = [solar_altitude.length("solar_altitude"), solar_azimuth.length("solar_azimuth")];
-        elements::whole("geometry::direction_to", &lengths, |count, results: *mut [f32; 3], stride| unsafe {
-            sys::quorvel_direction_to(
-                count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
-                results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 3]>("geometry::direction_to", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_direction_to(
+            count, solar_altitude.first(), solar_altitude.stride(), solar_azimuth.first(), solar_azimuth.stride(),
+            at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::surface_axes`] of whole arrays, without checks.
@@ -553,13 +569,13 @@ pub mod arrays {
         let surface_azimuth = surface_azimuth.into();
         let tilt = tilt.into();
         let lengths = [surface_azimuth.length("surface_azimuth"), tilt.length("tilt")];
-        elements::whole("geometry::surface_axes", &lengths, |count, results: *mut SurfaceAxes, stride| unsafe {
-            sys::quorvel_surface_axes(
-                count, surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
-                addr_of_mut!((*results).rotation_matrix).cast(), stride,
-                addr_of_mut!((*results).inverse_matrix).cast(), stride,
-            )
-        })
+        let mut results = elements::results::<SurfaceAxes>("geometry::surface_axes", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_surface_axes(
+            count, surface_azimuth.first(), surface_azimuth.stride(), tilt.first(), tilt.stride(),
+            addr_of_mut!((*at).rotation_matrix).cast(), stride, addr_of_mut!((*at).inverse_matrix).cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::local_to_global`] of whole arrays, without checks.
@@ -569,12 +585,13 @@ pub mod arrays {
         let local_vector = local_vector.into();
         let rotation_matrix = rotation_matrix.into();
         let lengths = [local_vector.length("local_vector"), rotation_matrix.length("rotation_matrix")];
-        elements::whole("geometry::local_to_global", &lengths, |count, results: *mut [f32; 3], stride| unsafe {
-            sys::quorvel_local_to_global(
-                count, local_vector.first().cast(), local_vector.stride(),
-                rotation_matrix.first().cast(), rotation_matrix.stride(), results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 3]>("geometry::local_to_global", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_local_to_global(
+            count, local_vector.first().cast(), local_vector.stride(),
+            rotation_matrix.first().cast(), rotation_matrix.stride(), at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::global_to_local`] of whole arrays, without checks.
@@ -584,12 +601,13 @@ pub mod arrays {
         let global_vector = global_vector.into();
         let rotation_matrix = rotation_matrix.into();
         let lengths = [global_vector.length("global_vector"), rotation_matrix.length("rotation_matrix")];
-        elements::whole("geometry::global_to_local", &lengths, |count, results: *mut [f32; 3], stride| unsafe {
-            sys::quorvel_global_to_local(
-                count, global_vector.first().cast(), global_vector.stride(),
-                rotation_matrix.first().cast(), rotation_matrix.stride(), results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 3]>("geometry::global_to_local", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_global_to_local(
+            count, global_vector.first().cast(), global_vector.stride(),
+            rotation_matrix.first().cast(), rotation_matrix.stride(), at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::projection`] of whole arrays, without checks.
@@ -605,13 +623,14 @@ pub mod arrays {
             plane_point.length("plane_point"), plane_normal.length("plane_normal"), point.length("point"),
             direction.length("direction"),
         ];
-        elements::whole("geometry::projection", &lengths, |count, results: *mut [f32; 3], stride| unsafe {
-            sys::quorvel_projection(
-                count, plane_point.first().cast(), plane_point.stride(),
-                plane_normal.first().cast(), plane_normal.stride(), point.first().cast(), point.stride(),
-                direction.first().cast(), direction.stride(), results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 3]>("geometry::projection", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_projection(
+            count, plane_point.first().cast(), plane_point.stride(),
+            plane_normal.first().cast(), plane_normal.stride(), point.first().cast(), point.stride(),
+            direction.first().cast(), direction.stride(), at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::forward_projection`] of whole arrays, without checks.
@@ -627,13 +646,14 @@ pub mod arrays {
             plane_point.length("plane_point"), plane_normal.length("plane_normal"), point.length("point"),
             direction.length("direction"),
         ];
-        elements::whole("geometry::forward_projection", &lengths, |count, results: *mut [f32; 3], stride| unsafe {
-            sys::quorvel_forward_projection(
-                count, plane_point.first().cast(), plane_point.stride(),
-                plane_normal.first().cast(), plane_normal.stride(), point.first().cast(), point.stride(),
-                direction.first().cast(), direction.stride(), results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 3]>("geometry::forward_projection", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_forward_projection(
+            count, plane_point.first().cast(), plane_point.stride(),
+            plane_normal.first().cast(), plane_normal.stride(), point.first().cast(), point.stride(),
+            direction.first().cast(), direction.stride(), at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::forward_projection_or_start`] of whole arrays, without checks.
@@ -649,13 +669,14 @@ pub mod arrays {
             plane_point.length("plane_point"), plane_normal.length("plane_normal"), point.length("point"),
             direction.length("direction"),
         ];
-        elements::whole("geometry::forward_projection_or_start", &lengths, |count, results: *mut [f32; 3], stride| unsafe {
-            sys::quorvel_forward_projection_or_start(
-                count, plane_point.first().cast(), plane_point.stride(),
-                plane_normal.first().cast(), plane_normal.stride(), point.first().cast(), point.stride(),
-                direction.first().cast(), direction.stride(), results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 3]>("geometry::forward_projection_or_start", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_forward_projection_or_start(
+            count, plane_point.first().cast(), plane_point.stride(),
+            plane_normal.first().cast(), plane_normal.stride(), point.first().cast(), point.stride(),
+            direction.first().cast(), direction.stride(), at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::dot_product`] of whole arrays, without checks.
@@ -665,12 +686,13 @@ pub mod arrays {
         let vector_a = vector_a.into();
         let vector_b = vector_b.into();
         let lengths = [vector_a.length("vector_a"), vector_b.length("vector_b")];
-        elements::whole("geometry::dot_product", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dot_product(
-                count, vector_a.first().cast(), vector_a.stride(), vector_b.first().cast(), vector_b.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("geometry::dot_product", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dot_product(
+            count, vector_a.first().cast(), vector_a.stride(), vector_b.first().cast(), vector_b.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::dot_product_in_double`] of whole arrays, without checks.
@@ -680,12 +702,13 @@ pub mod arrays {
         let vector_a = vector_a.into();
         let vector_b = vector_b.into();
         let lengths = [vector_a.length("vector_a"), vector_b.length("vector_b")];
-        elements::whole("geometry::dot_product_in_double", &lengths, |count, results: *mut f64, stride| unsafe {
-            sys::quorvel_dot_product_in_double(
-                count, vector_a.first().cast(), vector_a.stride(), vector_b.first().cast(), vector_b.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f64>("geometry::dot_product_in_double", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dot_product_in_double(
+            count, vector_a.first().cast(), vector_a.stride(), vector_b.first().cast(), vector_b.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::cross_product`] of whole arrays, without checks.
@@ -695,12 +718,13 @@ pub mod arrays {
         let vector_a = vector_a.into();
         let vector_b = vector_b.into();
         let lengths = [vector_a.length("vector_a"), vector_b.length("vector_b")];
-        elements::whole("geometry::cross_product", &lengths, |count, results: *mut [f32; 3], stride| unsafe {
-            sys::quorvel_cross_product(
-                count, vector_a.first().cast(), vector_a.stride(), vector_b.first().cast(), vector_b.stride(),
-                results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f32; 3]>("geometry::cross_product", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_cross_product(
+            count, vector_a.first().cast(), vector_a.stride(), vector_b.first().cast(), vector_b.stride(),
+            at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::cross_product_in_double`] of whole arrays, without checks.
@@ -710,29 +734,34 @@ pub mod arrays {
         let vector_a = vector_a.into();
         let vector_b = vector_b.into();
         let lengths = [vector_a.length("vector_a"), vector_b.length("vector_b")];
-        elements::whole("geometry::cross_product_in_double", &lengths, |count, results: *mut [f64; 3], stride| unsafe {
-            sys::quorvel_cross_product_in_double(
-                count, vector_a.first().cast(), vector_a.stride(), vector_b.first().cast(), vector_b.stride(),
-                results.cast(), stride,
-            )
-        })
+        let mut results = elements::results::<[f64; 3]>("geometry::cross_product_in_double", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_cross_product_in_double(
+            count, vector_a.first().cast(), vector_a.stride(), vector_b.first().cast(), vector_b.stride(),
+            at.cast(), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::geometry::length`] of whole arrays, without checks.
     pub fn length<'a>(vector: impl Into<Input<'a, [f32; 3]>>) -> Result<Vec<f32>, Error> {
         let vector = vector.into();
         let lengths = [vector.length("vector")];
-        elements::whole("geometry::length", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_length(count, vector.first().cast(), vector.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("geometry::length", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_length(count, vector.first().cast(), vector.stride(), at, stride) });
+        Ok(results)
     }
 
     /// [`crate::geometry::length_in_double`] of whole arrays, without checks.
     pub fn length_in_double<'a>(vector: impl Into<Input<'a, [f64; 3]>>) -> Result<Vec<f64>, Error> {
         let vector = vector.into();
         let lengths = [vector.length("vector")];
-        elements::whole("geometry::length_in_double", &lengths, |count, results: *mut f64, stride| unsafe {
-            sys::quorvel_length_in_double(count, vector.first().cast(), vector.stride(), results, stride)
-        })
+        let mut results = elements::results::<f64>("geometry::length_in_double", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_length_in_double(
+            count, vector.first().cast(), vector.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 }

@@ -171,10 +171,9 @@ pub fn unit_diffuse(shortwave_shading_coefficient: f32, longwave_shading_coeffic
 pub fn unit_direct_shares(
     shortwave_shading_coefficient: f32, longwave_shading_coefficient: f32, incidence: f32, panes: i32,
 ) -> Result<UnitDirectShares, Error> {
+    let room_of_panes = check::room("glazing::unit_direct_shares", "panes", panes)?;
     let mut results = UnitDirectShares {
-        transmittance: f32::NAN,
-        pane_shares: vec![f32::NAN; check::room("glazing::unit_direct_shares", "panes", panes)?],
-        absorptance: f32::NAN,
+        transmittance: f32::NAN, pane_shares: vec![f32::NAN; room_of_panes], absorptance: f32::NAN,
     };
     unsafe { sys::WNDRSM(
         &shortwave_shading_coefficient, &longwave_shading_coefficient, &incidence, &panes,
@@ -187,10 +186,9 @@ pub fn unit_direct_shares(
 pub fn unit_diffuse_shares(
     shortwave_shading_coefficient: f32, longwave_shading_coefficient: f32, panes: i32,
 ) -> Result<UnitDiffuseShares, Error> {
+    let room_of_panes = check::room("glazing::unit_diffuse_shares", "panes", panes)?;
     let mut results = UnitDiffuseShares {
-        transmittance: f32::NAN,
-        pane_shares: vec![f32::NAN; check::room("glazing::unit_diffuse_shares", "panes", panes)?],
-        absorptance: f32::NAN,
+        transmittance: f32::NAN, pane_shares: vec![f32::NAN; room_of_panes], absorptance: f32::NAN,
     };
     unsafe { sys::WNDFSM(
         &shortwave_shading_coefficient, &longwave_shading_coefficient, &panes, &mut results.transmittance,
@@ -204,11 +202,10 @@ pub fn unit_shares(
     radiation: impl Into<i32>, shortwave_shading_coefficient: f32, longwave_shading_coefficient: f32,
     incidence: f32, panes: i32,
 ) -> Result<UnitShares, Error> {
+    let room_of_panes = check::room("glazing::unit_shares", "panes", panes)?;
     let radiation: i32 = radiation.into();
     let mut results = UnitShares {
-        transmittance: f32::NAN,
-        pane_shares: vec![f32::NAN; check::room("glazing::unit_shares", "panes", panes)?],
-        absorptance: f32::NAN,
+        transmittance: f32::NAN, pane_shares: vec![f32::NAN; room_of_panes], absorptance: f32::NAN,
     };
     unsafe { sys::WNDRS0(
         &radiation, &shortwave_shading_coefficient, &longwave_shading_coefficient, &incidence, &panes,
@@ -321,18 +318,18 @@ pub mod arrays {
             normal_transmittance.length("normal_transmittance"), normal_reflectance.length("normal_reflectance"),
             incidence.length("incidence"),
         ];
-        elements::whole("glazing::glass_direct", &lengths, |count, results: *mut GlassDirect, stride| unsafe {
-            sys::quorvel_glass_direct(
-                count, normal_transmittance.first(), normal_transmittance.stride(),
-                normal_reflectance.first(), normal_reflectance.stride(), incidence.first(), incidence.stride(),
-                addr_of_mut!((*results).parallel_transmittance), stride,
-                addr_of_mut!((*results).parallel_absorptance), stride,
-                addr_of_mut!((*results).parallel_reflectance), stride,
-                addr_of_mut!((*results).perpendicular_transmittance), stride,
-                addr_of_mut!((*results).perpendicular_absorptance), stride,
-                addr_of_mut!((*results).perpendicular_reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<GlassDirect>("glazing::glass_direct", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_glass_direct(
+            count, normal_transmittance.first(), normal_transmittance.stride(),
+            normal_reflectance.first(), normal_reflectance.stride(), incidence.first(), incidence.stride(),
+            addr_of_mut!((*at).parallel_transmittance), stride, addr_of_mut!((*at).parallel_absorptance), stride,
+            addr_of_mut!((*at).parallel_reflectance), stride,
+            addr_of_mut!((*at).perpendicular_transmittance), stride,
+            addr_of_mut!((*at).perpendicular_absorptance), stride,
+            addr_of_mut!((*at).perpendicular_reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::glass_diffuse`] of whole arrays, without checks.
@@ -344,13 +341,14 @@ pub mod arrays {
         let lengths = [
             normal_transmittance.length("normal_transmittance"), normal_reflectance.length("normal_reflectance"),
         ];
-        elements::whole("glazing::glass_diffuse", &lengths, |count, results: *mut GlassDiffuse, stride| unsafe {
-            sys::quorvel_glass_diffuse(
-                count, normal_transmittance.first(), normal_transmittance.stride(),
-                normal_reflectance.first(), normal_reflectance.stride(), addr_of_mut!((*results).transmittance), stride,
-                addr_of_mut!((*results).absorptance), stride,
-            )
-        })
+        let mut results = elements::results::<GlassDiffuse>("glazing::glass_diffuse", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_glass_diffuse(
+            count, normal_transmittance.first(), normal_transmittance.stride(),
+            normal_reflectance.first(), normal_reflectance.stride(), addr_of_mut!((*at).transmittance), stride,
+            addr_of_mut!((*at).absorptance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::roller_blind`] of whole arrays, without checks.
@@ -362,13 +360,14 @@ pub mod arrays {
         let lengths = [
             blind_transmittance.length("blind_transmittance"), blind_reflectance.length("blind_reflectance"),
         ];
-        elements::whole("glazing::roller_blind", &lengths, |count, results: *mut RollerBlind, stride| unsafe {
-            sys::quorvel_roller_blind(
-                count, blind_transmittance.first(), blind_transmittance.stride(),
-                blind_reflectance.first(), blind_reflectance.stride(), addr_of_mut!((*results).transmittance), stride,
-                addr_of_mut!((*results).absorptance), stride, addr_of_mut!((*results).reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<RollerBlind>("glazing::roller_blind", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_roller_blind(
+            count, blind_transmittance.first(), blind_transmittance.stride(),
+            blind_reflectance.first(), blind_reflectance.stride(), addr_of_mut!((*at).transmittance), stride,
+            addr_of_mut!((*at).absorptance), stride, addr_of_mut!((*at).reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::diffuse_roller_blind`] of whole arrays, without checks.
@@ -380,13 +379,14 @@ pub mod arrays {
         let lengths = [
             blind_transmittance.length("blind_transmittance"), blind_reflectance.length("blind_reflectance"),
         ];
-        elements::whole("glazing::diffuse_roller_blind", &lengths, |count, results: *mut DiffuseRollerBlind, stride| unsafe {
-            sys::quorvel_diffuse_roller_blind(
-                count, blind_transmittance.first(), blind_transmittance.stride(),
-                blind_reflectance.first(), blind_reflectance.stride(), addr_of_mut!((*results).transmittance), stride,
-                addr_of_mut!((*results).absorptance), stride, addr_of_mut!((*results).reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<DiffuseRollerBlind>("glazing::diffuse_roller_blind", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_diffuse_roller_blind(
+            count, blind_transmittance.first(), blind_transmittance.stride(),
+            blind_reflectance.first(), blind_reflectance.stride(), addr_of_mut!((*at).transmittance), stride,
+            addr_of_mut!((*at).absorptance), stride, addr_of_mut!((*at).reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::refraction_angle`] of whole arrays, without checks.
@@ -396,12 +396,13 @@ pub mod arrays {
         let incidence = incidence.into();
         let refractive_index = refractive_index.into();
         let lengths = [incidence.length("incidence"), refractive_index.length("refractive_index")];
-        elements::whole("glazing::refraction_angle", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_refraction_angle(
-                count, incidence.first(), incidence.stride(), refractive_index.first(), refractive_index.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("glazing::refraction_angle", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_refraction_angle(
+            count, incidence.first(), incidence.stride(), refractive_index.first(), refractive_index.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::surface_reflectance`] of whole arrays, without checks.
@@ -416,14 +417,14 @@ pub mod arrays {
             incidence.length("incidence"), refraction_angle.length("refraction_angle"),
             refractive_index.length("refractive_index"),
         ];
-        elements::whole("glazing::surface_reflectance", &lengths, |count, results: *mut SurfaceReflectance, stride| unsafe {
-            sys::quorvel_surface_reflectance(
-                count, incidence.first(), incidence.stride(), refraction_angle.first(), refraction_angle.stride(),
-                refractive_index.first(), refractive_index.stride(),
-                addr_of_mut!((*results).parallel_reflectance), stride,
-                addr_of_mut!((*results).perpendicular_reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<SurfaceReflectance>("glazing::surface_reflectance", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_surface_reflectance(
+            count, incidence.first(), incidence.stride(), refraction_angle.first(), refraction_angle.stride(),
+            refractive_index.first(), refractive_index.stride(), addr_of_mut!((*at).parallel_reflectance), stride,
+            addr_of_mut!((*at).perpendicular_reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::single_pass_absorption`] of whole arrays, without checks.
@@ -435,12 +436,13 @@ pub mod arrays {
         let lengths = [
             refraction_angle.length("refraction_angle"), absorption_product.length("absorption_product"),
         ];
-        elements::whole("glazing::single_pass_absorption", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_single_pass_absorption(
-                count, refraction_angle.first(), refraction_angle.stride(),
-                absorption_product.first(), absorption_product.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("glazing::single_pass_absorption", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_single_pass_absorption(
+            count, refraction_angle.first(), refraction_angle.stride(),
+            absorption_product.first(), absorption_product.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::slab_optics`] of whole arrays, without checks.
@@ -452,13 +454,14 @@ pub mod arrays {
         let lengths = [
             single_pass_absorptance.length("single_pass_absorptance"), face_reflectance.length("face_reflectance"),
         ];
-        elements::whole("glazing::slab_optics", &lengths, |count, results: *mut SlabOptics, stride| unsafe {
-            sys::quorvel_slab_optics(
-                count, single_pass_absorptance.first(), single_pass_absorptance.stride(),
-                face_reflectance.first(), face_reflectance.stride(), addr_of_mut!((*results).transmittance), stride,
-                addr_of_mut!((*results).absorptance), stride, addr_of_mut!((*results).reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<SlabOptics>("glazing::slab_optics", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_slab_optics(
+            count, single_pass_absorptance.first(), single_pass_absorptance.stride(),
+            face_reflectance.first(), face_reflectance.stride(), addr_of_mut!((*at).transmittance), stride,
+            addr_of_mut!((*at).absorptance), stride, addr_of_mut!((*at).reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::absorption_product`] of whole arrays, without checks.
@@ -470,12 +473,13 @@ pub mod arrays {
         let lengths = [
             normal_transmittance.length("normal_transmittance"), refractive_index.length("refractive_index"),
         ];
-        elements::whole("glazing::absorption_product", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_absorption_product(
-                count, normal_transmittance.first(), normal_transmittance.stride(),
-                refractive_index.first(), refractive_index.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("glazing::absorption_product", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_absorption_product(
+            count, normal_transmittance.first(), normal_transmittance.stride(),
+            refractive_index.first(), refractive_index.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::normal_transmittance`] of whole arrays, without checks.
@@ -487,12 +491,13 @@ pub mod arrays {
         let lengths = [
             absorption_product.length("absorption_product"), normal_reflectance.length("normal_reflectance"),
         ];
-        elements::whole("glazing::normal_transmittance", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_normal_transmittance(
-                count, absorption_product.first(), absorption_product.stride(),
-                normal_reflectance.first(), normal_reflectance.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("glazing::normal_transmittance", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_normal_transmittance(
+            count, absorption_product.first(), absorption_product.stride(),
+            normal_reflectance.first(), normal_reflectance.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::pane_temperatures`] of whole arrays, without checks.
@@ -515,19 +520,18 @@ pub mod arrays {
             panes.length("panes"), absorbed_1.length("absorbed_1"), absorbed_2.length("absorbed_2"),
             absorbed_3.length("absorbed_3"), absorbed_4.length("absorbed_4"), absorbed_5.length("absorbed_5"),
         ];
-        elements::whole("glazing::pane_temperatures", &lengths, |count, results: *mut PaneTemperatures, stride| unsafe {
-            sys::quorvel_pane_temperatures(
-                count, inside_temperature.first(), inside_temperature.stride(),
-                outside_temperature.first(), outside_temperature.stride(), panes.first(), panes.stride(),
-                absorbed_1.first(), absorbed_1.stride(), absorbed_2.first(), absorbed_2.stride(),
-                absorbed_3.first(), absorbed_3.stride(), absorbed_4.first(), absorbed_4.stride(),
-                absorbed_5.first(), absorbed_5.stride(), addr_of_mut!((*results).pane_temperature_1), stride,
-                addr_of_mut!((*results).pane_temperature_2), stride,
-                addr_of_mut!((*results).pane_temperature_3), stride,
-                addr_of_mut!((*results).pane_temperature_4), stride,
-                addr_of_mut!((*results).pane_temperature_5), stride,
-            )
-        })
+        let mut results = elements::results::<PaneTemperatures>("glazing::pane_temperatures", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_pane_temperatures(
+            count, inside_temperature.first(), inside_temperature.stride(),
+            outside_temperature.first(), outside_temperature.stride(), panes.first(), panes.stride(),
+            absorbed_1.first(), absorbed_1.stride(), absorbed_2.first(), absorbed_2.stride(),
+            absorbed_3.first(), absorbed_3.stride(), absorbed_4.first(), absorbed_4.stride(),
+            absorbed_5.first(), absorbed_5.stride(), addr_of_mut!((*at).pane_temperature_1), stride,
+            addr_of_mut!((*at).pane_temperature_2), stride, addr_of_mut!((*at).pane_temperature_3), stride,
+            addr_of_mut!((*at).pane_temperature_4), stride, addr_of_mut!((*at).pane_temperature_5), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::unit_direct`] of whole arrays, without checks.
@@ -542,14 +546,15 @@ pub mod arrays {
             shortwave_shading_coefficient.length("shortwave_shading_coefficient"),
             longwave_shading_coefficient.length("longwave_shading_coefficient"), incidence.length("incidence"),
         ];
-        elements::whole("glazing::unit_direct", &lengths, |count, results: *mut UnitDirect, stride| unsafe {
-            sys::quorvel_unit_direct(
-                count, shortwave_shading_coefficient.first(), shortwave_shading_coefficient.stride(),
-                longwave_shading_coefficient.first(), longwave_shading_coefficient.stride(),
-                incidence.first(), incidence.stride(), addr_of_mut!((*results).transmittance), stride,
-                addr_of_mut!((*results).absorptance), stride, addr_of_mut!((*results).reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<UnitDirect>("glazing::unit_direct", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_unit_direct(
+            count, shortwave_shading_coefficient.first(), shortwave_shading_coefficient.stride(),
+            longwave_shading_coefficient.first(), longwave_shading_coefficient.stride(),
+            incidence.first(), incidence.stride(), addr_of_mut!((*at).transmittance), stride,
+            addr_of_mut!((*at).absorptance), stride, addr_of_mut!((*at).reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::unit_diffuse`] of whole arrays, without checks.
@@ -563,14 +568,15 @@ pub mod arrays {
             shortwave_shading_coefficient.length("shortwave_shading_coefficient"),
             longwave_shading_coefficient.length("longwave_shading_coefficient"),
         ];
-        elements::whole("glazing::unit_diffuse", &lengths, |count, results: *mut UnitDiffuse, stride| unsafe {
-            sys::quorvel_unit_diffuse(
-                count, shortwave_shading_coefficient.first(), shortwave_shading_coefficient.stride(),
-                longwave_shading_coefficient.first(), longwave_shading_coefficient.stride(),
-                addr_of_mut!((*results).transmittance), stride, addr_of_mut!((*results).absorptance), stride,
-                addr_of_mut!((*results).reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<UnitDiffuse>("glazing::unit_diffuse", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_unit_diffuse(
+            count, shortwave_shading_coefficient.first(), shortwave_shading_coefficient.stride(),
+            longwave_shading_coefficient.first(), longwave_shading_coefficient.stride(),
+            addr_of_mut!((*at).transmittance), stride, addr_of_mut!((*at).absorptance), stride,
+            addr_of_mut!((*at).reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::slat_direct`] of whole arrays, without checks.
@@ -588,14 +594,15 @@ pub mod arrays {
             slat_spacing.length("slat_spacing"), slat_width.length("slat_width"), slat_angle.length("slat_angle"),
             profile_angle.length("profile_angle"), slat_absorptance.length("slat_absorptance"),
         ];
-        elements::whole("glazing::slat_direct", &lengths, |count, results: *mut SlatDirect, stride| unsafe {
-            sys::quorvel_slat_direct(
-                count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
-                slat_angle.first(), slat_angle.stride(), profile_angle.first(), profile_angle.stride(),
-                slat_absorptance.first(), slat_absorptance.stride(), addr_of_mut!((*results).transmittance), stride,
-                addr_of_mut!((*results).absorptance), stride, addr_of_mut!((*results).reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<SlatDirect>("glazing::slat_direct", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_slat_direct(
+            count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
+            slat_angle.first(), slat_angle.stride(), profile_angle.first(), profile_angle.stride(),
+            slat_absorptance.first(), slat_absorptance.stride(), addr_of_mut!((*at).transmittance), stride,
+            addr_of_mut!((*at).absorptance), stride, addr_of_mut!((*at).reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::two_faced_slat_direct`] of whole arrays, without checks.
@@ -615,16 +622,16 @@ pub mod arrays {
             profile_angle.length("profile_angle"), struck_absorptance.length("struck_absorptance"),
             opposite_absorptance.length("opposite_absorptance"),
         ];
-        elements::whole("glazing::two_faced_slat_direct", &lengths, |count, results: *mut TwoFacedSlatDirect, stride| unsafe {
-            sys::quorvel_two_faced_slat_direct(
-                count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
-                slat_angle.first(), slat_angle.stride(), profile_angle.first(), profile_angle.stride(),
-                struck_absorptance.first(), struck_absorptance.stride(),
-                opposite_absorptance.first(), opposite_absorptance.stride(),
-                addr_of_mut!((*results).transmittance), stride, addr_of_mut!((*results).absorptance), stride,
-                addr_of_mut!((*results).reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<TwoFacedSlatDirect>("glazing::two_faced_slat_direct", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_two_faced_slat_direct(
+            count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
+            slat_angle.first(), slat_angle.stride(), profile_angle.first(), profile_angle.stride(),
+            struck_absorptance.first(), struck_absorptance.stride(),
+            opposite_absorptance.first(), opposite_absorptance.stride(), addr_of_mut!((*at).transmittance), stride,
+            addr_of_mut!((*at).absorptance), stride, addr_of_mut!((*at).reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::open_slat_direct`] of whole arrays, without checks.
@@ -646,16 +653,16 @@ pub mod arrays {
             profile_angle.length("profile_angle"), open_share.length("open_share"),
             struck_absorptance.length("struck_absorptance"), opposite_absorptance.length("opposite_absorptance"),
         ];
-        elements::whole("glazing::open_slat_direct", &lengths, |count, results: *mut OpenSlatDirect, stride| unsafe {
-            sys::quorvel_open_slat_direct(
-                count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
-                slat_angle.first(), slat_angle.stride(), profile_angle.first(), profile_angle.stride(),
-                open_share.first(), open_share.stride(), struck_absorptance.first(), struck_absorptance.stride(),
-                opposite_absorptance.first(), opposite_absorptance.stride(),
-                addr_of_mut!((*results).transmittance), stride, addr_of_mut!((*results).absorptance), stride,
-                addr_of_mut!((*results).reflectance), stride,
-            )
-        })
+        let mut results = elements::results::<OpenSlatDirect>("glazing::open_slat_direct", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_open_slat_direct(
+            count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
+            slat_angle.first(), slat_angle.stride(), profile_angle.first(), profile_angle.stride(),
+            open_share.first(), open_share.stride(), struck_absorptance.first(), struck_absorptance.stride(),
+            opposite_absorptance.first(), opposite_absorptance.stride(), addr_of_mut!((*at).transmittance), stride,
+            addr_of_mut!((*at).absorptance), stride, addr_of_mut!((*at).reflectance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::slat_diffuse`] of whole arrays, without checks.
@@ -671,15 +678,15 @@ pub mod arrays {
             slat_spacing.length("slat_spacing"), slat_width.length("slat_width"), slat_angle.length("slat_angle"),
             slat_absorptance.length("slat_absorptance"),
         ];
-        elements::whole("glazing::slat_diffuse", &lengths, |count, results: *mut SlatDiffuse, stride| unsafe {
-            sys::quorvel_slat_diffuse(
-                count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
-                slat_angle.first(), slat_angle.stride(), slat_absorptance.first(), slat_absorptance.stride(),
-                addr_of_mut!((*results).sky_transmittance), stride,
-                addr_of_mut!((*results).ground_transmittance), stride, addr_of_mut!((*results).sky_absorptance), stride,
-                addr_of_mut!((*results).ground_absorptance), stride,
-            )
-        })
+        let mut results = elements::results::<SlatDiffuse>("glazing::slat_diffuse", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_slat_diffuse(
+            count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
+            slat_angle.first(), slat_angle.stride(), slat_absorptance.first(), slat_absorptance.stride(),
+            addr_of_mut!((*at).sky_transmittance), stride, addr_of_mut!((*at).ground_transmittance), stride,
+            addr_of_mut!((*at).sky_absorptance), stride, addr_of_mut!((*at).ground_absorptance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::two_faced_slat_diffuse`] of whole arrays, without checks.
@@ -697,16 +704,16 @@ pub mod arrays {
             slat_spacing.length("slat_spacing"), slat_width.length("slat_width"), slat_angle.length("slat_angle"),
             struck_absorptance.length("struck_absorptance"), opposite_absorptance.length("opposite_absorptance"),
         ];
-        elements::whole("glazing::two_faced_slat_diffuse", &lengths, |count, results: *mut TwoFacedSlatDiffuse, stride| unsafe {
-            sys::quorvel_two_faced_slat_diffuse(
-                count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
-                slat_angle.first(), slat_angle.stride(), struck_absorptance.first(), struck_absorptance.stride(),
-                opposite_absorptance.first(), opposite_absorptance.stride(),
-                addr_of_mut!((*results).sky_transmittance), stride,
-                addr_of_mut!((*results).ground_transmittance), stride, addr_of_mut!((*results).sky_absorptance), stride,
-                addr_of_mut!((*results).ground_absorptance), stride,
-            )
-        })
+        let mut results = elements::results::<TwoFacedSlatDiffuse>("glazing::two_faced_slat_diffuse", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_two_faced_slat_diffuse(
+            count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
+            slat_angle.first(), slat_angle.stride(), struck_absorptance.first(), struck_absorptance.stride(),
+            opposite_absorptance.first(), opposite_absorptance.stride(),
+            addr_of_mut!((*at).sky_transmittance), stride, addr_of_mut!((*at).ground_transmittance), stride,
+            addr_of_mut!((*at).sky_absorptance), stride, addr_of_mut!((*at).ground_absorptance), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::glazing::open_slat_diffuse`] of whole arrays, without checks.
@@ -726,16 +733,16 @@ pub mod arrays {
             open_share.length("open_share"), struck_absorptance.length("struck_absorptance"),
             opposite_absorptance.length("opposite_absorptance"),
         ];
-        elements::whole("glazing::open_slat_diffuse", &lengths, |count, results: *mut OpenSlatDiffuse, stride| unsafe {
-            sys::quorvel_open_slat_diffuse(
-                count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
-                slat_angle.first(), slat_angle.stride(), open_share.first(), open_share.stride(),
-                struck_absorptance.first(), struck_absorptance.stride(),
-                opposite_absorptance.first(), opposite_absorptance.stride(),
-                addr_of_mut!((*results).sky_transmittance), stride,
-                addr_of_mut!((*results).ground_transmittance), stride, addr_of_mut!((*results).sky_absorptance), stride,
-                addr_of_mut!((*results).ground_absorptance), stride,
-            )
-        })
+        let mut results = elements::results::<OpenSlatDiffuse>("glazing::open_slat_diffuse", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_open_slat_diffuse(
+            count, slat_spacing.first(), slat_spacing.stride(), slat_width.first(), slat_width.stride(),
+            slat_angle.first(), slat_angle.stride(), open_share.first(), open_share.stride(),
+            struck_absorptance.first(), struck_absorptance.stride(),
+            opposite_absorptance.first(), opposite_absorptance.stride(),
+            addr_of_mut!((*at).sky_transmittance), stride, addr_of_mut!((*at).ground_transmittance), stride,
+            addr_of_mut!((*at).sky_absorptance), stride, addr_of_mut!((*at).ground_absorptance), stride,
+        ) });
+        Ok(results)
     }
 }

@@ -389,45 +389,60 @@ pub mod arrays {
     pub fn dry_air_enthalpy<'a>(temperature: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let temperature = temperature.into();
         let lengths = [temperature.length("temperature")];
-        elements::whole("psychro::dry_air_enthalpy", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_air_enthalpy(count, temperature.first(), temperature.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("psychro::dry_air_enthalpy", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_air_enthalpy(
+            count, temperature.first(), temperature.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::water_vapour_enthalpy`] of whole arrays, without checks.
     pub fn water_vapour_enthalpy<'a>(temperature: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let temperature = temperature.into();
         let lengths = [temperature.length("temperature")];
-        elements::whole("psychro::water_vapour_enthalpy", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_water_vapour_enthalpy(count, temperature.first(), temperature.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("psychro::water_vapour_enthalpy", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_water_vapour_enthalpy(
+            count, temperature.first(), temperature.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_air_specific_heat`] of whole arrays, without checks.
     pub fn dry_air_specific_heat<'a>(temperature: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let temperature = temperature.into();
         let lengths = [temperature.length("temperature")];
-        elements::whole("psychro::dry_air_specific_heat", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_air_specific_heat(count, temperature.first(), temperature.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("psychro::dry_air_specific_heat", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_air_specific_heat(
+            count, temperature.first(), temperature.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::water_vapour_specific_heat`] of whole arrays, without checks.
     pub fn water_vapour_specific_heat<'a>(temperature: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let temperature = temperature.into();
         let lengths = [temperature.length("temperature")];
-        elements::whole("psychro::water_vapour_specific_heat", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_water_vapour_specific_heat(count, temperature.first(), temperature.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("psychro::water_vapour_specific_heat", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_water_vapour_specific_heat(
+            count, temperature.first(), temperature.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::latent_heat`] of whole arrays, without checks.
     pub fn latent_heat<'a>(temperature: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let temperature = temperature.into();
         let lengths = [temperature.length("temperature")];
-        elements::whole("psychro::latent_heat", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_latent_heat(count, temperature.first(), temperature.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("psychro::latent_heat", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_latent_heat(
+            count, temperature.first(), temperature.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_vapour_pressure_and_relative_humidity`] of whole arrays, without checks.
@@ -437,12 +452,15 @@ pub mod arrays {
         let vapour_pressure = vapour_pressure.into();
         let relative_humidity = relative_humidity.into();
         let lengths = [vapour_pressure.length("vapour_pressure"), relative_humidity.length("relative_humidity")];
-        elements::whole("psychro::dry_bulb_from_vapour_pressure_and_relative_humidity", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity(
-                count, vapour_pressure.first(), vapour_pressure.stride(),
-                relative_humidity.first(), relative_humidity.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_vapour_pressure_and_relative_humidity", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_vapour_pressure_and_relative_humidity(
+            count, vapour_pressure.first(), vapour_pressure.stride(),
+            relative_humidity.first(), relative_humidity.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_vapour_pressure_and_percentage_saturation`] of whole arrays, without checks.
@@ -457,13 +475,16 @@ pub mod arrays {
             vapour_pressure.length("vapour_pressure"), percentage_saturation.length("percentage_saturation"),
             pressure.length("pressure"),
         ];
-        elements::whole("psychro::dry_bulb_from_vapour_pressure_and_percentage_saturation", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation(
-                count, vapour_pressure.first(), vapour_pressure.stride(),
-                percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_vapour_pressure_and_percentage_saturation", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_vapour_pressure_and_percentage_saturation(
+            count, vapour_pressure.first(), vapour_pressure.stride(),
+            percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_moisture_content_and_relative_humidity`] of whole arrays, without checks.
@@ -478,13 +499,15 @@ pub mod arrays {
             moisture_content.length("moisture_content"), relative_humidity.length("relative_humidity"),
             pressure.length("pressure"),
         ];
-        elements::whole("psychro::dry_bulb_from_moisture_content_and_relative_humidity", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_moisture_content_and_relative_humidity(
-                count, moisture_content.first(), moisture_content.stride(),
-                relative_humidity.first(), relative_humidity.stride(), pressure.first(), pressure.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_moisture_content_and_relative_humidity", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_moisture_content_and_relative_humidity(
+            count, moisture_content.first(), moisture_content.stride(),
+            relative_humidity.first(), relative_humidity.stride(), pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_moisture_content_and_percentage_saturation`] of whole arrays, without checks.
@@ -499,13 +522,16 @@ pub mod arrays {
             moisture_content.length("moisture_content"), percentage_saturation.length("percentage_saturation"),
             pressure.length("pressure"),
         ];
-        elements::whole("psychro::dry_bulb_from_moisture_content_and_percentage_saturation", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_moisture_content_and_percentage_saturation(
-                count, moisture_content.first(), moisture_content.stride(),
-                percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_moisture_content_and_percentage_saturation", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_moisture_content_and_percentage_saturation(
+            count, moisture_content.first(), moisture_content.stride(),
+            percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_enthalpy_and_moisture_content`] of whole arrays, without checks.
@@ -515,12 +541,15 @@ pub mod arrays {
         let enthalpy = enthalpy.into();
         let moisture_content = moisture_content.into();
         let lengths = [enthalpy.length("enthalpy"), moisture_content.length("moisture_content")];
-        elements::whole("psychro::dry_bulb_from_enthalpy_and_moisture_content", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_enthalpy_and_moisture_content(
-                count, enthalpy.first(), enthalpy.stride(), moisture_content.first(), moisture_content.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_enthalpy_and_moisture_content", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_enthalpy_and_moisture_content(
+            count, enthalpy.first(), enthalpy.stride(), moisture_content.first(), moisture_content.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_enthalpy_and_vapour_pressure`] of whole arrays, without checks.
@@ -534,12 +563,15 @@ pub mod arrays {
         let lengths = [
             enthalpy.length("enthalpy"), vapour_pressure.length("vapour_pressure"), pressure.length("pressure"),
         ];
-        elements::whole("psychro::dry_bulb_from_enthalpy_and_vapour_pressure", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_enthalpy_and_vapour_pressure(
-                count, enthalpy.first(), enthalpy.stride(), vapour_pressure.first(), vapour_pressure.stride(),
-                pressure.first(), pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_enthalpy_and_vapour_pressure", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_enthalpy_and_vapour_pressure(
+            count, enthalpy.first(), enthalpy.stride(), vapour_pressure.first(), vapour_pressure.stride(),
+            pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_enthalpy_and_relative_humidity`] of whole arrays, without checks.
@@ -553,12 +585,15 @@ pub mod arrays {
         let lengths = [
             enthalpy.length("enthalpy"), relative_humidity.length("relative_humidity"), pressure.length("pressure"),
         ];
-        elements::whole("psychro::dry_bulb_from_enthalpy_and_relative_humidity", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_enthalpy_and_relative_humidity(
-                count, enthalpy.first(), enthalpy.stride(), relative_humidity.first(), relative_humidity.stride(),
-                pressure.first(), pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_enthalpy_and_relative_humidity", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_enthalpy_and_relative_humidity(
+            count, enthalpy.first(), enthalpy.stride(), relative_humidity.first(), relative_humidity.stride(),
+            pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_enthalpy_and_percentage_saturation`] of whole arrays, without checks.
@@ -573,13 +608,16 @@ pub mod arrays {
             enthalpy.length("enthalpy"), percentage_saturation.length("percentage_saturation"),
             pressure.length("pressure"),
         ];
-        elements::whole("psychro::dry_bulb_from_enthalpy_and_percentage_saturation", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_enthalpy_and_percentage_saturation(
-                count, enthalpy.first(), enthalpy.stride(),
-                percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_enthalpy_and_percentage_saturation", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_enthalpy_and_percentage_saturation(
+            count, enthalpy.first(), enthalpy.stride(),
+            percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_wet_bulb_and_vapour_pressure`] of whole arrays, without checks.
@@ -595,12 +633,15 @@ pub mod arrays {
             wet_bulb.length("wet_bulb"), vapour_pressure.length("vapour_pressure"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::dry_bulb_from_wet_bulb_and_vapour_pressure", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_wet_bulb_and_vapour_pressure(
-                count, wet_bulb.first(), wet_bulb.stride(), vapour_pressure.first(), vapour_pressure.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_wet_bulb_and_vapour_pressure", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_wet_bulb_and_vapour_pressure(
+            count, wet_bulb.first(), wet_bulb.stride(), vapour_pressure.first(), vapour_pressure.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_wet_bulb_and_moisture_content`] of whole arrays, without checks.
@@ -616,12 +657,15 @@ pub mod arrays {
             wet_bulb.length("wet_bulb"), moisture_content.length("moisture_content"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::dry_bulb_from_wet_bulb_and_moisture_content", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_wet_bulb_and_moisture_content(
-                count, wet_bulb.first(), wet_bulb.stride(), moisture_content.first(), moisture_content.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_wet_bulb_and_moisture_content", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_wet_bulb_and_moisture_content(
+            count, wet_bulb.first(), wet_bulb.stride(), moisture_content.first(), moisture_content.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_wet_bulb_and_relative_humidity`] of whole arrays, without checks.
@@ -637,12 +681,15 @@ pub mod arrays {
             wet_bulb.length("wet_bulb"), relative_humidity.length("relative_humidity"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::dry_bulb_from_wet_bulb_and_relative_humidity", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_wet_bulb_and_relative_humidity(
-                count, wet_bulb.first(), wet_bulb.stride(), relative_humidity.first(), relative_humidity.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_wet_bulb_and_relative_humidity", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_wet_bulb_and_relative_humidity(
+            count, wet_bulb.first(), wet_bulb.stride(), relative_humidity.first(), relative_humidity.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_wet_bulb_and_percentage_saturation`] of whole arrays, without checks.
@@ -658,13 +705,16 @@ pub mod arrays {
             wet_bulb.length("wet_bulb"), percentage_saturation.length("percentage_saturation"),
             pressure.length("pressure"), psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::dry_bulb_from_wet_bulb_and_percentage_saturation", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_wet_bulb_and_percentage_saturation(
-                count, wet_bulb.first(), wet_bulb.stride(),
-                percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
-                psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::dry_bulb_from_wet_bulb_and_percentage_saturation", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_wet_bulb_and_percentage_saturation(
+            count, wet_bulb.first(), wet_bulb.stride(),
+            percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
+            psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dry_bulb_from_wet_bulb_and_enthalpy`] of whole arrays, without checks.
@@ -680,12 +730,13 @@ pub mod arrays {
             wet_bulb.length("wet_bulb"), enthalpy.length("enthalpy"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::dry_bulb_from_wet_bulb_and_enthalpy", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dry_bulb_from_wet_bulb_and_enthalpy(
-                count, wet_bulb.first(), wet_bulb.stride(), enthalpy.first(), enthalpy.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::dry_bulb_from_wet_bulb_and_enthalpy", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dry_bulb_from_wet_bulb_and_enthalpy(
+            count, wet_bulb.first(), wet_bulb.stride(), enthalpy.first(), enthalpy.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::adiabatic_mixing`] of whole arrays, without checks.
@@ -705,16 +756,16 @@ pub mod arrays {
             first_moisture_content.length("first_moisture_content"), second_air_flow.length("second_air_flow"),
             second_dry_bulb.length("second_dry_bulb"), second_moisture_content.length("second_moisture_content"),
         ];
-        elements::whole("psychro::adiabatic_mixing", &lengths, |count, results: *mut AdiabaticMixing, stride| unsafe {
-            sys::quorvel_adiabatic_mixing(
-                count, first_air_flow.first(), first_air_flow.stride(), first_dry_bulb.first(), first_dry_bulb.stride(),
-                first_moisture_content.first(), first_moisture_content.stride(),
-                second_air_flow.first(), second_air_flow.stride(), second_dry_bulb.first(), second_dry_bulb.stride(),
-                second_moisture_content.first(), second_moisture_content.stride(),
-                addr_of_mut!((*results).dry_bulb), stride, addr_of_mut!((*results).moisture_content), stride,
-                addr_of_mut!((*results).enthalpy), stride,
-            )
-        })
+        let mut results = elements::results::<AdiabaticMixing>("psychro::adiabatic_mixing", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_adiabatic_mixing(
+            count, first_air_flow.first(), first_air_flow.stride(), first_dry_bulb.first(), first_dry_bulb.stride(),
+            first_moisture_content.first(), first_moisture_content.stride(),
+            second_air_flow.first(), second_air_flow.stride(), second_dry_bulb.first(), second_dry_bulb.stride(),
+            second_moisture_content.first(), second_moisture_content.stride(), addr_of_mut!((*at).dry_bulb), stride,
+            addr_of_mut!((*at).moisture_content), stride, addr_of_mut!((*at).enthalpy), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::moisture_content_from_psychrometer`] of whole arrays, without checks.
@@ -730,12 +781,13 @@ pub mod arrays {
             dry_bulb.length("dry_bulb"), wet_bulb.length("wet_bulb"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::moisture_content_from_psychrometer", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_moisture_content_from_psychrometer(
-                count, dry_bulb.first(), dry_bulb.stride(), wet_bulb.first(), wet_bulb.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::moisture_content_from_psychrometer", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_moisture_content_from_psychrometer(
+            count, dry_bulb.first(), dry_bulb.stride(), wet_bulb.first(), wet_bulb.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::moisture_content`] of whole arrays, without checks.
@@ -749,12 +801,13 @@ pub mod arrays {
         let lengths = [
             dry_bulb.length("dry_bulb"), vapour_pressure.length("vapour_pressure"), pressure.length("pressure"),
         ];
-        elements::whole("psychro::moisture_content", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_moisture_content(
-                count, dry_bulb.first(), dry_bulb.stride(), vapour_pressure.first(), vapour_pressure.stride(),
-                pressure.first(), pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::moisture_content", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_moisture_content(
+            count, dry_bulb.first(), dry_bulb.stride(), vapour_pressure.first(), vapour_pressure.stride(),
+            pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::vapour_pressure_from_moisture_content`] of whole arrays, without checks.
@@ -768,12 +821,13 @@ pub mod arrays {
         let lengths = [
             dry_bulb.length("dry_bulb"), moisture_content.length("moisture_content"), pressure.length("pressure"),
         ];
-        elements::whole("psychro::vapour_pressure_from_moisture_content", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_vapour_pressure_from_moisture_content(
-                count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
-                pressure.first(), pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::vapour_pressure_from_moisture_content", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_vapour_pressure_from_moisture_content(
+            count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
+            pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::moisture_content_from_percentage_saturation`] of whole arrays, without checks.
@@ -788,13 +842,16 @@ pub mod arrays {
             dry_bulb.length("dry_bulb"), percentage_saturation.length("percentage_saturation"),
             pressure.length("pressure"),
         ];
-        elements::whole("psychro::moisture_content_from_percentage_saturation", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_moisture_content_from_percentage_saturation(
-                count, dry_bulb.first(), dry_bulb.stride(),
-                percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>(
+            "psychro::moisture_content_from_percentage_saturation", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_moisture_content_from_percentage_saturation(
+            count, dry_bulb.first(), dry_bulb.stride(),
+            percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::moisture_content_from_enthalpy`] of whole arrays, without checks.
@@ -804,11 +861,12 @@ pub mod arrays {
         let dry_bulb = dry_bulb.into();
         let enthalpy = enthalpy.into();
         let lengths = [dry_bulb.length("dry_bulb"), enthalpy.length("enthalpy")];
-        elements::whole("psychro::moisture_content_from_enthalpy", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_moisture_content_from_enthalpy(
-                count, dry_bulb.first(), dry_bulb.stride(), enthalpy.first(), enthalpy.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::moisture_content_from_enthalpy", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_moisture_content_from_enthalpy(
+            count, dry_bulb.first(), dry_bulb.stride(), enthalpy.first(), enthalpy.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::moist_air_density`] of whole arrays, without checks.
@@ -822,12 +880,13 @@ pub mod arrays {
         let lengths = [
             dry_bulb.length("dry_bulb"), moisture_content.length("moisture_content"), pressure.length("pressure"),
         ];
-        elements::whole("psychro::moist_air_density", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_moist_air_density(
-                count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
-                pressure.first(), pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::moist_air_density", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_moist_air_density(
+            count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
+            pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::percentage_saturation`] of whole arrays, without checks.
@@ -841,12 +900,13 @@ pub mod arrays {
         let lengths = [
             dry_bulb.length("dry_bulb"), moisture_content.length("moisture_content"), pressure.length("pressure"),
         ];
-        elements::whole("psychro::percentage_saturation", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_percentage_saturation(
-                count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
-                pressure.first(), pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::percentage_saturation", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_percentage_saturation(
+            count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
+            pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::specific_enthalpy`] of whole arrays, without checks.
@@ -856,12 +916,13 @@ pub mod arrays {
         let dry_bulb = dry_bulb.into();
         let moisture_content = moisture_content.into();
         let lengths = [dry_bulb.length("dry_bulb"), moisture_content.length("moisture_content")];
-        elements::whole("psychro::specific_enthalpy", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_specific_enthalpy(
-                count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::specific_enthalpy", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_specific_enthalpy(
+            count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::specific_enthalpy_from_psychrometer`] of whole arrays, without checks.
@@ -877,12 +938,13 @@ pub mod arrays {
             dry_bulb.length("dry_bulb"), wet_bulb.length("wet_bulb"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::specific_enthalpy_from_psychrometer", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_specific_enthalpy_from_psychrometer(
-                count, dry_bulb.first(), dry_bulb.stride(), wet_bulb.first(), wet_bulb.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::specific_enthalpy_from_psychrometer", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_specific_enthalpy_from_psychrometer(
+            count, dry_bulb.first(), dry_bulb.stride(), wet_bulb.first(), wet_bulb.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::specific_volume`] of whole arrays, without checks.
@@ -896,12 +958,13 @@ pub mod arrays {
         let lengths = [
             dry_bulb.length("dry_bulb"), moisture_content.length("moisture_content"), pressure.length("pressure"),
         ];
-        elements::whole("psychro::specific_volume", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_specific_volume(
-                count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
-                pressure.first(), pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::specific_volume", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_specific_volume(
+            count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
+            pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::saturation_temperature_from_enthalpy`] of whole arrays, without checks.
@@ -911,11 +974,12 @@ pub mod arrays {
         let enthalpy = enthalpy.into();
         let pressure = pressure.into();
         let lengths = [enthalpy.length("enthalpy"), pressure.length("pressure")];
-        elements::whole("psychro::saturation_temperature_from_enthalpy", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_saturation_temperature_from_enthalpy(
-                count, enthalpy.first(), enthalpy.stride(), pressure.first(), pressure.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::saturation_temperature_from_enthalpy", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_saturation_temperature_from_enthalpy(
+            count, enthalpy.first(), enthalpy.stride(), pressure.first(), pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::pool_evaporation`] of whole arrays, without checks.
@@ -942,17 +1006,18 @@ pub mod arrays {
             bathers.length("bathers"), reference_coefficient.length("reference_coefficient"),
             pressure.length("pressure"),
         ];
-        elements::whole("psychro::pool_evaporation", &lengths, |count, results: *mut PoolEvaporation, stride| unsafe {
-            sys::quorvel_pool_evaporation(
-                count, water_area.first(), water_area.stride(), wetted_area.first(), wetted_area.stride(),
-                water_temperature.first(), water_temperature.stride(), dry_bulb.first(), dry_bulb.stride(),
-                moisture_content.first(), moisture_content.stride(),
-                reference_temperature.first(), reference_temperature.stride(), bathers.first(), bathers.stride(),
-                reference_coefficient.first(), reference_coefficient.stride(), pressure.first(), pressure.stride(),
-                addr_of_mut!((*results).evaporation_rate), stride, addr_of_mut!((*results).latent_load), stride,
-                addr_of_mut!((*results).convective_load), stride, addr_of_mut!((*results).reference_load), stride,
-            )
-        })
+        let mut results = elements::results::<PoolEvaporation>("psychro::pool_evaporation", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_pool_evaporation(
+            count, water_area.first(), water_area.stride(), wetted_area.first(), wetted_area.stride(),
+            water_temperature.first(), water_temperature.stride(), dry_bulb.first(), dry_bulb.stride(),
+            moisture_content.first(), moisture_content.stride(),
+            reference_temperature.first(), reference_temperature.stride(), bathers.first(), bathers.stride(),
+            reference_coefficient.first(), reference_coefficient.stride(), pressure.first(), pressure.stride(),
+            addr_of_mut!((*at).evaporation_rate), stride, addr_of_mut!((*at).latent_load), stride,
+            addr_of_mut!((*at).convective_load), stride, addr_of_mut!((*at).reference_load), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::pool_evaporation_from_wet_bulb`] of whole arrays, without checks.
@@ -978,35 +1043,44 @@ pub mod arrays {
             reference_temperature.length("reference_temperature"), bathers.length("bathers"),
             reference_coefficient.length("reference_coefficient"), pressure.length("pressure"),
         ];
-        elements::whole("psychro::pool_evaporation_from_wet_bulb", &lengths, |count, results: *mut PoolEvaporationFromWetBulb, stride| unsafe {
-            sys::quorvel_pool_evaporation_from_wet_bulb(
-                count, water_area.first(), water_area.stride(), wetted_area.first(), wetted_area.stride(),
-                water_temperature.first(), water_temperature.stride(), dry_bulb.first(), dry_bulb.stride(),
-                wet_bulb.first(), wet_bulb.stride(), reference_temperature.first(), reference_temperature.stride(),
-                bathers.first(), bathers.stride(), reference_coefficient.first(), reference_coefficient.stride(),
-                pressure.first(), pressure.stride(), addr_of_mut!((*results).evaporation_rate), stride,
-                addr_of_mut!((*results).latent_load), stride, addr_of_mut!((*results).convective_load), stride,
-                addr_of_mut!((*results).reference_load), stride,
-            )
-        })
+        let mut results = elements::results::<PoolEvaporationFromWetBulb>(
+            "psychro::pool_evaporation_from_wet_bulb", &lengths,
+        )?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_pool_evaporation_from_wet_bulb(
+            count, water_area.first(), water_area.stride(), wetted_area.first(), wetted_area.stride(),
+            water_temperature.first(), water_temperature.stride(), dry_bulb.first(), dry_bulb.stride(),
+            wet_bulb.first(), wet_bulb.stride(), reference_temperature.first(), reference_temperature.stride(),
+            bathers.first(), bathers.stride(), reference_coefficient.first(), reference_coefficient.stride(),
+            pressure.first(), pressure.stride(), addr_of_mut!((*at).evaporation_rate), stride,
+            addr_of_mut!((*at).latent_load), stride, addr_of_mut!((*at).convective_load), stride,
+            addr_of_mut!((*at).reference_load), stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::saturation_pressure`] of whole arrays, without checks.
     pub fn saturation_pressure<'a>(temperature: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let temperature = temperature.into();
         let lengths = [temperature.length("temperature")];
-        elements::whole("psychro::saturation_pressure", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_saturation_pressure(count, temperature.first(), temperature.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("psychro::saturation_pressure", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_saturation_pressure(
+            count, temperature.first(), temperature.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::dew_point`] of whole arrays, without checks.
     pub fn dew_point<'a>(vapour_pressure: impl Into<Input<'a, f32>>) -> Result<Vec<f32>, Error> {
         let vapour_pressure = vapour_pressure.into();
         let lengths = [vapour_pressure.length("vapour_pressure")];
-        elements::whole("psychro::dew_point", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_dew_point(count, vapour_pressure.first(), vapour_pressure.stride(), results, stride)
-        })
+        let mut results = elements::results::<f32>("psychro::dew_point", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_dew_point(
+            count, vapour_pressure.first(), vapour_pressure.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::vapour_pressure`] of whole arrays, without checks.
@@ -1016,12 +1090,13 @@ pub mod arrays {
         let dry_bulb = dry_bulb.into();
         let relative_humidity = relative_humidity.into();
         let lengths = [dry_bulb.length("dry_bulb"), relative_humidity.length("relative_humidity")];
-        elements::whole("psychro::vapour_pressure", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_vapour_pressure(
-                count, dry_bulb.first(), dry_bulb.stride(), relative_humidity.first(), relative_humidity.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::vapour_pressure", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_vapour_pressure(
+            count, dry_bulb.first(), dry_bulb.stride(), relative_humidity.first(), relative_humidity.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::relative_humidity`] of whole arrays, without checks.
@@ -1031,12 +1106,13 @@ pub mod arrays {
         let dry_bulb = dry_bulb.into();
         let vapour_pressure = vapour_pressure.into();
         let lengths = [dry_bulb.length("dry_bulb"), vapour_pressure.length("vapour_pressure")];
-        elements::whole("psychro::relative_humidity", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_relative_humidity(
-                count, dry_bulb.first(), dry_bulb.stride(), vapour_pressure.first(), vapour_pressure.stride(),
-                results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::relative_humidity", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_relative_humidity(
+            count, dry_bulb.first(), dry_bulb.stride(), vapour_pressure.first(), vapour_pressure.stride(),
+            at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::vapour_pressure_from_psychrometer`] of whole arrays, without checks.
@@ -1052,12 +1128,13 @@ pub mod arrays {
             dry_bulb.length("dry_bulb"), wet_bulb.length("wet_bulb"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::vapour_pressure_from_psychrometer", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_vapour_pressure_from_psychrometer(
-                count, dry_bulb.first(), dry_bulb.stride(), wet_bulb.first(), wet_bulb.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::vapour_pressure_from_psychrometer", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_vapour_pressure_from_psychrometer(
+            count, dry_bulb.first(), dry_bulb.stride(), wet_bulb.first(), wet_bulb.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::weighted_temperature`] of whole arrays, without checks.
@@ -1069,12 +1146,13 @@ pub mod arrays {
         let lengths = [
             first_temperature.length("first_temperature"), second_temperature.length("second_temperature"),
         ];
-        elements::whole("psychro::weighted_temperature", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_weighted_temperature(
-                count, first_temperature.first(), first_temperature.stride(),
-                second_temperature.first(), second_temperature.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::weighted_temperature", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_weighted_temperature(
+            count, first_temperature.first(), first_temperature.stride(),
+            second_temperature.first(), second_temperature.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::psychrometer_wet_bulb`] of whole arrays, without checks.
@@ -1090,12 +1168,13 @@ pub mod arrays {
             dry_bulb.length("dry_bulb"), relative_humidity.length("relative_humidity"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::psychrometer_wet_bulb", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_psychrometer_wet_bulb(
-                count, dry_bulb.first(), dry_bulb.stride(), relative_humidity.first(), relative_humidity.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::psychrometer_wet_bulb", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_psychrometer_wet_bulb(
+            count, dry_bulb.first(), dry_bulb.stride(), relative_humidity.first(), relative_humidity.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::wet_bulb_from_percentage_saturation`] of whole arrays, without checks.
@@ -1111,13 +1190,14 @@ pub mod arrays {
             dry_bulb.length("dry_bulb"), percentage_saturation.length("percentage_saturation"),
             pressure.length("pressure"), psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::wet_bulb_from_percentage_saturation", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_wet_bulb_from_percentage_saturation(
-                count, dry_bulb.first(), dry_bulb.stride(),
-                percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
-                psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::wet_bulb_from_percentage_saturation", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_wet_bulb_from_percentage_saturation(
+            count, dry_bulb.first(), dry_bulb.stride(),
+            percentage_saturation.first(), percentage_saturation.stride(), pressure.first(), pressure.stride(),
+            psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::wet_bulb_from_moisture_content`] of whole arrays, without checks.
@@ -1133,12 +1213,13 @@ pub mod arrays {
             dry_bulb.length("dry_bulb"), moisture_content.length("moisture_content"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::wet_bulb_from_moisture_content", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_wet_bulb_from_moisture_content(
-                count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::wet_bulb_from_moisture_content", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_wet_bulb_from_moisture_content(
+            count, dry_bulb.first(), dry_bulb.stride(), moisture_content.first(), moisture_content.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 
     /// [`crate::psychro::wet_bulb`] of whole arrays, without checks.
@@ -1154,11 +1235,12 @@ pub mod arrays {
             dry_bulb.length("dry_bulb"), vapour_pressure.length("vapour_pressure"), pressure.length("pressure"),
             psychrometer.length("psychrometer"),
         ];
-        elements::whole("psychro::wet_bulb", &lengths, |count, results: *mut f32, stride| unsafe {
-            sys::quorvel_wet_bulb(
-                count, dry_bulb.first(), dry_bulb.stride(), vapour_pressure.first(), vapour_pressure.stride(),
-                pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), results, stride,
-            )
-        })
+        let mut results = elements::results::<f32>("psychro::wet_bulb", &lengths)?;
+        let (count, at, stride) = elements::room(&mut results);
+        elements::done(unsafe { sys::quorvel_wet_bulb(
+            count, dry_bulb.first(), dry_bulb.stride(), vapour_pressure.first(), vapour_pressure.stride(),
+            pressure.first(), pressure.stride(), psychrometer.first(), psychrometer.stride(), at, stride,
+        ) });
+        Ok(results)
     }
 }
