@@ -56,7 +56,8 @@ def _by_reference(call):
 
 def _of_arrays(call):
     given, results = columns(call.routine)
-    named = [(name, _pointer(arg, True)) for name, arg in given] + [(name, _pointer(arg, False)) for name, arg in results]
+    named = [(name, _pointer(arg, True)) for name, arg in given]
+    named += [(name, _pointer(arg, False)) for name, arg in results]
     args = ["count: usize"] + [text for name, kind in named for text in (f"{name}: {kind}", f"{name}_stride: isize")]
     return [f"/// {_link(call)}", *listed(f"pub fn quorvel_{call.name}(", args, ") -> i32;")]
 
@@ -168,7 +169,8 @@ def _check(call, parameter, is_array=False):
         return []
     place = f"{'' if parameter.shape and not is_array else '&'}{parameter.name}"
     valid = span(parameter.limits, parameter.kind)
-    return listed("check::range(", [f'"{path(call)}"', f'"{parameter.name}"', place, valid, f'"{parameter.unit}"'], ")?;")
+    arguments = [f'"{path(call)}"', f'"{parameter.name}"', place, valid, f'"{parameter.unit}"']
+    return listed("check::range(", arguments, ")?;")
 
 
 def _counted(call, count):
@@ -249,14 +251,16 @@ def _structure(docs, call):
     default = ", Default" * has_arrays(call)
     fields = [line for result in call.results
               for line in (*docs.field(result), f"pub {result.clear_name}: {result_type(result)},")]
-    return [f"/// What [`{'crate::unchecked::geometry::' * call.is_by_hand}{call.name}`] returns.", *["#[repr(C)]"] * has_arrays(call),
+    function = f"{'crate::unchecked::geometry::' * call.is_by_hand}{call.name}"
+    return [f"/// What [`{function}`] returns.", *["#[repr(C)]"] * has_arrays(call),
             f"#[derive(Clone, {plain}Debug, PartialEq{default})]", *block([f"pub struct {call.structure}"], fields)]
 
 
 def _uses(known, lines, *further):
     """Declarations of those names that the lines have: "check::" as crate::check."""
     text = "\n".join(line for line in lines if not line.lstrip().startswith("//"))
-    own = sorted((re.sub(r"\W.*", "", name) for name in known if re.search(rf"\b{name}", text)), key=lambda name: (name[0].isupper(), name))
+    names = [re.sub(r"\W.*", "", name) for name in known if re.search(rf"\b{name}", text)]
+    own = sorted(names, key=lambda name: (name[0].isupper(), name))
     other = [f"use {where};" for name, where in _STANDARD.items() if name in text]
     return [*further, f"use crate::{{{', '.join(own)}}};", *other]
 

@@ -24,15 +24,12 @@ def is_counted(thing):
     return any(not isinstance(extent, int) for extent in thing.shape)
 
 
-def _nested(kind, extents):
-    for extent in extents:
-        kind = f"[{kind}; {extent}]"
-    return kind
-
-
-def of_fixed(thing, kind):
-    """An array of all that is not counted, the extent that varies fastest innermost."""
-    return _nested(kind, (extent for extent in thing.shape if isinstance(extent, int)))
+def of_fixed(thing, one):
+    """A type or a value repeated by all extents that are not counted, the one that varies fastest innermost."""
+    for extent in thing.shape:
+        if isinstance(extent, int):
+            one = f"[{one}; {extent}]"
+    return one
 
 
 def element(parameter, checked):
@@ -96,7 +93,7 @@ def blank(thing):
     if thing.kind == "Logical":
         return "false"
     kind = number(thing)
-    return _nested("0" if kind == "i32" else f"{kind}::NAN", (extent for extent in thing.shape if isinstance(extent, int)))
+    return of_fixed(thing, "0" if kind == "i32" else f"{kind}::NAN")
 
 
 # ---- Layout ------------------------------------------------------------------------------------------------------
@@ -150,7 +147,8 @@ class Docs:
     def text(self, text):
         text = re.sub(r"[\[\]<>*]", r"\\\g<0>", text)
         text = re.sub(r"\b[A-Z][A-Z0-9]{3,8}\b", self._of_exported, text)
-        return re.sub(r"(?<![`:\w])[a-z]\w*_\w+\b(?![`:])", r"`\g<0>`", text)
+        text = re.sub(r"(?<![`:\w])[a-z]\w*_\w+\b(?![`:])", r"`\g<0>`", text)
+        return re.sub(r"(\[`[\w:]+`\])\((?!crate)", r"\1\\(", text)  # of a call, not the target of a link
 
     def _of_exported(self, found):
         known = self._exported.get(found[0])

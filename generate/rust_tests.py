@@ -5,7 +5,7 @@ import math
 
 import corpus_layout
 from binding_model import calls, camel, examples
-from rust_model import EDIT, NUMBERS, block, has_arrays, can_fail, is_counted, listed, literal, path, spaced
+from rust_model import EDIT, NUMBERS, block, can_fail, has_arrays, indented, is_counted, listed, literal, path, spaced
 
 
 # ---- Examples ----------------------------------------------------------------------------------------------------
@@ -60,7 +60,8 @@ def _example_of_arrays(call, module, given):
     values = [text.removeprefix("&") for text in given]
     several = [f"&[{text}; 3]" if index % 2 == 0 else text for index, text in enumerate(values)]
     lines = listed(f"let all = {module}::arrays::{call.name}(", several, ").unwrap();")
-    return lines + [f'same("{path(call)}, {result.name}", &one{field}, &all[2]{field});' for result, field in _results(call)]
+    return lines + [f'same("{path(call)}, {result.name}", &one{field}, &all[2]{field});'
+                    for result, field in _results(call)]
 
 
 # ---- Corpus ------------------------------------------------------------------------------------------------------
@@ -86,19 +87,18 @@ def _corpus(call):
     layout = corpus_layout.Layout(call.routine)
     lines = [_column(arg, layout) for arg in layout.given]
     counted = [f"(0..={layout.highest[count.name]}).contains(&{count.name}[i])" for count in call.counts if count.lists]
-    lines += [f"corpus.only(|i| {' && '.join(counted)});"] if counted else []
-    function = f"unchecked::{call.family}::{call.name}("
-    lines += listed(f"let one = corpus.each(|i| {function}", map(_of_case, call.parameters), ")" + ".unwrap()" * can_fail(call) + ");")
-    got = "&[&one]"
-    if has_arrays(call):
+    lines += [f"corpus.only(&|i| {' && '.join(counted)});"] if counted else []
+    whole = has_arrays(call)
+    if whole:
         function = f"unchecked::{call.family}::arrays::{call.name}("
         lines += listed(f"let all = {function}", [f"&{each.name}" for each in call.parameters], ").unwrap();")
-        lines.append("let all = all.into_iter().map(Some).collect();")
-        got = "&[&one, &all]"
+    function = f"unchecked::{call.family}::{call.name}("
+    held = listed(f"let one = {function}", map(_of_case, call.parameters), ")" + ".unwrap()" * can_fail(call) + ";")
     for result, field in _results(call):
-        words = math.prod(layout.room(result.arg)) * (2 if result.kind == "DoubleReal" else 1)
-        lines.append(f'corpus.left("{result.name}", {words}, {got}, |one, words| one{field}.words(words));')
-    return lines
+        room = math.prod(layout.room(result.arg)) * (2 if result.kind == "DoubleReal" else 1)
+        got = f"&one{field}" + f", &all[i]{field}" * whole
+        held.append(f'left.hold("{result.name}", {room}, &[{got}]);')
+    return [*lines, "corpus.each(&|i, left| {", *indented(held), "});"]
 
 
 # ---- Files -------------------------------------------------------------------------------------------------------
@@ -119,9 +119,10 @@ def files(families):
                                  [f"{family.family}_{name}();" for name, _ in numbered]))
     exported = [call for call in calls(families) if call.routine.export]
     of_corpus = [block([f"fn {call.routine.export.lower()}(corpus: &mut Corpus)"], _corpus(call)) for call in exported]
-    run = [f'run("{call.routine.export}", {call.routine.export.lower()});' for call in exported]
-    of_corpus.append(block(["#[test]", "fn bits_of_the_corpus()"], [*run, f"finish({len(exported)});"]))
+    run = [f'run(&mut differing, "{call.routine.export}", {call.routine.export.lower()});' for call in exported]
+    of_corpus.append(block(["#[test]", "fn bits_of_the_corpus()"], 
+                           ["let mut differing = Differing::new();", *run, f"finish(differing, {len(exported)});"]))
     return {
         "examples.rs": _file(["use quorvel::*;", "use support::{near, same};"], of_examples),
-        "corpus.rs": _file(["use quorvel::unchecked;", "use support::{Bits, Corpus, finish, run};"], of_corpus),
+        "corpus.rs": _file(["use quorvel::unchecked;", "use support::{finish, run, Corpus, Differing};"], of_corpus),
     }

@@ -853,7 +853,7 @@ pub fn eccentricity_factor(day: i32) -> Result<f32, Error> {
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * Formula: `global_horizontal` / (1367 [`eccentricity_factor`](day) sin(`solar_altitude`))
+/// * Formula: `global_horizontal` / (1367 [`eccentricity_factor`]\(day) sin(`solar_altitude`))
 /// * An altitude of 0 divides by zero: infinite, or not a number for an irradiance of 0.
 ///
 /// # Source
@@ -1029,7 +1029,7 @@ pub fn site_constants(site_class: i32, month: i32) -> Result<SiteConstants, Erro
 /// # Notes
 /// * Formula: cos(b / 2)^2 + a (sin(b) - b cos(b) - pi sin(b / 2)^2), b = tilt; model 0: a = 2 r / (pi (2 r +
 ///   3)), model 1: 0.00333 - 0.415 K - 0.6987 K^2, model 2: 0.00263 - 0.712 K - 0.6883 K^2; K =
-///   `beam_horizontal` / (1367 [`eccentricity_factor`](day) sin(`solar_altitude`))
+///   `beam_horizontal` / (1367 [`eccentricity_factor`]\(day) sin(`solar_altitude`))
 /// * Model 0 takes the radiance index r = 5.73 up to an altitude of 0, 1.68 for a beam below 5 W/m² and -0.62
 ///   otherwise; the side of the surface does not matter here.
 /// * Models 1 and 2 divide by the sine of the altitude: at 0 the factor is infinite or no number.

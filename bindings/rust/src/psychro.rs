@@ -974,8 +974,8 @@ pub fn specific_enthalpy(dry_bulb: f32, moisture_content: f32) -> Result<f32, Er
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * Formula: h = [`dry_air_enthalpy`](t) + g [`water_vapour_enthalpy`](t), g =
-///   [`moisture_content_from_psychrometer`](t, twb, p)
+/// * Formula: h = [`dry_air_enthalpy`]\(t) + g [`water_vapour_enthalpy`]\(t), g =
+///   [`moisture_content_from_psychrometer`]\(t, twb, p)
 /// * A wet bulb at or above the dry bulb counts as saturation; the coefficient of an iced bulb is taken when
 ///   the wet bulb is below 0 °C.
 /// * Per kilogram of dry air, from dry air and liquid water at 0 °C.

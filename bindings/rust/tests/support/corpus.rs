@@ -1,87 +1,98 @@
+use super::Bits;
 use quorvel::unchecked;
-use std::cell::RefCell;
+use std::collections::BTreeMap;
 use std::path::PathBuf;
 
 const CASES: usize = 2000;
 const UNTOUCHED: u32 = 0xC5C5_C5C5;
 const TEXT_WORDS: usize = 16;
 
-thread_local! {
-    static RUN: RefCell<(usize, Vec<String>)> = RefCell::default(); // how many routines, and what differs
-}
+/// How many cases of a result differ, by routine and result.
+pub type Differing = BTreeMap<String, usize>;
 
 /// The calls of one routine: arguments before the call, then what it left.
-pub struct Corpus {
+pub struct Corpus<'a> {
     routine: &'static str,
     words: Vec<u32>,
     chosen: Vec<bool>,
     place: usize,
+    differing: &'a mut Differing,
 }
 
-/// From the state in which the corpus begins.
-pub fn run(routine: &'static str, test: impl Fn(&mut Corpus)) {
+/// What one call left, result by result.
+pub struct Left<'a> {
+    routine: &'static str,
+    words: &'a [u32],
+    differing: &'a mut Differing,
+}
+
+/// The calls of a routine, from the state in which the corpus begins.
+pub fn run(differing: &mut Differing, routine: &'static str, test: fn(&mut Corpus)) {
     unchecked::climate::station_records("example.climate", 1, 0, &[[1.0; 11]; 12]).unwrap();
     let bytes = std::fs::read(format!("corpus/{routine}")).unwrap();
-    let words = bytes.chunks_exact(4).map(|word| u32::from_le_bytes(word.try_into().unwrap()));
-    let mut corpus = Corpus { routine, words: words.collect(), chosen: vec![true; CASES], place: 0 };
-    test(&mut corpus);
-    assert_eq!(corpus.place * CASES, corpus.words.len(), "{routine}: words of a case");
-    let compared = corpus.chosen.iter().filter(|&&chosen| chosen).count();
-    assert!(compared > CASES / 2, "{routine}: only {compared} cases can be called");
-    RUN.with(|run| run.borrow_mut().0 += 1);
+    let words = bytes.chunks_exact(4).map(|word| u32::from_le_bytes(word.try_into().unwrap())).collect();
+    test(&mut Corpus { routine, words, chosen: vec![true; CASES], place: 0, differing });
 }
 
-/// Tells what differs, if anything does, of that many routines.
-pub fn finish(routines: usize) {
-    RUN.with(|run| assert_eq!(*run.borrow(), (routines, Vec::new())));
+/// That all is as it should be, of that many routines.
+pub fn finish(differing: Differing, routines: usize) {
+    assert_eq!(differing, Differing::new());
     assert_eq!(std::fs::read_dir("corpus").unwrap().count(), routines);
 }
 
-impl Corpus {
+impl Corpus<'_> {
+    /// An argument of all calls.
     pub fn column<T: Word>(&mut self) -> Vec<T> {
-        self.next(T::WORDS, T::read)
+        self.next(T::WORDS).into_iter().map(T::read).collect()
     }
 
     /// Names of files, of any bytes.
     pub fn texts(&mut self) -> Vec<PathBuf> {
         use std::os::unix::ffi::OsStringExt;
-        self.next(TEXT_WORDS, |words| {
+        let text = |words: &[u32]| {
             let bytes = words.iter().flat_map(|word| word.to_le_bytes());
             std::ffi::OsString::from_vec(bytes.take_while(|&byte| byte != 0).collect()).into()
-        })
+        };
+        self.next(TEXT_WORDS).into_iter().map(text).collect()
     }
 
     /// Leaves out cases that no list can tell.
-    pub fn only(&mut self, which: impl Fn(usize) -> bool) {
+    pub fn only(&mut self, which: &dyn Fn(usize) -> bool) {
         self.chosen = (0..CASES).map(which).collect();
+        let left = self.chosen.iter().filter(|&&chosen| chosen).count();
+        assert!(left > CASES / 2, "{}: only {left} cases can be called", self.routine);
     }
 
-    pub fn each<T>(&self, call: impl Fn(usize) -> T) -> Vec<Option<T>> {
-        (0..CASES).map(|i| self.chosen[i].then(|| call(i))).collect()
-    }
-
-    /// Holds the next column against what calls gave. What a call leaves as it was is not a number.
-    pub fn left<T>(&mut self, name: &str, words: usize, got: &[&Vec<Option<T>>], read: impl Fn(&T, &mut Vec<u32>)) {
-        let left = self.next(words, <[u32]>::to_vec);
-        let differs = |one: &T, left: &[u32]| {
-            let mut words = Vec::new();
-            read(one, &mut words);
-            words.iter().zip(left).any(|(&got, &left)| got != left && !(left == UNTOUCHED && is_none(got)))
-        };
-        for results in got {
-            let both = results.iter().zip(&left).filter_map(|(one, left)| Some((one.as_ref()?, left)));
-            let differing = both.filter(|(one, left)| differs(one, left)).count();
-            if differing > 0 {
-                let text = format!("{}, {name}: {differing} cases differ", self.routine);
-                RUN.with(|run| run.borrow_mut().1.push(text));
-            }
+    /// Calls again, and holds every result against what the call left.
+    pub fn each(&mut self, call: &dyn Fn(usize, &mut Left)) {
+        let of_case = self.words.len() / CASES;
+        for (i, case) in self.words.chunks_exact(of_case).enumerate().filter(|&(i, _)| self.chosen[i]) {
+            let mut left = Left { routine: self.routine, words: &case[self.place..], differing: self.differing };
+            call(i, &mut left);
+            assert!(left.words.is_empty(), "{}: words of a case", self.routine);
         }
     }
 
-    fn next<T>(&mut self, words: usize, read: impl Fn(&[u32]) -> T) -> Vec<T> {
+    fn next(&mut self, words: usize) -> Vec<&[u32]> {
         let (first, of_case) = (self.place, self.words.len() / CASES);
         self.place += words;
-        self.words.chunks_exact(of_case).map(|case| read(&case[first..first + words])).collect()
+        self.words.chunks_exact(of_case).map(|case| &case[first..first + words]).collect()
+    }
+}
+
+impl Left<'_> {
+    /// Holds the next result, for which there is room of so many words, against what calls gave. What a call leaves as
+    /// it was is not a number.
+    pub fn hold(&mut self, name: &str, room: usize, got: &[&dyn Bits]) {
+        let (left, rest) = self.words.split_at(room);
+        self.words = rest;
+        for one in got {
+            let mut words = Vec::with_capacity(room);
+            one.words(&mut words);
+            if words.iter().zip(left).any(|(&got, &left)| got != left && !(left == UNTOUCHED && is_none(got))) {
+                *self.differing.entry(format!("{}, {name}", self.routine)).or_default() += 1;
+            }
+        }
     }
 }
 

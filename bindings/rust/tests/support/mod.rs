@@ -5,4 +5,4 @@ mod bits;
 mod corpus;
 
 pub use bits::{near, same, Bits};
-pub use corpus::{finish, run, Corpus};
+pub use corpus::{finish, run, Corpus, Differing};
