@@ -23,6 +23,6 @@ _WORDS = {
         pointer precision pure real recursive result save sequence subroutine target use where""",
     "JavaScript": "arguments debugger eval extends instanceof super undefined",
     "R": "c f inf na nan t",
-    "Rust": "crate dyn fn impl loop match move mut pub self super trait unsafe unsized use where",
+    "Rust": "become box crate dyn fn impl loop macro match move mut priv pub self super trait unsafe unsized use where",
 }
 RESERVED = {word: language for language, words in reversed(_WORDS.items()) for word in words.split()}

@@ -70,7 +70,7 @@ pub(crate) fn range<V: Values + ?Sized>(
             function,
             argument: format!("{argument}{place}"),
             value: value.to_string(),
-            valid: format!("{} {unit}", limits(&valid)).trim_end().to_owned(),
+            valid: limits(&valid, unit),
         }),
     }
 }
@@ -81,7 +81,7 @@ pub(crate) fn length(
 ) -> Result<(), Error> {
     match i32::try_from(length) {
         Ok(count) if valid.contains(&count) => Ok(()),
-        _ => Err(Error::Length { function, argument, length, valid: limits(&valid) }),
+        _ => Err(Error::Length { function, argument, length, valid: limits(&valid, "") }),
     }
 }
 
@@ -93,7 +93,7 @@ pub(crate) fn count(function: &'static str, lists: &[(&'static str, usize)]) -> 
             return Err(Error::Length { function, argument, length, valid: format!("as many as of {first}, {count}") });
         }
     }
-    let refused = |_| Error::Length { function, argument: first, length: count, valid: limits(&(0..=i32::MAX - 1)) };
+    let refused = |_| Error::Length { function, argument: first, length: count, valid: limits(&(0..=i32::MAX - 1), "") };
     i32::try_from(count).map_err(refused)
 }
 
@@ -125,11 +125,13 @@ fn bytes(path: &Path) -> Option<Vec<u8>> {
     Some(path.to_str()?.as_bytes().to_vec())
 }
 
-fn limits<T: Number>(valid: &RangeInclusive<T>) -> String {
-    match (*valid.start() == T::LOWEST, *valid.end() == T::HIGHEST) {
-        (true, true) => "any number".to_owned(),
-        (true, false) => format!("to {}", valid.end()),
-        (false, true) => format!("from {}", valid.start()),
-        (false, false) => format!("{} to {}", valid.start(), valid.end()),
-    }
+fn limits<T: Number>(valid: &RangeInclusive<T>, unit: &str) -> String {
+    let (low, high) = (valid.start(), valid.end());
+    let text = match (*low == T::LOWEST, *high == T::HIGHEST) {
+        (true, true) => return "any number".to_owned(),
+        (true, false) => format!("to {high} {unit}"),
+        (false, true) => format!("from {low} {unit}"),
+        (false, false) => format!("{low} to {high} {unit}"),
+    };
+    text.trim_end().to_owned()
 }

@@ -22,7 +22,7 @@ fn refused() {
     );
     assert_says(
         fabric::u_value(&[0.1, f32::NAN], &[1.0, 1.0], 0.13, 0.04),
-        "fabric::u_value: thickness[1] = NaN is not valid: any number m",
+        "fabric::u_value: thickness[1] = NaN is not valid: any number",
     );
     assert_says(
         fabric::u_value(&[0.1, 0.1], &[1.0; 3], 0.13, 0.04),
@@ -34,7 +34,7 @@ fn refused() {
     );
     assert_says(
         geometry::inside(&[0.0; 3], &[[0.0; 3], [0.0; 3], [0.0, f32::NAN, 0.0], [0.0; 3]]),
-        "geometry::inside: polygon[2][1] = NaN is not valid: any number m",
+        "geometry::inside: polygon[2][1] = NaN is not valid: any number",
     );
     assert_says(Psychrometer::try_from(3), "Psychrometer::try_from: number = 3 is not valid: 1 (Sling), 2 (Screen)");
     assert!(climate::station_records("a\0b", 1, 1, &[[0.0; 11]; 12]).unwrap_err().to_string().contains("NUL"));
