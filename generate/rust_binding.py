@@ -8,10 +8,9 @@ from pathlib import Path
 from array_header import columns
 from array_kernels import has_kernel
 from binding_model import calls, camel, selectors
-from header import C_TYPES
 from rust_model import (
-    Docs, blank, block, can_fail, element, file, has_arrays, is_counted, listed, literal, module, parameter_type, path,
-    result_type, returned, spaced, span)
+    NUMBERS, Docs, blank, block, can_fail, element, file, has_arrays, is_counted, listed, literal, module, parameter_type,
+    path, result_type, returned, spaced, span)
 
 VERSION = Path(__file__).parents[1] / "packaging/version"
 CARGO = """\
@@ -22,6 +21,7 @@ version = "{version}"
 edition = "2021"
 rust-version = "1.63"
 description = "Building physics: moist air, walls, glazing, sun and sky, geometry; the same bits on every platform"
+license = "MIT"
 readme = "README.md"
 categories = ["science", "api-bindings"]
 publish = false
@@ -35,13 +35,13 @@ static = []
 LINK = ['#[cfg_attr(feature = "static", link(name = "{name}", kind = "static"))]',
         '#[cfg_attr(not(feature = "static"), link(name = "{name}"))]']
 _STANDARD = {"Path>": "std::path::Path", "addr_of_mut!": "std::ptr::addr_of_mut"}
-POINTED = {"float": "f32", "double": "f64", "int32_t": "i32", "char": "c_char"}
+POINTED = {**NUMBERS, "Text": "c_char"}
 
 
 # ---- Declarations ------------------------------------------------------------------------------------------------
 
 def _pointer(arg, is_input):
-    return f"*{'const' if is_input else 'mut'} {POINTED[C_TYPES[arg.type].removeprefix('const ')]}"
+    return f"*{'const' if is_input else 'mut'} {POINTED[arg.type]}"
 
 
 def _link(call):
@@ -50,7 +50,7 @@ def _link(call):
 
 def _by_reference(call):
     args = [f"{arg.name}: {_pointer(arg, arg.dir == 'in')}" for arg in call.routine.args]
-    result = f" -> {POINTED[C_TYPES[call.routine.result.type]]}" if call.routine.result else ""
+    result = f" -> {POINTED[call.routine.result.type]}" if call.routine.result else ""
     return [f"/// {_link(call)}", *listed(f"pub fn {call.routine.export}(", args, f"){result};")]
 
 
@@ -293,7 +293,7 @@ def _enumeration(docs, name, arg):
 def files(families):
     """The texts by their names in bindings/rust."""
     found = calls(families)
-    docs, names = Docs(found), selectors(families)
+    names = selectors(families)
     declared = [_by_reference(call) for call in found if call.routine.export]
     of_arrays = [_of_arrays(call) for call in found if has_kernel(call.routine)]
     version = subprocess.run([VERSION], check=True, capture_output=True, text=True).stdout.strip()
@@ -302,10 +302,10 @@ def files(families):
         "src/sys/by_reference.rs": _declarations("quorvel", declared, "use std::os::raw::c_char;"),
         "src/sys/arrays.rs": _declarations("quorvel_arrays", of_arrays),
         "src/selectors.rs": file(["use crate::selector::selector;"],
-                                 *(_enumeration(docs, *item) for item in names.items())),
+                                 *(_enumeration(Docs(found), *item) for item in names.items())),
     }
     for family in families:
         of_family = [call for call in found if call.family == family.family]
-        texts[f"src/{family.family}.rs"] = _family(docs.of(family.family), family, of_family, names)
+        texts[f"src/{family.family}.rs"] = _family(Docs(found, family.family), family, of_family, names)
         texts[f"src/unchecked/{family.family}.rs"] = _family_unchecked(family, of_family)
     return texts

@@ -136,13 +136,9 @@ def module(name, about, lines):
 class Docs:
     """Texts of the catalogue as comments, with the names of the crate in place of those of C."""
 
-    def __init__(self, calls):
+    def __init__(self, calls, family=""):
         self._exported = {call.routine.export: path(call) for call in calls if call.routine.export}
-        self._family = ""  # whose file is written
-
-    def of(self, family):
-        self._family = family
-        return self
+        self._family = family  # whose module they stand in
 
     def text(self, text):
         text = re.sub(r"[\[\]<>*]", r"\\\g<0>", text)

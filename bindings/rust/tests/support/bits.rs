@@ -1,87 +1,75 @@
-const ANY_NAN: u32 = 0x7fc0_0000;
-const ANY_DOUBLE_NAN: u64 = 0x7ff8_0000_0000_0000;
+/// A number of a result.
+pub enum Number {
+    Real(f32),
+    Double(f64),
+    Integer(i32),
+}
 
-/// Numbers as the corpus writes them: one not-a-number for all, -1 for true.
+/// A result: a number, or any array of them.
 pub trait Bits {
-    fn words(&self, words: &mut Vec<u32>);
-    fn numbers(&self, numbers: &mut Vec<f64>);
+    fn each(&self, visit: &mut dyn FnMut(Number));
 }
 
 impl Bits for f32 {
-    fn words(&self, words: &mut Vec<u32>) {
-        words.push(if self.is_nan() { ANY_NAN } else { self.to_bits() });
-    }
-
-    fn numbers(&self, numbers: &mut Vec<f64>) {
-        numbers.push(f64::from(*self));
+    fn each(&self, visit: &mut dyn FnMut(Number)) {
+        visit(Number::Real(*self));
     }
 }
 
 impl Bits for f64 {
-    fn words(&self, words: &mut Vec<u32>) {
-        let bits = if self.is_nan() { ANY_DOUBLE_NAN } else { self.to_bits() };
-        words.extend([bits as u32, (bits >> 32) as u32]);
-    }
-
-    fn numbers(&self, numbers: &mut Vec<f64>) {
-        numbers.push(*self);
+    fn each(&self, visit: &mut dyn FnMut(Number)) {
+        visit(Number::Double(*self));
     }
 }
 
 impl Bits for i32 {
-    fn words(&self, words: &mut Vec<u32>) {
-        words.push(*self as u32);
-    }
-
-    fn numbers(&self, numbers: &mut Vec<f64>) {
-        numbers.push(f64::from(*self));
+    fn each(&self, visit: &mut dyn FnMut(Number)) {
+        visit(Number::Integer(*self));
     }
 }
 
 impl Bits for bool {
-    fn words(&self, words: &mut Vec<u32>) {
-        (-i32::from(*self)).words(words);
-    }
-
-    fn numbers(&self, numbers: &mut Vec<f64>) {
-        (-i32::from(*self)).numbers(numbers);
-    }
-}
-
-impl<T: Bits> Bits for [T] {
-    fn words(&self, words: &mut Vec<u32>) {
-        self.iter().for_each(|one| one.words(words));
-    }
-
-    fn numbers(&self, numbers: &mut Vec<f64>) {
-        self.iter().for_each(|one| one.numbers(numbers));
+    fn each(&self, visit: &mut dyn FnMut(Number)) {
+        visit(Number::Integer(-i32::from(*self)));
     }
 }
 
 impl<T: Bits, const N: usize> Bits for [T; N] {
-    fn words(&self, words: &mut Vec<u32>) {
-        self[..].words(words);
-    }
-
-    fn numbers(&self, numbers: &mut Vec<f64>) {
-        self[..].numbers(numbers);
+    fn each(&self, visit: &mut dyn FnMut(Number)) {
+        self.iter().for_each(|one| one.each(visit));
     }
 }
 
 impl<T: Bits> Bits for Vec<T> {
-    fn words(&self, words: &mut Vec<u32>) {
-        self[..].words(words);
-    }
-
-    fn numbers(&self, numbers: &mut Vec<f64>) {
-        self[..].numbers(numbers);
+    fn each(&self, visit: &mut dyn FnMut(Number)) {
+        self.iter().for_each(|one| one.each(visit));
     }
 }
 
+/// As the corpus writes them: one not-a-number for all.
+pub fn words(result: &dyn Bits) -> Vec<u32> {
+    let mut words = Vec::new();
+    result.each(&mut |number| match number {
+        Number::Real(value) => words.push(if value.is_nan() { 0x7fc0_0000 } else { value.to_bits() }),
+        Number::Double(value) => {
+            let bits = if value.is_nan() { 0x7ff8_0000_0000_0000 } else { value.to_bits() };
+            words.extend([bits as u32, (bits >> 32) as u32]);
+        }
+        Number::Integer(value) => words.push(value as u32),
+    });
+    words
+}
+
 /// Holds the first numbers of a result against those expected.
-pub fn near(what: &str, got: &impl Bits, within: f64, expected: &[f64]) {
+pub fn near(what: &str, result: &dyn Bits, within: f64, expected: &[f64]) {
     let mut numbers = Vec::new();
-    got.numbers(&mut numbers);
+    result.each(&mut |number| {
+        numbers.push(match number {
+            Number::Real(value) => f64::from(value),
+            Number::Double(value) => value,
+            Number::Integer(value) => f64::from(value),
+        })
+    });
     assert!(numbers.len() >= expected.len(), "{what}: too few numbers");
     for (number, value) in numbers.iter().zip(expected) {
         assert!((number - value).abs() <= within, "{what}: {number} and not {value}");
@@ -89,9 +77,6 @@ pub fn near(what: &str, got: &impl Bits, within: f64, expected: &[f64]) {
 }
 
 /// Of a call for one element, and of one for an array of it.
-pub fn same<T: Bits>(what: &str, one: &T, other: &T) {
-    let (mut first, mut second) = (Vec::new(), Vec::new());
-    one.words(&mut first);
-    other.words(&mut second);
-    assert_eq!(first, second, "{what}");
+pub fn same(what: &str, one: &dyn Bits, other: &dyn Bits) {
+    assert_eq!(words(one), words(other), "{what}");
 }

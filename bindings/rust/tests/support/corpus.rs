@@ -1,4 +1,4 @@
-use super::Bits;
+use super::bits::{words, Bits};
 use quorvel::unchecked;
 use std::collections::BTreeMap;
 use std::path::PathBuf;
@@ -7,7 +7,7 @@ const CASES: usize = 2000;
 const UNTOUCHED: u32 = 0xC5C5_C5C5;
 const TEXT_WORDS: usize = 16;
 
-/// How many cases of a result differ, by routine and result.
+/// How many results of calls differ, by routine and result.
 pub type Differing = BTreeMap<String, usize>;
 
 /// The calls of one routine: arguments before the call, then what it left.
@@ -87,9 +87,7 @@ impl Left<'_> {
         let (left, rest) = self.words.split_at(room);
         self.words = rest;
         for one in got {
-            let mut words = Vec::with_capacity(room);
-            one.words(&mut words);
-            if words.iter().zip(left).any(|(&got, &left)| got != left && !(left == UNTOUCHED && is_none(got))) {
+            if words(*one).iter().zip(left).any(|(&got, &left)| got != left && !(left == UNTOUCHED && is_none(got))) {
                 *self.differing.entry(format!("{}, {name}", self.routine)).or_default() += 1;
             }
         }
