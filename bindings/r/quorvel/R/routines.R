@@ -1,0 +1,1866 @@
+# Produced from the catalogue of routines (catalogue/); do not edit.
+
+known <- list()
+
+known$dry_air_enthalpy <- list(
+  given = list(
+    temperature = number(-50, 100, 'valid -50 to 100 degC')),
+  results = list(
+    enthalpy = returned()))
+dry_air_enthalpy <- function(temperature, unchecked = FALSE)
+  run("dry_air_enthalpy", list(temperature), unchecked)
+
+known$water_vapour_enthalpy <- list(
+  given = list(
+    temperature = number(-50, 100, 'valid -50 to 100 degC')),
+  results = list(
+    enthalpy = returned()))
+water_vapour_enthalpy <- function(temperature, unchecked = FALSE)
+  run("water_vapour_enthalpy", list(temperature), unchecked)
+
+known$dry_air_specific_heat <- list(
+  given = list(
+    temperature = number(-50, 100, 'valid -50 to 100 degC')),
+  results = list(
+    specific_heat = returned()))
+dry_air_specific_heat <- function(temperature, unchecked = FALSE)
+  run("dry_air_specific_heat", list(temperature), unchecked)
+
+known$water_vapour_specific_heat <- list(
+  given = list(
+    temperature = number(-50, 100, 'valid -50 to 100 degC')),
+  results = list(
+    specific_heat = returned()))
+water_vapour_specific_heat <- function(temperature, unchecked = FALSE)
+  run("water_vapour_specific_heat", list(temperature), unchecked)
+
+known$latent_heat <- list(
+  given = list(
+    temperature = number(-50, 100, 'valid -50 to 100 degC')),
+  results = list(
+    enthalpy = returned()))
+latent_heat <- function(temperature, unchecked = FALSE)
+  run("latent_heat", list(temperature), unchecked)
+
+known$dry_bulb_from_vapour_pressure_and_relative_humidity <- list(
+  given = list(
+    vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
+    relative_humidity = number(0, 100, 'valid 0 to 100 %')),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_vapour_pressure_and_relative_humidity <- function(vapour_pressure, relative_humidity, unchecked = FALSE)
+  run("dry_bulb_from_vapour_pressure_and_relative_humidity", list(vapour_pressure, relative_humidity), unchecked)
+
+known$dry_bulb_from_vapour_pressure_and_percentage_saturation <- list(
+  given = list(
+    vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
+    percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_vapour_pressure_and_percentage_saturation <- function(vapour_pressure, percentage_saturation, pressure,
+    unchecked = FALSE)
+  run("dry_bulb_from_vapour_pressure_and_percentage_saturation", list(vapour_pressure, percentage_saturation, pressure),
+    unchecked)
+
+known$dry_bulb_from_moisture_content_and_relative_humidity <- list(
+  given = list(
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    relative_humidity = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_moisture_content_and_relative_humidity <- function(moisture_content, relative_humidity, pressure,
+    unchecked = FALSE)
+  run("dry_bulb_from_moisture_content_and_relative_humidity", list(moisture_content, relative_humidity, pressure),
+    unchecked)
+
+known$dry_bulb_from_moisture_content_and_percentage_saturation <- list(
+  given = list(
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_moisture_content_and_percentage_saturation <- function(moisture_content, percentage_saturation, pressure,
+    unchecked = FALSE)
+  run("dry_bulb_from_moisture_content_and_percentage_saturation", list(moisture_content, percentage_saturation,
+    pressure), unchecked)
+
+known$dry_bulb_from_enthalpy_and_moisture_content <- list(
+  given = list(
+    enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg')),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_enthalpy_and_moisture_content <- function(enthalpy, moisture_content, unchecked = FALSE)
+  run("dry_bulb_from_enthalpy_and_moisture_content", list(enthalpy, moisture_content), unchecked)
+
+known$dry_bulb_from_enthalpy_and_vapour_pressure <- list(
+  given = list(
+    enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
+    vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_enthalpy_and_vapour_pressure <- function(enthalpy, vapour_pressure, pressure, unchecked = FALSE)
+  run("dry_bulb_from_enthalpy_and_vapour_pressure", list(enthalpy, vapour_pressure, pressure), unchecked)
+
+known$dry_bulb_from_enthalpy_and_relative_humidity <- list(
+  given = list(
+    enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
+    relative_humidity = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_enthalpy_and_relative_humidity <- function(enthalpy, relative_humidity, pressure, unchecked = FALSE)
+  run("dry_bulb_from_enthalpy_and_relative_humidity", list(enthalpy, relative_humidity, pressure), unchecked)
+
+known$dry_bulb_from_enthalpy_and_percentage_saturation <- list(
+  given = list(
+    enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
+    percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_enthalpy_and_percentage_saturation <- function(enthalpy, percentage_saturation, pressure,
+    unchecked = FALSE)
+  run("dry_bulb_from_enthalpy_and_percentage_saturation", list(enthalpy, percentage_saturation, pressure), unchecked)
+
+known$dry_bulb_from_wet_bulb_and_vapour_pressure <- list(
+  given = list(
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_wet_bulb_and_vapour_pressure <- function(wet_bulb, vapour_pressure, pressure,
+    psychrometer = c("sling", "screen"), unchecked = FALSE)
+  run("dry_bulb_from_wet_bulb_and_vapour_pressure", list(wet_bulb, vapour_pressure, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$dry_bulb_from_wet_bulb_and_moisture_content <- list(
+  given = list(
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_wet_bulb_and_moisture_content <- function(wet_bulb, moisture_content, pressure,
+    psychrometer = c("sling", "screen"), unchecked = FALSE)
+  run("dry_bulb_from_wet_bulb_and_moisture_content", list(wet_bulb, moisture_content, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$dry_bulb_from_wet_bulb_and_relative_humidity <- list(
+  given = list(
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    relative_humidity = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_wet_bulb_and_relative_humidity <- function(wet_bulb, relative_humidity, pressure,
+    psychrometer = c("sling", "screen"), unchecked = FALSE)
+  run("dry_bulb_from_wet_bulb_and_relative_humidity", list(wet_bulb, relative_humidity, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$dry_bulb_from_wet_bulb_and_percentage_saturation <- list(
+  given = list(
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_wet_bulb_and_percentage_saturation <- function(wet_bulb, percentage_saturation, pressure,
+    psychrometer = c("sling", "screen"), unchecked = FALSE)
+  run("dry_bulb_from_wet_bulb_and_percentage_saturation", list(wet_bulb, percentage_saturation, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$dry_bulb_from_wet_bulb_and_enthalpy <- list(
+  given = list(
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    dry_bulb = returned()))
+dry_bulb_from_wet_bulb_and_enthalpy <- function(wet_bulb, enthalpy, pressure, psychrometer = c("sling", "screen"),
+    unchecked = FALSE)
+  run("dry_bulb_from_wet_bulb_and_enthalpy", list(wet_bulb, enthalpy, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$adiabatic_mixing <- list(
+  given = list(
+    first_air_flow = number(0, Inf, 'valid from 0 kg/s'),
+    first_dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    first_moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    second_air_flow = number(0, Inf, 'valid from 0 kg/s'),
+    second_dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    second_moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg')),
+  results = list(
+    dry_bulb = returned(),
+    moisture_content = returned(),
+    enthalpy = returned()))
+adiabatic_mixing <- function(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb,
+    second_moisture_content, unchecked = FALSE)
+  run("adiabatic_mixing", list(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb,
+    second_moisture_content), unchecked)
+
+known$moisture_content_from_psychrometer <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    moisture_content = returned()))
+moisture_content_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
+    unchecked = FALSE)
+  run("moisture_content_from_psychrometer", list(dry_bulb, wet_bulb, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$moisture_content <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    moisture_content = returned()))
+moisture_content <- function(dry_bulb, vapour_pressure, pressure, unchecked = FALSE)
+  run("moisture_content", list(dry_bulb, vapour_pressure, pressure), unchecked)
+
+known$vapour_pressure_from_moisture_content <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    vapour_pressure = returned()))
+vapour_pressure_from_moisture_content <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE)
+  run("vapour_pressure_from_moisture_content", list(dry_bulb, moisture_content, pressure), unchecked)
+
+known$moisture_content_from_percentage_saturation <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    moisture_content = returned()))
+moisture_content_from_percentage_saturation <- function(dry_bulb, percentage_saturation, pressure, unchecked = FALSE)
+  run("moisture_content_from_percentage_saturation", list(dry_bulb, percentage_saturation, pressure), unchecked)
+
+known$moisture_content_from_enthalpy <- list(
+  given = list(
+    dry_bulb = number(-50, 100, 'valid -50 to 100 degC'),
+    enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg')),
+  results = list(
+    moisture_content = returned()))
+moisture_content_from_enthalpy <- function(dry_bulb, enthalpy, unchecked = FALSE)
+  run("moisture_content_from_enthalpy", list(dry_bulb, enthalpy), unchecked)
+
+known$moist_air_density <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    moist_air_density = returned()))
+moist_air_density <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE)
+  run("moist_air_density", list(dry_bulb, moisture_content, pressure), unchecked)
+
+known$percentage_saturation <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    percentage_saturation = returned()))
+percentage_saturation <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE)
+  run("percentage_saturation", list(dry_bulb, moisture_content, pressure), unchecked)
+
+known$specific_enthalpy <- list(
+  given = list(
+    dry_bulb = number(-50, 100, 'valid -50 to 100 degC'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg')),
+  results = list(
+    enthalpy = returned()))
+specific_enthalpy <- function(dry_bulb, moisture_content, unchecked = FALSE)
+  run("specific_enthalpy", list(dry_bulb, moisture_content), unchecked)
+
+known$specific_enthalpy_from_psychrometer <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    enthalpy = returned()))
+specific_enthalpy_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
+    unchecked = FALSE)
+  run("specific_enthalpy_from_psychrometer", list(dry_bulb, wet_bulb, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$specific_volume <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    specific_volume = returned()))
+specific_volume <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE)
+  run("specific_volume", list(dry_bulb, moisture_content, pressure), unchecked)
+
+known$saturation_temperature_from_enthalpy <- list(
+  given = list(
+    enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    temperature = returned()))
+saturation_temperature_from_enthalpy <- function(enthalpy, pressure, unchecked = FALSE)
+  run("saturation_temperature_from_enthalpy", list(enthalpy, pressure), unchecked)
+
+known$pool_evaporation <- list(
+  given = list(
+    water_area = number(0, Inf, 'valid from 0 m2'),
+    wetted_area = number(0, Inf, 'valid from 0 m2'),
+    water_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    reference_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    bathers = number(0, Inf, 'valid from 0', whole = TRUE),
+    reference_coefficient = number(0, Inf, 'valid from 0 W/m2K'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    evaporation_rate = returned(),
+    latent_load = returned(),
+    convective_load = returned(),
+    reference_load = returned()))
+pool_evaporation <- function(water_area, wetted_area, water_temperature, dry_bulb, moisture_content,
+    reference_temperature, bathers, reference_coefficient, pressure, unchecked = FALSE)
+  run("pool_evaporation", list(water_area, wetted_area, water_temperature, dry_bulb, moisture_content,
+    reference_temperature, bathers, reference_coefficient, pressure), unchecked)
+
+known$pool_evaporation_from_wet_bulb <- list(
+  given = list(
+    water_area = number(0, Inf, 'valid from 0 m2'),
+    wetted_area = number(0, Inf, 'valid from 0 m2'),
+    water_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    reference_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    bathers = number(0, Inf, 'valid from 0', whole = TRUE),
+    reference_coefficient = number(0, Inf, 'valid from 0 W/m2K'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
+  results = list(
+    evaporation_rate = returned(),
+    latent_load = returned(),
+    convective_load = returned(),
+    reference_load = returned()))
+pool_evaporation_from_wet_bulb <- function(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb,
+    reference_temperature, bathers, reference_coefficient, pressure, unchecked = FALSE)
+  run("pool_evaporation_from_wet_bulb", list(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb,
+    reference_temperature, bathers, reference_coefficient, pressure), unchecked)
+
+known$saturation_pressure <- list(
+  given = list(
+    temperature = number(-100, 200, 'valid -100 to 200 degC')),
+  results = list(
+    saturation_pressure = returned()))
+saturation_pressure <- function(temperature, unchecked = FALSE)
+  run("saturation_pressure", list(temperature), unchecked)
+
+known$dew_point <- list(
+  given = list(
+    vapour_pressure = number(0, Inf, 'valid from 0 Pa')),
+  results = list(
+    dew_point = returned()))
+dew_point <- function(vapour_pressure, unchecked = FALSE)
+  run("dew_point", list(vapour_pressure), unchecked)
+
+known$vapour_pressure <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    relative_humidity = number(0, 100, 'valid 0 to 100 %')),
+  results = list(
+    vapour_pressure = returned()))
+vapour_pressure <- function(dry_bulb, relative_humidity, unchecked = FALSE)
+  run("vapour_pressure", list(dry_bulb, relative_humidity), unchecked)
+
+known$relative_humidity <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    vapour_pressure = number(0, Inf, 'valid from 0 Pa')),
+  results = list(
+    relative_humidity = returned()))
+relative_humidity <- function(dry_bulb, vapour_pressure, unchecked = FALSE)
+  run("relative_humidity", list(dry_bulb, vapour_pressure), unchecked)
+
+known$vapour_pressure_from_psychrometer <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    vapour_pressure = returned()))
+vapour_pressure_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
+    unchecked = FALSE)
+  run("vapour_pressure_from_psychrometer", list(dry_bulb, wet_bulb, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$weighted_temperature <- list(
+  given = list(
+    first_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    second_temperature = number(-100, 200, 'valid -100 to 200 degC')),
+  results = list(
+    temperature = returned()))
+weighted_temperature <- function(first_temperature, second_temperature, unchecked = FALSE)
+  run("weighted_temperature", list(first_temperature, second_temperature), unchecked)
+
+known$psychrometer_wet_bulb <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    relative_humidity = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    wet_bulb = returned()))
+psychrometer_wet_bulb <- function(dry_bulb, relative_humidity, pressure, psychrometer = c("sling", "screen"),
+    unchecked = FALSE)
+  run("psychrometer_wet_bulb", list(dry_bulb, relative_humidity, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$wet_bulb_from_percentage_saturation <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    wet_bulb = returned()))
+wet_bulb_from_percentage_saturation <- function(dry_bulb, percentage_saturation, pressure,
+    psychrometer = c("sling", "screen"), unchecked = FALSE)
+  run("wet_bulb_from_percentage_saturation", list(dry_bulb, percentage_saturation, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$wet_bulb_from_moisture_content <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    wet_bulb = returned()))
+wet_bulb_from_moisture_content <- function(dry_bulb, moisture_content, pressure, psychrometer = c("sling", "screen"),
+    unchecked = FALSE)
+  run("wet_bulb_from_moisture_content", list(dry_bulb, moisture_content, pressure,
+    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+
+known$wet_bulb <- list(
+  given = list(
+    dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
+    vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
+    pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
+    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+  results = list(
+    wet_bulb = returned()))
+wet_bulb <- function(dry_bulb, vapour_pressure, pressure, psychrometer = c("sling", "screen"), unchecked = FALSE)
+  run("wet_bulb", list(dry_bulb, vapour_pressure, pressure, if (missing(psychrometer)) "sling" else psychrometer),
+    unchecked)
+
+known$cyclic_response <- list(
+  given = list(
+    thickness = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    conductivity = number(0, Inf, 'valid from 0 W/mK', shape = c(NA)),
+    density = number(0, Inf, 'valid from 0 kg/m3', shape = c(NA)),
+    specific_heat = number(0, Inf, 'valid from 0 J/kgK', shape = c(NA)),
+    inside_resistance = number(0, Inf, 'valid from 0 m2K/W'),
+    outside_resistance = number(0, Inf, 'valid from 0 m2K/W'),
+    harmonic = number(0, Inf, 'valid from 0', whole = TRUE),
+    element_kind = number(1, 2, 'valid 1 ("between"), 2 ("partition")', whole = TRUE, choices = c(between = 1, partition = 2))),
+  results = list(
+    admittance = returned(),
+    admittance_lead = returned(),
+    decrement_factor = returned(),
+    decrement_lag = returned(),
+    surface_factor = returned(),
+    surface_factor_lag = returned(),
+    u_value = returned()))
+cyclic_response <- function(thickness, conductivity, density, specific_heat, inside_resistance, outside_resistance,
+    harmonic, element_kind = c("between", "partition"), unchecked = FALSE)
+  run("cyclic_response", list(thickness, conductivity, density, specific_heat, inside_resistance, outside_resistance,
+    harmonic, if (missing(element_kind)) "between" else element_kind), unchecked)
+
+known$vertical_cavity_resistance <- list(
+  given = list(
+    cavity_width = number(0.001, Inf, 'valid from 0.001 m')),
+  results = list(
+    cavity_resistance = returned()))
+vertical_cavity_resistance <- function(cavity_width, unchecked = FALSE)
+  run("vertical_cavity_resistance", list(cavity_width), unchecked)
+
+known$air_cavity_resistance <- list(
+  given = list(
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    cavity_width = number(0.001, Inf, 'valid from 0.001 m'),
+    emissivity_1 = number(0, 1, 'valid 0 to 1'),
+    emissivity_2 = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    cavity_resistance = returned()))
+air_cavity_resistance <- function(tilt, cavity_width, emissivity_1, emissivity_2, unchecked = FALSE)
+  run("air_cavity_resistance", list(tilt, cavity_width, emissivity_1, emissivity_2), unchecked)
+
+known$gas_cavity_resistance <- list(
+  given = list(
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    cavity_width = number(0.001, Inf, 'valid from 0.001 m'),
+    emissivity_1 = number(0, 1, 'valid 0 to 1'),
+    emissivity_2 = number(0, 1, 'valid 0 to 1'),
+    density = number(0, Inf, 'valid from 0 kg/m3'),
+    conductivity = number(0, Inf, 'valid from 0 W/mK'),
+    specific_heat = number(0, Inf, 'valid from 0 J/kgK'),
+    viscosity = number(0, Inf, 'valid from 0 Pa s')),
+  results = list(
+    cavity_resistance = returned()))
+gas_cavity_resistance <- function(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, specific_heat,
+    viscosity, unchecked = FALSE)
+  run("gas_cavity_resistance", list(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity,
+    specific_heat, viscosity), unchecked)
+
+known$total_vapour_resistance <- list(
+  given = list(
+    thickness = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    vapour_resistivity = number(0, Inf, 'valid from 0 GN s/(kg m)', shape = c(NA))),
+  results = list(
+    vapour_resistance = returned()))
+total_vapour_resistance <- function(thickness, vapour_resistivity, unchecked = FALSE)
+  run("total_vapour_resistance", list(thickness, vapour_resistivity), unchecked)
+
+known$condensation_profile <- list(
+  given = list(
+    thickness = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    conductivity = number(0, Inf, 'valid from 0 W/mK', shape = c(NA)),
+    vapour_resistivity = number(0, Inf, 'valid from 0 GN s/(kg m)', shape = c(NA)),
+    inside_resistance = number(0, Inf, 'valid from 0 m2K/W'),
+    outside_resistance = number(0, Inf, 'valid from 0 m2K/W'),
+    inside_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    outside_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    inside_humidity = number(0, 100, 'valid 0 to 100 %'),
+    outside_humidity = number(0, 100, 'valid 0 to 100 %')),
+  results = list(
+    interface_temperature = returned(shape = c(21)),
+    interface_vapour_pressure = returned(shape = c(21)),
+    interface_saturation_pressure = returned(shape = c(21))))
+condensation_profile <- function(thickness, conductivity, vapour_resistivity, inside_resistance, outside_resistance,
+    inside_temperature, outside_temperature, inside_humidity, outside_humidity, unchecked = FALSE)
+  run("condensation_profile", list(thickness, conductivity, vapour_resistivity, inside_resistance, outside_resistance,
+    inside_temperature, outside_temperature, inside_humidity, outside_humidity), unchecked)
+
+known$condenses_within_layer <- list(
+  given = list(
+    warm_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    cold_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    warm_vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
+    cold_vapour_pressure = number(0, Inf, 'valid from 0 Pa')),
+  results = list(
+    indicator = returned()))
+condenses_within_layer <- function(warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure,
+    unchecked = FALSE)
+  run("condenses_within_layer", list(warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure),
+    unchecked)
+
+known$element_property <- list(
+  given = list(
+    element_records = number(-Inf, Inf, 'valid is any number', shape = c(10, NA)),
+    record_number = number(1, Inf, 'valid from 1', whole = TRUE),
+    item = number(1, 72, 'valid 1 to 72', whole = TRUE)),
+  results = list(
+    property_value = returned()))
+element_property <- function(element_records, record_number, item, unchecked = FALSE)
+  run("element_property", list(element_records, record_number, item), unchecked)
+
+known$natural_convection_coefficient <- list(
+  given = list(
+    temperature_difference = number(-Inf, Inf, 'valid is any number'),
+    characteristic_length = number(0, Inf, 'valid from 0 m'),
+    heat_flow_direction = number(1, 3, 'valid 1 ("upward"), 2 ("horizontal"), 3 ("downward")', whole = TRUE, choices = c(upward = 1, horizontal = 2, downward = 3))),
+  results = list(
+    heat_transfer_coefficient = returned()))
+natural_convection_coefficient <- function(temperature_difference, characteristic_length,
+    heat_flow_direction = c("upward", "horizontal", "downward"), unchecked = FALSE)
+  run("natural_convection_coefficient", list(temperature_difference, characteristic_length,
+    if (missing(heat_flow_direction)) "upward" else heat_flow_direction), unchecked)
+
+known$pack_two_fractions <- list(
+  given = list(
+    packing = number(1, 2, 'valid 1 ("pack"), 2 ("unpack")', whole = TRUE, choices = c(pack = 1, unpack = 2)),
+    packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
+    fraction_1 = number(0, 0.99, 'valid 0 to 0.99'),
+    fraction_2 = number(0, 0.99, 'valid 0 to 0.99')),
+  results = list(
+    packed_number = returned(),
+    fraction_1 = returned(),
+    fraction_2 = returned()))
+pack_two_fractions <- function(packing = c("pack", "unpack"), packed_number, fraction_1, fraction_2, unchecked = FALSE)
+  run("pack_two_fractions", list(if (missing(packing)) "pack" else packing, packed_number, fraction_1, fraction_2),
+    unchecked)
+
+known$pack_three_fractions <- list(
+  given = list(
+    packing = number(1, 2, 'valid 1 ("pack"), 2 ("unpack")', whole = TRUE, choices = c(pack = 1, unpack = 2)),
+    packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
+    fraction_1 = number(0, 0.99, 'valid 0 to 0.99'),
+    fraction_2 = number(0, 0.99, 'valid 0 to 0.99'),
+    fraction_3 = number(0, 0.99, 'valid 0 to 0.99')),
+  results = list(
+    packed_number = returned(),
+    fraction_1 = returned(),
+    fraction_2 = returned(),
+    fraction_3 = returned()))
+pack_three_fractions <- function(packing = c("pack", "unpack"), packed_number, fraction_1, fraction_2, fraction_3,
+    unchecked = FALSE)
+  run("pack_three_fractions", list(if (missing(packing)) "pack" else packing, packed_number, fraction_1, fraction_2,
+    fraction_3), unchecked)
+
+known$pack_three_fractions_third_first <- list(
+  given = list(
+    packing = number(1, 2, 'valid 1 ("pack"), 2 ("unpack")', whole = TRUE, choices = c(pack = 1, unpack = 2)),
+    packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
+    fraction_3 = number(0, 0.99, 'valid 0 to 0.99'),
+    fraction_1 = number(0, 0.99, 'valid 0 to 0.99'),
+    fraction_2 = number(0, 0.99, 'valid 0 to 0.99')),
+  results = list(
+    packed_number = returned(),
+    fraction_3 = returned(),
+    fraction_1 = returned(),
+    fraction_2 = returned()))
+pack_three_fractions_third_first <- function(packing = c("pack", "unpack"), packed_number, fraction_3, fraction_1,
+    fraction_2, unchecked = FALSE)
+  run("pack_three_fractions_third_first", list(if (missing(packing)) "pack" else packing, packed_number, fraction_3,
+    fraction_1, fraction_2), unchecked)
+
+known$pack_pane <- list(
+  given = list(
+    packing = number(1, 2, 'valid 1 ("pack"), 2 ("unpack")', whole = TRUE, choices = c(pack = 1, unpack = 2)),
+    packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
+    absorptance = number(0, 1, 'valid 0 to 1'),
+    reflectance_1 = number(0, 1, 'valid 0 to 1'),
+    reflectance_2 = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    packed_number = returned(),
+    absorptance = returned(),
+    reflectance_1 = returned(),
+    reflectance_2 = returned()))
+pack_pane <- function(packing = c("pack", "unpack"), packed_number, absorptance, reflectance_1, reflectance_2,
+    unchecked = FALSE)
+  run("pack_pane", list(if (missing(packing)) "pack" else packing, packed_number, absorptance, reflectance_1,
+    reflectance_2), unchecked)
+
+known$surface_resistance <- list(
+  given = list(
+    surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside = 2)),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered = 1, normal = 2, severe = 3))),
+  results = list(
+    surface_resistance = returned()))
+surface_resistance <- function(surface = c("outside", "inside"), tilt, exposure = c("sheltered", "normal", "severe"),
+    unchecked = FALSE)
+  run("surface_resistance", list(if (missing(surface)) "outside" else surface, tilt,
+    if (missing(exposure)) "sheltered" else exposure), unchecked)
+
+known$surface_resistance_at_emissivity <- list(
+  given = list(
+    surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside = 2)),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered = 1, normal = 2, severe = 3)),
+    emissivity = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    surface_resistance = returned()))
+surface_resistance_at_emissivity <- function(surface = c("outside", "inside"), tilt,
+    exposure = c("sheltered", "normal", "severe"), emissivity, unchecked = FALSE)
+  run("surface_resistance_at_emissivity", list(if (missing(surface)) "outside" else surface, tilt,
+    if (missing(exposure)) "sheltered" else exposure, emissivity), unchecked)
+
+known$u_value <- list(
+  given = list(
+    thickness = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    conductivity = number(0, Inf, 'valid from 0 W/mK', shape = c(NA)),
+    surface_resistance_1 = number(0, Inf, 'valid from 0 m2K/W'),
+    surface_resistance_2 = number(0, Inf, 'valid from 0 m2K/W')),
+  results = list(
+    u_value = returned()))
+u_value <- function(thickness, conductivity, surface_resistance_1, surface_resistance_2, unchecked = FALSE)
+  run("u_value", list(thickness, conductivity, surface_resistance_1, surface_resistance_2), unchecked)
+
+known$u_value_at_tilt_and_exposure <- list(
+  given = list(
+    u_value = number(0, Inf, 'valid from 0 W/m2K'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered = 1, normal = 2, severe = 3))),
+  results = list(
+    u_value = returned()))
+u_value_at_tilt_and_exposure <- function(u_value, tilt, exposure = c("sheltered", "normal", "severe"),
+    unchecked = FALSE)
+  run("u_value_at_tilt_and_exposure", list(u_value, tilt, if (missing(exposure)) "sheltered" else exposure), unchecked)
+
+known$window_parameters <- list(
+  given = list(
+    panes = number(1, 3, 'valid 1 to 3', whole = TRUE),
+    pane_kind_1 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented = 2)),
+    emissivity_1 = number(0, 1, 'valid 0 to 1'),
+    pane_kind_2 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented = 2)),
+    emissivity_2 = number(0, 1, 'valid 0 to 1'),
+    pane_kind_3 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented = 2)),
+    emissivity_3 = number(0, 1, 'valid 0 to 1'),
+    cavity_width_1 = number(0.001, Inf, 'valid from 0.001 m'),
+    cavity_width_2 = number(0.001, Inf, 'valid from 0.001 m'),
+    outer_surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside = 2)),
+    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered = 1, normal = 2, severe = 3)),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad')),
+  results = list(
+    admittance = returned(),
+    admittance_lead = returned(),
+    decrement_factor = returned(),
+    decrement_lag = returned(),
+    surface_factor = returned(),
+    surface_factor_lag = returned(),
+    u_value = returned()))
+window_parameters <- function(panes, pane_kind_1 = c("closing", "vented"), emissivity_1,
+    pane_kind_2 = c("closing", "vented"), emissivity_2, pane_kind_3 = c("closing", "vented"), emissivity_3,
+    cavity_width_1, cavity_width_2, outer_surface = c("outside", "inside"),
+    exposure = c("sheltered", "normal", "severe"), tilt, unchecked = FALSE)
+  run("window_parameters", list(panes, if (missing(pane_kind_1)) "closing" else pane_kind_1, emissivity_1,
+    if (missing(pane_kind_2)) "closing" else pane_kind_2, emissivity_2,
+    if (missing(pane_kind_3)) "closing" else pane_kind_3, emissivity_3, cavity_width_1, cavity_width_2,
+    if (missing(outer_surface)) "outside" else outer_surface, if (missing(exposure)) "sheltered" else exposure, tilt),
+    unchecked)
+
+known$glass_direct <- list(
+  given = list(
+    normal_transmittance = number(0, 0.92, 'valid 0 to 0.92'),
+    normal_reflectance = number(0, 0.99, 'valid 0 to 0.99'),
+    incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad')),
+  results = list(
+    parallel_transmittance = returned(),
+    parallel_absorptance = returned(),
+    parallel_reflectance = returned(),
+    perpendicular_transmittance = returned(),
+    perpendicular_absorptance = returned(),
+    perpendicular_reflectance = returned()))
+glass_direct <- function(normal_transmittance, normal_reflectance, incidence, unchecked = FALSE)
+  run("glass_direct", list(normal_transmittance, normal_reflectance, incidence), unchecked)
+
+known$glass_diffuse <- list(
+  given = list(
+    normal_transmittance = number(0, 0.92, 'valid 0 to 0.92'),
+    normal_reflectance = number(0, 0.99, 'valid 0 to 0.99')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned()))
+glass_diffuse <- function(normal_transmittance, normal_reflectance, unchecked = FALSE)
+  run("glass_diffuse", list(normal_transmittance, normal_reflectance), unchecked)
+
+known$stacked_layers <- list(
+  given = list(
+    layer_transmittances = number(0, 1, 'valid 0 to 1', shape = c(NA)),
+    layer_reflectances = number(0, 1, 'valid 0 to 1', shape = c(NA))),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+stacked_layers <- function(layer_transmittances, layer_reflectances, unchecked = FALSE)
+  run("stacked_layers", list(layer_transmittances, layer_reflectances), unchecked)
+
+known$traced_layers <- list(
+  given = list(
+    layer_transmittances = number(0, 1, 'valid 0 to 1', shape = c(NA)),
+    layer_absorptances = number(0, 1, 'valid 0 to 1', shape = c(NA)),
+    layer_reflectances = number(0, 1, 'valid 0 to 1', shape = c(NA))),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+traced_layers <- function(layer_transmittances, layer_absorptances, layer_reflectances, unchecked = FALSE)
+  run("traced_layers", list(layer_transmittances, layer_absorptances, layer_reflectances), unchecked)
+
+known$roller_blind <- list(
+  given = list(
+    blind_transmittance = number(0, 1, 'valid 0 to 1'),
+    blind_reflectance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+roller_blind <- function(blind_transmittance, blind_reflectance, unchecked = FALSE)
+  run("roller_blind", list(blind_transmittance, blind_reflectance), unchecked)
+
+known$diffuse_roller_blind <- list(
+  given = list(
+    blind_transmittance = number(0, 1, 'valid 0 to 1'),
+    blind_reflectance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+diffuse_roller_blind <- function(blind_transmittance, blind_reflectance, unchecked = FALSE)
+  run("diffuse_roller_blind", list(blind_transmittance, blind_reflectance), unchecked)
+
+known$refraction_angle <- list(
+  given = list(
+    incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    refractive_index = number(1, 4, 'valid 1 to 4')),
+  results = list(
+    refraction_angle = returned()))
+refraction_angle <- function(incidence, refractive_index, unchecked = FALSE)
+  run("refraction_angle", list(incidence, refractive_index), unchecked)
+
+known$surface_reflectance <- list(
+  given = list(
+    incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    refraction_angle = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    refractive_index = number(1, 4, 'valid 1 to 4')),
+  results = list(
+    parallel_reflectance = returned(),
+    perpendicular_reflectance = returned()))
+surface_reflectance <- function(incidence, refraction_angle, refractive_index, unchecked = FALSE)
+  run("surface_reflectance", list(incidence, refraction_angle, refractive_index), unchecked)
+
+known$single_pass_absorption <- list(
+  given = list(
+    refraction_angle = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    absorption_product = number(0, 20, 'valid 0 to 20')),
+  results = list(
+    absorptance = returned()))
+single_pass_absorption <- function(refraction_angle, absorption_product, unchecked = FALSE)
+  run("single_pass_absorption", list(refraction_angle, absorption_product), unchecked)
+
+known$slab_optics <- list(
+  given = list(
+    single_pass_absorptance = number(0, 1, 'valid 0 to 1'),
+    face_reflectance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+slab_optics <- function(single_pass_absorptance, face_reflectance, unchecked = FALSE)
+  run("slab_optics", list(single_pass_absorptance, face_reflectance), unchecked)
+
+known$absorption_product <- list(
+  given = list(
+    normal_transmittance = number(0, 0.92, 'valid 0 to 0.92'),
+    refractive_index = number(1, 4, 'valid 1 to 4')),
+  results = list(
+    absorption_product = returned()))
+absorption_product <- function(normal_transmittance, refractive_index, unchecked = FALSE)
+  run("absorption_product", list(normal_transmittance, refractive_index), unchecked)
+
+known$normal_transmittance <- list(
+  given = list(
+    absorption_product = number(0, 20, 'valid 0 to 20'),
+    normal_reflectance = number(0, 0.99, 'valid 0 to 0.99')),
+  results = list(
+    normal_transmittance = returned()))
+normal_transmittance <- function(absorption_product, normal_reflectance, unchecked = FALSE)
+  run("normal_transmittance", list(absorption_product, normal_reflectance), unchecked)
+
+known$pane_temperatures <- list(
+  given = list(
+    inside_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    outside_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    panes = number(1, 5, 'valid 1 to 5', whole = TRUE),
+    absorbed_1 = number(0, Inf, 'valid from 0 W/m2'),
+    absorbed_2 = number(0, Inf, 'valid from 0 W/m2'),
+    absorbed_3 = number(0, Inf, 'valid from 0 W/m2'),
+    absorbed_4 = number(0, Inf, 'valid from 0 W/m2'),
+    absorbed_5 = number(0, Inf, 'valid from 0 W/m2')),
+  results = list(
+    pane_temperature_1 = returned(),
+    pane_temperature_2 = returned(),
+    pane_temperature_3 = returned(),
+    pane_temperature_4 = returned(),
+    pane_temperature_5 = returned()))
+pane_temperatures <- function(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, absorbed_3,
+    absorbed_4, absorbed_5, unchecked = FALSE)
+  run("pane_temperatures", list(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, absorbed_3,
+    absorbed_4, absorbed_5), unchecked)
+
+known$unit_direct <- list(
+  given = list(
+    shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
+    longwave_shading_coefficient = number(0, 1, 'valid 0 to 1'),
+    incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+unit_direct <- function(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, unchecked = FALSE)
+  run("unit_direct", list(shortwave_shading_coefficient, longwave_shading_coefficient, incidence), unchecked)
+
+known$unit_diffuse <- list(
+  given = list(
+    shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
+    longwave_shading_coefficient = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+unit_diffuse <- function(shortwave_shading_coefficient, longwave_shading_coefficient, unchecked = FALSE)
+  run("unit_diffuse", list(shortwave_shading_coefficient, longwave_shading_coefficient), unchecked)
+
+known$unit_direct_shares <- list(
+  given = list(
+    shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
+    longwave_shading_coefficient = number(0, 1, 'valid 0 to 1'),
+    incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    panes = number(1, 5, 'valid 1 to 5', whole = TRUE)),
+  results = list(
+    transmittance = returned(),
+    pane_shares = returned(shape = c(NA)),
+    absorptance = returned()))
+unit_direct_shares <- function(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes,
+    unchecked = FALSE)
+  run("unit_direct_shares", list(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes),
+    unchecked)
+
+known$unit_diffuse_shares <- list(
+  given = list(
+    shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
+    longwave_shading_coefficient = number(0, 1, 'valid 0 to 1'),
+    panes = number(1, 5, 'valid 1 to 5', whole = TRUE)),
+  results = list(
+    transmittance = returned(),
+    pane_shares = returned(shape = c(NA)),
+    absorptance = returned()))
+unit_diffuse_shares <- function(shortwave_shading_coefficient, longwave_shading_coefficient, panes, unchecked = FALSE)
+  run("unit_diffuse_shares", list(shortwave_shading_coefficient, longwave_shading_coefficient, panes), unchecked)
+
+known$unit_shares <- list(
+  given = list(
+    radiation = number(1, 2, 'valid 1 ("direct"), 2 ("diffuse")', whole = TRUE, choices = c(direct = 1, diffuse = 2)),
+    shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
+    longwave_shading_coefficient = number(0, 1, 'valid 0 to 1'),
+    incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    panes = number(1, 5, 'valid 1 to 5', whole = TRUE)),
+  results = list(
+    transmittance = returned(),
+    pane_shares = returned(shape = c(NA)),
+    absorptance = returned()))
+unit_shares <- function(radiation = c("direct", "diffuse"), shortwave_shading_coefficient, longwave_shading_coefficient,
+    incidence, panes, unchecked = FALSE)
+  run("unit_shares", list(if (missing(radiation)) "direct" else radiation, shortwave_shading_coefficient,
+    longwave_shading_coefficient, incidence, panes), unchecked)
+
+known$slat_direct <- list(
+  given = list(
+    slat_spacing = number(0, Inf, 'valid from 0 m'),
+    slat_width = number(0, Inf, 'valid from 0 m'),
+    slat_angle = number(-90, 90, 'valid -90 to 90 deg'),
+    profile_angle = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    slat_absorptance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, unchecked = FALSE)
+  run("slat_direct", list(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance), unchecked)
+
+known$two_faced_slat_direct <- list(
+  given = list(
+    slat_spacing = number(0, Inf, 'valid from 0 m'),
+    slat_width = number(0, Inf, 'valid from 0 m'),
+    slat_angle = number(-90, 90, 'valid -90 to 90 deg'),
+    profile_angle = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    struck_absorptance = number(0, 1, 'valid 0 to 1'),
+    opposite_absorptance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+two_faced_slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance,
+    opposite_absorptance, unchecked = FALSE)
+  run("two_faced_slat_direct", list(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance,
+    opposite_absorptance), unchecked)
+
+known$open_slat_direct <- list(
+  given = list(
+    slat_spacing = number(0, Inf, 'valid from 0 m'),
+    slat_width = number(0, Inf, 'valid from 0 m'),
+    slat_angle = number(-90, 90, 'valid -90 to 90 deg'),
+    profile_angle = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    open_share = number(0, 1, 'valid 0 to 1'),
+    struck_absorptance = number(0, 1, 'valid 0 to 1'),
+    opposite_absorptance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    transmittance = returned(),
+    absorptance = returned(),
+    reflectance = returned()))
+open_slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance,
+    opposite_absorptance, unchecked = FALSE)
+  run("open_slat_direct", list(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance,
+    opposite_absorptance), unchecked)
+
+known$slat_diffuse <- list(
+  given = list(
+    slat_spacing = number(0, Inf, 'valid from 0 m'),
+    slat_width = number(0, Inf, 'valid from 0 m'),
+    slat_angle = number(-90, 90, 'valid -90 to 90 deg'),
+    slat_absorptance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    sky_transmittance = returned(),
+    ground_transmittance = returned(),
+    sky_absorptance = returned(),
+    ground_absorptance = returned()))
+slat_diffuse <- function(slat_spacing, slat_width, slat_angle, slat_absorptance, unchecked = FALSE)
+  run("slat_diffuse", list(slat_spacing, slat_width, slat_angle, slat_absorptance), unchecked)
+
+known$two_faced_slat_diffuse <- list(
+  given = list(
+    slat_spacing = number(0, Inf, 'valid from 0 m'),
+    slat_width = number(0, Inf, 'valid from 0 m'),
+    slat_angle = number(-90, 90, 'valid -90 to 90 deg'),
+    struck_absorptance = number(0, 1, 'valid 0 to 1'),
+    opposite_absorptance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    sky_transmittance = returned(),
+    ground_transmittance = returned(),
+    sky_absorptance = returned(),
+    ground_absorptance = returned()))
+two_faced_slat_diffuse <- function(slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance,
+    unchecked = FALSE)
+  run("two_faced_slat_diffuse", list(slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance),
+    unchecked)
+
+known$open_slat_diffuse <- list(
+  given = list(
+    slat_spacing = number(0, Inf, 'valid from 0 m'),
+    slat_width = number(0, Inf, 'valid from 0 m'),
+    slat_angle = number(-90, 90, 'valid -90 to 90 deg'),
+    open_share = number(0, 1, 'valid 0 to 1'),
+    struck_absorptance = number(0, 1, 'valid 0 to 1'),
+    opposite_absorptance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    sky_transmittance = returned(),
+    ground_transmittance = returned(),
+    sky_absorptance = returned(),
+    ground_absorptance = returned()))
+open_slat_diffuse <- function(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance,
+    opposite_absorptance, unchecked = FALSE)
+  run("open_slat_diffuse", list(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance,
+    opposite_absorptance), unchecked)
+
+known$locate_band <- list(
+  given = list(
+    fraction = number(0, 1, 'valid 0 to 1'),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    frequencies = number(0, 1, 'valid 0 to 1', shape = c(12, 10))),
+  results = list(
+    lower_band = returned(),
+    upper_band = returned(),
+    band_weight = returned()))
+locate_band <- function(fraction, month, frequencies, unchecked = FALSE)
+  run("locate_band", list(fraction, month, frequencies), unchecked)
+
+known$band_climate <- list(
+  given = list(
+    band = number(0, 10, 'valid 0 to 10', whole = TRUE),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    band_set = number(1, 2, 'valid 1 ("first"), 2 ("second")', whole = TRUE, choices = c(first = 1, second = 2)),
+    percentage = number(0, 100, 'valid 0 to 100 %')),
+  results = list(
+    percentage = returned(),
+    q1 = returned(),
+    q2 = returned(),
+    q3 = returned(),
+    q4 = returned(),
+    q5 = returned(),
+    q6 = returned(),
+    time_a = returned(),
+    time_b = returned(),
+    q7 = returned(),
+    q8 = returned()))
+band_climate <- function(band, month, band_set = c("first", "second"), percentage, unchecked = FALSE)
+  run("band_climate", list(band, month, if (missing(band_set)) "first" else band_set, percentage), unchecked)
+
+known$interpolate_band_rows <- list(
+  given = list(
+    base_row = number(0, 174, 'valid 0 to 174', whole = TRUE),
+    lower_band = number(1, 10, 'valid 1 to 10', whole = TRUE),
+    upper_band = number(1, 10, 'valid 1 to 10', whole = TRUE),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    band_weight = number(-1, 1, 'valid -1 to 1')),
+  results = list(
+    value = returned()))
+interpolate_band_rows <- function(base_row, lower_band, upper_band, month, band_weight, unchecked = FALSE)
+  run("interpolate_band_rows", list(base_row, lower_band, upper_band, month, band_weight), unchecked)
+
+known$band_row <- list(
+  given = list(
+    row = number(1, 184, 'valid 1 to 184', whole = TRUE)),
+  results = list(
+    values = returned(shape = c(12))))
+band_row <- function(row, unchecked = FALSE)
+  run("band_row", list(row), unchecked)
+
+known$store_design_day <- list(
+  given = list(
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
+  results = list(
+    day = returned()))
+store_design_day <- function(month, unchecked = FALSE)
+  run("store_design_day", list(month), unchecked)
+
+known$store_design_day_by_option <- list(
+  given = list(
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
+  results = list(
+    day = returned()))
+store_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE)
+  run("store_design_day_by_option", list(month, if (missing(day_kind)) "of_month" else day_kind), unchecked)
+
+known$design_day <- list(
+  given = list(
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
+  results = list(
+    day = returned()))
+design_day <- function(month, unchecked = FALSE)
+  run("design_day", list(month), unchecked)
+
+known$design_day_by_option <- list(
+  given = list(
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
+  results = list(
+    day = returned()))
+design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE)
+  run("design_day_by_option", list(month, if (missing(day_kind)) "of_month" else day_kind), unchecked)
+
+known$second_design_day <- list(
+  given = list(
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
+  results = list(
+    day = returned()))
+second_design_day <- function(month, unchecked = FALSE)
+  run("second_design_day", list(month), unchecked)
+
+known$second_design_day_by_option <- list(
+  given = list(
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
+  results = list(
+    day = returned()))
+second_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE)
+  run("second_design_day_by_option", list(month, if (missing(day_kind)) "of_month" else day_kind), unchecked)
+
+known$station_records <- list(
+  given = list(
+    file_name = list(),
+    station = number(1, Inf, 'valid from 1', whole = TRUE),
+    month = number(0, 12, 'valid 0 to 12', whole = TRUE),
+    station_records = number(-Inf, Inf, 'valid is any number', shape = c(11, 12))),
+  results = list(
+    station_records = returned(shape = c(11, 12))))
+
+known$station_climate <- list(
+  given = list(
+    file_unit = number(31, 31, 'valid 31 ("opened_last")', whole = TRUE, choices = c(opened_last = 31)),
+    station = number(1, Inf, 'valid from 1', whole = TRUE),
+    band = number(0, 10, 'valid 0 to 10', whole = TRUE),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    band_set = number(1, 2, 'valid 1 ("first"), 2 ("second")', whole = TRUE, choices = c(first = 1, second = 2)),
+    percentage = number(0, 100, 'valid 0 to 100 %')),
+  results = list(
+    q1 = returned(),
+    q2 = returned(),
+    q3 = returned(),
+    q4 = returned(),
+    q5 = returned(),
+    q6 = returned(),
+    q7 = returned(),
+    time_a = returned(),
+    time_b = returned()))
+
+known$locate_station_band <- list(
+  given = list(
+    fraction = number(0, 1, 'valid 0 to 1'),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
+  results = list(
+    lower_band = returned(),
+    upper_band = returned(),
+    band_weight = returned()))
+
+known$interpolate_station_rows <- list(
+  given = list(
+    base_row = number(2, 154, 'valid 2 to 154', whole = TRUE),
+    lower_band = number(1, 10, 'valid 1 to 10', whole = TRUE),
+    upper_band = number(1, 10, 'valid 1 to 10', whole = TRUE),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    band_weight = number(-1, 1, 'valid -1 to 1')),
+  results = list(
+    value = returned()))
+
+known$station_row <- list(
+  given = list(
+    row = number(1, 171, 'valid 1 to 171', whole = TRUE)),
+  results = list(
+    values = returned(shape = c(12))))
+
+known$daily_temperature <- list(
+  given = list(
+    hour = number(0, 24, 'valid 0 to 24 h'),
+    highest_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    lowest_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    hour_of_highest = number(0, 24, 'valid 0 to 24 h'),
+    hour_of_lowest = number(0, 24, 'valid 0 to 24 h')),
+  results = list(
+    temperature = returned()))
+daily_temperature <- function(hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest,
+    unchecked = FALSE)
+  run("daily_temperature", list(hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest),
+    unchecked)
+
+known$daily_value <- list(
+  given = list(
+    hour = number(0, 24, 'valid 0 to 24 h'),
+    mean = number(-Inf, Inf, 'valid is any number'),
+    amplitude = number(-Inf, Inf, 'valid is any number'),
+    first_hour = number(0, 24, 'valid 0 to 24 h'),
+    second_hour = number(0, 24, 'valid 0 to 24 h'),
+    amplitude_factor = number(-Inf, Inf, 'valid is any number')),
+  results = list(
+    value = returned()))
+daily_value <- function(hour, mean, amplitude, first_hour, second_hour, amplitude_factor, unchecked = FALSE)
+  run("daily_value", list(hour, mean, amplitude, first_hour, second_hour, amplitude_factor), unchecked)
+
+known$design_irradiance <- list(
+  given = list(
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
+    site_height = number(0, 4000, 'valid 0 to 4000 m'),
+    sky_kind = number(0, 1, 'valid 0 ("clear"), 1 ("cloudy")', whole = TRUE, choices = c(clear = 0, cloudy = 1))),
+  results = list(
+    direct_normal = returned(),
+    diffuse_horizontal = returned()))
+design_irradiance <- function(solar_altitude, site_height, sky_kind = c("clear", "cloudy"), unchecked = FALSE)
+  run("design_irradiance", list(solar_altitude, site_height, if (missing(sky_kind)) "clear" else sky_kind), unchecked)
+
+known$height_factor <- list(
+  given = list(
+    site_height = number(0, 4000, 'valid 0 to 4000 m'),
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad')),
+  results = list(
+    factor = returned()))
+height_factor <- function(site_height, solar_altitude, unchecked = FALSE)
+  run("height_factor", list(site_height, solar_altitude), unchecked)
+
+known$eccentricity_factor <- list(
+  given = list(
+    day = number(1, 366, 'valid 1 to 366', whole = TRUE)),
+  results = list(
+    factor = returned()))
+eccentricity_factor <- function(day, unchecked = FALSE)
+  run("eccentricity_factor", list(day), unchecked)
+
+known$clearness_index <- list(
+  given = list(
+    day = number(1, 366, 'valid 1 to 366', whole = TRUE),
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
+    global_horizontal = number(0, Inf, 'valid from 0 W/m2')),
+  results = list(
+    clearness_index = returned()))
+clearness_index <- function(day, solar_altitude, global_horizontal, unchecked = FALSE)
+  run("clearness_index", list(day, solar_altitude, global_horizontal), unchecked)
+
+known$muneer_slope <- list(
+  given = list(
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
+    solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    surface_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    beam_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    diffuse_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    extraterrestrial_horizontal = number(0, 1415, 'valid 0 to 1415 W/m2'),
+    ground_reflectance = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    surface_beam = returned(),
+    surface_diffuse = returned(),
+    ground_reflected = returned(),
+    incidence = returned()))
+muneer_slope <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, diffuse_horizontal,
+    extraterrestrial_horizontal, ground_reflectance, unchecked = FALSE)
+  run("muneer_slope", list(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, diffuse_horizontal,
+    extraterrestrial_horizontal, ground_reflectance), unchecked)
+
+known$perez_diffuse <- list(
+  given = list(
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    beam_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    diffuse_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    incidence = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    extraterrestrial_normal = number(1320, 1415, 'valid 1320 to 1415 W/m2')),
+  results = list(
+    surface_diffuse = returned()))
+perez_diffuse <- function(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, extraterrestrial_normal,
+    unchecked = FALSE)
+  run("perez_diffuse", list(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence,
+    extraterrestrial_normal), unchecked)
+
+known$site_constants <- list(
+  given = list(
+    site_class = number(1, 6, 'valid 1 to 6', whole = TRUE),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
+  results = list(
+    ground_reflectance = returned(),
+    beam_factor = returned(),
+    diffuse_factor = returned(),
+    alternative_diffuse_factor = returned()))
+site_constants <- function(site_class, month, unchecked = FALSE)
+  run("site_constants", list(site_class, month), unchecked)
+
+known$diffuse_tilt_factor <- list(
+  given = list(
+    day = number(1, 366, 'valid 1 to 366', whole = TRUE),
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
+    beam_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    sky_model = number(0, 2, 'valid 0 ("radiance_index"), 1 ("northern_europe"), 2 ("southern_europe")', whole = TRUE, choices = c(radiance_index = 0, northern_europe = 1, southern_europe = 2))),
+  results = list(
+    factor = returned()))
+diffuse_tilt_factor <- function(day, solar_altitude, beam_horizontal, tilt,
+    sky_model = c("radiance_index", "northern_europe", "southern_europe"), unchecked = FALSE)
+  run("diffuse_tilt_factor", list(day, solar_altitude, beam_horizontal, tilt,
+    if (missing(sky_model)) "radiance_index" else sky_model), unchecked)
+
+known$slope_diffuse <- list(
+  given = list(
+    day = number(1, 366, 'valid 1 to 366', whole = TRUE),
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
+    solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    surface_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    beam_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    diffuse_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    sky_model = number(0, 2, 'valid 0 ("radiance_index"), 1 ("northern_europe"), 2 ("southern_europe")', whole = TRUE, choices = c(radiance_index = 0, northern_europe = 1, southern_europe = 2))),
+  results = list(
+    surface_diffuse = returned()))
+slope_diffuse <- function(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal,
+    diffuse_horizontal, sky_model = c("radiance_index", "northern_europe", "southern_europe"), unchecked = FALSE)
+  run("slope_diffuse", list(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal,
+    diffuse_horizontal, if (missing(sky_model)) "radiance_index" else sky_model), unchecked)
+
+known$sol_air_temperature <- list(
+  given = list(
+    base_temperature = number(-100, 200, 'valid -100 to 200 degC'),
+    surface_coefficient = number(0, Inf, 'valid from 0 W/m2K'),
+    absorptance = number(0, 1, 'valid 0 to 1'),
+    irradiance = number(0, Inf, 'valid from 0 W/m2'),
+    long_wave_loss = number(0, Inf, 'valid from 0 W/m2')),
+  results = list(
+    temperature = returned()))
+sol_air_temperature <- function(base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss,
+    unchecked = FALSE)
+  run("sol_air_temperature", list(base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss),
+    unchecked)
+
+known$long_wave_loss <- list(
+  given = list(
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    cloud_cover = number(0, 1, 'valid 0 to 1')),
+  results = list(
+    long_wave_loss = returned()))
+long_wave_loss <- function(tilt, cloud_cover, unchecked = FALSE)
+  run("long_wave_loss", list(tilt, cloud_cover), unchecked)
+
+known$solar_time_correction <- list(
+  given = list(
+    clock_offset = number(-Inf, Inf, 'valid is any number'),
+    day = number(1, 366, 'valid 1 to 366', whole = TRUE),
+    longitude = number(-3.1416, 3.1416, 'valid -3.1416 to 3.1416 rad'),
+    reference_longitude = number(-3.1416, 3.1416, 'valid -3.1416 to 3.1416 rad')),
+  results = list(
+    time_shift = returned()))
+solar_time_correction <- function(clock_offset, day, longitude, reference_longitude, unchecked = FALSE)
+  run("solar_time_correction", list(clock_offset, day, longitude, reference_longitude), unchecked)
+
+known$almanac_position <- list(
+  given = list(
+    time_kind = number(1, 3, 'valid 1 ("solar"), 2 ("zone"), 3 ("dated_solar")', whole = TRUE, choices = c(solar = 1, zone = 2, dated_solar = 3)),
+    year = number(1976, 2099, 'valid 1976 to 2099', whole = TRUE),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    day_of_month = number(1, 31, 'valid 1 to 31', whole = TRUE),
+    clock_time = number(0, 24, 'valid 0 to 24 h'),
+    latitude = number(-1.5707964, 1.5707964, 'valid -1.5707964 to 1.5707964 rad'),
+    longitude = number(-3.1416, 3.1416, 'valid -3.1416 to 3.1416 rad'),
+    zone_meridian = number(-3.1416, 3.1416, 'valid -3.1416 to 3.1416 rad')),
+  results = list(
+    longitude = returned(),
+    zone_meridian = returned(),
+    solar_altitude = returned(),
+    solar_azimuth = returned(),
+    declination = returned()))
+almanac_position <- function(time_kind = c("solar", "zone", "dated_solar"), year, month, day_of_month, clock_time,
+    latitude, longitude, zone_meridian, unchecked = FALSE)
+  run("almanac_position", list(if (missing(time_kind)) "solar" else time_kind, year, month, day_of_month, clock_time,
+    latitude, longitude, zone_meridian), unchecked)
+
+known$almanac_sun_hours <- list(
+  given = list(
+    year = number(1976, 2099, 'valid 1976 to 2099', whole = TRUE),
+    month = number(1, 12, 'valid 1 to 12', whole = TRUE),
+    day_of_month = number(1, 31, 'valid 1 to 31', whole = TRUE),
+    latitude = number(-1.5707964, 1.5707964, 'valid -1.5707964 to 1.5707964 rad')),
+  results = list(
+    sunrise = returned(),
+    sunset = returned()))
+almanac_sun_hours <- function(year, month, day_of_month, latitude, unchecked = FALSE)
+  run("almanac_sun_hours", list(year, month, day_of_month, latitude), unchecked)
+
+known$solar_geometry <- list(
+  given = list(
+    latitude = number(-1.5707964, 1.5707964, 'valid -1.5707964 to 1.5707964 rad'),
+    day = number(1, 365, 'valid 1 to 365', whole = TRUE),
+    solar_time = number(0, 24, 'valid 0 to 24 h')),
+  results = list(
+    declination = returned(),
+    solar_altitude = returned(),
+    solar_azimuth = returned(),
+    sunrise = returned(),
+    sunset = returned()))
+solar_geometry <- function(latitude, day, solar_time, unchecked = FALSE)
+  run("solar_geometry", list(latitude, day, solar_time), unchecked)
+
+known$surface_angles <- list(
+  given = list(
+    solar_altitude = number(-1.5707964, 1.5707964, 'valid -1.5707964 to 1.5707964 rad'),
+    solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    surface_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad')),
+  results = list(
+    incidence = returned(),
+    vertical_shadow_angle = returned(),
+    horizontal_shadow_angle = returned()))
+surface_angles <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, unchecked = FALSE)
+  run("surface_angles", list(solar_altitude, solar_azimuth, surface_azimuth, tilt), unchecked)
+
+known$surface_irradiance <- list(
+  given = list(
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
+    solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    surface_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    direct_normal = number(0, Inf, 'valid from 0 W/m2'),
+    diffuse_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    ground_reflectance = number(0, 1, 'valid 0 to 1'),
+    beam_factor = number(0, Inf, 'valid from 0'),
+    diffuse_factor = number(0, Inf, 'valid from 0')),
+  results = list(
+    surface_beam = returned(),
+    surface_diffuse = returned(),
+    ground_reflected = returned()))
+surface_irradiance <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal,
+    ground_reflectance, beam_factor, diffuse_factor, unchecked = FALSE)
+  run("surface_irradiance", list(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal,
+    diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor), unchecked)
+
+known$surface_irradiance_and_incidence <- list(
+  given = list(
+    solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
+    solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    surface_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
+    direct_normal = number(0, Inf, 'valid from 0 W/m2'),
+    diffuse_horizontal = number(0, Inf, 'valid from 0 W/m2'),
+    ground_reflectance = number(0, 1, 'valid 0 to 1'),
+    beam_factor = number(0, Inf, 'valid from 0'),
+    diffuse_factor = number(0, Inf, 'valid from 0')),
+  results = list(
+    surface_beam = returned(),
+    surface_diffuse = returned(),
+    ground_reflected = returned(),
+    incidence = returned()))
+surface_irradiance_and_incidence <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal,
+    diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, unchecked = FALSE)
+  run("surface_irradiance_and_incidence", list(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal,
+    diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor), unchecked)
+
+known$clip <- list(
+  given = list(
+    x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    positions_a = number(1, Inf, 'valid from 1', whole = TRUE, shape = c(NA)),
+    positions_b = number(1, Inf, 'valid from 1', whole = TRUE, shape = c(NA)),
+    crossing_capacity = number(0, 1024, 'valid 0 to 1024', whole = TRUE),
+    difference_capacity = number(0, Inf, 'valid from 0', whole = TRUE),
+    overlap_capacity = number(0, Inf, 'valid from 0', whole = TRUE),
+    used_points = number(1, Inf, 'valid from 1', whole = TRUE)),
+  results = list(
+    x = returned(shape = c(NA)),
+    y = returned(shape = c(NA)),
+    used_points = returned(),
+    difference_pieces = returned(shape = c(NA)),
+    overlap_pieces = returned(shape = c(NA)),
+    status = returned()))
+
+known$overlap <- list(
+  given = list(
+    x_1 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y_1 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    x_2 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y_2 = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
+  results = list(
+    piece_x = returned(shape = c(25, 5)),
+    piece_y = returned(shape = c(25, 5)),
+    piece_vertices = returned(shape = c(5)),
+    area = returned()))
+overlap <- function(x_1, y_1, x_2, y_2, unchecked = FALSE)
+  run("overlap", list(x_1, y_1, x_2, y_2), unchecked)
+
+known$overlap_alias <- list(
+  given = list(
+    x_1 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y_1 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    x_2 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y_2 = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
+  results = list(
+    piece_x = returned(shape = c(25, 5)),
+    piece_y = returned(shape = c(25, 5)),
+    piece_vertices = returned(shape = c(5)),
+    area = returned()))
+overlap_alias <- function(x_1, y_1, x_2, y_2, unchecked = FALSE)
+  run("overlap_alias", list(x_1, y_1, x_2, y_2), unchecked)
+
+known$collinearity <- list(
+  given = list(
+    x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
+  results = list(
+    code = returned()))
+collinearity <- function(x, y, unchecked = FALSE)
+  run("collinearity", list(x, y), unchecked)
+
+known$count_enclosed <- list(
+  given = list(
+    x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    point_x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    point_y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    enclosed = number(0, 1, 'valid 0 ("outside"), 1 ("inside")', whole = TRUE, choices = c(outside = 0, inside = 1), shape = c(NA))),
+  results = list(
+    enclosed = returned(shape = c(NA)),
+    enclosed_points = returned()))
+count_enclosed <- function(x, y, point_x, point_y, enclosed, unchecked = FALSE)
+  run("count_enclosed", list(x, y, point_x, point_y, enclosed), unchecked)
+
+known$boundary_crossing <- list(
+  given = list(
+    segment_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    segment_end = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
+  results = list(
+    crossing_point = returned(shape = c(2)),
+    crossing_code = returned()))
+boundary_crossing <- function(segment_start, segment_end, x, y, unchecked = FALSE)
+  run("boundary_crossing", list(segment_start, segment_end, x, y), unchecked)
+
+known$inside <- list(
+  given = list(
+    point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    polygon = number(-Inf, Inf, 'valid is any number', shape = c(3, NA))),
+  results = list(
+    inside = returned()))
+inside <- function(point, polygon, unchecked = FALSE)
+  run("inside", list(point, polygon), unchecked)
+
+known$parallel_planes <- list(
+  given = list(
+    triangle_1 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3)),
+    triangle_2 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3))),
+  results = list(
+    truth = returned(logical = TRUE)))
+parallel_planes <- function(triangle_1, triangle_2, unchecked = FALSE)
+  run("parallel_planes", list(triangle_1, triangle_2), unchecked)
+
+known$parallel_sides <- list(
+  given = list(
+    triangle_1 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3)),
+    triangle_2 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3))),
+  results = list(
+    truth = returned(logical = TRUE),
+    side_1 = returned(),
+    side_2 = returned()))
+parallel_sides <- function(triangle_1, triangle_2, unchecked = FALSE)
+  run("parallel_sides", list(triangle_1, triangle_2), unchecked)
+
+known$rectangular <- list(
+  given = list(
+    quadrilateral = number(-Inf, Inf, 'valid is any number', shape = c(3, 4))),
+  results = list(
+    truth = returned(logical = TRUE)))
+rectangular <- function(quadrilateral, unchecked = FALSE)
+  run("rectangular", list(quadrilateral), unchecked)
+
+known$facing <- list(
+  given = list(
+    triangle = number(-Inf, Inf, 'valid is any number', shape = c(3, 3)),
+    azimuth = number(0, 6.2832, 'valid 0 to 6.2832 deg')),
+  results = list(
+    azimuth = returned(),
+    tilt = returned()))
+facing <- function(triangle, azimuth, unchecked = FALSE)
+  run("facing", list(triangle, azimuth), unchecked)
+
+known$local_coordinates <- list(
+  given = list(
+    quadrilateral_1 = number(-Inf, Inf, 'valid is any number', shape = c(3, 4)),
+    quadrilateral_2 = number(-Inf, Inf, 'valid is any number', shape = c(3, 4))),
+  results = list(
+    local_1 = returned(shape = c(3, 4)),
+    local_2 = returned(shape = c(3, 4))))
+local_coordinates <- function(quadrilateral_1, quadrilateral_2, unchecked = FALSE)
+  run("local_coordinates", list(quadrilateral_1, quadrilateral_2), unchecked)
+
+known$to_local <- list(
+  given = list(
+    corners = number(-Inf, Inf, 'valid is any number', shape = c(3, 4)),
+    x_axis = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    y_axis = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    z_axis = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    corners = returned(shape = c(3, 4))))
+to_local <- function(corners, x_axis, y_axis, z_axis, unchecked = FALSE)
+  run("to_local", list(corners, x_axis, y_axis, z_axis), unchecked)
+
+known$meeting_point <- list(
+  given = list(
+    line_1_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    line_1_end = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    line_2_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    line_2_end = number(-Inf, Inf, 'valid is any number', shape = c(2))),
+  results = list(
+    meeting_point = returned(shape = c(2))))
+meeting_point <- function(line_1_start, line_1_end, line_2_start, line_2_end, unchecked = FALSE)
+  run("meeting_point", list(line_1_start, line_1_end, line_2_start, line_2_end), unchecked)
+
+known$crossing_point <- list(
+  given = list(
+    segment_1_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    segment_1_end = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    segment_2_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    segment_2_end = number(-Inf, Inf, 'valid is any number', shape = c(2))),
+  results = list(
+    crossing_point = returned(shape = c(2))))
+crossing_point <- function(segment_1_start, segment_1_end, segment_2_start, segment_2_end, unchecked = FALSE)
+  run("crossing_point", list(segment_1_start, segment_1_end, segment_2_start, segment_2_end), unchecked)
+
+known$in_span <- list(
+  given = list(
+    first_end = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    second_end = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    point = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    indicator = returned()))
+in_span <- function(first_end, second_end, point, unchecked = FALSE)
+  run("in_span", list(first_end, second_end, point), unchecked)
+
+known$ahead_and_nearer <- list(
+  given = list(
+    first_end = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    second_end = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    point = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    indicator = returned()))
+ahead_and_nearer <- function(first_end, second_end, point, unchecked = FALSE)
+  run("ahead_and_nearer", list(first_end, second_end, point), unchecked)
+
+known$coincide <- list(
+  given = list(
+    x_1 = number(-Inf, Inf, 'valid is any number'),
+    y_1 = number(-Inf, Inf, 'valid is any number'),
+    x_2 = number(-Inf, Inf, 'valid is any number'),
+    y_2 = number(-Inf, Inf, 'valid is any number')),
+  results = list(
+    truth = returned(logical = TRUE)))
+coincide <- function(x_1, y_1, x_2, y_2, unchecked = FALSE)
+  run("coincide", list(x_1, y_1, x_2, y_2), unchecked)
+
+known$side_of_line <- list(
+  given = list(
+    line_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    line_end = number(-Inf, Inf, 'valid is any number', shape = c(2)),
+    point = number(-Inf, Inf, 'valid is any number', shape = c(2))),
+  results = list(
+    code = returned()))
+side_of_line <- function(line_start, line_end, point, unchecked = FALSE)
+  run("side_of_line", list(line_start, line_end, point), unchecked)
+
+known$back_azimuth <- list(
+  given = list(
+    angle = number(0, 360, 'valid 0 to 360 deg')),
+  results = list(
+    azimuth = returned()))
+back_azimuth <- function(angle, unchecked = FALSE)
+  run("back_azimuth", list(angle), unchecked)
+
+known$direction_to <- list(
+  given = list(
+    solar_altitude = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
+    solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad')),
+  results = list(
+    direction = returned(shape = c(3))))
+direction_to <- function(solar_altitude, solar_azimuth, unchecked = FALSE)
+  run("direction_to", list(solar_altitude, solar_azimuth), unchecked)
+
+known$surface_axes <- list(
+  given = list(
+    surface_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
+    tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad')),
+  results = list(
+    rotation_matrix = returned(shape = c(3, 3)),
+    inverse_matrix = returned(shape = c(3, 3))))
+surface_axes <- function(surface_azimuth, tilt, unchecked = FALSE)
+  run("surface_axes", list(surface_azimuth, tilt), unchecked)
+
+known$local_to_global <- list(
+  given = list(
+    local_vector = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    rotation_matrix = number(-1, 1, 'valid -1 to 1', shape = c(3, 3))),
+  results = list(
+    global_vector = returned(shape = c(3))))
+local_to_global <- function(local_vector, rotation_matrix, unchecked = FALSE)
+  run("local_to_global", list(local_vector, rotation_matrix), unchecked)
+
+known$global_to_local <- list(
+  given = list(
+    global_vector = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    rotation_matrix = number(-1, 1, 'valid -1 to 1', shape = c(3, 3))),
+  results = list(
+    local_vector = returned(shape = c(3))))
+global_to_local <- function(global_vector, rotation_matrix, unchecked = FALSE)
+  run("global_to_local", list(global_vector, rotation_matrix), unchecked)
+
+known$plan_area <- list(
+  given = list(
+    x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
+  results = list(
+    area = returned()))
+plan_area <- function(x, y, unchecked = FALSE)
+  run("plan_area", list(x, y), unchecked)
+
+known$signed_plan_area <- list(
+  given = list(
+    x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
+  results = list(
+    area = returned()))
+signed_plan_area <- function(x, y, unchecked = FALSE)
+  run("signed_plan_area", list(x, y), unchecked)
+
+known$area_in_space <- list(
+  given = list(
+    x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
+    z = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
+  results = list(
+    area = returned()))
+area_in_space <- function(x, y, z, unchecked = FALSE)
+  run("area_in_space", list(x, y, z), unchecked)
+
+known$polygon_orientation <- list(
+  given = list(
+    polygon = number(-Inf, Inf, 'valid is any number', shape = c(3, NA))),
+  results = list(
+    area = returned(),
+    tilt = returned(),
+    back_azimuth = returned()))
+polygon_orientation <- function(polygon, unchecked = FALSE)
+  run("polygon_orientation", list(polygon), unchecked)
+
+known$projection <- list(
+  given = list(
+    plane_point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    plane_normal = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    direction = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    projected_point = returned(shape = c(3))))
+projection <- function(plane_point, plane_normal, point, direction, unchecked = FALSE)
+  run("projection", list(plane_point, plane_normal, point, direction), unchecked)
+
+known$forward_projection <- list(
+  given = list(
+    plane_point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    plane_normal = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    direction = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    projected_point = returned(shape = c(3))))
+forward_projection <- function(plane_point, plane_normal, point, direction, unchecked = FALSE)
+  run("forward_projection", list(plane_point, plane_normal, point, direction), unchecked)
+
+known$forward_projection_or_start <- list(
+  given = list(
+    plane_point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    plane_normal = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    direction = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    projected_point = returned(shape = c(3))))
+forward_projection_or_start <- function(plane_point, plane_normal, point, direction, unchecked = FALSE)
+  run("forward_projection_or_start", list(plane_point, plane_normal, point, direction), unchecked)
+
+known$dot_product <- list(
+  given = list(
+    vector_a = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    dot_product = returned()))
+dot_product <- function(vector_a, vector_b, unchecked = FALSE)
+  run("dot_product", list(vector_a, vector_b), unchecked)
+
+known$dot_product_in_double <- list(
+  given = list(
+    vector_a = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    dot_product = returned()))
+dot_product_in_double <- function(vector_a, vector_b, unchecked = FALSE)
+  run("dot_product_in_double", list(vector_a, vector_b), unchecked)
+
+known$cross_product <- list(
+  given = list(
+    vector_a = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    cross_product = returned(shape = c(3))))
+cross_product <- function(vector_a, vector_b, unchecked = FALSE)
+  run("cross_product", list(vector_a, vector_b), unchecked)
+
+known$cross_product_in_double <- list(
+  given = list(
+    vector_a = number(-Inf, Inf, 'valid is any number', shape = c(3)),
+    vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    cross_product = returned(shape = c(3))))
+cross_product_in_double <- function(vector_a, vector_b, unchecked = FALSE)
+  run("cross_product_in_double", list(vector_a, vector_b), unchecked)
+
+known$length <- list(
+  given = list(
+    vector = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    length = returned()))
+vector_length <- function(vector, unchecked = FALSE)
+  run("length", list(vector), unchecked)
+
+known$length_in_double <- list(
+  given = list(
+    vector = number(-Inf, Inf, 'valid is any number', shape = c(3))),
+  results = list(
+    length = returned()))
+length_in_double <- function(vector, unchecked = FALSE)
+  run("length_in_double", list(vector), unchecked)
