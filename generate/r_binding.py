@@ -103,9 +103,9 @@ def _filled(start, parts, end):
 
 
 def _function(call):
-    head = _filled(f"{function_name(call)} <- function(", formals(call), ")")
-    body = _filled(f'  run("{call.name}", list(', map(_passed, call.parameters), "), unchecked)")
-    return f"{head}\n{body}\n"
+    head = _filled(f"{function_name(call)} <- function(", formals(call), ") {")
+    given = _filled("  given <- list(", map(_passed, call.parameters), ")")  # here, so that R tells of whose is missing
+    return f'{head}\n{given}\n  run("{call.name}", given, unchecked)\n}}\n'
 
 
 def _routines(calls):

@@ -7,40 +7,50 @@ known$dry_air_enthalpy <- list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
     enthalpy = returned()))
-dry_air_enthalpy <- function(temperature, unchecked = FALSE)
-  run("dry_air_enthalpy", list(temperature), unchecked)
+dry_air_enthalpy <- function(temperature, unchecked = FALSE) {
+  given <- list(temperature)
+  run("dry_air_enthalpy", given, unchecked)
+}
 
 known$water_vapour_enthalpy <- list(
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
     enthalpy = returned()))
-water_vapour_enthalpy <- function(temperature, unchecked = FALSE)
-  run("water_vapour_enthalpy", list(temperature), unchecked)
+water_vapour_enthalpy <- function(temperature, unchecked = FALSE) {
+  given <- list(temperature)
+  run("water_vapour_enthalpy", given, unchecked)
+}
 
 known$dry_air_specific_heat <- list(
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
     specific_heat = returned()))
-dry_air_specific_heat <- function(temperature, unchecked = FALSE)
-  run("dry_air_specific_heat", list(temperature), unchecked)
+dry_air_specific_heat <- function(temperature, unchecked = FALSE) {
+  given <- list(temperature)
+  run("dry_air_specific_heat", given, unchecked)
+}
 
 known$water_vapour_specific_heat <- list(
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
     specific_heat = returned()))
-water_vapour_specific_heat <- function(temperature, unchecked = FALSE)
-  run("water_vapour_specific_heat", list(temperature), unchecked)
+water_vapour_specific_heat <- function(temperature, unchecked = FALSE) {
+  given <- list(temperature)
+  run("water_vapour_specific_heat", given, unchecked)
+}
 
 known$latent_heat <- list(
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
     enthalpy = returned()))
-latent_heat <- function(temperature, unchecked = FALSE)
-  run("latent_heat", list(temperature), unchecked)
+latent_heat <- function(temperature, unchecked = FALSE) {
+  given <- list(temperature)
+  run("latent_heat", given, unchecked)
+}
 
 known$dry_bulb_from_vapour_pressure_and_relative_humidity <- list(
   given = list(
@@ -48,8 +58,10 @@ known$dry_bulb_from_vapour_pressure_and_relative_humidity <- list(
     relative_humidity = number(0, 100, 'valid 0 to 100 %')),
   results = list(
     dry_bulb = returned()))
-dry_bulb_from_vapour_pressure_and_relative_humidity <- function(vapour_pressure, relative_humidity, unchecked = FALSE)
-  run("dry_bulb_from_vapour_pressure_and_relative_humidity", list(vapour_pressure, relative_humidity), unchecked)
+dry_bulb_from_vapour_pressure_and_relative_humidity <- function(vapour_pressure, relative_humidity, unchecked = FALSE) {
+  given <- list(vapour_pressure, relative_humidity)
+  run("dry_bulb_from_vapour_pressure_and_relative_humidity", given, unchecked)
+}
 
 known$dry_bulb_from_vapour_pressure_and_percentage_saturation <- list(
   given = list(
@@ -59,9 +71,10 @@ known$dry_bulb_from_vapour_pressure_and_percentage_saturation <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_vapour_pressure_and_percentage_saturation <- function(vapour_pressure, percentage_saturation, pressure,
-    unchecked = FALSE)
-  run("dry_bulb_from_vapour_pressure_and_percentage_saturation", list(vapour_pressure, percentage_saturation, pressure),
-    unchecked)
+    unchecked = FALSE) {
+  given <- list(vapour_pressure, percentage_saturation, pressure)
+  run("dry_bulb_from_vapour_pressure_and_percentage_saturation", given, unchecked)
+}
 
 known$dry_bulb_from_moisture_content_and_relative_humidity <- list(
   given = list(
@@ -71,9 +84,10 @@ known$dry_bulb_from_moisture_content_and_relative_humidity <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_moisture_content_and_relative_humidity <- function(moisture_content, relative_humidity, pressure,
-    unchecked = FALSE)
-  run("dry_bulb_from_moisture_content_and_relative_humidity", list(moisture_content, relative_humidity, pressure),
-    unchecked)
+    unchecked = FALSE) {
+  given <- list(moisture_content, relative_humidity, pressure)
+  run("dry_bulb_from_moisture_content_and_relative_humidity", given, unchecked)
+}
 
 known$dry_bulb_from_moisture_content_and_percentage_saturation <- list(
   given = list(
@@ -83,9 +97,10 @@ known$dry_bulb_from_moisture_content_and_percentage_saturation <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_moisture_content_and_percentage_saturation <- function(moisture_content, percentage_saturation, pressure,
-    unchecked = FALSE)
-  run("dry_bulb_from_moisture_content_and_percentage_saturation", list(moisture_content, percentage_saturation,
-    pressure), unchecked)
+    unchecked = FALSE) {
+  given <- list(moisture_content, percentage_saturation, pressure)
+  run("dry_bulb_from_moisture_content_and_percentage_saturation", given, unchecked)
+}
 
 known$dry_bulb_from_enthalpy_and_moisture_content <- list(
   given = list(
@@ -93,8 +108,10 @@ known$dry_bulb_from_enthalpy_and_moisture_content <- list(
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg')),
   results = list(
     dry_bulb = returned()))
-dry_bulb_from_enthalpy_and_moisture_content <- function(enthalpy, moisture_content, unchecked = FALSE)
-  run("dry_bulb_from_enthalpy_and_moisture_content", list(enthalpy, moisture_content), unchecked)
+dry_bulb_from_enthalpy_and_moisture_content <- function(enthalpy, moisture_content, unchecked = FALSE) {
+  given <- list(enthalpy, moisture_content)
+  run("dry_bulb_from_enthalpy_and_moisture_content", given, unchecked)
+}
 
 known$dry_bulb_from_enthalpy_and_vapour_pressure <- list(
   given = list(
@@ -103,8 +120,10 @@ known$dry_bulb_from_enthalpy_and_vapour_pressure <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     dry_bulb = returned()))
-dry_bulb_from_enthalpy_and_vapour_pressure <- function(enthalpy, vapour_pressure, pressure, unchecked = FALSE)
-  run("dry_bulb_from_enthalpy_and_vapour_pressure", list(enthalpy, vapour_pressure, pressure), unchecked)
+dry_bulb_from_enthalpy_and_vapour_pressure <- function(enthalpy, vapour_pressure, pressure, unchecked = FALSE) {
+  given <- list(enthalpy, vapour_pressure, pressure)
+  run("dry_bulb_from_enthalpy_and_vapour_pressure", given, unchecked)
+}
 
 known$dry_bulb_from_enthalpy_and_relative_humidity <- list(
   given = list(
@@ -113,8 +132,10 @@ known$dry_bulb_from_enthalpy_and_relative_humidity <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     dry_bulb = returned()))
-dry_bulb_from_enthalpy_and_relative_humidity <- function(enthalpy, relative_humidity, pressure, unchecked = FALSE)
-  run("dry_bulb_from_enthalpy_and_relative_humidity", list(enthalpy, relative_humidity, pressure), unchecked)
+dry_bulb_from_enthalpy_and_relative_humidity <- function(enthalpy, relative_humidity, pressure, unchecked = FALSE) {
+  given <- list(enthalpy, relative_humidity, pressure)
+  run("dry_bulb_from_enthalpy_and_relative_humidity", given, unchecked)
+}
 
 known$dry_bulb_from_enthalpy_and_percentage_saturation <- list(
   given = list(
@@ -124,8 +145,10 @@ known$dry_bulb_from_enthalpy_and_percentage_saturation <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_enthalpy_and_percentage_saturation <- function(enthalpy, percentage_saturation, pressure,
-    unchecked = FALSE)
-  run("dry_bulb_from_enthalpy_and_percentage_saturation", list(enthalpy, percentage_saturation, pressure), unchecked)
+    unchecked = FALSE) {
+  given <- list(enthalpy, percentage_saturation, pressure)
+  run("dry_bulb_from_enthalpy_and_percentage_saturation", given, unchecked)
+}
 
 known$dry_bulb_from_wet_bulb_and_vapour_pressure <- list(
   given = list(
@@ -136,9 +159,10 @@ known$dry_bulb_from_wet_bulb_and_vapour_pressure <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_vapour_pressure <- function(wet_bulb, vapour_pressure, pressure,
-    psychrometer = c("sling", "screen"), unchecked = FALSE)
-  run("dry_bulb_from_wet_bulb_and_vapour_pressure", list(wet_bulb, vapour_pressure, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    psychrometer = c("sling", "screen"), unchecked = FALSE) {
+  given <- list(wet_bulb, vapour_pressure, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("dry_bulb_from_wet_bulb_and_vapour_pressure", given, unchecked)
+}
 
 known$dry_bulb_from_wet_bulb_and_moisture_content <- list(
   given = list(
@@ -149,9 +173,10 @@ known$dry_bulb_from_wet_bulb_and_moisture_content <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_moisture_content <- function(wet_bulb, moisture_content, pressure,
-    psychrometer = c("sling", "screen"), unchecked = FALSE)
-  run("dry_bulb_from_wet_bulb_and_moisture_content", list(wet_bulb, moisture_content, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    psychrometer = c("sling", "screen"), unchecked = FALSE) {
+  given <- list(wet_bulb, moisture_content, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("dry_bulb_from_wet_bulb_and_moisture_content", given, unchecked)
+}
 
 known$dry_bulb_from_wet_bulb_and_relative_humidity <- list(
   given = list(
@@ -162,9 +187,10 @@ known$dry_bulb_from_wet_bulb_and_relative_humidity <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_relative_humidity <- function(wet_bulb, relative_humidity, pressure,
-    psychrometer = c("sling", "screen"), unchecked = FALSE)
-  run("dry_bulb_from_wet_bulb_and_relative_humidity", list(wet_bulb, relative_humidity, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    psychrometer = c("sling", "screen"), unchecked = FALSE) {
+  given <- list(wet_bulb, relative_humidity, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("dry_bulb_from_wet_bulb_and_relative_humidity", given, unchecked)
+}
 
 known$dry_bulb_from_wet_bulb_and_percentage_saturation <- list(
   given = list(
@@ -175,9 +201,10 @@ known$dry_bulb_from_wet_bulb_and_percentage_saturation <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_percentage_saturation <- function(wet_bulb, percentage_saturation, pressure,
-    psychrometer = c("sling", "screen"), unchecked = FALSE)
-  run("dry_bulb_from_wet_bulb_and_percentage_saturation", list(wet_bulb, percentage_saturation, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    psychrometer = c("sling", "screen"), unchecked = FALSE) {
+  given <- list(wet_bulb, percentage_saturation, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("dry_bulb_from_wet_bulb_and_percentage_saturation", given, unchecked)
+}
 
 known$dry_bulb_from_wet_bulb_and_enthalpy <- list(
   given = list(
@@ -188,9 +215,10 @@ known$dry_bulb_from_wet_bulb_and_enthalpy <- list(
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_enthalpy <- function(wet_bulb, enthalpy, pressure, psychrometer = c("sling", "screen"),
-    unchecked = FALSE)
-  run("dry_bulb_from_wet_bulb_and_enthalpy", list(wet_bulb, enthalpy, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    unchecked = FALSE) {
+  given <- list(wet_bulb, enthalpy, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("dry_bulb_from_wet_bulb_and_enthalpy", given, unchecked)
+}
 
 known$adiabatic_mixing <- list(
   given = list(
@@ -205,9 +233,11 @@ known$adiabatic_mixing <- list(
     moisture_content = returned(),
     enthalpy = returned()))
 adiabatic_mixing <- function(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb,
-    second_moisture_content, unchecked = FALSE)
-  run("adiabatic_mixing", list(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb,
-    second_moisture_content), unchecked)
+    second_moisture_content, unchecked = FALSE) {
+  given <- list(first_air_flow, first_dry_bulb, first_moisture_content, second_air_flow, second_dry_bulb,
+    second_moisture_content)
+  run("adiabatic_mixing", given, unchecked)
+}
 
 known$moisture_content_from_psychrometer <- list(
   given = list(
@@ -218,9 +248,10 @@ known$moisture_content_from_psychrometer <- list(
   results = list(
     moisture_content = returned()))
 moisture_content_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
-    unchecked = FALSE)
-  run("moisture_content_from_psychrometer", list(dry_bulb, wet_bulb, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    unchecked = FALSE) {
+  given <- list(dry_bulb, wet_bulb, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("moisture_content_from_psychrometer", given, unchecked)
+}
 
 known$moisture_content <- list(
   given = list(
@@ -229,8 +260,10 @@ known$moisture_content <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     moisture_content = returned()))
-moisture_content <- function(dry_bulb, vapour_pressure, pressure, unchecked = FALSE)
-  run("moisture_content", list(dry_bulb, vapour_pressure, pressure), unchecked)
+moisture_content <- function(dry_bulb, vapour_pressure, pressure, unchecked = FALSE) {
+  given <- list(dry_bulb, vapour_pressure, pressure)
+  run("moisture_content", given, unchecked)
+}
 
 known$vapour_pressure_from_moisture_content <- list(
   given = list(
@@ -239,8 +272,10 @@ known$vapour_pressure_from_moisture_content <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     vapour_pressure = returned()))
-vapour_pressure_from_moisture_content <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE)
-  run("vapour_pressure_from_moisture_content", list(dry_bulb, moisture_content, pressure), unchecked)
+vapour_pressure_from_moisture_content <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE) {
+  given <- list(dry_bulb, moisture_content, pressure)
+  run("vapour_pressure_from_moisture_content", given, unchecked)
+}
 
 known$moisture_content_from_percentage_saturation <- list(
   given = list(
@@ -249,8 +284,10 @@ known$moisture_content_from_percentage_saturation <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     moisture_content = returned()))
-moisture_content_from_percentage_saturation <- function(dry_bulb, percentage_saturation, pressure, unchecked = FALSE)
-  run("moisture_content_from_percentage_saturation", list(dry_bulb, percentage_saturation, pressure), unchecked)
+moisture_content_from_percentage_saturation <- function(dry_bulb, percentage_saturation, pressure, unchecked = FALSE) {
+  given <- list(dry_bulb, percentage_saturation, pressure)
+  run("moisture_content_from_percentage_saturation", given, unchecked)
+}
 
 known$moisture_content_from_enthalpy <- list(
   given = list(
@@ -258,8 +295,10 @@ known$moisture_content_from_enthalpy <- list(
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg')),
   results = list(
     moisture_content = returned()))
-moisture_content_from_enthalpy <- function(dry_bulb, enthalpy, unchecked = FALSE)
-  run("moisture_content_from_enthalpy", list(dry_bulb, enthalpy), unchecked)
+moisture_content_from_enthalpy <- function(dry_bulb, enthalpy, unchecked = FALSE) {
+  given <- list(dry_bulb, enthalpy)
+  run("moisture_content_from_enthalpy", given, unchecked)
+}
 
 known$moist_air_density <- list(
   given = list(
@@ -268,8 +307,10 @@ known$moist_air_density <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     moist_air_density = returned()))
-moist_air_density <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE)
-  run("moist_air_density", list(dry_bulb, moisture_content, pressure), unchecked)
+moist_air_density <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE) {
+  given <- list(dry_bulb, moisture_content, pressure)
+  run("moist_air_density", given, unchecked)
+}
 
 known$percentage_saturation <- list(
   given = list(
@@ -278,8 +319,10 @@ known$percentage_saturation <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     percentage_saturation = returned()))
-percentage_saturation <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE)
-  run("percentage_saturation", list(dry_bulb, moisture_content, pressure), unchecked)
+percentage_saturation <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE) {
+  given <- list(dry_bulb, moisture_content, pressure)
+  run("percentage_saturation", given, unchecked)
+}
 
 known$specific_enthalpy <- list(
   given = list(
@@ -287,8 +330,10 @@ known$specific_enthalpy <- list(
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg')),
   results = list(
     enthalpy = returned()))
-specific_enthalpy <- function(dry_bulb, moisture_content, unchecked = FALSE)
-  run("specific_enthalpy", list(dry_bulb, moisture_content), unchecked)
+specific_enthalpy <- function(dry_bulb, moisture_content, unchecked = FALSE) {
+  given <- list(dry_bulb, moisture_content)
+  run("specific_enthalpy", given, unchecked)
+}
 
 known$specific_enthalpy_from_psychrometer <- list(
   given = list(
@@ -299,9 +344,10 @@ known$specific_enthalpy_from_psychrometer <- list(
   results = list(
     enthalpy = returned()))
 specific_enthalpy_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
-    unchecked = FALSE)
-  run("specific_enthalpy_from_psychrometer", list(dry_bulb, wet_bulb, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    unchecked = FALSE) {
+  given <- list(dry_bulb, wet_bulb, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("specific_enthalpy_from_psychrometer", given, unchecked)
+}
 
 known$specific_volume <- list(
   given = list(
@@ -310,8 +356,10 @@ known$specific_volume <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     specific_volume = returned()))
-specific_volume <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE)
-  run("specific_volume", list(dry_bulb, moisture_content, pressure), unchecked)
+specific_volume <- function(dry_bulb, moisture_content, pressure, unchecked = FALSE) {
+  given <- list(dry_bulb, moisture_content, pressure)
+  run("specific_volume", given, unchecked)
+}
 
 known$saturation_temperature_from_enthalpy <- list(
   given = list(
@@ -319,8 +367,10 @@ known$saturation_temperature_from_enthalpy <- list(
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
   results = list(
     temperature = returned()))
-saturation_temperature_from_enthalpy <- function(enthalpy, pressure, unchecked = FALSE)
-  run("saturation_temperature_from_enthalpy", list(enthalpy, pressure), unchecked)
+saturation_temperature_from_enthalpy <- function(enthalpy, pressure, unchecked = FALSE) {
+  given <- list(enthalpy, pressure)
+  run("saturation_temperature_from_enthalpy", given, unchecked)
+}
 
 known$pool_evaporation <- list(
   given = list(
@@ -339,9 +389,11 @@ known$pool_evaporation <- list(
     convective_load = returned(),
     reference_load = returned()))
 pool_evaporation <- function(water_area, wetted_area, water_temperature, dry_bulb, moisture_content,
-    reference_temperature, bathers, reference_coefficient, pressure, unchecked = FALSE)
-  run("pool_evaporation", list(water_area, wetted_area, water_temperature, dry_bulb, moisture_content,
-    reference_temperature, bathers, reference_coefficient, pressure), unchecked)
+    reference_temperature, bathers, reference_coefficient, pressure, unchecked = FALSE) {
+  given <- list(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, reference_temperature, bathers,
+    reference_coefficient, pressure)
+  run("pool_evaporation", given, unchecked)
+}
 
 known$pool_evaporation_from_wet_bulb <- list(
   given = list(
@@ -360,25 +412,31 @@ known$pool_evaporation_from_wet_bulb <- list(
     convective_load = returned(),
     reference_load = returned()))
 pool_evaporation_from_wet_bulb <- function(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb,
-    reference_temperature, bathers, reference_coefficient, pressure, unchecked = FALSE)
-  run("pool_evaporation_from_wet_bulb", list(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb,
-    reference_temperature, bathers, reference_coefficient, pressure), unchecked)
+    reference_temperature, bathers, reference_coefficient, pressure, unchecked = FALSE) {
+  given <- list(water_area, wetted_area, water_temperature, dry_bulb, wet_bulb, reference_temperature, bathers,
+    reference_coefficient, pressure)
+  run("pool_evaporation_from_wet_bulb", given, unchecked)
+}
 
 known$saturation_pressure <- list(
   given = list(
     temperature = number(-100, 200, 'valid -100 to 200 degC')),
   results = list(
     saturation_pressure = returned()))
-saturation_pressure <- function(temperature, unchecked = FALSE)
-  run("saturation_pressure", list(temperature), unchecked)
+saturation_pressure <- function(temperature, unchecked = FALSE) {
+  given <- list(temperature)
+  run("saturation_pressure", given, unchecked)
+}
 
 known$dew_point <- list(
   given = list(
     vapour_pressure = number(0, Inf, 'valid from 0 Pa')),
   results = list(
     dew_point = returned()))
-dew_point <- function(vapour_pressure, unchecked = FALSE)
-  run("dew_point", list(vapour_pressure), unchecked)
+dew_point <- function(vapour_pressure, unchecked = FALSE) {
+  given <- list(vapour_pressure)
+  run("dew_point", given, unchecked)
+}
 
 known$vapour_pressure <- list(
   given = list(
@@ -386,8 +444,10 @@ known$vapour_pressure <- list(
     relative_humidity = number(0, 100, 'valid 0 to 100 %')),
   results = list(
     vapour_pressure = returned()))
-vapour_pressure <- function(dry_bulb, relative_humidity, unchecked = FALSE)
-  run("vapour_pressure", list(dry_bulb, relative_humidity), unchecked)
+vapour_pressure <- function(dry_bulb, relative_humidity, unchecked = FALSE) {
+  given <- list(dry_bulb, relative_humidity)
+  run("vapour_pressure", given, unchecked)
+}
 
 known$relative_humidity <- list(
   given = list(
@@ -395,8 +455,10 @@ known$relative_humidity <- list(
     vapour_pressure = number(0, Inf, 'valid from 0 Pa')),
   results = list(
     relative_humidity = returned()))
-relative_humidity <- function(dry_bulb, vapour_pressure, unchecked = FALSE)
-  run("relative_humidity", list(dry_bulb, vapour_pressure), unchecked)
+relative_humidity <- function(dry_bulb, vapour_pressure, unchecked = FALSE) {
+  given <- list(dry_bulb, vapour_pressure)
+  run("relative_humidity", given, unchecked)
+}
 
 known$vapour_pressure_from_psychrometer <- list(
   given = list(
@@ -407,9 +469,10 @@ known$vapour_pressure_from_psychrometer <- list(
   results = list(
     vapour_pressure = returned()))
 vapour_pressure_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
-    unchecked = FALSE)
-  run("vapour_pressure_from_psychrometer", list(dry_bulb, wet_bulb, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    unchecked = FALSE) {
+  given <- list(dry_bulb, wet_bulb, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("vapour_pressure_from_psychrometer", given, unchecked)
+}
 
 known$weighted_temperature <- list(
   given = list(
@@ -417,8 +480,10 @@ known$weighted_temperature <- list(
     second_temperature = number(-100, 200, 'valid -100 to 200 degC')),
   results = list(
     temperature = returned()))
-weighted_temperature <- function(first_temperature, second_temperature, unchecked = FALSE)
-  run("weighted_temperature", list(first_temperature, second_temperature), unchecked)
+weighted_temperature <- function(first_temperature, second_temperature, unchecked = FALSE) {
+  given <- list(first_temperature, second_temperature)
+  run("weighted_temperature", given, unchecked)
+}
 
 known$psychrometer_wet_bulb <- list(
   given = list(
@@ -429,9 +494,10 @@ known$psychrometer_wet_bulb <- list(
   results = list(
     wet_bulb = returned()))
 psychrometer_wet_bulb <- function(dry_bulb, relative_humidity, pressure, psychrometer = c("sling", "screen"),
-    unchecked = FALSE)
-  run("psychrometer_wet_bulb", list(dry_bulb, relative_humidity, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    unchecked = FALSE) {
+  given <- list(dry_bulb, relative_humidity, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("psychrometer_wet_bulb", given, unchecked)
+}
 
 known$wet_bulb_from_percentage_saturation <- list(
   given = list(
@@ -442,9 +508,10 @@ known$wet_bulb_from_percentage_saturation <- list(
   results = list(
     wet_bulb = returned()))
 wet_bulb_from_percentage_saturation <- function(dry_bulb, percentage_saturation, pressure,
-    psychrometer = c("sling", "screen"), unchecked = FALSE)
-  run("wet_bulb_from_percentage_saturation", list(dry_bulb, percentage_saturation, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    psychrometer = c("sling", "screen"), unchecked = FALSE) {
+  given <- list(dry_bulb, percentage_saturation, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("wet_bulb_from_percentage_saturation", given, unchecked)
+}
 
 known$wet_bulb_from_moisture_content <- list(
   given = list(
@@ -455,9 +522,10 @@ known$wet_bulb_from_moisture_content <- list(
   results = list(
     wet_bulb = returned()))
 wet_bulb_from_moisture_content <- function(dry_bulb, moisture_content, pressure, psychrometer = c("sling", "screen"),
-    unchecked = FALSE)
-  run("wet_bulb_from_moisture_content", list(dry_bulb, moisture_content, pressure,
-    if (missing(psychrometer)) "sling" else psychrometer), unchecked)
+    unchecked = FALSE) {
+  given <- list(dry_bulb, moisture_content, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("wet_bulb_from_moisture_content", given, unchecked)
+}
 
 known$wet_bulb <- list(
   given = list(
@@ -467,9 +535,10 @@ known$wet_bulb <- list(
     psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
   results = list(
     wet_bulb = returned()))
-wet_bulb <- function(dry_bulb, vapour_pressure, pressure, psychrometer = c("sling", "screen"), unchecked = FALSE)
-  run("wet_bulb", list(dry_bulb, vapour_pressure, pressure, if (missing(psychrometer)) "sling" else psychrometer),
-    unchecked)
+wet_bulb <- function(dry_bulb, vapour_pressure, pressure, psychrometer = c("sling", "screen"), unchecked = FALSE) {
+  given <- list(dry_bulb, vapour_pressure, pressure, if (missing(psychrometer)) "sling" else psychrometer)
+  run("wet_bulb", given, unchecked)
+}
 
 known$cyclic_response <- list(
   given = list(
@@ -490,17 +559,21 @@ known$cyclic_response <- list(
     surface_factor_lag = returned(),
     u_value = returned()))
 cyclic_response <- function(thickness, conductivity, density, specific_heat, inside_resistance, outside_resistance,
-    harmonic, element_kind = c("between", "partition"), unchecked = FALSE)
-  run("cyclic_response", list(thickness, conductivity, density, specific_heat, inside_resistance, outside_resistance,
-    harmonic, if (missing(element_kind)) "between" else element_kind), unchecked)
+    harmonic, element_kind = c("between", "partition"), unchecked = FALSE) {
+  given <- list(thickness, conductivity, density, specific_heat, inside_resistance, outside_resistance, harmonic,
+    if (missing(element_kind)) "between" else element_kind)
+  run("cyclic_response", given, unchecked)
+}
 
 known$vertical_cavity_resistance <- list(
   given = list(
     cavity_width = number(0.001, Inf, 'valid from 0.001 m')),
   results = list(
     cavity_resistance = returned()))
-vertical_cavity_resistance <- function(cavity_width, unchecked = FALSE)
-  run("vertical_cavity_resistance", list(cavity_width), unchecked)
+vertical_cavity_resistance <- function(cavity_width, unchecked = FALSE) {
+  given <- list(cavity_width)
+  run("vertical_cavity_resistance", given, unchecked)
+}
 
 known$air_cavity_resistance <- list(
   given = list(
@@ -510,8 +583,10 @@ known$air_cavity_resistance <- list(
     emissivity_2 = number(0, 1, 'valid 0 to 1')),
   results = list(
     cavity_resistance = returned()))
-air_cavity_resistance <- function(tilt, cavity_width, emissivity_1, emissivity_2, unchecked = FALSE)
-  run("air_cavity_resistance", list(tilt, cavity_width, emissivity_1, emissivity_2), unchecked)
+air_cavity_resistance <- function(tilt, cavity_width, emissivity_1, emissivity_2, unchecked = FALSE) {
+  given <- list(tilt, cavity_width, emissivity_1, emissivity_2)
+  run("air_cavity_resistance", given, unchecked)
+}
 
 known$gas_cavity_resistance <- list(
   given = list(
@@ -526,9 +601,10 @@ known$gas_cavity_resistance <- list(
   results = list(
     cavity_resistance = returned()))
 gas_cavity_resistance <- function(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, specific_heat,
-    viscosity, unchecked = FALSE)
-  run("gas_cavity_resistance", list(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity,
-    specific_heat, viscosity), unchecked)
+    viscosity, unchecked = FALSE) {
+  given <- list(tilt, cavity_width, emissivity_1, emissivity_2, density, conductivity, specific_heat, viscosity)
+  run("gas_cavity_resistance", given, unchecked)
+}
 
 known$total_vapour_resistance <- list(
   given = list(
@@ -536,8 +612,10 @@ known$total_vapour_resistance <- list(
     vapour_resistivity = number(0, Inf, 'valid from 0 GN s/(kg m)', shape = c(NA))),
   results = list(
     vapour_resistance = returned()))
-total_vapour_resistance <- function(thickness, vapour_resistivity, unchecked = FALSE)
-  run("total_vapour_resistance", list(thickness, vapour_resistivity), unchecked)
+total_vapour_resistance <- function(thickness, vapour_resistivity, unchecked = FALSE) {
+  given <- list(thickness, vapour_resistivity)
+  run("total_vapour_resistance", given, unchecked)
+}
 
 known$condensation_profile <- list(
   given = list(
@@ -555,9 +633,11 @@ known$condensation_profile <- list(
     interface_vapour_pressure = returned(shape = c(21)),
     interface_saturation_pressure = returned(shape = c(21))))
 condensation_profile <- function(thickness, conductivity, vapour_resistivity, inside_resistance, outside_resistance,
-    inside_temperature, outside_temperature, inside_humidity, outside_humidity, unchecked = FALSE)
-  run("condensation_profile", list(thickness, conductivity, vapour_resistivity, inside_resistance, outside_resistance,
-    inside_temperature, outside_temperature, inside_humidity, outside_humidity), unchecked)
+    inside_temperature, outside_temperature, inside_humidity, outside_humidity, unchecked = FALSE) {
+  given <- list(thickness, conductivity, vapour_resistivity, inside_resistance, outside_resistance, inside_temperature,
+    outside_temperature, inside_humidity, outside_humidity)
+  run("condensation_profile", given, unchecked)
+}
 
 known$condenses_within_layer <- list(
   given = list(
@@ -568,9 +648,10 @@ known$condenses_within_layer <- list(
   results = list(
     indicator = returned()))
 condenses_within_layer <- function(warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure,
-    unchecked = FALSE)
-  run("condenses_within_layer", list(warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure),
-    unchecked)
+    unchecked = FALSE) {
+  given <- list(warm_temperature, cold_temperature, warm_vapour_pressure, cold_vapour_pressure)
+  run("condenses_within_layer", given, unchecked)
+}
 
 known$element_property <- list(
   given = list(
@@ -579,8 +660,10 @@ known$element_property <- list(
     item = number(1, 72, 'valid 1 to 72', whole = TRUE)),
   results = list(
     property_value = returned()))
-element_property <- function(element_records, record_number, item, unchecked = FALSE)
-  run("element_property", list(element_records, record_number, item), unchecked)
+element_property <- function(element_records, record_number, item, unchecked = FALSE) {
+  given <- list(element_records, record_number, item)
+  run("element_property", given, unchecked)
+}
 
 known$natural_convection_coefficient <- list(
   given = list(
@@ -590,9 +673,11 @@ known$natural_convection_coefficient <- list(
   results = list(
     heat_transfer_coefficient = returned()))
 natural_convection_coefficient <- function(temperature_difference, characteristic_length,
-    heat_flow_direction = c("upward", "horizontal", "downward"), unchecked = FALSE)
-  run("natural_convection_coefficient", list(temperature_difference, characteristic_length,
-    if (missing(heat_flow_direction)) "upward" else heat_flow_direction), unchecked)
+    heat_flow_direction = c("upward", "horizontal", "downward"), unchecked = FALSE) {
+  given <- list(temperature_difference, characteristic_length,
+    if (missing(heat_flow_direction)) "upward" else heat_flow_direction)
+  run("natural_convection_coefficient", given, unchecked)
+}
 
 known$pack_two_fractions <- list(
   given = list(
@@ -605,8 +690,10 @@ known$pack_two_fractions <- list(
     fraction_1 = returned(),
     fraction_2 = returned()))
 pack_two_fractions <- function(packing = c("pack", "unpack"), packed_number, fraction_1, fraction_2, unchecked = FALSE)
-  run("pack_two_fractions", list(if (missing(packing)) "pack" else packing, packed_number, fraction_1, fraction_2),
-    unchecked)
+    {
+  given <- list(if (missing(packing)) "pack" else packing, packed_number, fraction_1, fraction_2)
+  run("pack_two_fractions", given, unchecked)
+}
 
 known$pack_three_fractions <- list(
   given = list(
@@ -621,9 +708,10 @@ known$pack_three_fractions <- list(
     fraction_2 = returned(),
     fraction_3 = returned()))
 pack_three_fractions <- function(packing = c("pack", "unpack"), packed_number, fraction_1, fraction_2, fraction_3,
-    unchecked = FALSE)
-  run("pack_three_fractions", list(if (missing(packing)) "pack" else packing, packed_number, fraction_1, fraction_2,
-    fraction_3), unchecked)
+    unchecked = FALSE) {
+  given <- list(if (missing(packing)) "pack" else packing, packed_number, fraction_1, fraction_2, fraction_3)
+  run("pack_three_fractions", given, unchecked)
+}
 
 known$pack_three_fractions_third_first <- list(
   given = list(
@@ -638,9 +726,10 @@ known$pack_three_fractions_third_first <- list(
     fraction_1 = returned(),
     fraction_2 = returned()))
 pack_three_fractions_third_first <- function(packing = c("pack", "unpack"), packed_number, fraction_3, fraction_1,
-    fraction_2, unchecked = FALSE)
-  run("pack_three_fractions_third_first", list(if (missing(packing)) "pack" else packing, packed_number, fraction_3,
-    fraction_1, fraction_2), unchecked)
+    fraction_2, unchecked = FALSE) {
+  given <- list(if (missing(packing)) "pack" else packing, packed_number, fraction_3, fraction_1, fraction_2)
+  run("pack_three_fractions_third_first", given, unchecked)
+}
 
 known$pack_pane <- list(
   given = list(
@@ -655,9 +744,10 @@ known$pack_pane <- list(
     reflectance_1 = returned(),
     reflectance_2 = returned()))
 pack_pane <- function(packing = c("pack", "unpack"), packed_number, absorptance, reflectance_1, reflectance_2,
-    unchecked = FALSE)
-  run("pack_pane", list(if (missing(packing)) "pack" else packing, packed_number, absorptance, reflectance_1,
-    reflectance_2), unchecked)
+    unchecked = FALSE) {
+  given <- list(if (missing(packing)) "pack" else packing, packed_number, absorptance, reflectance_1, reflectance_2)
+  run("pack_pane", given, unchecked)
+}
 
 known$surface_resistance <- list(
   given = list(
@@ -667,9 +757,10 @@ known$surface_resistance <- list(
   results = list(
     surface_resistance = returned()))
 surface_resistance <- function(surface = c("outside", "inside"), tilt, exposure = c("sheltered", "normal", "severe"),
-    unchecked = FALSE)
-  run("surface_resistance", list(if (missing(surface)) "outside" else surface, tilt,
-    if (missing(exposure)) "sheltered" else exposure), unchecked)
+    unchecked = FALSE) {
+  given <- list(if (missing(surface)) "outside" else surface, tilt, if (missing(exposure)) "sheltered" else exposure)
+  run("surface_resistance", given, unchecked)
+}
 
 known$surface_resistance_at_emissivity <- list(
   given = list(
@@ -680,9 +771,11 @@ known$surface_resistance_at_emissivity <- list(
   results = list(
     surface_resistance = returned()))
 surface_resistance_at_emissivity <- function(surface = c("outside", "inside"), tilt,
-    exposure = c("sheltered", "normal", "severe"), emissivity, unchecked = FALSE)
-  run("surface_resistance_at_emissivity", list(if (missing(surface)) "outside" else surface, tilt,
-    if (missing(exposure)) "sheltered" else exposure, emissivity), unchecked)
+    exposure = c("sheltered", "normal", "severe"), emissivity, unchecked = FALSE) {
+  given <- list(if (missing(surface)) "outside" else surface, tilt, if (missing(exposure)) "sheltered" else exposure,
+    emissivity)
+  run("surface_resistance_at_emissivity", given, unchecked)
+}
 
 known$u_value <- list(
   given = list(
@@ -692,8 +785,10 @@ known$u_value <- list(
     surface_resistance_2 = number(0, Inf, 'valid from 0 m2K/W')),
   results = list(
     u_value = returned()))
-u_value <- function(thickness, conductivity, surface_resistance_1, surface_resistance_2, unchecked = FALSE)
-  run("u_value", list(thickness, conductivity, surface_resistance_1, surface_resistance_2), unchecked)
+u_value <- function(thickness, conductivity, surface_resistance_1, surface_resistance_2, unchecked = FALSE) {
+  given <- list(thickness, conductivity, surface_resistance_1, surface_resistance_2)
+  run("u_value", given, unchecked)
+}
 
 known$u_value_at_tilt_and_exposure <- list(
   given = list(
@@ -703,8 +798,10 @@ known$u_value_at_tilt_and_exposure <- list(
   results = list(
     u_value = returned()))
 u_value_at_tilt_and_exposure <- function(u_value, tilt, exposure = c("sheltered", "normal", "severe"),
-    unchecked = FALSE)
-  run("u_value_at_tilt_and_exposure", list(u_value, tilt, if (missing(exposure)) "sheltered" else exposure), unchecked)
+    unchecked = FALSE) {
+  given <- list(u_value, tilt, if (missing(exposure)) "sheltered" else exposure)
+  run("u_value_at_tilt_and_exposure", given, unchecked)
+}
 
 known$window_parameters <- list(
   given = list(
@@ -731,12 +828,13 @@ known$window_parameters <- list(
 window_parameters <- function(panes, pane_kind_1 = c("closing", "vented"), emissivity_1,
     pane_kind_2 = c("closing", "vented"), emissivity_2, pane_kind_3 = c("closing", "vented"), emissivity_3,
     cavity_width_1, cavity_width_2, outer_surface = c("outside", "inside"),
-    exposure = c("sheltered", "normal", "severe"), tilt, unchecked = FALSE)
-  run("window_parameters", list(panes, if (missing(pane_kind_1)) "closing" else pane_kind_1, emissivity_1,
+    exposure = c("sheltered", "normal", "severe"), tilt, unchecked = FALSE) {
+  given <- list(panes, if (missing(pane_kind_1)) "closing" else pane_kind_1, emissivity_1,
     if (missing(pane_kind_2)) "closing" else pane_kind_2, emissivity_2,
     if (missing(pane_kind_3)) "closing" else pane_kind_3, emissivity_3, cavity_width_1, cavity_width_2,
-    if (missing(outer_surface)) "outside" else outer_surface, if (missing(exposure)) "sheltered" else exposure, tilt),
-    unchecked)
+    if (missing(outer_surface)) "outside" else outer_surface, if (missing(exposure)) "sheltered" else exposure, tilt)
+  run("window_parameters", given, unchecked)
+}
 
 known$glass_direct <- list(
   given = list(
@@ -750,8 +848,10 @@ known$glass_direct <- list(
     perpendicular_transmittance = returned(),
     perpendicular_absorptance = returned(),
     perpendicular_reflectance = returned()))
-glass_direct <- function(normal_transmittance, normal_reflectance, incidence, unchecked = FALSE)
-  run("glass_direct", list(normal_transmittance, normal_reflectance, incidence), unchecked)
+glass_direct <- function(normal_transmittance, normal_reflectance, incidence, unchecked = FALSE) {
+  given <- list(normal_transmittance, normal_reflectance, incidence)
+  run("glass_direct", given, unchecked)
+}
 
 known$glass_diffuse <- list(
   given = list(
@@ -760,8 +860,10 @@ known$glass_diffuse <- list(
   results = list(
     transmittance = returned(),
     absorptance = returned()))
-glass_diffuse <- function(normal_transmittance, normal_reflectance, unchecked = FALSE)
-  run("glass_diffuse", list(normal_transmittance, normal_reflectance), unchecked)
+glass_diffuse <- function(normal_transmittance, normal_reflectance, unchecked = FALSE) {
+  given <- list(normal_transmittance, normal_reflectance)
+  run("glass_diffuse", given, unchecked)
+}
 
 known$stacked_layers <- list(
   given = list(
@@ -771,8 +873,10 @@ known$stacked_layers <- list(
     transmittance = returned(),
     absorptance = returned(),
     reflectance = returned()))
-stacked_layers <- function(layer_transmittances, layer_reflectances, unchecked = FALSE)
-  run("stacked_layers", list(layer_transmittances, layer_reflectances), unchecked)
+stacked_layers <- function(layer_transmittances, layer_reflectances, unchecked = FALSE) {
+  given <- list(layer_transmittances, layer_reflectances)
+  run("stacked_layers", given, unchecked)
+}
 
 known$traced_layers <- list(
   given = list(
@@ -783,8 +887,10 @@ known$traced_layers <- list(
     transmittance = returned(),
     absorptance = returned(),
     reflectance = returned()))
-traced_layers <- function(layer_transmittances, layer_absorptances, layer_reflectances, unchecked = FALSE)
-  run("traced_layers", list(layer_transmittances, layer_absorptances, layer_reflectances), unchecked)
+traced_layers <- function(layer_transmittances, layer_absorptances, layer_reflectances, unchecked = FALSE) {
+  given <- list(layer_transmittances, layer_absorptances, layer_reflectances)
+  run("traced_layers", given, unchecked)
+}
 
 known$roller_blind <- list(
   given = list(
@@ -794,8 +900,10 @@ known$roller_blind <- list(
     transmittance = returned(),
     absorptance = returned(),
     reflectance = returned()))
-roller_blind <- function(blind_transmittance, blind_reflectance, unchecked = FALSE)
-  run("roller_blind", list(blind_transmittance, blind_reflectance), unchecked)
+roller_blind <- function(blind_transmittance, blind_reflectance, unchecked = FALSE) {
+  given <- list(blind_transmittance, blind_reflectance)
+  run("roller_blind", given, unchecked)
+}
 
 known$diffuse_roller_blind <- list(
   given = list(
@@ -805,8 +913,10 @@ known$diffuse_roller_blind <- list(
     transmittance = returned(),
     absorptance = returned(),
     reflectance = returned()))
-diffuse_roller_blind <- function(blind_transmittance, blind_reflectance, unchecked = FALSE)
-  run("diffuse_roller_blind", list(blind_transmittance, blind_reflectance), unchecked)
+diffuse_roller_blind <- function(blind_transmittance, blind_reflectance, unchecked = FALSE) {
+  given <- list(blind_transmittance, blind_reflectance)
+  run("diffuse_roller_blind", given, unchecked)
+}
 
 known$refraction_angle <- list(
   given = list(
@@ -814,8 +924,10 @@ known$refraction_angle <- list(
     refractive_index = number(1, 4, 'valid 1 to 4')),
   results = list(
     refraction_angle = returned()))
-refraction_angle <- function(incidence, refractive_index, unchecked = FALSE)
-  run("refraction_angle", list(incidence, refractive_index), unchecked)
+refraction_angle <- function(incidence, refractive_index, unchecked = FALSE) {
+  given <- list(incidence, refractive_index)
+  run("refraction_angle", given, unchecked)
+}
 
 known$surface_reflectance <- list(
   given = list(
@@ -825,8 +937,10 @@ known$surface_reflectance <- list(
   results = list(
     parallel_reflectance = returned(),
     perpendicular_reflectance = returned()))
-surface_reflectance <- function(incidence, refraction_angle, refractive_index, unchecked = FALSE)
-  run("surface_reflectance", list(incidence, refraction_angle, refractive_index), unchecked)
+surface_reflectance <- function(incidence, refraction_angle, refractive_index, unchecked = FALSE) {
+  given <- list(incidence, refraction_angle, refractive_index)
+  run("surface_reflectance", given, unchecked)
+}
 
 known$single_pass_absorption <- list(
   given = list(
@@ -834,8 +948,10 @@ known$single_pass_absorption <- list(
     absorption_product = number(0, 20, 'valid 0 to 20')),
   results = list(
     absorptance = returned()))
-single_pass_absorption <- function(refraction_angle, absorption_product, unchecked = FALSE)
-  run("single_pass_absorption", list(refraction_angle, absorption_product), unchecked)
+single_pass_absorption <- function(refraction_angle, absorption_product, unchecked = FALSE) {
+  given <- list(refraction_angle, absorption_product)
+  run("single_pass_absorption", given, unchecked)
+}
 
 known$slab_optics <- list(
   given = list(
@@ -845,8 +961,10 @@ known$slab_optics <- list(
     transmittance = returned(),
     absorptance = returned(),
     reflectance = returned()))
-slab_optics <- function(single_pass_absorptance, face_reflectance, unchecked = FALSE)
-  run("slab_optics", list(single_pass_absorptance, face_reflectance), unchecked)
+slab_optics <- function(single_pass_absorptance, face_reflectance, unchecked = FALSE) {
+  given <- list(single_pass_absorptance, face_reflectance)
+  run("slab_optics", given, unchecked)
+}
 
 known$absorption_product <- list(
   given = list(
@@ -854,8 +972,10 @@ known$absorption_product <- list(
     refractive_index = number(1, 4, 'valid 1 to 4')),
   results = list(
     absorption_product = returned()))
-absorption_product <- function(normal_transmittance, refractive_index, unchecked = FALSE)
-  run("absorption_product", list(normal_transmittance, refractive_index), unchecked)
+absorption_product <- function(normal_transmittance, refractive_index, unchecked = FALSE) {
+  given <- list(normal_transmittance, refractive_index)
+  run("absorption_product", given, unchecked)
+}
 
 known$normal_transmittance <- list(
   given = list(
@@ -863,8 +983,10 @@ known$normal_transmittance <- list(
     normal_reflectance = number(0, 0.99, 'valid 0 to 0.99')),
   results = list(
     normal_transmittance = returned()))
-normal_transmittance <- function(absorption_product, normal_reflectance, unchecked = FALSE)
-  run("normal_transmittance", list(absorption_product, normal_reflectance), unchecked)
+normal_transmittance <- function(absorption_product, normal_reflectance, unchecked = FALSE) {
+  given <- list(absorption_product, normal_reflectance)
+  run("normal_transmittance", given, unchecked)
+}
 
 known$pane_temperatures <- list(
   given = list(
@@ -883,9 +1005,11 @@ known$pane_temperatures <- list(
     pane_temperature_4 = returned(),
     pane_temperature_5 = returned()))
 pane_temperatures <- function(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, absorbed_3,
-    absorbed_4, absorbed_5, unchecked = FALSE)
-  run("pane_temperatures", list(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, absorbed_3,
-    absorbed_4, absorbed_5), unchecked)
+    absorbed_4, absorbed_5, unchecked = FALSE) {
+  given <- list(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, absorbed_3, absorbed_4,
+    absorbed_5)
+  run("pane_temperatures", given, unchecked)
+}
 
 known$unit_direct <- list(
   given = list(
@@ -896,8 +1020,10 @@ known$unit_direct <- list(
     transmittance = returned(),
     absorptance = returned(),
     reflectance = returned()))
-unit_direct <- function(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, unchecked = FALSE)
-  run("unit_direct", list(shortwave_shading_coefficient, longwave_shading_coefficient, incidence), unchecked)
+unit_direct <- function(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, unchecked = FALSE) {
+  given <- list(shortwave_shading_coefficient, longwave_shading_coefficient, incidence)
+  run("unit_direct", given, unchecked)
+}
 
 known$unit_diffuse <- list(
   given = list(
@@ -907,8 +1033,10 @@ known$unit_diffuse <- list(
     transmittance = returned(),
     absorptance = returned(),
     reflectance = returned()))
-unit_diffuse <- function(shortwave_shading_coefficient, longwave_shading_coefficient, unchecked = FALSE)
-  run("unit_diffuse", list(shortwave_shading_coefficient, longwave_shading_coefficient), unchecked)
+unit_diffuse <- function(shortwave_shading_coefficient, longwave_shading_coefficient, unchecked = FALSE) {
+  given <- list(shortwave_shading_coefficient, longwave_shading_coefficient)
+  run("unit_diffuse", given, unchecked)
+}
 
 known$unit_direct_shares <- list(
   given = list(
@@ -921,9 +1049,10 @@ known$unit_direct_shares <- list(
     pane_shares = returned(shape = c(NA)),
     absorptance = returned()))
 unit_direct_shares <- function(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes,
-    unchecked = FALSE)
-  run("unit_direct_shares", list(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes),
-    unchecked)
+    unchecked = FALSE) {
+  given <- list(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes)
+  run("unit_direct_shares", given, unchecked)
+}
 
 known$unit_diffuse_shares <- list(
   given = list(
@@ -934,8 +1063,10 @@ known$unit_diffuse_shares <- list(
     transmittance = returned(),
     pane_shares = returned(shape = c(NA)),
     absorptance = returned()))
-unit_diffuse_shares <- function(shortwave_shading_coefficient, longwave_shading_coefficient, panes, unchecked = FALSE)
-  run("unit_diffuse_shares", list(shortwave_shading_coefficient, longwave_shading_coefficient, panes), unchecked)
+unit_diffuse_shares <- function(shortwave_shading_coefficient, longwave_shading_coefficient, panes, unchecked = FALSE) {
+  given <- list(shortwave_shading_coefficient, longwave_shading_coefficient, panes)
+  run("unit_diffuse_shares", given, unchecked)
+}
 
 known$unit_shares <- list(
   given = list(
@@ -949,9 +1080,11 @@ known$unit_shares <- list(
     pane_shares = returned(shape = c(NA)),
     absorptance = returned()))
 unit_shares <- function(radiation = c("direct", "diffuse"), shortwave_shading_coefficient, longwave_shading_coefficient,
-    incidence, panes, unchecked = FALSE)
-  run("unit_shares", list(if (missing(radiation)) "direct" else radiation, shortwave_shading_coefficient,
-    longwave_shading_coefficient, incidence, panes), unchecked)
+    incidence, panes, unchecked = FALSE) {
+  given <- list(if (missing(radiation)) "direct" else radiation, shortwave_shading_coefficient,
+    longwave_shading_coefficient, incidence, panes)
+  run("unit_shares", given, unchecked)
+}
 
 known$slat_direct <- list(
   given = list(
@@ -964,8 +1097,10 @@ known$slat_direct <- list(
     transmittance = returned(),
     absorptance = returned(),
     reflectance = returned()))
-slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, unchecked = FALSE)
-  run("slat_direct", list(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance), unchecked)
+slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance, unchecked = FALSE) {
+  given <- list(slat_spacing, slat_width, slat_angle, profile_angle, slat_absorptance)
+  run("slat_direct", given, unchecked)
+}
 
 known$two_faced_slat_direct <- list(
   given = list(
@@ -980,9 +1115,10 @@ known$two_faced_slat_direct <- list(
     absorptance = returned(),
     reflectance = returned()))
 two_faced_slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance,
-    opposite_absorptance, unchecked = FALSE)
-  run("two_faced_slat_direct", list(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance,
-    opposite_absorptance), unchecked)
+    opposite_absorptance, unchecked = FALSE) {
+  given <- list(slat_spacing, slat_width, slat_angle, profile_angle, struck_absorptance, opposite_absorptance)
+  run("two_faced_slat_direct", given, unchecked)
+}
 
 known$open_slat_direct <- list(
   given = list(
@@ -998,9 +1134,11 @@ known$open_slat_direct <- list(
     absorptance = returned(),
     reflectance = returned()))
 open_slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance,
-    opposite_absorptance, unchecked = FALSE)
-  run("open_slat_direct", list(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance,
-    opposite_absorptance), unchecked)
+    opposite_absorptance, unchecked = FALSE) {
+  given <- list(slat_spacing, slat_width, slat_angle, profile_angle, open_share, struck_absorptance,
+    opposite_absorptance)
+  run("open_slat_direct", given, unchecked)
+}
 
 known$slat_diffuse <- list(
   given = list(
@@ -1013,8 +1151,10 @@ known$slat_diffuse <- list(
     ground_transmittance = returned(),
     sky_absorptance = returned(),
     ground_absorptance = returned()))
-slat_diffuse <- function(slat_spacing, slat_width, slat_angle, slat_absorptance, unchecked = FALSE)
-  run("slat_diffuse", list(slat_spacing, slat_width, slat_angle, slat_absorptance), unchecked)
+slat_diffuse <- function(slat_spacing, slat_width, slat_angle, slat_absorptance, unchecked = FALSE) {
+  given <- list(slat_spacing, slat_width, slat_angle, slat_absorptance)
+  run("slat_diffuse", given, unchecked)
+}
 
 known$two_faced_slat_diffuse <- list(
   given = list(
@@ -1029,9 +1169,10 @@ known$two_faced_slat_diffuse <- list(
     sky_absorptance = returned(),
     ground_absorptance = returned()))
 two_faced_slat_diffuse <- function(slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance,
-    unchecked = FALSE)
-  run("two_faced_slat_diffuse", list(slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance),
-    unchecked)
+    unchecked = FALSE) {
+  given <- list(slat_spacing, slat_width, slat_angle, struck_absorptance, opposite_absorptance)
+  run("two_faced_slat_diffuse", given, unchecked)
+}
 
 known$open_slat_diffuse <- list(
   given = list(
@@ -1047,9 +1188,10 @@ known$open_slat_diffuse <- list(
     sky_absorptance = returned(),
     ground_absorptance = returned()))
 open_slat_diffuse <- function(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance,
-    opposite_absorptance, unchecked = FALSE)
-  run("open_slat_diffuse", list(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance,
-    opposite_absorptance), unchecked)
+    opposite_absorptance, unchecked = FALSE) {
+  given <- list(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, opposite_absorptance)
+  run("open_slat_diffuse", given, unchecked)
+}
 
 known$locate_band <- list(
   given = list(
@@ -1060,8 +1202,10 @@ known$locate_band <- list(
     lower_band = returned(),
     upper_band = returned(),
     band_weight = returned()))
-locate_band <- function(fraction, month, frequencies, unchecked = FALSE)
-  run("locate_band", list(fraction, month, frequencies), unchecked)
+locate_band <- function(fraction, month, frequencies, unchecked = FALSE) {
+  given <- list(fraction, month, frequencies)
+  run("locate_band", given, unchecked)
+}
 
 known$band_climate <- list(
   given = list(
@@ -1081,8 +1225,10 @@ known$band_climate <- list(
     time_b = returned(),
     q7 = returned(),
     q8 = returned()))
-band_climate <- function(band, month, band_set = c("first", "second"), percentage, unchecked = FALSE)
-  run("band_climate", list(band, month, if (missing(band_set)) "first" else band_set, percentage), unchecked)
+band_climate <- function(band, month, band_set = c("first", "second"), percentage, unchecked = FALSE) {
+  given <- list(band, month, if (missing(band_set)) "first" else band_set, percentage)
+  run("band_climate", given, unchecked)
+}
 
 known$interpolate_band_rows <- list(
   given = list(
@@ -1093,24 +1239,30 @@ known$interpolate_band_rows <- list(
     band_weight = number(-1, 1, 'valid -1 to 1')),
   results = list(
     value = returned()))
-interpolate_band_rows <- function(base_row, lower_band, upper_band, month, band_weight, unchecked = FALSE)
-  run("interpolate_band_rows", list(base_row, lower_band, upper_band, month, band_weight), unchecked)
+interpolate_band_rows <- function(base_row, lower_band, upper_band, month, band_weight, unchecked = FALSE) {
+  given <- list(base_row, lower_band, upper_band, month, band_weight)
+  run("interpolate_band_rows", given, unchecked)
+}
 
 known$band_row <- list(
   given = list(
     row = number(1, 184, 'valid 1 to 184', whole = TRUE)),
   results = list(
     values = returned(shape = c(12))))
-band_row <- function(row, unchecked = FALSE)
-  run("band_row", list(row), unchecked)
+band_row <- function(row, unchecked = FALSE) {
+  given <- list(row)
+  run("band_row", given, unchecked)
+}
 
 known$store_design_day <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
   results = list(
     day = returned()))
-store_design_day <- function(month, unchecked = FALSE)
-  run("store_design_day", list(month), unchecked)
+store_design_day <- function(month, unchecked = FALSE) {
+  given <- list(month)
+  run("store_design_day", given, unchecked)
+}
 
 known$store_design_day_by_option <- list(
   given = list(
@@ -1118,16 +1270,20 @@ known$store_design_day_by_option <- list(
     day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
   results = list(
     day = returned()))
-store_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE)
-  run("store_design_day_by_option", list(month, if (missing(day_kind)) "of_month" else day_kind), unchecked)
+store_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
+  given <- list(month, if (missing(day_kind)) "of_month" else day_kind)
+  run("store_design_day_by_option", given, unchecked)
+}
 
 known$design_day <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
   results = list(
     day = returned()))
-design_day <- function(month, unchecked = FALSE)
-  run("design_day", list(month), unchecked)
+design_day <- function(month, unchecked = FALSE) {
+  given <- list(month)
+  run("design_day", given, unchecked)
+}
 
 known$design_day_by_option <- list(
   given = list(
@@ -1135,16 +1291,20 @@ known$design_day_by_option <- list(
     day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
   results = list(
     day = returned()))
-design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE)
-  run("design_day_by_option", list(month, if (missing(day_kind)) "of_month" else day_kind), unchecked)
+design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
+  given <- list(month, if (missing(day_kind)) "of_month" else day_kind)
+  run("design_day_by_option", given, unchecked)
+}
 
 known$second_design_day <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
   results = list(
     day = returned()))
-second_design_day <- function(month, unchecked = FALSE)
-  run("second_design_day", list(month), unchecked)
+second_design_day <- function(month, unchecked = FALSE) {
+  given <- list(month)
+  run("second_design_day", given, unchecked)
+}
 
 known$second_design_day_by_option <- list(
   given = list(
@@ -1152,8 +1312,10 @@ known$second_design_day_by_option <- list(
     day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
   results = list(
     day = returned()))
-second_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE)
-  run("second_design_day_by_option", list(month, if (missing(day_kind)) "of_month" else day_kind), unchecked)
+second_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
+  given <- list(month, if (missing(day_kind)) "of_month" else day_kind)
+  run("second_design_day_by_option", given, unchecked)
+}
 
 known$station_records <- list(
   given = list(
@@ -1218,9 +1380,10 @@ known$daily_temperature <- list(
   results = list(
     temperature = returned()))
 daily_temperature <- function(hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest,
-    unchecked = FALSE)
-  run("daily_temperature", list(hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest),
-    unchecked)
+    unchecked = FALSE) {
+  given <- list(hour, highest_temperature, lowest_temperature, hour_of_highest, hour_of_lowest)
+  run("daily_temperature", given, unchecked)
+}
 
 known$daily_value <- list(
   given = list(
@@ -1232,8 +1395,10 @@ known$daily_value <- list(
     amplitude_factor = number(-Inf, Inf, 'valid is any number')),
   results = list(
     value = returned()))
-daily_value <- function(hour, mean, amplitude, first_hour, second_hour, amplitude_factor, unchecked = FALSE)
-  run("daily_value", list(hour, mean, amplitude, first_hour, second_hour, amplitude_factor), unchecked)
+daily_value <- function(hour, mean, amplitude, first_hour, second_hour, amplitude_factor, unchecked = FALSE) {
+  given <- list(hour, mean, amplitude, first_hour, second_hour, amplitude_factor)
+  run("daily_value", given, unchecked)
+}
 
 known$design_irradiance <- list(
   given = list(
@@ -1243,8 +1408,10 @@ known$design_irradiance <- list(
   results = list(
     direct_normal = returned(),
     diffuse_horizontal = returned()))
-design_irradiance <- function(solar_altitude, site_height, sky_kind = c("clear", "cloudy"), unchecked = FALSE)
-  run("design_irradiance", list(solar_altitude, site_height, if (missing(sky_kind)) "clear" else sky_kind), unchecked)
+design_irradiance <- function(solar_altitude, site_height, sky_kind = c("clear", "cloudy"), unchecked = FALSE) {
+  given <- list(solar_altitude, site_height, if (missing(sky_kind)) "clear" else sky_kind)
+  run("design_irradiance", given, unchecked)
+}
 
 known$height_factor <- list(
   given = list(
@@ -1252,16 +1419,20 @@ known$height_factor <- list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad')),
   results = list(
     factor = returned()))
-height_factor <- function(site_height, solar_altitude, unchecked = FALSE)
-  run("height_factor", list(site_height, solar_altitude), unchecked)
+height_factor <- function(site_height, solar_altitude, unchecked = FALSE) {
+  given <- list(site_height, solar_altitude)
+  run("height_factor", given, unchecked)
+}
 
 known$eccentricity_factor <- list(
   given = list(
     day = number(1, 366, 'valid 1 to 366', whole = TRUE)),
   results = list(
     factor = returned()))
-eccentricity_factor <- function(day, unchecked = FALSE)
-  run("eccentricity_factor", list(day), unchecked)
+eccentricity_factor <- function(day, unchecked = FALSE) {
+  given <- list(day)
+  run("eccentricity_factor", given, unchecked)
+}
 
 known$clearness_index <- list(
   given = list(
@@ -1270,8 +1441,10 @@ known$clearness_index <- list(
     global_horizontal = number(0, Inf, 'valid from 0 W/m2')),
   results = list(
     clearness_index = returned()))
-clearness_index <- function(day, solar_altitude, global_horizontal, unchecked = FALSE)
-  run("clearness_index", list(day, solar_altitude, global_horizontal), unchecked)
+clearness_index <- function(day, solar_altitude, global_horizontal, unchecked = FALSE) {
+  given <- list(day, solar_altitude, global_horizontal)
+  run("clearness_index", given, unchecked)
+}
 
 known$muneer_slope <- list(
   given = list(
@@ -1289,9 +1462,11 @@ known$muneer_slope <- list(
     ground_reflected = returned(),
     incidence = returned()))
 muneer_slope <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, diffuse_horizontal,
-    extraterrestrial_horizontal, ground_reflectance, unchecked = FALSE)
-  run("muneer_slope", list(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, diffuse_horizontal,
-    extraterrestrial_horizontal, ground_reflectance), unchecked)
+    extraterrestrial_horizontal, ground_reflectance, unchecked = FALSE) {
+  given <- list(solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, diffuse_horizontal,
+    extraterrestrial_horizontal, ground_reflectance)
+  run("muneer_slope", given, unchecked)
+}
 
 known$perez_diffuse <- list(
   given = list(
@@ -1304,9 +1479,10 @@ known$perez_diffuse <- list(
   results = list(
     surface_diffuse = returned()))
 perez_diffuse <- function(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, extraterrestrial_normal,
-    unchecked = FALSE)
-  run("perez_diffuse", list(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence,
-    extraterrestrial_normal), unchecked)
+    unchecked = FALSE) {
+  given <- list(solar_altitude, tilt, beam_horizontal, diffuse_horizontal, incidence, extraterrestrial_normal)
+  run("perez_diffuse", given, unchecked)
+}
 
 known$site_constants <- list(
   given = list(
@@ -1317,8 +1493,10 @@ known$site_constants <- list(
     beam_factor = returned(),
     diffuse_factor = returned(),
     alternative_diffuse_factor = returned()))
-site_constants <- function(site_class, month, unchecked = FALSE)
-  run("site_constants", list(site_class, month), unchecked)
+site_constants <- function(site_class, month, unchecked = FALSE) {
+  given <- list(site_class, month)
+  run("site_constants", given, unchecked)
+}
 
 known$diffuse_tilt_factor <- list(
   given = list(
@@ -1330,9 +1508,10 @@ known$diffuse_tilt_factor <- list(
   results = list(
     factor = returned()))
 diffuse_tilt_factor <- function(day, solar_altitude, beam_horizontal, tilt,
-    sky_model = c("radiance_index", "northern_europe", "southern_europe"), unchecked = FALSE)
-  run("diffuse_tilt_factor", list(day, solar_altitude, beam_horizontal, tilt,
-    if (missing(sky_model)) "radiance_index" else sky_model), unchecked)
+    sky_model = c("radiance_index", "northern_europe", "southern_europe"), unchecked = FALSE) {
+  given <- list(day, solar_altitude, beam_horizontal, tilt, if (missing(sky_model)) "radiance_index" else sky_model)
+  run("diffuse_tilt_factor", given, unchecked)
+}
 
 known$slope_diffuse <- list(
   given = list(
@@ -1347,9 +1526,11 @@ known$slope_diffuse <- list(
   results = list(
     surface_diffuse = returned()))
 slope_diffuse <- function(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal,
-    diffuse_horizontal, sky_model = c("radiance_index", "northern_europe", "southern_europe"), unchecked = FALSE)
-  run("slope_diffuse", list(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal,
-    diffuse_horizontal, if (missing(sky_model)) "radiance_index" else sky_model), unchecked)
+    diffuse_horizontal, sky_model = c("radiance_index", "northern_europe", "southern_europe"), unchecked = FALSE) {
+  given <- list(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal, diffuse_horizontal,
+    if (missing(sky_model)) "radiance_index" else sky_model)
+  run("slope_diffuse", given, unchecked)
+}
 
 known$sol_air_temperature <- list(
   given = list(
@@ -1361,9 +1542,10 @@ known$sol_air_temperature <- list(
   results = list(
     temperature = returned()))
 sol_air_temperature <- function(base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss,
-    unchecked = FALSE)
-  run("sol_air_temperature", list(base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss),
-    unchecked)
+    unchecked = FALSE) {
+  given <- list(base_temperature, surface_coefficient, absorptance, irradiance, long_wave_loss)
+  run("sol_air_temperature", given, unchecked)
+}
 
 known$long_wave_loss <- list(
   given = list(
@@ -1371,8 +1553,10 @@ known$long_wave_loss <- list(
     cloud_cover = number(0, 1, 'valid 0 to 1')),
   results = list(
     long_wave_loss = returned()))
-long_wave_loss <- function(tilt, cloud_cover, unchecked = FALSE)
-  run("long_wave_loss", list(tilt, cloud_cover), unchecked)
+long_wave_loss <- function(tilt, cloud_cover, unchecked = FALSE) {
+  given <- list(tilt, cloud_cover)
+  run("long_wave_loss", given, unchecked)
+}
 
 known$solar_time_correction <- list(
   given = list(
@@ -1382,8 +1566,10 @@ known$solar_time_correction <- list(
     reference_longitude = number(-3.1416, 3.1416, 'valid -3.1416 to 3.1416 rad')),
   results = list(
     time_shift = returned()))
-solar_time_correction <- function(clock_offset, day, longitude, reference_longitude, unchecked = FALSE)
-  run("solar_time_correction", list(clock_offset, day, longitude, reference_longitude), unchecked)
+solar_time_correction <- function(clock_offset, day, longitude, reference_longitude, unchecked = FALSE) {
+  given <- list(clock_offset, day, longitude, reference_longitude)
+  run("solar_time_correction", given, unchecked)
+}
 
 known$almanac_position <- list(
   given = list(
@@ -1402,9 +1588,11 @@ known$almanac_position <- list(
     solar_azimuth = returned(),
     declination = returned()))
 almanac_position <- function(time_kind = c("solar", "zone", "dated_solar"), year, month, day_of_month, clock_time,
-    latitude, longitude, zone_meridian, unchecked = FALSE)
-  run("almanac_position", list(if (missing(time_kind)) "solar" else time_kind, year, month, day_of_month, clock_time,
-    latitude, longitude, zone_meridian), unchecked)
+    latitude, longitude, zone_meridian, unchecked = FALSE) {
+  given <- list(if (missing(time_kind)) "solar" else time_kind, year, month, day_of_month, clock_time, latitude,
+    longitude, zone_meridian)
+  run("almanac_position", given, unchecked)
+}
 
 known$almanac_sun_hours <- list(
   given = list(
@@ -1415,8 +1603,10 @@ known$almanac_sun_hours <- list(
   results = list(
     sunrise = returned(),
     sunset = returned()))
-almanac_sun_hours <- function(year, month, day_of_month, latitude, unchecked = FALSE)
-  run("almanac_sun_hours", list(year, month, day_of_month, latitude), unchecked)
+almanac_sun_hours <- function(year, month, day_of_month, latitude, unchecked = FALSE) {
+  given <- list(year, month, day_of_month, latitude)
+  run("almanac_sun_hours", given, unchecked)
+}
 
 known$solar_geometry <- list(
   given = list(
@@ -1429,8 +1619,10 @@ known$solar_geometry <- list(
     solar_azimuth = returned(),
     sunrise = returned(),
     sunset = returned()))
-solar_geometry <- function(latitude, day, solar_time, unchecked = FALSE)
-  run("solar_geometry", list(latitude, day, solar_time), unchecked)
+solar_geometry <- function(latitude, day, solar_time, unchecked = FALSE) {
+  given <- list(latitude, day, solar_time)
+  run("solar_geometry", given, unchecked)
+}
 
 known$surface_angles <- list(
   given = list(
@@ -1442,8 +1634,10 @@ known$surface_angles <- list(
     incidence = returned(),
     vertical_shadow_angle = returned(),
     horizontal_shadow_angle = returned()))
-surface_angles <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, unchecked = FALSE)
-  run("surface_angles", list(solar_altitude, solar_azimuth, surface_azimuth, tilt), unchecked)
+surface_angles <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, unchecked = FALSE) {
+  given <- list(solar_altitude, solar_azimuth, surface_azimuth, tilt)
+  run("surface_angles", given, unchecked)
+}
 
 known$surface_irradiance <- list(
   given = list(
@@ -1461,9 +1655,11 @@ known$surface_irradiance <- list(
     surface_diffuse = returned(),
     ground_reflected = returned()))
 surface_irradiance <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal,
-    ground_reflectance, beam_factor, diffuse_factor, unchecked = FALSE)
-  run("surface_irradiance", list(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal,
-    diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor), unchecked)
+    ground_reflectance, beam_factor, diffuse_factor, unchecked = FALSE) {
+  given <- list(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal,
+    ground_reflectance, beam_factor, diffuse_factor)
+  run("surface_irradiance", given, unchecked)
+}
 
 known$surface_irradiance_and_incidence <- list(
   given = list(
@@ -1482,9 +1678,11 @@ known$surface_irradiance_and_incidence <- list(
     ground_reflected = returned(),
     incidence = returned()))
 surface_irradiance_and_incidence <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal,
-    diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, unchecked = FALSE)
-  run("surface_irradiance_and_incidence", list(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal,
-    diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor), unchecked)
+    diffuse_horizontal, ground_reflectance, beam_factor, diffuse_factor, unchecked = FALSE) {
+  given <- list(solar_altitude, solar_azimuth, surface_azimuth, tilt, direct_normal, diffuse_horizontal,
+    ground_reflectance, beam_factor, diffuse_factor)
+  run("surface_irradiance_and_incidence", given, unchecked)
+}
 
 known$clip <- list(
   given = list(
@@ -1515,8 +1713,10 @@ known$overlap <- list(
     piece_y = returned(shape = c(25, 5)),
     piece_vertices = returned(shape = c(5)),
     area = returned()))
-overlap <- function(x_1, y_1, x_2, y_2, unchecked = FALSE)
-  run("overlap", list(x_1, y_1, x_2, y_2), unchecked)
+overlap <- function(x_1, y_1, x_2, y_2, unchecked = FALSE) {
+  given <- list(x_1, y_1, x_2, y_2)
+  run("overlap", given, unchecked)
+}
 
 known$overlap_alias <- list(
   given = list(
@@ -1529,8 +1729,10 @@ known$overlap_alias <- list(
     piece_y = returned(shape = c(25, 5)),
     piece_vertices = returned(shape = c(5)),
     area = returned()))
-overlap_alias <- function(x_1, y_1, x_2, y_2, unchecked = FALSE)
-  run("overlap_alias", list(x_1, y_1, x_2, y_2), unchecked)
+overlap_alias <- function(x_1, y_1, x_2, y_2, unchecked = FALSE) {
+  given <- list(x_1, y_1, x_2, y_2)
+  run("overlap_alias", given, unchecked)
+}
 
 known$collinearity <- list(
   given = list(
@@ -1538,8 +1740,10 @@ known$collinearity <- list(
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
   results = list(
     code = returned()))
-collinearity <- function(x, y, unchecked = FALSE)
-  run("collinearity", list(x, y), unchecked)
+collinearity <- function(x, y, unchecked = FALSE) {
+  given <- list(x, y)
+  run("collinearity", given, unchecked)
+}
 
 known$count_enclosed <- list(
   given = list(
@@ -1551,8 +1755,10 @@ known$count_enclosed <- list(
   results = list(
     enclosed = returned(shape = c(NA)),
     enclosed_points = returned()))
-count_enclosed <- function(x, y, point_x, point_y, enclosed, unchecked = FALSE)
-  run("count_enclosed", list(x, y, point_x, point_y, enclosed), unchecked)
+count_enclosed <- function(x, y, point_x, point_y, enclosed, unchecked = FALSE) {
+  given <- list(x, y, point_x, point_y, enclosed)
+  run("count_enclosed", given, unchecked)
+}
 
 known$boundary_crossing <- list(
   given = list(
@@ -1563,8 +1769,10 @@ known$boundary_crossing <- list(
   results = list(
     crossing_point = returned(shape = c(2)),
     crossing_code = returned()))
-boundary_crossing <- function(segment_start, segment_end, x, y, unchecked = FALSE)
-  run("boundary_crossing", list(segment_start, segment_end, x, y), unchecked)
+boundary_crossing <- function(segment_start, segment_end, x, y, unchecked = FALSE) {
+  given <- list(segment_start, segment_end, x, y)
+  run("boundary_crossing", given, unchecked)
+}
 
 known$inside <- list(
   given = list(
@@ -1572,8 +1780,10 @@ known$inside <- list(
     polygon = number(-Inf, Inf, 'valid is any number', shape = c(3, NA))),
   results = list(
     inside = returned()))
-inside <- function(point, polygon, unchecked = FALSE)
-  run("inside", list(point, polygon), unchecked)
+inside <- function(point, polygon, unchecked = FALSE) {
+  given <- list(point, polygon)
+  run("inside", given, unchecked)
+}
 
 known$parallel_planes <- list(
   given = list(
@@ -1581,8 +1791,10 @@ known$parallel_planes <- list(
     triangle_2 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3))),
   results = list(
     truth = returned(logical = TRUE)))
-parallel_planes <- function(triangle_1, triangle_2, unchecked = FALSE)
-  run("parallel_planes", list(triangle_1, triangle_2), unchecked)
+parallel_planes <- function(triangle_1, triangle_2, unchecked = FALSE) {
+  given <- list(triangle_1, triangle_2)
+  run("parallel_planes", given, unchecked)
+}
 
 known$parallel_sides <- list(
   given = list(
@@ -1592,16 +1804,20 @@ known$parallel_sides <- list(
     truth = returned(logical = TRUE),
     side_1 = returned(),
     side_2 = returned()))
-parallel_sides <- function(triangle_1, triangle_2, unchecked = FALSE)
-  run("parallel_sides", list(triangle_1, triangle_2), unchecked)
+parallel_sides <- function(triangle_1, triangle_2, unchecked = FALSE) {
+  given <- list(triangle_1, triangle_2)
+  run("parallel_sides", given, unchecked)
+}
 
 known$rectangular <- list(
   given = list(
     quadrilateral = number(-Inf, Inf, 'valid is any number', shape = c(3, 4))),
   results = list(
     truth = returned(logical = TRUE)))
-rectangular <- function(quadrilateral, unchecked = FALSE)
-  run("rectangular", list(quadrilateral), unchecked)
+rectangular <- function(quadrilateral, unchecked = FALSE) {
+  given <- list(quadrilateral)
+  run("rectangular", given, unchecked)
+}
 
 known$facing <- list(
   given = list(
@@ -1610,8 +1826,10 @@ known$facing <- list(
   results = list(
     azimuth = returned(),
     tilt = returned()))
-facing <- function(triangle, azimuth, unchecked = FALSE)
-  run("facing", list(triangle, azimuth), unchecked)
+facing <- function(triangle, azimuth, unchecked = FALSE) {
+  given <- list(triangle, azimuth)
+  run("facing", given, unchecked)
+}
 
 known$local_coordinates <- list(
   given = list(
@@ -1620,8 +1838,10 @@ known$local_coordinates <- list(
   results = list(
     local_1 = returned(shape = c(3, 4)),
     local_2 = returned(shape = c(3, 4))))
-local_coordinates <- function(quadrilateral_1, quadrilateral_2, unchecked = FALSE)
-  run("local_coordinates", list(quadrilateral_1, quadrilateral_2), unchecked)
+local_coordinates <- function(quadrilateral_1, quadrilateral_2, unchecked = FALSE) {
+  given <- list(quadrilateral_1, quadrilateral_2)
+  run("local_coordinates", given, unchecked)
+}
 
 known$to_local <- list(
   given = list(
@@ -1631,8 +1851,10 @@ known$to_local <- list(
     z_axis = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     corners = returned(shape = c(3, 4))))
-to_local <- function(corners, x_axis, y_axis, z_axis, unchecked = FALSE)
-  run("to_local", list(corners, x_axis, y_axis, z_axis), unchecked)
+to_local <- function(corners, x_axis, y_axis, z_axis, unchecked = FALSE) {
+  given <- list(corners, x_axis, y_axis, z_axis)
+  run("to_local", given, unchecked)
+}
 
 known$meeting_point <- list(
   given = list(
@@ -1642,8 +1864,10 @@ known$meeting_point <- list(
     line_2_end = number(-Inf, Inf, 'valid is any number', shape = c(2))),
   results = list(
     meeting_point = returned(shape = c(2))))
-meeting_point <- function(line_1_start, line_1_end, line_2_start, line_2_end, unchecked = FALSE)
-  run("meeting_point", list(line_1_start, line_1_end, line_2_start, line_2_end), unchecked)
+meeting_point <- function(line_1_start, line_1_end, line_2_start, line_2_end, unchecked = FALSE) {
+  given <- list(line_1_start, line_1_end, line_2_start, line_2_end)
+  run("meeting_point", given, unchecked)
+}
 
 known$crossing_point <- list(
   given = list(
@@ -1653,8 +1877,10 @@ known$crossing_point <- list(
     segment_2_end = number(-Inf, Inf, 'valid is any number', shape = c(2))),
   results = list(
     crossing_point = returned(shape = c(2))))
-crossing_point <- function(segment_1_start, segment_1_end, segment_2_start, segment_2_end, unchecked = FALSE)
-  run("crossing_point", list(segment_1_start, segment_1_end, segment_2_start, segment_2_end), unchecked)
+crossing_point <- function(segment_1_start, segment_1_end, segment_2_start, segment_2_end, unchecked = FALSE) {
+  given <- list(segment_1_start, segment_1_end, segment_2_start, segment_2_end)
+  run("crossing_point", given, unchecked)
+}
 
 known$in_span <- list(
   given = list(
@@ -1663,8 +1889,10 @@ known$in_span <- list(
     point = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     indicator = returned()))
-in_span <- function(first_end, second_end, point, unchecked = FALSE)
-  run("in_span", list(first_end, second_end, point), unchecked)
+in_span <- function(first_end, second_end, point, unchecked = FALSE) {
+  given <- list(first_end, second_end, point)
+  run("in_span", given, unchecked)
+}
 
 known$ahead_and_nearer <- list(
   given = list(
@@ -1673,8 +1901,10 @@ known$ahead_and_nearer <- list(
     point = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     indicator = returned()))
-ahead_and_nearer <- function(first_end, second_end, point, unchecked = FALSE)
-  run("ahead_and_nearer", list(first_end, second_end, point), unchecked)
+ahead_and_nearer <- function(first_end, second_end, point, unchecked = FALSE) {
+  given <- list(first_end, second_end, point)
+  run("ahead_and_nearer", given, unchecked)
+}
 
 known$coincide <- list(
   given = list(
@@ -1684,8 +1914,10 @@ known$coincide <- list(
     y_2 = number(-Inf, Inf, 'valid is any number')),
   results = list(
     truth = returned(logical = TRUE)))
-coincide <- function(x_1, y_1, x_2, y_2, unchecked = FALSE)
-  run("coincide", list(x_1, y_1, x_2, y_2), unchecked)
+coincide <- function(x_1, y_1, x_2, y_2, unchecked = FALSE) {
+  given <- list(x_1, y_1, x_2, y_2)
+  run("coincide", given, unchecked)
+}
 
 known$side_of_line <- list(
   given = list(
@@ -1694,16 +1926,20 @@ known$side_of_line <- list(
     point = number(-Inf, Inf, 'valid is any number', shape = c(2))),
   results = list(
     code = returned()))
-side_of_line <- function(line_start, line_end, point, unchecked = FALSE)
-  run("side_of_line", list(line_start, line_end, point), unchecked)
+side_of_line <- function(line_start, line_end, point, unchecked = FALSE) {
+  given <- list(line_start, line_end, point)
+  run("side_of_line", given, unchecked)
+}
 
 known$back_azimuth <- list(
   given = list(
     angle = number(0, 360, 'valid 0 to 360 deg')),
   results = list(
     azimuth = returned()))
-back_azimuth <- function(angle, unchecked = FALSE)
-  run("back_azimuth", list(angle), unchecked)
+back_azimuth <- function(angle, unchecked = FALSE) {
+  given <- list(angle)
+  run("back_azimuth", given, unchecked)
+}
 
 known$direction_to <- list(
   given = list(
@@ -1711,8 +1947,10 @@ known$direction_to <- list(
     solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad')),
   results = list(
     direction = returned(shape = c(3))))
-direction_to <- function(solar_altitude, solar_azimuth, unchecked = FALSE)
-  run("direction_to", list(solar_altitude, solar_azimuth), unchecked)
+direction_to <- function(solar_altitude, solar_azimuth, unchecked = FALSE) {
+  given <- list(solar_altitude, solar_azimuth)
+  run("direction_to", given, unchecked)
+}
 
 known$surface_axes <- list(
   given = list(
@@ -1721,8 +1959,10 @@ known$surface_axes <- list(
   results = list(
     rotation_matrix = returned(shape = c(3, 3)),
     inverse_matrix = returned(shape = c(3, 3))))
-surface_axes <- function(surface_azimuth, tilt, unchecked = FALSE)
-  run("surface_axes", list(surface_azimuth, tilt), unchecked)
+surface_axes <- function(surface_azimuth, tilt, unchecked = FALSE) {
+  given <- list(surface_azimuth, tilt)
+  run("surface_axes", given, unchecked)
+}
 
 known$local_to_global <- list(
   given = list(
@@ -1730,8 +1970,10 @@ known$local_to_global <- list(
     rotation_matrix = number(-1, 1, 'valid -1 to 1', shape = c(3, 3))),
   results = list(
     global_vector = returned(shape = c(3))))
-local_to_global <- function(local_vector, rotation_matrix, unchecked = FALSE)
-  run("local_to_global", list(local_vector, rotation_matrix), unchecked)
+local_to_global <- function(local_vector, rotation_matrix, unchecked = FALSE) {
+  given <- list(local_vector, rotation_matrix)
+  run("local_to_global", given, unchecked)
+}
 
 known$global_to_local <- list(
   given = list(
@@ -1739,8 +1981,10 @@ known$global_to_local <- list(
     rotation_matrix = number(-1, 1, 'valid -1 to 1', shape = c(3, 3))),
   results = list(
     local_vector = returned(shape = c(3))))
-global_to_local <- function(global_vector, rotation_matrix, unchecked = FALSE)
-  run("global_to_local", list(global_vector, rotation_matrix), unchecked)
+global_to_local <- function(global_vector, rotation_matrix, unchecked = FALSE) {
+  given <- list(global_vector, rotation_matrix)
+  run("global_to_local", given, unchecked)
+}
 
 known$plan_area <- list(
   given = list(
@@ -1748,8 +1992,10 @@ known$plan_area <- list(
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
   results = list(
     area = returned()))
-plan_area <- function(x, y, unchecked = FALSE)
-  run("plan_area", list(x, y), unchecked)
+plan_area <- function(x, y, unchecked = FALSE) {
+  given <- list(x, y)
+  run("plan_area", given, unchecked)
+}
 
 known$signed_plan_area <- list(
   given = list(
@@ -1757,8 +2003,10 @@ known$signed_plan_area <- list(
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
   results = list(
     area = returned()))
-signed_plan_area <- function(x, y, unchecked = FALSE)
-  run("signed_plan_area", list(x, y), unchecked)
+signed_plan_area <- function(x, y, unchecked = FALSE) {
+  given <- list(x, y)
+  run("signed_plan_area", given, unchecked)
+}
 
 known$area_in_space <- list(
   given = list(
@@ -1767,8 +2015,10 @@ known$area_in_space <- list(
     z = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
   results = list(
     area = returned()))
-area_in_space <- function(x, y, z, unchecked = FALSE)
-  run("area_in_space", list(x, y, z), unchecked)
+area_in_space <- function(x, y, z, unchecked = FALSE) {
+  given <- list(x, y, z)
+  run("area_in_space", given, unchecked)
+}
 
 known$polygon_orientation <- list(
   given = list(
@@ -1777,8 +2027,10 @@ known$polygon_orientation <- list(
     area = returned(),
     tilt = returned(),
     back_azimuth = returned()))
-polygon_orientation <- function(polygon, unchecked = FALSE)
-  run("polygon_orientation", list(polygon), unchecked)
+polygon_orientation <- function(polygon, unchecked = FALSE) {
+  given <- list(polygon)
+  run("polygon_orientation", given, unchecked)
+}
 
 known$projection <- list(
   given = list(
@@ -1788,8 +2040,10 @@ known$projection <- list(
     direction = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     projected_point = returned(shape = c(3))))
-projection <- function(plane_point, plane_normal, point, direction, unchecked = FALSE)
-  run("projection", list(plane_point, plane_normal, point, direction), unchecked)
+projection <- function(plane_point, plane_normal, point, direction, unchecked = FALSE) {
+  given <- list(plane_point, plane_normal, point, direction)
+  run("projection", given, unchecked)
+}
 
 known$forward_projection <- list(
   given = list(
@@ -1799,8 +2053,10 @@ known$forward_projection <- list(
     direction = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     projected_point = returned(shape = c(3))))
-forward_projection <- function(plane_point, plane_normal, point, direction, unchecked = FALSE)
-  run("forward_projection", list(plane_point, plane_normal, point, direction), unchecked)
+forward_projection <- function(plane_point, plane_normal, point, direction, unchecked = FALSE) {
+  given <- list(plane_point, plane_normal, point, direction)
+  run("forward_projection", given, unchecked)
+}
 
 known$forward_projection_or_start <- list(
   given = list(
@@ -1810,8 +2066,10 @@ known$forward_projection_or_start <- list(
     direction = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     projected_point = returned(shape = c(3))))
-forward_projection_or_start <- function(plane_point, plane_normal, point, direction, unchecked = FALSE)
-  run("forward_projection_or_start", list(plane_point, plane_normal, point, direction), unchecked)
+forward_projection_or_start <- function(plane_point, plane_normal, point, direction, unchecked = FALSE) {
+  given <- list(plane_point, plane_normal, point, direction)
+  run("forward_projection_or_start", given, unchecked)
+}
 
 known$dot_product <- list(
   given = list(
@@ -1819,8 +2077,10 @@ known$dot_product <- list(
     vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     dot_product = returned()))
-dot_product <- function(vector_a, vector_b, unchecked = FALSE)
-  run("dot_product", list(vector_a, vector_b), unchecked)
+dot_product <- function(vector_a, vector_b, unchecked = FALSE) {
+  given <- list(vector_a, vector_b)
+  run("dot_product", given, unchecked)
+}
 
 known$dot_product_in_double <- list(
   given = list(
@@ -1828,8 +2088,10 @@ known$dot_product_in_double <- list(
     vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     dot_product = returned()))
-dot_product_in_double <- function(vector_a, vector_b, unchecked = FALSE)
-  run("dot_product_in_double", list(vector_a, vector_b), unchecked)
+dot_product_in_double <- function(vector_a, vector_b, unchecked = FALSE) {
+  given <- list(vector_a, vector_b)
+  run("dot_product_in_double", given, unchecked)
+}
 
 known$cross_product <- list(
   given = list(
@@ -1837,8 +2099,10 @@ known$cross_product <- list(
     vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     cross_product = returned(shape = c(3))))
-cross_product <- function(vector_a, vector_b, unchecked = FALSE)
-  run("cross_product", list(vector_a, vector_b), unchecked)
+cross_product <- function(vector_a, vector_b, unchecked = FALSE) {
+  given <- list(vector_a, vector_b)
+  run("cross_product", given, unchecked)
+}
 
 known$cross_product_in_double <- list(
   given = list(
@@ -1846,21 +2110,27 @@ known$cross_product_in_double <- list(
     vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     cross_product = returned(shape = c(3))))
-cross_product_in_double <- function(vector_a, vector_b, unchecked = FALSE)
-  run("cross_product_in_double", list(vector_a, vector_b), unchecked)
+cross_product_in_double <- function(vector_a, vector_b, unchecked = FALSE) {
+  given <- list(vector_a, vector_b)
+  run("cross_product_in_double", given, unchecked)
+}
 
 known$length <- list(
   given = list(
     vector = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     length = returned()))
-vector_length <- function(vector, unchecked = FALSE)
-  run("length", list(vector), unchecked)
+vector_length <- function(vector, unchecked = FALSE) {
+  given <- list(vector)
+  run("length", given, unchecked)
+}
 
 known$length_in_double <- list(
   given = list(
     vector = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     length = returned()))
-length_in_double <- function(vector, unchecked = FALSE)
-  run("length_in_double", list(vector), unchecked)
+length_in_double <- function(vector, unchecked = FALSE) {
+  given <- list(vector)
+  run("length_in_double", given, unchecked)
+}
