@@ -7,7 +7,7 @@ from pathlib import Path
 
 import binding_model
 import r_docs
-from plain_text import plain
+from plain_text import plain, statement_lines
 from r_model import EDIT, formals, function_name, is_generated, quoted
 
 WIDTH = 120
@@ -76,8 +76,9 @@ def _returned(result):
 
 
 def _list(name, rows):
-    rows = ",\n".join(f"    {key} = {value}" for key, value in rows)
-    return f"  {name} = list(\n{rows})" if rows else f"  {name} = list()"
+    lines = ["\n".join(statement_lines(f"{key} = {value}", WIDTH - 2, "    ", "      ")) for key, value in rows]
+    text = ",\n".join(lines)
+    return f"  {name} = list(\n{text})"
 
 
 def _knowledge(call):

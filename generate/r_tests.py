@@ -12,7 +12,9 @@ def _compared(call, example):
             value = example.gives[result.name]
             got = f"got${result.clear_name}" if call.structure else "got"
             wanted = f"c({', '.join(map(str, value))})" if isinstance(value, list) else repr(value)
-            yield f'compare("{call.name} {result.clear_name}", {got}, {wanted}, {example.within[result.name]!r}, {str(result.kind == "Logical").upper()})'
+            logical = str(result.kind == "Logical").upper()
+            within = repr(example.within[result.name])
+            yield f'compare("{call.name} {result.clear_name}", {got}, {wanted}, {within}, {logical})'
 
 
 def _examples(calls):

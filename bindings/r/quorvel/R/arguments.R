@@ -34,9 +34,9 @@ check_range <- function(routine, argument, known, value) {
   if (length(value) == 0) return()
   if (!anyNA(value) && min(value) >= known$low && max(value) <= known$high && (!known$whole || all(value %% 1 == 0)))
     return()
-  bad <- is.na(value) | value < known$low | value > known$high | (known$whole & value %% 1 != 0)
-  whole <- if (known$whole && is.null(known$choices)) ", whole numbers" else ""
-  refuse_value(routine, argument, value, which(bad)[1], paste0(known$valid, whole))
+  part <- known$whole & is.finite(value) & value %% 1 != 0
+  at <- which(is.na(value) | value < known$low | value > known$high | part)[1]
+  refuse_value(routine, argument, value, at, paste0(known$valid, if (part[at]) ", whole numbers"))
 }
 
 # An argument as double or integer, with its dimensions.
@@ -46,7 +46,7 @@ numbers <- function(routine, argument, known, value, unchecked) {
     fault(routine, argument, value, paste("must be numbers, not", class(value)[1]))
   if (!unchecked) check_range(routine, argument, known, value)
   if (!known$whole) storage.mode(value) <- "double"
-  else if (!is.integer(value)) suppressWarnings(storage.mode(value) <- "integer") # NA, the lowest one, where it has no room
+  else if (!is.integer(value)) suppressWarnings(storage.mode(value) <- "integer") # NA where it has no room
   value
 }
 

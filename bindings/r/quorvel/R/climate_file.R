@@ -3,7 +3,8 @@
 climate_file <- function(path) {
   path <- path.expand(path)
   opened <- .Call(C_open, if (.Platform$OS.type == "windows") enc2utf8(path) else enc2native(path))
-  if (is.integer(opened)) fault("climate_file", "path", path, paste0("is ", dQuote(path, FALSE), ", no file that may be read"))
+  if (is.integer(opened))
+    fault("climate_file", "path", path, paste0("is ", dQuote(path, FALSE), ", no file that may be read"))
   file <- new.env(parent = emptyenv())
   file$path <- path
   file$pointer <- opened
@@ -41,7 +42,7 @@ read_stations <- function(file, routine, whole, real, start, unchecked) {
   given <- lapply(given, rep_len, count)
   real <- if (length(real)) given[[names(real)]] else numeric(count)
   read <- .Call(C_read, file$pointer, readings[[routine]], do.call(rbind, given[names(whole)]), real,
-                matrix(as.double(start), length(start), count))
+                matrix(rep(as.double(start), count), length(start)))
   unread <- which(read[[2]] != 0L)
   if (length(unread) && !unchecked)
     fault(routine, "station", given$station[unread[1]],

@@ -7,10 +7,10 @@ clipping_faults <- c(
   "the pieces have more than 16 million vertices", "the pieces have more than 16 million vertices")
 short_of_room <- c(7, 10, 11)
 
-plan <- function(polygon, name) {
+plan <- function(polygon, routine, name) {
   points <- unname(as.matrix(polygon))
   if (!is.numeric(points) || ncol(points) != 2 || !all(is.finite(points)))
-    fault("clip_polygons", name, polygon, "must be a matrix of finite numbers with a row [x, y] for each vertex")
+    fault(routine, name, polygon, "must be a matrix of finite numbers with a row [x, y] for each vertex")
   points
 }
 
@@ -34,8 +34,8 @@ pieces <- function(clipped, list) {
 }
 
 clip_polygons <- function(a, b) {
-  a <- plan(a, "a")
-  b <- plan(b, "b")
+  a <- plan(a, "clip_polygons", "a")
+  b <- plan(b, "clip_polygons", "b")
   for (name in c("a", "b"))
     if (nrow(get(name)) < 3) fault("clip_polygons", name, get(name), "has fewer than 3 vertices")
   room <- 64
@@ -50,7 +50,7 @@ clip_polygons <- function(a, b) {
 }
 
 polygon_area <- function(polygon) {
-  points <- plan(polygon, "polygon")
+  points <- plan(polygon, "polygon_area", "polygon")
   if (nrow(points) < 3) return(0)
   x <- points[, 1] - points[1, 1]
   y <- points[, 2] - points[1, 2]

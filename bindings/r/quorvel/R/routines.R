@@ -549,7 +549,8 @@ known$cyclic_response <- list(
     inside_resistance = number(0, Inf, 'valid from 0 m2K/W'),
     outside_resistance = number(0, Inf, 'valid from 0 m2K/W'),
     harmonic = number(0, Inf, 'valid from 0', whole = TRUE),
-    element_kind = number(1, 2, 'valid 1 ("between"), 2 ("partition")', whole = TRUE, choices = c(between = 1, partition = 2))),
+    element_kind = number(1, 2, 'valid 1 ("between"), 2 ("partition")', whole = TRUE, choices = c(between = 1,
+      partition = 2))),
   results = list(
     admittance = returned(),
     admittance_lead = returned(),
@@ -669,7 +670,8 @@ known$natural_convection_coefficient <- list(
   given = list(
     temperature_difference = number(-Inf, Inf, 'valid is any number'),
     characteristic_length = number(0, Inf, 'valid from 0 m'),
-    heat_flow_direction = number(1, 3, 'valid 1 ("upward"), 2 ("horizontal"), 3 ("downward")', whole = TRUE, choices = c(upward = 1, horizontal = 2, downward = 3))),
+    heat_flow_direction = number(1, 3, 'valid 1 ("upward"), 2 ("horizontal"), 3 ("downward")', whole = TRUE, choices =
+      c(upward = 1, horizontal = 2, downward = 3))),
   results = list(
     heat_transfer_coefficient = returned()))
 natural_convection_coefficient <- function(temperature_difference, characteristic_length,
@@ -753,7 +755,8 @@ known$surface_resistance <- list(
   given = list(
     surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside = 2)),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
-    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered = 1, normal = 2, severe = 3))),
+    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered =
+      1, normal = 2, severe = 3))),
   results = list(
     surface_resistance = returned()))
 surface_resistance <- function(surface = c("outside", "inside"), tilt, exposure = c("sheltered", "normal", "severe"),
@@ -766,7 +769,8 @@ known$surface_resistance_at_emissivity <- list(
   given = list(
     surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside = 2)),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
-    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered = 1, normal = 2, severe = 3)),
+    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered =
+      1, normal = 2, severe = 3)),
     emissivity = number(0, 1, 'valid 0 to 1')),
   results = list(
     surface_resistance = returned()))
@@ -794,7 +798,8 @@ known$u_value_at_tilt_and_exposure <- list(
   given = list(
     u_value = number(0, Inf, 'valid from 0 W/m2K'),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
-    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered = 1, normal = 2, severe = 3))),
+    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered =
+      1, normal = 2, severe = 3))),
   results = list(
     u_value = returned()))
 u_value_at_tilt_and_exposure <- function(u_value, tilt, exposure = c("sheltered", "normal", "severe"),
@@ -806,16 +811,21 @@ u_value_at_tilt_and_exposure <- function(u_value, tilt, exposure = c("sheltered"
 known$window_parameters <- list(
   given = list(
     panes = number(1, 3, 'valid 1 to 3', whole = TRUE),
-    pane_kind_1 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented = 2)),
+    pane_kind_1 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented =
+      2)),
     emissivity_1 = number(0, 1, 'valid 0 to 1'),
-    pane_kind_2 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented = 2)),
+    pane_kind_2 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented =
+      2)),
     emissivity_2 = number(0, 1, 'valid 0 to 1'),
-    pane_kind_3 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented = 2)),
+    pane_kind_3 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented =
+      2)),
     emissivity_3 = number(0, 1, 'valid 0 to 1'),
     cavity_width_1 = number(0.001, Inf, 'valid from 0.001 m'),
     cavity_width_2 = number(0.001, Inf, 'valid from 0.001 m'),
-    outer_surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside = 2)),
-    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered = 1, normal = 2, severe = 3)),
+    outer_surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside =
+      2)),
+    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered =
+      1, normal = 2, severe = 3)),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad')),
   results = list(
     admittance = returned(),
@@ -1267,7 +1277,8 @@ store_design_day <- function(month, unchecked = FALSE) {
 known$store_design_day_by_option <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
-    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
+    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year =
+      2))),
   results = list(
     day = returned()))
 store_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
@@ -1288,7 +1299,8 @@ design_day <- function(month, unchecked = FALSE) {
 known$design_day_by_option <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
-    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
+    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year =
+      2))),
   results = list(
     day = returned()))
 design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
@@ -1309,7 +1321,8 @@ second_design_day <- function(month, unchecked = FALSE) {
 known$second_design_day_by_option <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
-    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year = 2))),
+    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year =
+      2))),
   results = list(
     day = returned()))
 second_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
@@ -1504,7 +1517,8 @@ known$diffuse_tilt_factor <- list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
     beam_horizontal = number(0, Inf, 'valid from 0 W/m2'),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
-    sky_model = number(0, 2, 'valid 0 ("radiance_index"), 1 ("northern_europe"), 2 ("southern_europe")', whole = TRUE, choices = c(radiance_index = 0, northern_europe = 1, southern_europe = 2))),
+    sky_model = number(0, 2, 'valid 0 ("radiance_index"), 1 ("northern_europe"), 2 ("southern_europe")', whole = TRUE,
+      choices = c(radiance_index = 0, northern_europe = 1, southern_europe = 2))),
   results = list(
     factor = returned()))
 diffuse_tilt_factor <- function(day, solar_altitude, beam_horizontal, tilt,
@@ -1522,7 +1536,8 @@ known$slope_diffuse <- list(
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
     beam_horizontal = number(0, Inf, 'valid from 0 W/m2'),
     diffuse_horizontal = number(0, Inf, 'valid from 0 W/m2'),
-    sky_model = number(0, 2, 'valid 0 ("radiance_index"), 1 ("northern_europe"), 2 ("southern_europe")', whole = TRUE, choices = c(radiance_index = 0, northern_europe = 1, southern_europe = 2))),
+    sky_model = number(0, 2, 'valid 0 ("radiance_index"), 1 ("northern_europe"), 2 ("southern_europe")', whole = TRUE,
+      choices = c(radiance_index = 0, northern_europe = 1, southern_europe = 2))),
   results = list(
     surface_diffuse = returned()))
 slope_diffuse <- function(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal,
@@ -1573,7 +1588,8 @@ solar_time_correction <- function(clock_offset, day, longitude, reference_longit
 
 known$almanac_position <- list(
   given = list(
-    time_kind = number(1, 3, 'valid 1 ("solar"), 2 ("zone"), 3 ("dated_solar")', whole = TRUE, choices = c(solar = 1, zone = 2, dated_solar = 3)),
+    time_kind = number(1, 3, 'valid 1 ("solar"), 2 ("zone"), 3 ("dated_solar")', whole = TRUE, choices = c(solar = 1,
+      zone = 2, dated_solar = 3)),
     year = number(1976, 2099, 'valid 1976 to 2099', whole = TRUE),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
     day_of_month = number(1, 31, 'valid 1 to 31', whole = TRUE),
@@ -1751,7 +1767,8 @@ known$count_enclosed <- list(
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     point_x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     point_y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
-    enclosed = number(0, 1, 'valid 0 ("outside"), 1 ("inside")', whole = TRUE, choices = c(outside = 0, inside = 1), shape = c(NA))),
+    enclosed = number(0, 1, 'valid 0 ("outside"), 1 ("inside")', whole = TRUE, choices = c(outside = 0, inside = 1),
+      shape = c(NA))),
   results = list(
     enclosed = returned(shape = c(NA)),
     enclosed_points = returned()))

@@ -67,7 +67,8 @@ static void take(call_t *call, int i, SEXP given, size_t elements) {
     const size_t row = (size_t)own->numbers, total = (size_t)XLENGTH(given);
     const size_t numbers = elements == 0 ? row : total / elements;
     const int fits = own->counted_by < 0 ? numbers == row : numbers % row == 0;
-    if (TYPEOF(given) != (own->type == QUORVEL_INTEGER ? INTSXP : REALSXP) || total != numbers * elements || !fits) {
+    const SEXPTYPE type = own->type == QUORVEL_INTEGER ? INTSXP : REALSXP;
+    if (TYPEOF(given) != type || total != numbers * elements || !fits) {
         refuse(call, "the library has other arguments: is it of another version?");
         return;
     }
@@ -104,7 +105,6 @@ static size_t room(const call_t *call, int i) {
 static SEXP make_room(call_t *call, int i) {
     const quorvel_argument *const own = argument(call, i);
     const size_t numbers = room(call, i), total = numbers * call->count;
-    SEXP result = allocVector(own->type == QUORVEL_INTEGER ? INTSXP : REALSXP, (R_xlen_t)total);
     call->stride[i] = (ptrdiff_t)(numbers * bytes(own->type));
     call->at[i] = R_alloc(total + 1, (int)bytes(own->type));
     for (size_t k = 0; k < total; ++k) { /* beyond a count that is not the same for all, nothing is written */
@@ -112,7 +112,7 @@ static SEXP make_room(call_t *call, int i) {
         else if (own->type == QUORVEL_REAL) ((float *)call->at[i])[k] = (float)R_NaN;
         else ((double *)call->at[i])[k] = R_NaN;
     }
-    return result;
+    return allocVector(own->type == QUORVEL_INTEGER ? INTSXP : REALSXP, (R_xlen_t)total);
 }
 
 static void hand_over(const call_t *call, int i, SEXP result) {
@@ -174,12 +174,15 @@ enum { CLIMATE, BAND, ROWS, ROW, RECORDS };
 
 /* One of the five readings, of whole numbers in the order of quorvel_arrays.h and a real. */
 static int32_t read_one(quorvel_climate_file *file, int what, const int *n, float real, float *out) {
-    if (what == CLIMATE) return quorvel_climate_file_station_climate(file, n[0], n[1], n[2], n[3], real, out, out + 7);
-    if (what == ROWS) return quorvel_climate_file_interpolate_station_rows(file, n[0], n[1], n[2], n[3], n[4], real, out);
+    if (what == CLIMATE)
+        return quorvel_climate_file_station_climate(file, n[0], n[1], n[2], n[3], real, out, out + 7);
+    if (what == ROWS)
+        return quorvel_climate_file_interpolate_station_rows(file, n[0], n[1], n[2], n[3], n[4], real, out);
     if (what == ROW) return quorvel_climate_file_station_row(file, n[0], n[1], out);
     if (what == RECORDS) return quorvel_climate_file_station_records(file, n[0], n[1], out);
     int32_t lower = 0, upper = 0;
-    const int32_t status = quorvel_climate_file_locate_station_band(file, n[0], n[1], real, n[2], &lower, &upper, out + 2);
+    const int32_t status =
+        quorvel_climate_file_locate_station_band(file, n[0], n[1], real, n[2], &lower, &upper, out + 2);
     if (status != QUORVEL_OK) return status;
     out[0] = (float)lower;
     out[1] = (float)upper;
@@ -190,6 +193,8 @@ static int32_t read_one(quorvel_climate_file *file, int what, const int *n, floa
  * each. */
 static SEXP read_file(SEXP file, SEXP what, SEXP whole, SEXP real, SEXP given) {
     const size_t count = (size_t)ncols(whole), size = (size_t)nrows(given);
+    quorvel_climate_file *const open = R_ExternalPtrAddr(file);
+    if (!open) error("the climate data file is of an earlier session");
     SEXP results = PROTECT(allocVector(VECSXP, 2));
     SET_VECTOR_ELT(results, 0, duplicate(given));
     SET_VECTOR_ELT(results, 1, allocVector(INTSXP, (R_xlen_t)count));
@@ -197,8 +202,8 @@ static SEXP read_file(SEXP file, SEXP what, SEXP whole, SEXP real, SEXP given) {
     for (size_t k = 0; k < count; ++k) {
         double *const column = REAL(VECTOR_ELT(results, 0)) + k * size;
         for (size_t i = 0; i < size; ++i) out[i] = (float)column[i];
-        INTEGER(VECTOR_ELT(results, 1))[k] = read_one(R_ExternalPtrAddr(file), asInteger(what),
-                                                      INTEGER(whole) + k * (size_t)nrows(whole), (float)REAL(real)[k], out);
+        const int *const n = INTEGER(whole) + k * (size_t)nrows(whole);
+        INTEGER(VECTOR_ELT(results, 1))[k] = read_one(open, asInteger(what), n, (float)REAL(real)[k], out);
         for (size_t i = 0; i < size; ++i) column[i] = out[i];
     }
     UNPROTECT(1);
