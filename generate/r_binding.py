@@ -64,10 +64,11 @@ def _extents(shape):
 def _known(parameter):
     if parameter.kind == "Text":
         return "list()"
+    if parameter.selector:
+        choices = [f"{name} = {value}" for name, (value, _) in parameter.arg.values.items()]
+        return f"choice({', '.join(choices + _extents(parameter.shape))})"
     low, high = map(_limit, parameter.limits)
-    values = [f"{name} = {value}" for name, (value, _) in parameter.arg.values.items()]
-    what = [low, high, f"'{plain(parameter.valid(quoted))}'"]
-    what += ["whole = TRUE"] * (parameter.kind == "Integer") + [f"choices = c({', '.join(values)})"] * bool(values)
+    what = [low, high, f"'{plain(parameter.valid())}'"] + ["whole = TRUE"] * (parameter.kind == "Integer")
     return f"number({', '.join(what + _extents(parameter.shape))})"
 
 

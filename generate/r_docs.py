@@ -44,24 +44,25 @@ INDEX = """\
 Moist air, walls, panes, glazing units and blinds, sun and sky, vectors and polygons.
 }}
 \\details{{
-Where an argument is one number, a vector may stand: the function then works out all elements, and shorter vectors are
-recycled, as far as they fit evenly. Results have the names and dimensions of the first argument that is as long. What is
-a vector or matrix itself (layers, points, a rotation matrix) is one for all elements or, with one dimension more, one
-for each: the columns of a matrix are vectors. The numbers of a point are a column too: a polygon in space is
-\\code{{rbind(x, y, z)}}.
+Where an argument is one number, a vector may stand: the function then works out all elements. Shorter vectors are
+recycled, where they fit evenly. Results have the names and dimensions of the first argument that is as long.
 
-One result is a vector, or an array with the elements as its last dimension. Several are a data frame with a row for each
-element, or a list where some of them are vectors or matrices. All are worked out in single precision, some geometry in
-double. What a routine leaves unset is \\code{{NaN}}.
+What is a vector or matrix itself (layers, points, a rotation matrix) is one for all elements or, with one dimension
+more, one for each: the columns of a matrix are vectors. The numbers of a point are a column too: a polygon in space is
+\\code{{rbind(x, y, z)}}. Vectors of layers or vertices that belong together must have the same length.
 
-A selector is one of the names that the usage shows, the first one unless it is given, or its number; a vector of these
-has one for each element.
+One result is a vector, or an array with the elements as its last dimension. Several are a data frame with a row for
+each element, or a list where some of them are vectors or matrices. All are worked out in single precision, some
+geometry in double. What a routine leaves unset is \\code{{NaN}}, a whole number 0.
+
+A selector is one of the names that the usage shows, which may be shortened, or its number; the first one unless it is
+given. A vector has one for each element.
 
 An argument that is not a number, or outside of its valid range, stops with an error of class \\code{{quorvel_error}},
-which has the \\code{{routine}}, the \\code{{argument}} and its \\code{{value}}. With \\code{{unchecked = TRUE}} nothing
-but lengths and types is checked, and the result is that of the routine in C to the bit: what that is outside of the
-ranges is told in the details of each page. \\code{{NA}} passes as a number that is none and comes back as \\code{{NaN}};
-as a whole number it is the lowest one of 32 bits, which also stands for what has more bits than these.
+which has the \\code{{routine}}, the \\code{{argument}} and its \\code{{value}}. With \\code{{unchecked = TRUE}}
+nothing but types and lengths (of layers too) is checked, and the result is that of the routine in C to the bit; the
+details of each page tell what that is outside of the ranges. \\code{{NA}} then passes as a number that is none, and
+comes back as \\code{{NaN}}; as a whole number it is the lowest one of 32 bits, which also stands for what has more.
 
 Angles are in radians; azimuths run from north, clockwise seen from above.
 }}
@@ -98,7 +99,7 @@ def _shape(described):
 def _meaning(parameter, texts):
     if not parameter.selector:
         return texts.sentence(parameter.sentence) + _shape(parameter)
-    values = [f'\\code{{"{name}"}} ({number}) {texts(what)}' for name, (number, what) in parameter.arg.values.items()]
+    values = [f'\\code{{"{name}"}} ({value}) {texts(what)}' for name, (value, what) in parameter.arg.values.items()]
     return f"{texts.sentence(parameter.meaning)[:-1]}: {', '.join(values)}." + _shape(parameter)
 
 
@@ -109,11 +110,11 @@ def items(call, texts):
 
 
 def _value(call, texts):
-    described = [texts.sentence(result.sentence) + _shape(result) for result in call.results]
-    if len(call.results) == 1:
-        return texts.paragraph(described[0])
+    described = [(result.clear_name, texts.sentence(result.sentence) + _shape(result)) for result in call.results]
+    if len(described) == 1:
+        return texts.paragraph(described[0][1])
     kind = "A list" if any(result.shape for result in call.results) else "A data frame"
-    rows = [texts.paragraph(f"\\item{{{result.clear_name}}}{{{text}}}") for result, text in zip(call.results, described)]
+    rows = [texts.paragraph(f"\\item{{{name}}}{{{text}}}") for name, text in described]
     return "\n".join([f"{kind} of", *rows])
 
 
@@ -154,7 +155,7 @@ def _examples(call):
     for example in call.routine.examples[:2]:
         remark = f"{'; '.join(_expected(call, example))} ({example.source})"
         yield _folded(remark.replace("\\", "\\\\").replace("%", "\\%"), "# ", "# ")
-        yield _folded(invocation(call, example), "", "    ")
+        yield _folded(invocation(call, example).replace(" = ", "\0=\0"), "", "    ").replace("\0", " ")
 
 
 def _usage(call):
@@ -173,9 +174,8 @@ def _page(call, texts):
 
 
 def _section(family, calls, texts):
-    rows = [texts.paragraph(f"\\item{{\\code{{\\link{{{function_name(call)}}}}}}}{{{texts(call.routine.summary)}}}")
-            for call in calls if call.family == family.family]
-    text = "\n".join(rows)
+    own = [(function_name(call), call.routine.summary) for call in calls if call.family == family.family]
+    text = "\n".join(texts.paragraph(f"\\item{{\\code{{\\link{{{name}}}}}}}{{{texts(about)}}}") for name, about in own)
     return f"\\section{{{family.title}}}{{\n\\describe{{\n{text}\n}}}}\n"
 
 

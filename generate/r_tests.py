@@ -42,7 +42,8 @@ def _layout(call):
 
 def files(families):
     calls = binding_model.calls(families)
+    layouts = [_layout(call) for call in calls if call.routine.export]
     return {
         "examples.R": "\n".join([f"# {EDIT}", *_examples(calls), ""]),
-        "layouts.R": "\n".join([f"# {EDIT}", "layouts <- list()", *(_layout(call) for call in calls if call.routine.export), ""]),
+        "layouts.R": "\n".join([f"# {EDIT}", "layouts <- list()", *layouts, ""]),
     }

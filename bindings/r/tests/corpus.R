@@ -40,7 +40,8 @@ read_calls <- function(name, layout) {
 # Of some calls the part that their counts count.
 part <- function(columns, read, counts, calls) {
   part_of <- function(column, numbers) {
-    extents <- Map(function(room, count) seq_len(if (is.na(count)) room else counts[[count]]), column$room, column$counts)
+    counted <- function(room, count) seq_len(if (is.na(count)) room else counts[[count]])
+    extents <- Map(counted, column$room, column$counts)
     do.call(`[`, c(list(numbers), unname(extents), list(calls), drop = FALSE))
   }
   Map(part_of, columns, read)

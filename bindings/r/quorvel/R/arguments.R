@@ -1,9 +1,16 @@
 # What is known of arguments and results, and what a caller passes as numbers that fit.
 
 # An argument: the ends of its valid range, which `valid` tells; its extents, NA for what is counted.
-number <- function(low, high, valid, whole = FALSE, choices = NULL, shape = NULL)
+number <- function(low, high, valid, whole = FALSE, shape = NULL)
   list(low = max(low, if (whole) -.Machine$integer.max), high = min(high, if (whole) .Machine$integer.max),
-       valid = valid, whole = whole, choices = choices, shape = shape)
+       valid = valid, whole = whole, shape = shape)
+
+# A selector, of numbers with names.
+choice <- function(..., shape = NULL) {
+  choices <- c(...)
+  valid <- paste("valid", paste0(choices, " (\"", names(choices), "\")", collapse = ", "))
+  c(number(min(choices), max(choices), valid, whole = TRUE, shape = shape), list(choices = choices))
+}
 
 returned <- function(logical = FALSE, shape = NULL) list(logical = logical, shape = shape)
 

@@ -155,7 +155,7 @@ known$dry_bulb_from_wet_bulb_and_vapour_pressure <- list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_vapour_pressure <- function(wet_bulb, vapour_pressure, pressure,
@@ -169,7 +169,7 @@ known$dry_bulb_from_wet_bulb_and_moisture_content <- list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_moisture_content <- function(wet_bulb, moisture_content, pressure,
@@ -183,7 +183,7 @@ known$dry_bulb_from_wet_bulb_and_relative_humidity <- list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     relative_humidity = number(0, 100, 'valid 0 to 100 %'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_relative_humidity <- function(wet_bulb, relative_humidity, pressure,
@@ -197,7 +197,7 @@ known$dry_bulb_from_wet_bulb_and_percentage_saturation <- list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_percentage_saturation <- function(wet_bulb, percentage_saturation, pressure,
@@ -211,7 +211,7 @@ known$dry_bulb_from_wet_bulb_and_enthalpy <- list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     dry_bulb = returned()))
 dry_bulb_from_wet_bulb_and_enthalpy <- function(wet_bulb, enthalpy, pressure, psychrometer = c("sling", "screen"),
@@ -244,7 +244,7 @@ known$moisture_content_from_psychrometer <- list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     moisture_content = returned()))
 moisture_content_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
@@ -340,7 +340,7 @@ known$specific_enthalpy_from_psychrometer <- list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     enthalpy = returned()))
 specific_enthalpy_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
@@ -465,7 +465,7 @@ known$vapour_pressure_from_psychrometer <- list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     vapour_pressure = returned()))
 vapour_pressure_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psychrometer = c("sling", "screen"),
@@ -490,7 +490,7 @@ known$psychrometer_wet_bulb <- list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     relative_humidity = number(0, 100, 'valid 0 to 100 %'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     wet_bulb = returned()))
 psychrometer_wet_bulb <- function(dry_bulb, relative_humidity, pressure, psychrometer = c("sling", "screen"),
@@ -504,7 +504,7 @@ known$wet_bulb_from_percentage_saturation <- list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     wet_bulb = returned()))
 wet_bulb_from_percentage_saturation <- function(dry_bulb, percentage_saturation, pressure,
@@ -518,7 +518,7 @@ known$wet_bulb_from_moisture_content <- list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     wet_bulb = returned()))
 wet_bulb_from_moisture_content <- function(dry_bulb, moisture_content, pressure, psychrometer = c("sling", "screen"),
@@ -532,7 +532,7 @@ known$wet_bulb <- list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa'),
-    psychrometer = number(1, 2, 'valid 1 ("sling"), 2 ("screen")', whole = TRUE, choices = c(sling = 1, screen = 2))),
+    psychrometer = choice(sling = 1, screen = 2)),
   results = list(
     wet_bulb = returned()))
 wet_bulb <- function(dry_bulb, vapour_pressure, pressure, psychrometer = c("sling", "screen"), unchecked = FALSE) {
@@ -549,8 +549,7 @@ known$cyclic_response <- list(
     inside_resistance = number(0, Inf, 'valid from 0 m2K/W'),
     outside_resistance = number(0, Inf, 'valid from 0 m2K/W'),
     harmonic = number(0, Inf, 'valid from 0', whole = TRUE),
-    element_kind = number(1, 2, 'valid 1 ("between"), 2 ("partition")', whole = TRUE, choices = c(between = 1,
-      partition = 2))),
+    element_kind = choice(between = 1, partition = 2)),
   results = list(
     admittance = returned(),
     admittance_lead = returned(),
@@ -670,8 +669,7 @@ known$natural_convection_coefficient <- list(
   given = list(
     temperature_difference = number(-Inf, Inf, 'valid is any number'),
     characteristic_length = number(0, Inf, 'valid from 0 m'),
-    heat_flow_direction = number(1, 3, 'valid 1 ("upward"), 2 ("horizontal"), 3 ("downward")', whole = TRUE, choices =
-      c(upward = 1, horizontal = 2, downward = 3))),
+    heat_flow_direction = choice(upward = 1, horizontal = 2, downward = 3)),
   results = list(
     heat_transfer_coefficient = returned()))
 natural_convection_coefficient <- function(temperature_difference, characteristic_length,
@@ -683,7 +681,7 @@ natural_convection_coefficient <- function(temperature_difference, characteristi
 
 known$pack_two_fractions <- list(
   given = list(
-    packing = number(1, 2, 'valid 1 ("pack"), 2 ("unpack")', whole = TRUE, choices = c(pack = 1, unpack = 2)),
+    packing = choice(pack = 1, unpack = 2),
     packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
     fraction_1 = number(0, 0.99, 'valid 0 to 0.99'),
     fraction_2 = number(0, 0.99, 'valid 0 to 0.99')),
@@ -699,7 +697,7 @@ pack_two_fractions <- function(packing = c("pack", "unpack"), packed_number, fra
 
 known$pack_three_fractions <- list(
   given = list(
-    packing = number(1, 2, 'valid 1 ("pack"), 2 ("unpack")', whole = TRUE, choices = c(pack = 1, unpack = 2)),
+    packing = choice(pack = 1, unpack = 2),
     packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
     fraction_1 = number(0, 0.99, 'valid 0 to 0.99'),
     fraction_2 = number(0, 0.99, 'valid 0 to 0.99'),
@@ -717,7 +715,7 @@ pack_three_fractions <- function(packing = c("pack", "unpack"), packed_number, f
 
 known$pack_three_fractions_third_first <- list(
   given = list(
-    packing = number(1, 2, 'valid 1 ("pack"), 2 ("unpack")', whole = TRUE, choices = c(pack = 1, unpack = 2)),
+    packing = choice(pack = 1, unpack = 2),
     packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
     fraction_3 = number(0, 0.99, 'valid 0 to 0.99'),
     fraction_1 = number(0, 0.99, 'valid 0 to 0.99'),
@@ -735,7 +733,7 @@ pack_three_fractions_third_first <- function(packing = c("pack", "unpack"), pack
 
 known$pack_pane <- list(
   given = list(
-    packing = number(1, 2, 'valid 1 ("pack"), 2 ("unpack")', whole = TRUE, choices = c(pack = 1, unpack = 2)),
+    packing = choice(pack = 1, unpack = 2),
     packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
     absorptance = number(0, 1, 'valid 0 to 1'),
     reflectance_1 = number(0, 1, 'valid 0 to 1'),
@@ -753,10 +751,9 @@ pack_pane <- function(packing = c("pack", "unpack"), packed_number, absorptance,
 
 known$surface_resistance <- list(
   given = list(
-    surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside = 2)),
+    surface = choice(outside = 1, inside = 2),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
-    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered =
-      1, normal = 2, severe = 3))),
+    exposure = choice(sheltered = 1, normal = 2, severe = 3)),
   results = list(
     surface_resistance = returned()))
 surface_resistance <- function(surface = c("outside", "inside"), tilt, exposure = c("sheltered", "normal", "severe"),
@@ -767,10 +764,9 @@ surface_resistance <- function(surface = c("outside", "inside"), tilt, exposure 
 
 known$surface_resistance_at_emissivity <- list(
   given = list(
-    surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside = 2)),
+    surface = choice(outside = 1, inside = 2),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
-    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered =
-      1, normal = 2, severe = 3)),
+    exposure = choice(sheltered = 1, normal = 2, severe = 3),
     emissivity = number(0, 1, 'valid 0 to 1')),
   results = list(
     surface_resistance = returned()))
@@ -798,8 +794,7 @@ known$u_value_at_tilt_and_exposure <- list(
   given = list(
     u_value = number(0, Inf, 'valid from 0 W/m2K'),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
-    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered =
-      1, normal = 2, severe = 3))),
+    exposure = choice(sheltered = 1, normal = 2, severe = 3)),
   results = list(
     u_value = returned()))
 u_value_at_tilt_and_exposure <- function(u_value, tilt, exposure = c("sheltered", "normal", "severe"),
@@ -811,21 +806,16 @@ u_value_at_tilt_and_exposure <- function(u_value, tilt, exposure = c("sheltered"
 known$window_parameters <- list(
   given = list(
     panes = number(1, 3, 'valid 1 to 3', whole = TRUE),
-    pane_kind_1 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented =
-      2)),
+    pane_kind_1 = choice(closing = 1, vented = 2),
     emissivity_1 = number(0, 1, 'valid 0 to 1'),
-    pane_kind_2 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented =
-      2)),
+    pane_kind_2 = choice(closing = 1, vented = 2),
     emissivity_2 = number(0, 1, 'valid 0 to 1'),
-    pane_kind_3 = number(1, 2, 'valid 1 ("closing"), 2 ("vented")', whole = TRUE, choices = c(closing = 1, vented =
-      2)),
+    pane_kind_3 = choice(closing = 1, vented = 2),
     emissivity_3 = number(0, 1, 'valid 0 to 1'),
     cavity_width_1 = number(0.001, Inf, 'valid from 0.001 m'),
     cavity_width_2 = number(0.001, Inf, 'valid from 0.001 m'),
-    outer_surface = number(1, 2, 'valid 1 ("outside"), 2 ("inside")', whole = TRUE, choices = c(outside = 1, inside =
-      2)),
-    exposure = number(1, 3, 'valid 1 ("sheltered"), 2 ("normal"), 3 ("severe")', whole = TRUE, choices = c(sheltered =
-      1, normal = 2, severe = 3)),
+    outer_surface = choice(outside = 1, inside = 2),
+    exposure = choice(sheltered = 1, normal = 2, severe = 3),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad')),
   results = list(
     admittance = returned(),
@@ -1080,7 +1070,7 @@ unit_diffuse_shares <- function(shortwave_shading_coefficient, longwave_shading_
 
 known$unit_shares <- list(
   given = list(
-    radiation = number(1, 2, 'valid 1 ("direct"), 2 ("diffuse")', whole = TRUE, choices = c(direct = 1, diffuse = 2)),
+    radiation = choice(direct = 1, diffuse = 2),
     shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
     longwave_shading_coefficient = number(0, 1, 'valid 0 to 1'),
     incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
@@ -1221,7 +1211,7 @@ known$band_climate <- list(
   given = list(
     band = number(0, 10, 'valid 0 to 10', whole = TRUE),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
-    band_set = number(1, 2, 'valid 1 ("first"), 2 ("second")', whole = TRUE, choices = c(first = 1, second = 2)),
+    band_set = choice(first = 1, second = 2),
     percentage = number(0, 100, 'valid 0 to 100 %')),
   results = list(
     percentage = returned(),
@@ -1277,8 +1267,7 @@ store_design_day <- function(month, unchecked = FALSE) {
 known$store_design_day_by_option <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
-    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year =
-      2))),
+    day_kind = choice(of_month = 1, of_year = 2)),
   results = list(
     day = returned()))
 store_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
@@ -1299,8 +1288,7 @@ design_day <- function(month, unchecked = FALSE) {
 known$design_day_by_option <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
-    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year =
-      2))),
+    day_kind = choice(of_month = 1, of_year = 2)),
   results = list(
     day = returned()))
 design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
@@ -1321,8 +1309,7 @@ second_design_day <- function(month, unchecked = FALSE) {
 known$second_design_day_by_option <- list(
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
-    day_kind = number(1, 2, 'valid 1 ("of_month"), 2 ("of_year")', whole = TRUE, choices = c(of_month = 1, of_year =
-      2))),
+    day_kind = choice(of_month = 1, of_year = 2)),
   results = list(
     day = returned()))
 second_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unchecked = FALSE) {
@@ -1341,11 +1328,11 @@ known$station_records <- list(
 
 known$station_climate <- list(
   given = list(
-    file_unit = number(31, 31, 'valid 31 ("opened_last")', whole = TRUE, choices = c(opened_last = 31)),
+    file_unit = choice(opened_last = 31),
     station = number(1, Inf, 'valid from 1', whole = TRUE),
     band = number(0, 10, 'valid 0 to 10', whole = TRUE),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
-    band_set = number(1, 2, 'valid 1 ("first"), 2 ("second")', whole = TRUE, choices = c(first = 1, second = 2)),
+    band_set = choice(first = 1, second = 2),
     percentage = number(0, 100, 'valid 0 to 100 %')),
   results = list(
     q1 = returned(),
@@ -1417,7 +1404,7 @@ known$design_irradiance <- list(
   given = list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
     site_height = number(0, 4000, 'valid 0 to 4000 m'),
-    sky_kind = number(0, 1, 'valid 0 ("clear"), 1 ("cloudy")', whole = TRUE, choices = c(clear = 0, cloudy = 1))),
+    sky_kind = choice(clear = 0, cloudy = 1)),
   results = list(
     direct_normal = returned(),
     diffuse_horizontal = returned()))
@@ -1517,8 +1504,7 @@ known$diffuse_tilt_factor <- list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
     beam_horizontal = number(0, Inf, 'valid from 0 W/m2'),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
-    sky_model = number(0, 2, 'valid 0 ("radiance_index"), 1 ("northern_europe"), 2 ("southern_europe")', whole = TRUE,
-      choices = c(radiance_index = 0, northern_europe = 1, southern_europe = 2))),
+    sky_model = choice(radiance_index = 0, northern_europe = 1, southern_europe = 2)),
   results = list(
     factor = returned()))
 diffuse_tilt_factor <- function(day, solar_altitude, beam_horizontal, tilt,
@@ -1536,8 +1522,7 @@ known$slope_diffuse <- list(
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
     beam_horizontal = number(0, Inf, 'valid from 0 W/m2'),
     diffuse_horizontal = number(0, Inf, 'valid from 0 W/m2'),
-    sky_model = number(0, 2, 'valid 0 ("radiance_index"), 1 ("northern_europe"), 2 ("southern_europe")', whole = TRUE,
-      choices = c(radiance_index = 0, northern_europe = 1, southern_europe = 2))),
+    sky_model = choice(radiance_index = 0, northern_europe = 1, southern_europe = 2)),
   results = list(
     surface_diffuse = returned()))
 slope_diffuse <- function(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, beam_horizontal,
@@ -1588,8 +1573,7 @@ solar_time_correction <- function(clock_offset, day, longitude, reference_longit
 
 known$almanac_position <- list(
   given = list(
-    time_kind = number(1, 3, 'valid 1 ("solar"), 2 ("zone"), 3 ("dated_solar")', whole = TRUE, choices = c(solar = 1,
-      zone = 2, dated_solar = 3)),
+    time_kind = choice(solar = 1, zone = 2, dated_solar = 3),
     year = number(1976, 2099, 'valid 1976 to 2099', whole = TRUE),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
     day_of_month = number(1, 31, 'valid 1 to 31', whole = TRUE),
@@ -1767,8 +1751,7 @@ known$count_enclosed <- list(
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     point_x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     point_y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
-    enclosed = number(0, 1, 'valid 0 ("outside"), 1 ("inside")', whole = TRUE, choices = c(outside = 0, inside = 1),
-      shape = c(NA))),
+    enclosed = choice(outside = 0, inside = 1, shape = c(NA))),
   results = list(
     enclosed = returned(shape = c(NA)),
     enclosed_points = returned()))
