@@ -85,7 +85,7 @@ def _list(name, rows):
 def _knowledge(call):
     given = _list("given", [(parameter.name, _known(parameter)) for parameter in call.parameters])
     results = _list("results", [(result.clear_name, _returned(result)) for result in call.results])
-    return f"known${call.name} <- list(\n{given},\n{results})\n"
+    return f'known${function_name(call)} <- list(\n  routine = "{call.name}",\n{given},\n{results})\n'
 
 
 # ---- The functions ----
@@ -107,7 +107,7 @@ def _filled(start, parts, end):
 def _function(call):
     head = _filled(f"{function_name(call)} <- function(", formals(call), ") {")
     given = _filled("  given <- list(", map(_passed, call.parameters), ")")  # here, so that R tells of whose is missing
-    return f'{head}\n{given}\n  run("{call.name}", given, unchecked)\n}}\n'
+    return f'{head}\n{given}\n  run("{function_name(call)}", given, unchecked)\n}}\n'
 
 
 def _routines(calls):

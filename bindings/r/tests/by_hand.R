@@ -21,7 +21,7 @@ refused(u_value(rep(1, 21), rep(1, 21), 0.13, 0.04, unchecked = TRUE), "u_value:
 refused(cross_product(1:2, 1:3), "cross_product: vector_a must be 3 numbers, not 2")
 refused(polygon_orientation(matrix(0, 2, 4)), "polygon_orientation: polygon must be 3 x n numbers, not 2 x 4")
 refused(unit_direct_shares(0.5, 0.1, 0.3, c(2, 9), unchecked = TRUE), "unit_direct_shares: panes must be from 1 to 5")
-fault <- tryCatch(vapour_pressure(20, 150), quorvel_error = identity)
+fault <- tryCatch(vapour_pressure(20, c(50, 150)), quorvel_error = identity)
 stopifnot(fault$routine == "vapour_pressure", fault$argument == "relative_humidity", fault$value == 150)
 
 # Selectors: the first unless given; by name, short name, number; one for each element

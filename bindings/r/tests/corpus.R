@@ -63,9 +63,8 @@ assert_all_same <- function(name, layout, got, left) {
 }
 
 call_unchecked <- function(name, given) {
-  if (name == "clip_polygons") return(quorvel:::run("clip", given[names(quorvel:::known$clip$given)], TRUE))
-  call <- get(name, envir = asNamespace("quorvel"))
-  do.call(call, c(given[intersect(names(given), names(formals(call)))], unchecked = TRUE))
+  given <- given[names(quorvel:::known[[name]]$given)]
+  if (name == "clip_polygons") quorvel:::run(name, given, TRUE) else do.call(name, c(given, unchecked = TRUE))
 }
 
 # Calls whose counts are valid, by these counts.

@@ -14,15 +14,15 @@ choice <- function(..., shape = NULL) {
 
 returned <- function(logical = FALSE, shape = NULL) list(logical = logical, shape = shape)
 
-fault <- function(routine, argument, value, complaint)
+fault <- function(routine, argument, value, complaint, place = "")
   stop(structure(class = c("quorvel_error", "error", "condition"), list(
-    message = paste0(routine, ": ", argument, " ", complaint), call = NULL,
+    message = paste0(routine, ": ", argument, place, " ", complaint), call = NULL,
     routine = routine, argument = argument, value = value)))
 
 refuse_value <- function(routine, argument, value, at, valid) {
   place <- if (length(value) > 1) sprintf("[%d]", at) else ""
   shown <- if (is.character(value)) dQuote(value[at], FALSE) else format(value[at], digits = 9)
-  fault(routine, paste0(argument, place), value[at], paste0("is ", shown, "; ", valid))
+  fault(routine, argument, value[at], paste0("is ", shown, "; ", valid), place)
 }
 
 # The numbers of a selector's names, which may be shortened.

@@ -17,7 +17,7 @@ plan <- function(polygon, routine, name) {
 clip_in_room <- function(a, b, room) {
   points <- rbind(a, b, matrix(0, room, 2))
   capacity <- nrow(points)
-  run("clip", list(points[, 1], points[, 2], seq_len(nrow(a)), nrow(a) + seq_len(nrow(b)), 1024, capacity, capacity,
+  run("clip_polygons", list(points[, 1], points[, 2], seq_len(nrow(a)), nrow(a) + seq_len(nrow(b)), 1024, capacity, capacity,
                    nrow(a) + nrow(b)), unchecked = TRUE)
 }
 

@@ -3,6 +3,7 @@
 known <- list()
 
 known$dry_air_enthalpy <- list(
+  routine = "dry_air_enthalpy",
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
@@ -13,6 +14,7 @@ dry_air_enthalpy <- function(temperature, unchecked = FALSE) {
 }
 
 known$water_vapour_enthalpy <- list(
+  routine = "water_vapour_enthalpy",
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
@@ -23,6 +25,7 @@ water_vapour_enthalpy <- function(temperature, unchecked = FALSE) {
 }
 
 known$dry_air_specific_heat <- list(
+  routine = "dry_air_specific_heat",
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
@@ -33,6 +36,7 @@ dry_air_specific_heat <- function(temperature, unchecked = FALSE) {
 }
 
 known$water_vapour_specific_heat <- list(
+  routine = "water_vapour_specific_heat",
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
@@ -43,6 +47,7 @@ water_vapour_specific_heat <- function(temperature, unchecked = FALSE) {
 }
 
 known$latent_heat <- list(
+  routine = "latent_heat",
   given = list(
     temperature = number(-50, 100, 'valid -50 to 100 degC')),
   results = list(
@@ -53,6 +58,7 @@ latent_heat <- function(temperature, unchecked = FALSE) {
 }
 
 known$dry_bulb_from_vapour_pressure_and_relative_humidity <- list(
+  routine = "dry_bulb_from_vapour_pressure_and_relative_humidity",
   given = list(
     vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
     relative_humidity = number(0, 100, 'valid 0 to 100 %')),
@@ -64,6 +70,7 @@ dry_bulb_from_vapour_pressure_and_relative_humidity <- function(vapour_pressure,
 }
 
 known$dry_bulb_from_vapour_pressure_and_percentage_saturation <- list(
+  routine = "dry_bulb_from_vapour_pressure_and_percentage_saturation",
   given = list(
     vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
     percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
@@ -77,6 +84,7 @@ dry_bulb_from_vapour_pressure_and_percentage_saturation <- function(vapour_press
 }
 
 known$dry_bulb_from_moisture_content_and_relative_humidity <- list(
+  routine = "dry_bulb_from_moisture_content_and_relative_humidity",
   given = list(
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
     relative_humidity = number(0, 100, 'valid 0 to 100 %'),
@@ -90,6 +98,7 @@ dry_bulb_from_moisture_content_and_relative_humidity <- function(moisture_conten
 }
 
 known$dry_bulb_from_moisture_content_and_percentage_saturation <- list(
+  routine = "dry_bulb_from_moisture_content_and_percentage_saturation",
   given = list(
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
     percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
@@ -103,6 +112,7 @@ dry_bulb_from_moisture_content_and_percentage_saturation <- function(moisture_co
 }
 
 known$dry_bulb_from_enthalpy_and_moisture_content <- list(
+  routine = "dry_bulb_from_enthalpy_and_moisture_content",
   given = list(
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg')),
@@ -114,6 +124,7 @@ dry_bulb_from_enthalpy_and_moisture_content <- function(enthalpy, moisture_conte
 }
 
 known$dry_bulb_from_enthalpy_and_vapour_pressure <- list(
+  routine = "dry_bulb_from_enthalpy_and_vapour_pressure",
   given = list(
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
     vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
@@ -126,6 +137,7 @@ dry_bulb_from_enthalpy_and_vapour_pressure <- function(enthalpy, vapour_pressure
 }
 
 known$dry_bulb_from_enthalpy_and_relative_humidity <- list(
+  routine = "dry_bulb_from_enthalpy_and_relative_humidity",
   given = list(
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
     relative_humidity = number(0, 100, 'valid 0 to 100 %'),
@@ -138,6 +150,7 @@ dry_bulb_from_enthalpy_and_relative_humidity <- function(enthalpy, relative_humi
 }
 
 known$dry_bulb_from_enthalpy_and_percentage_saturation <- list(
+  routine = "dry_bulb_from_enthalpy_and_percentage_saturation",
   given = list(
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
     percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
@@ -151,6 +164,7 @@ dry_bulb_from_enthalpy_and_percentage_saturation <- function(enthalpy, percentag
 }
 
 known$dry_bulb_from_wet_bulb_and_vapour_pressure <- list(
+  routine = "dry_bulb_from_wet_bulb_and_vapour_pressure",
   given = list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
@@ -165,6 +179,7 @@ dry_bulb_from_wet_bulb_and_vapour_pressure <- function(wet_bulb, vapour_pressure
 }
 
 known$dry_bulb_from_wet_bulb_and_moisture_content <- list(
+  routine = "dry_bulb_from_wet_bulb_and_moisture_content",
   given = list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
@@ -179,6 +194,7 @@ dry_bulb_from_wet_bulb_and_moisture_content <- function(wet_bulb, moisture_conte
 }
 
 known$dry_bulb_from_wet_bulb_and_relative_humidity <- list(
+  routine = "dry_bulb_from_wet_bulb_and_relative_humidity",
   given = list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     relative_humidity = number(0, 100, 'valid 0 to 100 %'),
@@ -193,6 +209,7 @@ dry_bulb_from_wet_bulb_and_relative_humidity <- function(wet_bulb, relative_humi
 }
 
 known$dry_bulb_from_wet_bulb_and_percentage_saturation <- list(
+  routine = "dry_bulb_from_wet_bulb_and_percentage_saturation",
   given = list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
@@ -207,6 +224,7 @@ dry_bulb_from_wet_bulb_and_percentage_saturation <- function(wet_bulb, percentag
 }
 
 known$dry_bulb_from_wet_bulb_and_enthalpy <- list(
+  routine = "dry_bulb_from_wet_bulb_and_enthalpy",
   given = list(
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
@@ -221,6 +239,7 @@ dry_bulb_from_wet_bulb_and_enthalpy <- function(wet_bulb, enthalpy, pressure, ps
 }
 
 known$adiabatic_mixing <- list(
+  routine = "adiabatic_mixing",
   given = list(
     first_air_flow = number(0, Inf, 'valid from 0 kg/s'),
     first_dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
@@ -240,6 +259,7 @@ adiabatic_mixing <- function(first_air_flow, first_dry_bulb, first_moisture_cont
 }
 
 known$moisture_content_from_psychrometer <- list(
+  routine = "moisture_content_from_psychrometer",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
@@ -254,6 +274,7 @@ moisture_content_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psy
 }
 
 known$moisture_content <- list(
+  routine = "moisture_content",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
@@ -266,6 +287,7 @@ moisture_content <- function(dry_bulb, vapour_pressure, pressure, unchecked = FA
 }
 
 known$vapour_pressure_from_moisture_content <- list(
+  routine = "vapour_pressure_from_moisture_content",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
@@ -278,6 +300,7 @@ vapour_pressure_from_moisture_content <- function(dry_bulb, moisture_content, pr
 }
 
 known$moisture_content_from_percentage_saturation <- list(
+  routine = "moisture_content_from_percentage_saturation",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
@@ -290,6 +313,7 @@ moisture_content_from_percentage_saturation <- function(dry_bulb, percentage_sat
 }
 
 known$moisture_content_from_enthalpy <- list(
+  routine = "moisture_content_from_enthalpy",
   given = list(
     dry_bulb = number(-50, 100, 'valid -50 to 100 degC'),
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg')),
@@ -301,6 +325,7 @@ moisture_content_from_enthalpy <- function(dry_bulb, enthalpy, unchecked = FALSE
 }
 
 known$moist_air_density <- list(
+  routine = "moist_air_density",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
@@ -313,6 +338,7 @@ moist_air_density <- function(dry_bulb, moisture_content, pressure, unchecked = 
 }
 
 known$percentage_saturation <- list(
+  routine = "percentage_saturation",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
@@ -325,6 +351,7 @@ percentage_saturation <- function(dry_bulb, moisture_content, pressure, unchecke
 }
 
 known$specific_enthalpy <- list(
+  routine = "specific_enthalpy",
   given = list(
     dry_bulb = number(-50, 100, 'valid -50 to 100 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg')),
@@ -336,6 +363,7 @@ specific_enthalpy <- function(dry_bulb, moisture_content, unchecked = FALSE) {
 }
 
 known$specific_enthalpy_from_psychrometer <- list(
+  routine = "specific_enthalpy_from_psychrometer",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
@@ -350,6 +378,7 @@ specific_enthalpy_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, ps
 }
 
 known$specific_volume <- list(
+  routine = "specific_volume",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
@@ -362,6 +391,7 @@ specific_volume <- function(dry_bulb, moisture_content, pressure, unchecked = FA
 }
 
 known$saturation_temperature_from_enthalpy <- list(
+  routine = "saturation_temperature_from_enthalpy",
   given = list(
     enthalpy = number(-10, 460, 'valid -10 to 460 kJ/kg'),
     pressure = number(50000, 110000, 'valid 50000 to 110000 Pa')),
@@ -373,6 +403,7 @@ saturation_temperature_from_enthalpy <- function(enthalpy, pressure, unchecked =
 }
 
 known$pool_evaporation <- list(
+  routine = "pool_evaporation",
   given = list(
     water_area = number(0, Inf, 'valid from 0 m2'),
     wetted_area = number(0, Inf, 'valid from 0 m2'),
@@ -396,6 +427,7 @@ pool_evaporation <- function(water_area, wetted_area, water_temperature, dry_bul
 }
 
 known$pool_evaporation_from_wet_bulb <- list(
+  routine = "pool_evaporation_from_wet_bulb",
   given = list(
     water_area = number(0, Inf, 'valid from 0 m2'),
     wetted_area = number(0, Inf, 'valid from 0 m2'),
@@ -419,6 +451,7 @@ pool_evaporation_from_wet_bulb <- function(water_area, wetted_area, water_temper
 }
 
 known$saturation_pressure <- list(
+  routine = "saturation_pressure",
   given = list(
     temperature = number(-100, 200, 'valid -100 to 200 degC')),
   results = list(
@@ -429,6 +462,7 @@ saturation_pressure <- function(temperature, unchecked = FALSE) {
 }
 
 known$dew_point <- list(
+  routine = "dew_point",
   given = list(
     vapour_pressure = number(0, Inf, 'valid from 0 Pa')),
   results = list(
@@ -439,6 +473,7 @@ dew_point <- function(vapour_pressure, unchecked = FALSE) {
 }
 
 known$vapour_pressure <- list(
+  routine = "vapour_pressure",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     relative_humidity = number(0, 100, 'valid 0 to 100 %')),
@@ -450,6 +485,7 @@ vapour_pressure <- function(dry_bulb, relative_humidity, unchecked = FALSE) {
 }
 
 known$relative_humidity <- list(
+  routine = "relative_humidity",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     vapour_pressure = number(0, Inf, 'valid from 0 Pa')),
@@ -461,6 +497,7 @@ relative_humidity <- function(dry_bulb, vapour_pressure, unchecked = FALSE) {
 }
 
 known$vapour_pressure_from_psychrometer <- list(
+  routine = "vapour_pressure_from_psychrometer",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     wet_bulb = number(-100, 200, 'valid -100 to 200 degC'),
@@ -475,6 +512,7 @@ vapour_pressure_from_psychrometer <- function(dry_bulb, wet_bulb, pressure, psyc
 }
 
 known$weighted_temperature <- list(
+  routine = "weighted_temperature",
   given = list(
     first_temperature = number(-100, 200, 'valid -100 to 200 degC'),
     second_temperature = number(-100, 200, 'valid -100 to 200 degC')),
@@ -486,6 +524,7 @@ weighted_temperature <- function(first_temperature, second_temperature, unchecke
 }
 
 known$psychrometer_wet_bulb <- list(
+  routine = "psychrometer_wet_bulb",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     relative_humidity = number(0, 100, 'valid 0 to 100 %'),
@@ -500,6 +539,7 @@ psychrometer_wet_bulb <- function(dry_bulb, relative_humidity, pressure, psychro
 }
 
 known$wet_bulb_from_percentage_saturation <- list(
+  routine = "wet_bulb_from_percentage_saturation",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     percentage_saturation = number(0, 100, 'valid 0 to 100 %'),
@@ -514,6 +554,7 @@ wet_bulb_from_percentage_saturation <- function(dry_bulb, percentage_saturation,
 }
 
 known$wet_bulb_from_moisture_content <- list(
+  routine = "wet_bulb_from_moisture_content",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     moisture_content = number(0, 0.1, 'valid 0 to 0.1 kg/kg'),
@@ -528,6 +569,7 @@ wet_bulb_from_moisture_content <- function(dry_bulb, moisture_content, pressure,
 }
 
 known$wet_bulb <- list(
+  routine = "wet_bulb",
   given = list(
     dry_bulb = number(-100, 200, 'valid -100 to 200 degC'),
     vapour_pressure = number(0, Inf, 'valid from 0 Pa'),
@@ -541,6 +583,7 @@ wet_bulb <- function(dry_bulb, vapour_pressure, pressure, psychrometer = c("slin
 }
 
 known$cyclic_response <- list(
+  routine = "cyclic_response",
   given = list(
     thickness = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     conductivity = number(0, Inf, 'valid from 0 W/mK', shape = c(NA)),
@@ -566,6 +609,7 @@ cyclic_response <- function(thickness, conductivity, density, specific_heat, ins
 }
 
 known$vertical_cavity_resistance <- list(
+  routine = "vertical_cavity_resistance",
   given = list(
     cavity_width = number(0.001, Inf, 'valid from 0.001 m')),
   results = list(
@@ -576,6 +620,7 @@ vertical_cavity_resistance <- function(cavity_width, unchecked = FALSE) {
 }
 
 known$air_cavity_resistance <- list(
+  routine = "air_cavity_resistance",
   given = list(
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
     cavity_width = number(0.001, Inf, 'valid from 0.001 m'),
@@ -589,6 +634,7 @@ air_cavity_resistance <- function(tilt, cavity_width, emissivity_1, emissivity_2
 }
 
 known$gas_cavity_resistance <- list(
+  routine = "gas_cavity_resistance",
   given = list(
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
     cavity_width = number(0.001, Inf, 'valid from 0.001 m'),
@@ -607,6 +653,7 @@ gas_cavity_resistance <- function(tilt, cavity_width, emissivity_1, emissivity_2
 }
 
 known$total_vapour_resistance <- list(
+  routine = "total_vapour_resistance",
   given = list(
     thickness = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     vapour_resistivity = number(0, Inf, 'valid from 0 GN s/(kg m)', shape = c(NA))),
@@ -618,6 +665,7 @@ total_vapour_resistance <- function(thickness, vapour_resistivity, unchecked = F
 }
 
 known$condensation_profile <- list(
+  routine = "condensation_profile",
   given = list(
     thickness = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     conductivity = number(0, Inf, 'valid from 0 W/mK', shape = c(NA)),
@@ -640,6 +688,7 @@ condensation_profile <- function(thickness, conductivity, vapour_resistivity, in
 }
 
 known$condenses_within_layer <- list(
+  routine = "condenses_within_layer",
   given = list(
     warm_temperature = number(-100, 200, 'valid -100 to 200 degC'),
     cold_temperature = number(-100, 200, 'valid -100 to 200 degC'),
@@ -654,6 +703,7 @@ condenses_within_layer <- function(warm_temperature, cold_temperature, warm_vapo
 }
 
 known$element_property <- list(
+  routine = "element_property",
   given = list(
     element_records = number(-Inf, Inf, 'valid is any number', shape = c(10, NA)),
     record_number = number(1, Inf, 'valid from 1', whole = TRUE),
@@ -666,6 +716,7 @@ element_property <- function(element_records, record_number, item, unchecked = F
 }
 
 known$natural_convection_coefficient <- list(
+  routine = "natural_convection_coefficient",
   given = list(
     temperature_difference = number(-Inf, Inf, 'valid is any number'),
     characteristic_length = number(0, Inf, 'valid from 0 m'),
@@ -680,6 +731,7 @@ natural_convection_coefficient <- function(temperature_difference, characteristi
 }
 
 known$pack_two_fractions <- list(
+  routine = "pack_two_fractions",
   given = list(
     packing = choice(pack = 1, unpack = 2),
     packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
@@ -696,6 +748,7 @@ pack_two_fractions <- function(packing = c("pack", "unpack"), packed_number, fra
 }
 
 known$pack_three_fractions <- list(
+  routine = "pack_three_fractions",
   given = list(
     packing = choice(pack = 1, unpack = 2),
     packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
@@ -714,6 +767,7 @@ pack_three_fractions <- function(packing = c("pack", "unpack"), packed_number, f
 }
 
 known$pack_three_fractions_third_first <- list(
+  routine = "pack_three_fractions_third_first",
   given = list(
     packing = choice(pack = 1, unpack = 2),
     packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
@@ -732,6 +786,7 @@ pack_three_fractions_third_first <- function(packing = c("pack", "unpack"), pack
 }
 
 known$pack_pane <- list(
+  routine = "pack_pane",
   given = list(
     packing = choice(pack = 1, unpack = 2),
     packed_number = number(0, 9999.99, 'valid 0 to 9999.99'),
@@ -750,6 +805,7 @@ pack_pane <- function(packing = c("pack", "unpack"), packed_number, absorptance,
 }
 
 known$surface_resistance <- list(
+  routine = "surface_resistance",
   given = list(
     surface = choice(outside = 1, inside = 2),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
@@ -763,6 +819,7 @@ surface_resistance <- function(surface = c("outside", "inside"), tilt, exposure 
 }
 
 known$surface_resistance_at_emissivity <- list(
+  routine = "surface_resistance_at_emissivity",
   given = list(
     surface = choice(outside = 1, inside = 2),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
@@ -778,6 +835,7 @@ surface_resistance_at_emissivity <- function(surface = c("outside", "inside"), t
 }
 
 known$u_value <- list(
+  routine = "u_value",
   given = list(
     thickness = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     conductivity = number(0, Inf, 'valid from 0 W/mK', shape = c(NA)),
@@ -791,6 +849,7 @@ u_value <- function(thickness, conductivity, surface_resistance_1, surface_resis
 }
 
 known$u_value_at_tilt_and_exposure <- list(
+  routine = "u_value_at_tilt_and_exposure",
   given = list(
     u_value = number(0, Inf, 'valid from 0 W/m2K'),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
@@ -804,6 +863,7 @@ u_value_at_tilt_and_exposure <- function(u_value, tilt, exposure = c("sheltered"
 }
 
 known$window_parameters <- list(
+  routine = "window_parameters",
   given = list(
     panes = number(1, 3, 'valid 1 to 3', whole = TRUE),
     pane_kind_1 = choice(closing = 1, vented = 2),
@@ -837,6 +897,7 @@ window_parameters <- function(panes, pane_kind_1 = c("closing", "vented"), emiss
 }
 
 known$glass_direct <- list(
+  routine = "glass_direct",
   given = list(
     normal_transmittance = number(0, 0.92, 'valid 0 to 0.92'),
     normal_reflectance = number(0, 0.99, 'valid 0 to 0.99'),
@@ -854,6 +915,7 @@ glass_direct <- function(normal_transmittance, normal_reflectance, incidence, un
 }
 
 known$glass_diffuse <- list(
+  routine = "glass_diffuse",
   given = list(
     normal_transmittance = number(0, 0.92, 'valid 0 to 0.92'),
     normal_reflectance = number(0, 0.99, 'valid 0 to 0.99')),
@@ -866,6 +928,7 @@ glass_diffuse <- function(normal_transmittance, normal_reflectance, unchecked = 
 }
 
 known$stacked_layers <- list(
+  routine = "stacked_layers",
   given = list(
     layer_transmittances = number(0, 1, 'valid 0 to 1', shape = c(NA)),
     layer_reflectances = number(0, 1, 'valid 0 to 1', shape = c(NA))),
@@ -879,6 +942,7 @@ stacked_layers <- function(layer_transmittances, layer_reflectances, unchecked =
 }
 
 known$traced_layers <- list(
+  routine = "traced_layers",
   given = list(
     layer_transmittances = number(0, 1, 'valid 0 to 1', shape = c(NA)),
     layer_absorptances = number(0, 1, 'valid 0 to 1', shape = c(NA)),
@@ -893,6 +957,7 @@ traced_layers <- function(layer_transmittances, layer_absorptances, layer_reflec
 }
 
 known$roller_blind <- list(
+  routine = "roller_blind",
   given = list(
     blind_transmittance = number(0, 1, 'valid 0 to 1'),
     blind_reflectance = number(0, 1, 'valid 0 to 1')),
@@ -906,6 +971,7 @@ roller_blind <- function(blind_transmittance, blind_reflectance, unchecked = FAL
 }
 
 known$diffuse_roller_blind <- list(
+  routine = "diffuse_roller_blind",
   given = list(
     blind_transmittance = number(0, 1, 'valid 0 to 1'),
     blind_reflectance = number(0, 1, 'valid 0 to 1')),
@@ -919,6 +985,7 @@ diffuse_roller_blind <- function(blind_transmittance, blind_reflectance, uncheck
 }
 
 known$refraction_angle <- list(
+  routine = "refraction_angle",
   given = list(
     incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
     refractive_index = number(1, 4, 'valid 1 to 4')),
@@ -930,6 +997,7 @@ refraction_angle <- function(incidence, refractive_index, unchecked = FALSE) {
 }
 
 known$surface_reflectance <- list(
+  routine = "surface_reflectance",
   given = list(
     incidence = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
     refraction_angle = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
@@ -943,6 +1011,7 @@ surface_reflectance <- function(incidence, refraction_angle, refractive_index, u
 }
 
 known$single_pass_absorption <- list(
+  routine = "single_pass_absorption",
   given = list(
     refraction_angle = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
     absorption_product = number(0, 20, 'valid 0 to 20')),
@@ -954,6 +1023,7 @@ single_pass_absorption <- function(refraction_angle, absorption_product, uncheck
 }
 
 known$slab_optics <- list(
+  routine = "slab_optics",
   given = list(
     single_pass_absorptance = number(0, 1, 'valid 0 to 1'),
     face_reflectance = number(0, 1, 'valid 0 to 1')),
@@ -967,6 +1037,7 @@ slab_optics <- function(single_pass_absorptance, face_reflectance, unchecked = F
 }
 
 known$absorption_product <- list(
+  routine = "absorption_product",
   given = list(
     normal_transmittance = number(0, 0.92, 'valid 0 to 0.92'),
     refractive_index = number(1, 4, 'valid 1 to 4')),
@@ -978,6 +1049,7 @@ absorption_product <- function(normal_transmittance, refractive_index, unchecked
 }
 
 known$normal_transmittance <- list(
+  routine = "normal_transmittance",
   given = list(
     absorption_product = number(0, 20, 'valid 0 to 20'),
     normal_reflectance = number(0, 0.99, 'valid 0 to 0.99')),
@@ -989,6 +1061,7 @@ normal_transmittance <- function(absorption_product, normal_reflectance, uncheck
 }
 
 known$pane_temperatures <- list(
+  routine = "pane_temperatures",
   given = list(
     inside_temperature = number(-100, 200, 'valid -100 to 200 degC'),
     outside_temperature = number(-100, 200, 'valid -100 to 200 degC'),
@@ -1012,6 +1085,7 @@ pane_temperatures <- function(inside_temperature, outside_temperature, panes, ab
 }
 
 known$unit_direct <- list(
+  routine = "unit_direct",
   given = list(
     shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
     longwave_shading_coefficient = number(0, 1, 'valid 0 to 1'),
@@ -1026,6 +1100,7 @@ unit_direct <- function(shortwave_shading_coefficient, longwave_shading_coeffici
 }
 
 known$unit_diffuse <- list(
+  routine = "unit_diffuse",
   given = list(
     shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
     longwave_shading_coefficient = number(0, 1, 'valid 0 to 1')),
@@ -1039,6 +1114,7 @@ unit_diffuse <- function(shortwave_shading_coefficient, longwave_shading_coeffic
 }
 
 known$unit_direct_shares <- list(
+  routine = "unit_direct_shares",
   given = list(
     shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
     longwave_shading_coefficient = number(0, 1, 'valid 0 to 1'),
@@ -1055,6 +1131,7 @@ unit_direct_shares <- function(shortwave_shading_coefficient, longwave_shading_c
 }
 
 known$unit_diffuse_shares <- list(
+  routine = "unit_diffuse_shares",
   given = list(
     shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
     longwave_shading_coefficient = number(0, 1, 'valid 0 to 1'),
@@ -1069,6 +1146,7 @@ unit_diffuse_shares <- function(shortwave_shading_coefficient, longwave_shading_
 }
 
 known$unit_shares <- list(
+  routine = "unit_shares",
   given = list(
     radiation = choice(direct = 1, diffuse = 2),
     shortwave_shading_coefficient = number(0, 1.05, 'valid 0 to 1.05'),
@@ -1087,6 +1165,7 @@ unit_shares <- function(radiation = c("direct", "diffuse"), shortwave_shading_co
 }
 
 known$slat_direct <- list(
+  routine = "slat_direct",
   given = list(
     slat_spacing = number(0, Inf, 'valid from 0 m'),
     slat_width = number(0, Inf, 'valid from 0 m'),
@@ -1103,6 +1182,7 @@ slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle, sla
 }
 
 known$two_faced_slat_direct <- list(
+  routine = "two_faced_slat_direct",
   given = list(
     slat_spacing = number(0, Inf, 'valid from 0 m'),
     slat_width = number(0, Inf, 'valid from 0 m'),
@@ -1121,6 +1201,7 @@ two_faced_slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_
 }
 
 known$open_slat_direct <- list(
+  routine = "open_slat_direct",
   given = list(
     slat_spacing = number(0, Inf, 'valid from 0 m'),
     slat_width = number(0, Inf, 'valid from 0 m'),
@@ -1141,6 +1222,7 @@ open_slat_direct <- function(slat_spacing, slat_width, slat_angle, profile_angle
 }
 
 known$slat_diffuse <- list(
+  routine = "slat_diffuse",
   given = list(
     slat_spacing = number(0, Inf, 'valid from 0 m'),
     slat_width = number(0, Inf, 'valid from 0 m'),
@@ -1157,6 +1239,7 @@ slat_diffuse <- function(slat_spacing, slat_width, slat_angle, slat_absorptance,
 }
 
 known$two_faced_slat_diffuse <- list(
+  routine = "two_faced_slat_diffuse",
   given = list(
     slat_spacing = number(0, Inf, 'valid from 0 m'),
     slat_width = number(0, Inf, 'valid from 0 m'),
@@ -1175,6 +1258,7 @@ two_faced_slat_diffuse <- function(slat_spacing, slat_width, slat_angle, struck_
 }
 
 known$open_slat_diffuse <- list(
+  routine = "open_slat_diffuse",
   given = list(
     slat_spacing = number(0, Inf, 'valid from 0 m'),
     slat_width = number(0, Inf, 'valid from 0 m'),
@@ -1194,6 +1278,7 @@ open_slat_diffuse <- function(slat_spacing, slat_width, slat_angle, open_share, 
 }
 
 known$locate_band <- list(
+  routine = "locate_band",
   given = list(
     fraction = number(0, 1, 'valid 0 to 1'),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
@@ -1208,6 +1293,7 @@ locate_band <- function(fraction, month, frequencies, unchecked = FALSE) {
 }
 
 known$band_climate <- list(
+  routine = "band_climate",
   given = list(
     band = number(0, 10, 'valid 0 to 10', whole = TRUE),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
@@ -1231,6 +1317,7 @@ band_climate <- function(band, month, band_set = c("first", "second"), percentag
 }
 
 known$interpolate_band_rows <- list(
+  routine = "interpolate_band_rows",
   given = list(
     base_row = number(0, 174, 'valid 0 to 174', whole = TRUE),
     lower_band = number(1, 10, 'valid 1 to 10', whole = TRUE),
@@ -1245,6 +1332,7 @@ interpolate_band_rows <- function(base_row, lower_band, upper_band, month, band_
 }
 
 known$band_row <- list(
+  routine = "band_row",
   given = list(
     row = number(1, 184, 'valid 1 to 184', whole = TRUE)),
   results = list(
@@ -1255,6 +1343,7 @@ band_row <- function(row, unchecked = FALSE) {
 }
 
 known$store_design_day <- list(
+  routine = "store_design_day",
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
   results = list(
@@ -1265,6 +1354,7 @@ store_design_day <- function(month, unchecked = FALSE) {
 }
 
 known$store_design_day_by_option <- list(
+  routine = "store_design_day_by_option",
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
     day_kind = choice(of_month = 1, of_year = 2)),
@@ -1276,6 +1366,7 @@ store_design_day_by_option <- function(month, day_kind = c("of_month", "of_year"
 }
 
 known$design_day <- list(
+  routine = "design_day",
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
   results = list(
@@ -1286,6 +1377,7 @@ design_day <- function(month, unchecked = FALSE) {
 }
 
 known$design_day_by_option <- list(
+  routine = "design_day_by_option",
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
     day_kind = choice(of_month = 1, of_year = 2)),
@@ -1297,6 +1389,7 @@ design_day_by_option <- function(month, day_kind = c("of_month", "of_year"), unc
 }
 
 known$second_design_day <- list(
+  routine = "second_design_day",
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
   results = list(
@@ -1307,6 +1400,7 @@ second_design_day <- function(month, unchecked = FALSE) {
 }
 
 known$second_design_day_by_option <- list(
+  routine = "second_design_day_by_option",
   given = list(
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
     day_kind = choice(of_month = 1, of_year = 2)),
@@ -1318,6 +1412,7 @@ second_design_day_by_option <- function(month, day_kind = c("of_month", "of_year
 }
 
 known$station_records <- list(
+  routine = "station_records",
   given = list(
     file_name = list(),
     station = number(1, Inf, 'valid from 1', whole = TRUE),
@@ -1327,6 +1422,7 @@ known$station_records <- list(
     station_records = returned(shape = c(11, 12))))
 
 known$station_climate <- list(
+  routine = "station_climate",
   given = list(
     file_unit = choice(opened_last = 31),
     station = number(1, Inf, 'valid from 1', whole = TRUE),
@@ -1346,6 +1442,7 @@ known$station_climate <- list(
     time_b = returned()))
 
 known$locate_station_band <- list(
+  routine = "locate_station_band",
   given = list(
     fraction = number(0, 1, 'valid 0 to 1'),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
@@ -1355,6 +1452,7 @@ known$locate_station_band <- list(
     band_weight = returned()))
 
 known$interpolate_station_rows <- list(
+  routine = "interpolate_station_rows",
   given = list(
     base_row = number(2, 154, 'valid 2 to 154', whole = TRUE),
     lower_band = number(1, 10, 'valid 1 to 10', whole = TRUE),
@@ -1365,12 +1463,14 @@ known$interpolate_station_rows <- list(
     value = returned()))
 
 known$station_row <- list(
+  routine = "station_row",
   given = list(
     row = number(1, 171, 'valid 1 to 171', whole = TRUE)),
   results = list(
     values = returned(shape = c(12))))
 
 known$daily_temperature <- list(
+  routine = "daily_temperature",
   given = list(
     hour = number(0, 24, 'valid 0 to 24 h'),
     highest_temperature = number(-100, 200, 'valid -100 to 200 degC'),
@@ -1386,6 +1486,7 @@ daily_temperature <- function(hour, highest_temperature, lowest_temperature, hou
 }
 
 known$daily_value <- list(
+  routine = "daily_value",
   given = list(
     hour = number(0, 24, 'valid 0 to 24 h'),
     mean = number(-Inf, Inf, 'valid is any number'),
@@ -1401,6 +1502,7 @@ daily_value <- function(hour, mean, amplitude, first_hour, second_hour, amplitud
 }
 
 known$design_irradiance <- list(
+  routine = "design_irradiance",
   given = list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
     site_height = number(0, 4000, 'valid 0 to 4000 m'),
@@ -1414,6 +1516,7 @@ design_irradiance <- function(solar_altitude, site_height, sky_kind = c("clear",
 }
 
 known$height_factor <- list(
+  routine = "height_factor",
   given = list(
     site_height = number(0, 4000, 'valid 0 to 4000 m'),
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad')),
@@ -1425,6 +1528,7 @@ height_factor <- function(site_height, solar_altitude, unchecked = FALSE) {
 }
 
 known$eccentricity_factor <- list(
+  routine = "eccentricity_factor",
   given = list(
     day = number(1, 366, 'valid 1 to 366', whole = TRUE)),
   results = list(
@@ -1435,6 +1539,7 @@ eccentricity_factor <- function(day, unchecked = FALSE) {
 }
 
 known$clearness_index <- list(
+  routine = "clearness_index",
   given = list(
     day = number(1, 366, 'valid 1 to 366', whole = TRUE),
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
@@ -1447,6 +1552,7 @@ clearness_index <- function(day, solar_altitude, global_horizontal, unchecked = 
 }
 
 known$muneer_slope <- list(
+  routine = "muneer_slope",
   given = list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
     solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
@@ -1469,6 +1575,7 @@ muneer_slope <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt, b
 }
 
 known$perez_diffuse <- list(
+  routine = "perez_diffuse",
   given = list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
@@ -1485,6 +1592,7 @@ perez_diffuse <- function(solar_altitude, tilt, beam_horizontal, diffuse_horizon
 }
 
 known$site_constants <- list(
+  routine = "site_constants",
   given = list(
     site_class = number(1, 6, 'valid 1 to 6', whole = TRUE),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE)),
@@ -1499,6 +1607,7 @@ site_constants <- function(site_class, month, unchecked = FALSE) {
 }
 
 known$diffuse_tilt_factor <- list(
+  routine = "diffuse_tilt_factor",
   given = list(
     day = number(1, 366, 'valid 1 to 366', whole = TRUE),
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
@@ -1514,6 +1623,7 @@ diffuse_tilt_factor <- function(day, solar_altitude, beam_horizontal, tilt,
 }
 
 known$slope_diffuse <- list(
+  routine = "slope_diffuse",
   given = list(
     day = number(1, 366, 'valid 1 to 366', whole = TRUE),
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
@@ -1533,6 +1643,7 @@ slope_diffuse <- function(day, solar_altitude, solar_azimuth, surface_azimuth, t
 }
 
 known$sol_air_temperature <- list(
+  routine = "sol_air_temperature",
   given = list(
     base_temperature = number(-100, 200, 'valid -100 to 200 degC'),
     surface_coefficient = number(0, Inf, 'valid from 0 W/m2K'),
@@ -1548,6 +1659,7 @@ sol_air_temperature <- function(base_temperature, surface_coefficient, absorptan
 }
 
 known$long_wave_loss <- list(
+  routine = "long_wave_loss",
   given = list(
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad'),
     cloud_cover = number(0, 1, 'valid 0 to 1')),
@@ -1559,6 +1671,7 @@ long_wave_loss <- function(tilt, cloud_cover, unchecked = FALSE) {
 }
 
 known$solar_time_correction <- list(
+  routine = "solar_time_correction",
   given = list(
     clock_offset = number(-Inf, Inf, 'valid is any number'),
     day = number(1, 366, 'valid 1 to 366', whole = TRUE),
@@ -1572,6 +1685,7 @@ solar_time_correction <- function(clock_offset, day, longitude, reference_longit
 }
 
 known$almanac_position <- list(
+  routine = "almanac_position",
   given = list(
     time_kind = choice(solar = 1, zone = 2, dated_solar = 3),
     year = number(1976, 2099, 'valid 1976 to 2099', whole = TRUE),
@@ -1595,6 +1709,7 @@ almanac_position <- function(time_kind = c("solar", "zone", "dated_solar"), year
 }
 
 known$almanac_sun_hours <- list(
+  routine = "almanac_sun_hours",
   given = list(
     year = number(1976, 2099, 'valid 1976 to 2099', whole = TRUE),
     month = number(1, 12, 'valid 1 to 12', whole = TRUE),
@@ -1609,6 +1724,7 @@ almanac_sun_hours <- function(year, month, day_of_month, latitude, unchecked = F
 }
 
 known$solar_geometry <- list(
+  routine = "solar_geometry",
   given = list(
     latitude = number(-1.5707964, 1.5707964, 'valid -1.5707964 to 1.5707964 rad'),
     day = number(1, 365, 'valid 1 to 365', whole = TRUE),
@@ -1625,6 +1741,7 @@ solar_geometry <- function(latitude, day, solar_time, unchecked = FALSE) {
 }
 
 known$surface_angles <- list(
+  routine = "surface_angles",
   given = list(
     solar_altitude = number(-1.5707964, 1.5707964, 'valid -1.5707964 to 1.5707964 rad'),
     solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
@@ -1640,6 +1757,7 @@ surface_angles <- function(solar_altitude, solar_azimuth, surface_azimuth, tilt,
 }
 
 known$surface_irradiance <- list(
+  routine = "surface_irradiance",
   given = list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
     solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
@@ -1662,6 +1780,7 @@ surface_irradiance <- function(solar_altitude, solar_azimuth, surface_azimuth, t
 }
 
 known$surface_irradiance_and_incidence <- list(
+  routine = "surface_irradiance_and_incidence",
   given = list(
     solar_altitude = number(0, 1.5707964, 'valid 0 to 1.5707964 rad'),
     solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
@@ -1684,7 +1803,8 @@ surface_irradiance_and_incidence <- function(solar_altitude, solar_azimuth, surf
   run("surface_irradiance_and_incidence", given, unchecked)
 }
 
-known$clip <- list(
+known$clip_polygons <- list(
+  routine = "clip",
   given = list(
     x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
@@ -1703,6 +1823,7 @@ known$clip <- list(
     status = returned()))
 
 known$overlap <- list(
+  routine = "overlap",
   given = list(
     x_1 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     y_1 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
@@ -1719,6 +1840,7 @@ overlap <- function(x_1, y_1, x_2, y_2, unchecked = FALSE) {
 }
 
 known$overlap_alias <- list(
+  routine = "overlap_alias",
   given = list(
     x_1 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     y_1 = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
@@ -1735,6 +1857,7 @@ overlap_alias <- function(x_1, y_1, x_2, y_2, unchecked = FALSE) {
 }
 
 known$collinearity <- list(
+  routine = "collinearity",
   given = list(
     x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
@@ -1746,6 +1869,7 @@ collinearity <- function(x, y, unchecked = FALSE) {
 }
 
 known$count_enclosed <- list(
+  routine = "count_enclosed",
   given = list(
     x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
@@ -1761,6 +1885,7 @@ count_enclosed <- function(x, y, point_x, point_y, enclosed, unchecked = FALSE) 
 }
 
 known$boundary_crossing <- list(
+  routine = "boundary_crossing",
   given = list(
     segment_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
     segment_end = number(-Inf, Inf, 'valid is any number', shape = c(2)),
@@ -1775,6 +1900,7 @@ boundary_crossing <- function(segment_start, segment_end, x, y, unchecked = FALS
 }
 
 known$inside <- list(
+  routine = "inside",
   given = list(
     point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     polygon = number(-Inf, Inf, 'valid is any number', shape = c(3, NA))),
@@ -1786,6 +1912,7 @@ inside <- function(point, polygon, unchecked = FALSE) {
 }
 
 known$parallel_planes <- list(
+  routine = "parallel_planes",
   given = list(
     triangle_1 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3)),
     triangle_2 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3))),
@@ -1797,6 +1924,7 @@ parallel_planes <- function(triangle_1, triangle_2, unchecked = FALSE) {
 }
 
 known$parallel_sides <- list(
+  routine = "parallel_sides",
   given = list(
     triangle_1 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3)),
     triangle_2 = number(-Inf, Inf, 'valid is any number', shape = c(3, 3))),
@@ -1810,6 +1938,7 @@ parallel_sides <- function(triangle_1, triangle_2, unchecked = FALSE) {
 }
 
 known$rectangular <- list(
+  routine = "rectangular",
   given = list(
     quadrilateral = number(-Inf, Inf, 'valid is any number', shape = c(3, 4))),
   results = list(
@@ -1820,6 +1949,7 @@ rectangular <- function(quadrilateral, unchecked = FALSE) {
 }
 
 known$facing <- list(
+  routine = "facing",
   given = list(
     triangle = number(-Inf, Inf, 'valid is any number', shape = c(3, 3)),
     azimuth = number(0, 6.2832, 'valid 0 to 6.2832 deg')),
@@ -1832,6 +1962,7 @@ facing <- function(triangle, azimuth, unchecked = FALSE) {
 }
 
 known$local_coordinates <- list(
+  routine = "local_coordinates",
   given = list(
     quadrilateral_1 = number(-Inf, Inf, 'valid is any number', shape = c(3, 4)),
     quadrilateral_2 = number(-Inf, Inf, 'valid is any number', shape = c(3, 4))),
@@ -1844,6 +1975,7 @@ local_coordinates <- function(quadrilateral_1, quadrilateral_2, unchecked = FALS
 }
 
 known$to_local <- list(
+  routine = "to_local",
   given = list(
     corners = number(-Inf, Inf, 'valid is any number', shape = c(3, 4)),
     x_axis = number(-Inf, Inf, 'valid is any number', shape = c(3)),
@@ -1857,6 +1989,7 @@ to_local <- function(corners, x_axis, y_axis, z_axis, unchecked = FALSE) {
 }
 
 known$meeting_point <- list(
+  routine = "meeting_point",
   given = list(
     line_1_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
     line_1_end = number(-Inf, Inf, 'valid is any number', shape = c(2)),
@@ -1870,6 +2003,7 @@ meeting_point <- function(line_1_start, line_1_end, line_2_start, line_2_end, un
 }
 
 known$crossing_point <- list(
+  routine = "crossing_point",
   given = list(
     segment_1_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
     segment_1_end = number(-Inf, Inf, 'valid is any number', shape = c(2)),
@@ -1883,6 +2017,7 @@ crossing_point <- function(segment_1_start, segment_1_end, segment_2_start, segm
 }
 
 known$in_span <- list(
+  routine = "in_span",
   given = list(
     first_end = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     second_end = number(-Inf, Inf, 'valid is any number', shape = c(3)),
@@ -1895,6 +2030,7 @@ in_span <- function(first_end, second_end, point, unchecked = FALSE) {
 }
 
 known$ahead_and_nearer <- list(
+  routine = "ahead_and_nearer",
   given = list(
     first_end = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     second_end = number(-Inf, Inf, 'valid is any number', shape = c(3)),
@@ -1907,6 +2043,7 @@ ahead_and_nearer <- function(first_end, second_end, point, unchecked = FALSE) {
 }
 
 known$coincide <- list(
+  routine = "coincide",
   given = list(
     x_1 = number(-Inf, Inf, 'valid is any number'),
     y_1 = number(-Inf, Inf, 'valid is any number'),
@@ -1920,6 +2057,7 @@ coincide <- function(x_1, y_1, x_2, y_2, unchecked = FALSE) {
 }
 
 known$side_of_line <- list(
+  routine = "side_of_line",
   given = list(
     line_start = number(-Inf, Inf, 'valid is any number', shape = c(2)),
     line_end = number(-Inf, Inf, 'valid is any number', shape = c(2)),
@@ -1932,6 +2070,7 @@ side_of_line <- function(line_start, line_end, point, unchecked = FALSE) {
 }
 
 known$back_azimuth <- list(
+  routine = "back_azimuth",
   given = list(
     angle = number(0, 360, 'valid 0 to 360 deg')),
   results = list(
@@ -1942,6 +2081,7 @@ back_azimuth <- function(angle, unchecked = FALSE) {
 }
 
 known$direction_to <- list(
+  routine = "direction_to",
   given = list(
     solar_altitude = number(-1.5708, 1.5708, 'valid -1.5708 to 1.5708 rad'),
     solar_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad')),
@@ -1953,6 +2093,7 @@ direction_to <- function(solar_altitude, solar_azimuth, unchecked = FALSE) {
 }
 
 known$surface_axes <- list(
+  routine = "surface_axes",
   given = list(
     surface_azimuth = number(0, 6.2832, 'valid 0 to 6.2832 rad'),
     tilt = number(0, 3.1416, 'valid 0 to 3.1416 rad')),
@@ -1965,6 +2106,7 @@ surface_axes <- function(surface_azimuth, tilt, unchecked = FALSE) {
 }
 
 known$local_to_global <- list(
+  routine = "local_to_global",
   given = list(
     local_vector = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     rotation_matrix = number(-1, 1, 'valid -1 to 1', shape = c(3, 3))),
@@ -1976,6 +2118,7 @@ local_to_global <- function(local_vector, rotation_matrix, unchecked = FALSE) {
 }
 
 known$global_to_local <- list(
+  routine = "global_to_local",
   given = list(
     global_vector = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     rotation_matrix = number(-1, 1, 'valid -1 to 1', shape = c(3, 3))),
@@ -1987,6 +2130,7 @@ global_to_local <- function(global_vector, rotation_matrix, unchecked = FALSE) {
 }
 
 known$plan_area <- list(
+  routine = "plan_area",
   given = list(
     x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
@@ -1998,6 +2142,7 @@ plan_area <- function(x, y, unchecked = FALSE) {
 }
 
 known$signed_plan_area <- list(
+  routine = "signed_plan_area",
   given = list(
     x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA))),
@@ -2009,6 +2154,7 @@ signed_plan_area <- function(x, y, unchecked = FALSE) {
 }
 
 known$area_in_space <- list(
+  routine = "area_in_space",
   given = list(
     x = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
     y = number(-Inf, Inf, 'valid is any number', shape = c(NA)),
@@ -2021,6 +2167,7 @@ area_in_space <- function(x, y, z, unchecked = FALSE) {
 }
 
 known$polygon_orientation <- list(
+  routine = "polygon_orientation",
   given = list(
     polygon = number(-Inf, Inf, 'valid is any number', shape = c(3, NA))),
   results = list(
@@ -2033,6 +2180,7 @@ polygon_orientation <- function(polygon, unchecked = FALSE) {
 }
 
 known$projection <- list(
+  routine = "projection",
   given = list(
     plane_point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     plane_normal = number(-Inf, Inf, 'valid is any number', shape = c(3)),
@@ -2046,6 +2194,7 @@ projection <- function(plane_point, plane_normal, point, direction, unchecked = 
 }
 
 known$forward_projection <- list(
+  routine = "forward_projection",
   given = list(
     plane_point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     plane_normal = number(-Inf, Inf, 'valid is any number', shape = c(3)),
@@ -2059,6 +2208,7 @@ forward_projection <- function(plane_point, plane_normal, point, direction, unch
 }
 
 known$forward_projection_or_start <- list(
+  routine = "forward_projection_or_start",
   given = list(
     plane_point = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     plane_normal = number(-Inf, Inf, 'valid is any number', shape = c(3)),
@@ -2072,6 +2222,7 @@ forward_projection_or_start <- function(plane_point, plane_normal, point, direct
 }
 
 known$dot_product <- list(
+  routine = "dot_product",
   given = list(
     vector_a = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
@@ -2083,6 +2234,7 @@ dot_product <- function(vector_a, vector_b, unchecked = FALSE) {
 }
 
 known$dot_product_in_double <- list(
+  routine = "dot_product_in_double",
   given = list(
     vector_a = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
@@ -2094,6 +2246,7 @@ dot_product_in_double <- function(vector_a, vector_b, unchecked = FALSE) {
 }
 
 known$cross_product <- list(
+  routine = "cross_product",
   given = list(
     vector_a = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
@@ -2105,6 +2258,7 @@ cross_product <- function(vector_a, vector_b, unchecked = FALSE) {
 }
 
 known$cross_product_in_double <- list(
+  routine = "cross_product_in_double",
   given = list(
     vector_a = number(-Inf, Inf, 'valid is any number', shape = c(3)),
     vector_b = number(-Inf, Inf, 'valid is any number', shape = c(3))),
@@ -2115,17 +2269,19 @@ cross_product_in_double <- function(vector_a, vector_b, unchecked = FALSE) {
   run("cross_product_in_double", given, unchecked)
 }
 
-known$length <- list(
+known$vector_length <- list(
+  routine = "length",
   given = list(
     vector = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(
     length = returned()))
 vector_length <- function(vector, unchecked = FALSE) {
   given <- list(vector)
-  run("length", given, unchecked)
+  run("vector_length", given, unchecked)
 }
 
 known$length_in_double <- list(
+  routine = "length_in_double",
   given = list(
     vector = number(-Inf, Inf, 'valid is any number', shape = c(3))),
   results = list(

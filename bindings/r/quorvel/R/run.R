@@ -1,21 +1,21 @@
 # A routine called over all its elements.
 
 run <- function(name, given, unchecked) {
-  routine <- known[[name]]
-  names <- names(routine$given)
+  called <- known[[name]]
+  names <- names(called$given)
   counts <- integer(length(given))
   for (i in seq_along(given)) {
-    given[[i]] <- numbers(name, names[i], routine$given[[i]], given[[i]], unchecked)
-    counts[i] <- elements(name, names[i], routine$given[[i]], given[[i]])
+    given[[i]] <- numbers(name, names[i], called$given[[i]], given[[i]], unchecked)
+    counts[i] <- elements(name, names[i], called$given[[i]], given[[i]])
   }
   each <- ifelse(is.na(counts), 1L, counts)
   count <- recycled(name, names, each)
-  values <- .Call(C_run, name, given, each, count)
+  values <- .Call(C_run, called$routine, given, each, count)
   if (is.character(values)) stop(simpleError(values))
-  scalar <- vapply(routine$given, function(known) is.null(known$shape), TRUE)
+  scalar <- vapply(called$given, function(known) is.null(known$shape), TRUE)
   many <- count != 1 || any(!scalar & !is.na(counts))
   like <- given[scalar & each == count]
-  results <- Map(function(known, value) arranged(known, value, count, many, like), routine$results, values)
+  results <- Map(function(known, value) arranged(known, value, count, many, like), called$results, values)
   told(results, count)
 }
 
