@@ -19,7 +19,7 @@ check_refusals <- function(call) {
     step <- if (known$whole) 1 else 1e-4
     for (value in c(NaN, if (is.finite(known$low)) known$low - step, if (is.finite(known$high)) known$high + step)) {
       wrong <- if (is.character(given[[argument]])) value else replace(given[[argument]], 1, value)
-      fault <- tryCatch(do.call(name, replace(given, argument, list(wrong))), quorvel_error = identity)
+      fault <- tryCatch({ do.call(name, replace(given, argument, list(wrong))); NULL }, quorvel_error = identity)
       if (!identical(c(fault$routine, fault$argument), c(name, argument)))
         stop(name, ": ", argument, " = ", value, " is not refused")
       refused <<- refused + 1
