@@ -60,9 +60,10 @@ given. A vector has one for each element.
 
 An argument that is not a number, or outside of its valid range, stops with an error of class \\code{{quorvel_error}},
 which has the \\code{{routine}}, the \\code{{argument}} and its \\code{{value}}. With \\code{{unchecked = TRUE}}
-nothing but types, lengths and counts (of layers, of panes) is checked, and the result is that of the routine in C to the bit; the
-details of each page tell what that is outside of the ranges. \\code{{NA}} then passes as a number that is none, and
-comes back as \\code{{NaN}}; as a whole number it is the lowest one of 32 bits, which also stands for what has more.
+nothing but types, lengths and counts (of layers, of panes) is checked, and the result is that of the routine in C to
+the bit; the details of each page tell what that is outside of the ranges. \\code{{NA}} then passes as a number that is
+none, and comes back as \\code{{NaN}}; as a whole number it is the lowest one of 32 bits, which also stands for what
+has more.
 
 Angles are in radians; azimuths run from north, clockwise seen from above.
 }}
