@@ -8,7 +8,7 @@ from pathlib import Path
 import binding_model
 import r_docs
 from plain_text import plain, statement_lines
-from r_model import EDIT, formals, function_name, is_generated, quoted
+from r_model import EDIT, formals, function_name, number, quoted
 
 WIDTH = 120
 PROJECT = Path(__file__).parents[1] / "CMakeLists.txt"
@@ -51,10 +51,6 @@ def _namespace(calls):
 # ---- What is known of the arguments, for R/arguments.R ----
 
 
-def _limit(value):
-    return {"inf": "Inf", "-inf": "-Inf"}.get(str(value), repr(value))
-
-
 def _extents(shape):
     """Numbers, and NA for what is counted; none for one value."""
     extents = ["NA" if isinstance(extent, str) else str(extent) for extent in shape]
@@ -67,7 +63,7 @@ def _known(parameter):
     if parameter.selector:
         choices = [f"{name} = {value}" for name, (value, _) in parameter.arg.values.items()]
         return f"choice({', '.join(choices + _extents(parameter.shape))})"
-    low, high = map(_limit, parameter.limits)
+    low, high = map(number, parameter.limits)
     what = [low, high, f"'{plain(parameter.valid())}'"] + ["whole = TRUE"] * (parameter.kind == "Integer")
     return f"number({', '.join(what + _extents(parameter.shape))})"
 
@@ -113,7 +109,7 @@ def _function(call):
 def _routines(calls):
     parts = [f"# {EDIT}\n\nknown <- list()\n"]
     for call in calls:
-        parts.append(_knowledge(call) + (_function(call) if is_generated(call) else ""))
+        parts.append(_knowledge(call) + (_function(call) if call.is_offered else ""))
     return "\n".join(parts)
 
 

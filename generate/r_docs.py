@@ -4,7 +4,7 @@ import re
 import textwrap
 
 from plain_text import in_clear_names
-from r_model import EDIT, formals, function_name, is_generated, literal, names_in_r
+from r_model import EDIT, formals, function_name, literal, names_in_r
 
 WIDTH = 90  # of usage and examples, as R shows them
 
@@ -183,5 +183,5 @@ def _section(family, calls, texts):
 def files(families, calls):
     texts = _Texts(calls)
     index = INDEX.format(edit=EDIT, sections="".join(_section(family, calls, texts) for family in families))
-    pages = {function_name(call): _page(call, texts) for call in calls if is_generated(call)}
+    pages = {function_name(call): _page(call, texts) for call in calls if call.is_offered}
     return {"quorvel-package": index, **pages}

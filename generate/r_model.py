@@ -2,7 +2,7 @@
 
 import math
 
-__all__ = ["EDIT", "formals", "function_name", "is_generated", "literal", "names_in_r", "quoted"]
+__all__ = ["EDIT", "formals", "function_name", "literal", "names_in_r", "number", "quoted"]
 
 EDIT = "Produced from the catalogue of routines (catalogue/); do not edit."
 
@@ -12,11 +12,6 @@ OTHER_NAMES = {"length": "vector_length", "clip": "clip_polygons"}
 
 def function_name(call):
     return OTHER_NAMES.get(call.name, call.name)
-
-
-def is_generated(call):
-    """Not those of the climate data file, which are functions of an open file, nor clipping."""
-    return call.is_offered
 
 
 def names_in_r(calls):
@@ -36,20 +31,15 @@ def formals(call):
     yield "unchecked = FALSE"
 
 
-def _number(value):
+def number(value):
     if isinstance(value, float) and math.isinf(value):
         return "Inf" if value > 0 else "-Inf"
     return repr(value)
 
 
 def literal(described, value):
-    """A value of an argument: a name of a selector, a vector, a matrix."""
-    if described.kind == "Text":
-        return f'"{value}"'
+    """A value of an argument: a number, a vector, a matrix."""
     if not isinstance(value, list):
-        return _number(value) if isinstance(value, (int, float)) else value
-    if len(described.shape) < 2:
-        return f"c({', '.join(map(_number, value))})" if value else "numeric()"
-    rows = described.shape[0]
-    dims = [rows, len(value) // rows] if isinstance(rows, int) else None
-    return f"matrix(c({', '.join(map(_number, value))}), {dims[0]})"
+        return number(value)
+    numbers = f"c({', '.join(map(number, value))})" if value else "numeric()"
+    return numbers if len(described.shape) < 2 else f"matrix({numbers}, {described.shape[0]})"

@@ -3,7 +3,7 @@
 import binding_model
 import corpus_layout
 import r_docs
-from r_model import EDIT, function_name, is_generated
+from r_model import EDIT, function_name
 
 
 def _compared(call, example):
@@ -18,10 +18,9 @@ def _compared(call, example):
 
 
 def _examples(calls):
-    for call in filter(is_generated, calls):
-        for example in call.routine.examples:
-            yield f"got <- {r_docs.invocation(call, example)}"
-            yield from _compared(call, example)
+    for call, example in ((call, example) for call in calls if call.is_offered for example in call.routine.examples):
+        yield f"got <- {r_docs.invocation(call, example)}"
+        yield from _compared(call, example)
 
 
 def _column(name, arg, layout):
