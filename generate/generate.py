@@ -23,6 +23,7 @@ import host_headers
 import interface
 import pascal_tests
 import python_core
+import r_tests
 import routine_table
 import rust_tests
 
@@ -48,6 +49,7 @@ FOLDERS = {
     "pascal-tests": pascal_tests.files,
     "host-headers": host_headers.files,
     "pack-kernels": array_kernels.with_packs,
+    "r-tests": r_tests.files,
     "rust-tests": rust_tests.files,
     "single-kernels": array_kernels.alone,
 }

@@ -14,6 +14,7 @@ import incidence_bands
 import javascript_binding
 import pascal_binding
 import python_package
+import r_binding
 import rust_binding
 import vba_binding
 
@@ -36,6 +37,7 @@ def texts(families):
         **{ROOT / "bindings/pascal/src" / name: text for name, text in pascal_binding.files(families).items()},
         **{ROOT / "bindings/rust" / name: text for name, text in rust_binding.files(families).items()},
         **{ROOT / "bindings/calc/addin" / name: text for name, text in calc_binding.files(families).items()},
+        **{ROOT / "bindings/r/quorvel" / name: text for name, text in r_binding.files(families).items()},
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),
