@@ -1,10 +1,11 @@
-# quorvel_generate(PRODUCT OUTPUT [FILES...]): a file of the build, or FILES in a folder of it, that follows from the catalogue of routines. A target
-# that uses it has OUTPUT.stamp among its sources: the stamp says when the product was last held against the
-# catalogue, and the product itself changes only with its text, so that an edited note recompiles nothing.
+# quorvel_generate(PRODUCT OUTPUT [FILES...]): a file of the build, or FILES in a folder of it, that follows from the
+# catalogue of routines. A target that uses it has OUTPUT.stamp among its sources: the stamp says when the product was
+# last held against the catalogue, and the product itself changes only with its text, so that an edited note
+# recompiles nothing.
 set(QUORVEL_GENERATED ${PROJECT_BINARY_DIR}/generated)
 file(MAKE_DIRECTORY ${QUORVEL_GENERATED})
 file(GLOB_RECURSE QUORVEL_CATALOGUE CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/catalogue/*.toml)
-file(GLOB QUORVEL_GENERATOR CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/generate/*.py)
+file(GLOB_RECURSE QUORVEL_GENERATOR CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/generate/*.py)
 
 set(QUORVEL_GENERATE ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/generate/generate.py)
 

@@ -12,15 +12,22 @@ arrays, quorvel_NAME of libquorvel_arrays, serves (see include/quorvel_arrays.h)
 """
 
 import math
+import subprocess
 from dataclasses import dataclass
+from pathlib import Path
 
 from cpp_types import BY_HAND, bounds, camel, counts, is_offered, taken_from_lists
 from header import number
 
 __all__ = ["Call", "Count", "Parameter", "Passed", "Result", "bounds", "call", "calls", "camel", "examples", "fixed",
-           "lower_camel", "parameters", "results", "selectors"]
+           "lower_camel", "parameters", "project_version", "results", "selectors"]
 
+VERSION = Path(__file__).parents[1] / "packaging/version"
 ANY = (-math.inf, math.inf)
+
+
+def project_version():
+    return subprocess.run([VERSION], check=True, capture_output=True, text=True).stdout.strip()
 
 
 def fixed(described):

@@ -14,18 +14,13 @@ import array_header
 import array_kernels
 import catalogue
 import cpp_examples
-import csharp_tests
 import entry_points
 import example_table
 import exports
-import fortran_tests
 import host_headers
 import interface
-import pascal_tests
-import python_core
-import r_tests
 import routine_table
-import rust_tests
+from languages import csharp_tests, fortran_tests, pascal_tests, python_core, r_tests, rust_tests
 
 PRODUCTS = {
     "interface": interface.render,

@@ -4,19 +4,12 @@ import sys
 from pathlib import Path
 
 import array_header
-import calc_binding
 import cpp_headers
-import csharp_binding
 import elementary_tables
-import fortran_binding
 import header
 import incidence_bands
-import javascript_binding
-import pascal_binding
-import python_package
-import r_binding
-import rust_binding
-import vba_binding
+from languages import (calc_binding, csharp_binding, fortran_binding, javascript_binding, pascal_binding,
+                       python_package, r_binding, rust_binding, vba_binding)
 
 ROOT = Path(__file__).parents[1]
 sys.path.insert(0, str(ROOT / "data" / "bands"))

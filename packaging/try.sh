@@ -4,45 +4,45 @@
 # debootstrap and root. Sources and settings of apt, and certificates, are those of this machine.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+
+# What is mounted is seen by this process alone, and goes with it.
+[[ ${QUORVEL_APART-} ]] || QUORVEL_APART=1 exec unshare --mount --pid --fork "$0" "$@"
+
 name=$1 out=$2
-system=$PWD/build/userland/$name
 empty=$PWD/build/userland/empty
+system=$PWD/build/userland/$name
 
 settle() {
+    local mirror
     mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Codename: bookworm' | head -1)
-    rm -rf "$empty"
+    rm -rf --one-file-system "$empty"
     mkdir -p "$empty"
     debootstrap --variant=minbase --include=ca-certificates bookworm "$empty" "$mirror" >/dev/null
+    rm "$empty/etc/apt/sources.list"
     cp -r /etc/apt/sources.list* /etc/apt/apt.conf.d "$empty/etc/apt/"
     cp -r /usr/local/share/ca-certificates "$empty/usr/local/share/"
     chroot "$empty" update-ca-certificates >/dev/null 2>&1
     touch "$empty/settled"
 }
 
-release() {
-    for folder in dev/pts dev sys proc; do
-        ! mountpoint -q "$system/$folder" || umount "$system/$folder"
-    done
-}
-
 [[ -e $empty/settled ]] || settle
-release
-rm -rf "$system"
+rm -rf --one-file-system "$system"
 cp -a "$empty" "$system"
 cp /etc/resolv.conf "$system/etc/"
 mkdir "$system/trial"
 cp "$out"/*.* "packaging/trials/$name" packaging/trials/host.c bindings/calc/tests/office.py "$system/trial/"
-trap release EXIT
 mount -t proc proc "$system/proc"
-for folder in sys dev dev/pts; do
-    mount --bind "/$folder" "$system/$folder"
-done
+mount --bind -o ro /sys "$system/sys"
+mount -t tmpfs tmpfs "$system/dev"
+cp -a /dev/{null,zero,full,random,urandom,tty} "$system/dev/"
+ln -s /proc/self/fd "$system/dev/fd"
+mkdir "$system/dev/shm"
 env -i HOME=/root PATH="$PATH" LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive PIP_CERT=/etc/ssl/certs/ca-certificates.crt \
     chroot "$system" bash -euc "
     cd /trial
     need() { apt-get install -qq -y --no-install-recommends \"\$@\" >/dev/null 2>&1; }
     apt-get update -qq
     . ./$name"
-release
-rm -rf "$system"
+umount "$system"/{proc,sys,dev}
+rm -rf --one-file-system "$system"
 echo "package $name: installed and used in an empty system"

@@ -11,7 +11,7 @@ ROOT = Path(__file__).parents[2]
 sys.path.insert(0, str(ROOT / "generate"))
 
 import catalogue  # noqa: E402
-import python_model  # noqa: E402
+from languages import python_model  # noqa: E402
 
 FAMILIES = catalogue.load(ROOT / "catalogue")
 ROUTINES = {

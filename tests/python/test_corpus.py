@@ -7,7 +7,7 @@ import numpy as np
 import pytest
 from conftest import ROUTINES
 from corpus_layout import Layout
-from python_model import operands
+from languages.python_model import operands
 from quorvel import ufuncs
 
 CASES = 100000

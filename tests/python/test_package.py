@@ -16,7 +16,7 @@ import numpy as np
 import pytest
 import quorvel
 from conftest import DOCUMENTED, ROOT, function
-from python_model import operands
+from languages.python_model import operands
 
 MODULES = ["quorvel", *(
     name for _, name, _ in pkgutil.walk_packages(quorvel.__path__, "quorvel.")

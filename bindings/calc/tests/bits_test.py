@@ -8,7 +8,7 @@ import unittest
 from math import copysign, isnan
 from pathlib import Path
 
-import calc_binding
+from languages import calc_binding
 import catalogue
 import quorvel_calc
 from corpus_layout import CASES, Layout

@@ -6,7 +6,7 @@ import struct
 import unittest
 from pathlib import Path
 
-import calc_binding
+from languages import calc_binding
 import catalogue
 import quorvel_calc
 from office import Office, block, properties, shown

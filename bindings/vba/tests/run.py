@@ -13,7 +13,7 @@ from office import Declarations, module
 ROOT = Path(__file__).resolve().parents[3]
 sys.path.insert(0, str(ROOT / "generate"))
 import catalogue  # noqa: E402
-import vba_binding  # noqa: E402
+from languages import vba_binding  # noqa: E402
 from binding_model import calls  # noqa: E402
 
 VALUE, NA = "#2015", "#2042"  # the errors #VALUE! and #N/A

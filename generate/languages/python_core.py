@@ -5,7 +5,7 @@ Included by bindings/python/core/routine.cpp, which declares the types named her
 
 import math
 
-from python_model import is_offered, operands, signature
+from languages.python_model import is_offered, operands, signature
 
 
 def _number(value):

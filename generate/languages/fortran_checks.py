@@ -2,8 +2,8 @@
 
 import math
 
-from fortran_model import (
-    EDIT, KIND_PARAMETERS, KINDS, declared, extents, folded, is_elemental, length, literal, procedure_name)
+from languages.fortran_model import (EDIT, KIND_PARAMETERS, KINDS, declared, extents, folded, is_elemental, length,
+                                     literal, procedure_name)
 
 MODULE = """\
 !> Whether the routines take what is given: each of these subroutines has the arguments of the routine that it is

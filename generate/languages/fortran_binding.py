@@ -1,10 +1,8 @@
 """bindings/fortran: the modules that follow from the catalogue."""
 
 import binding_model
-import fortran_by_reference
-import fortran_checks
-import fortran_wrappers
-from fortran_model import EDIT, WIDTH
+from languages import fortran_by_reference, fortran_checks, fortran_wrappers
+from languages.fortran_model import EDIT, WIDTH
 from plain_text import wrapped
 
 SELECTORS = """\

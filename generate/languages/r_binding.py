@@ -1,17 +1,14 @@
 """bindings/r/quorvel: the functions of the routines with what is known of their arguments, what the package exports,
 its description, and its help pages."""
 
-import re
 import textwrap
-from pathlib import Path
 
 import binding_model
-import r_docs
+from languages import r_docs
+from languages.r_model import EDIT, formals, function_name, number, quoted
 from plain_text import plain, statement_lines
-from r_model import EDIT, formals, function_name, number, quoted
 
 WIDTH = 120
-PROJECT = Path(__file__).parents[1] / "CMakeLists.txt"
 
 DESCRIPTION = """\
 Package: quorvel
@@ -37,10 +34,6 @@ S3method(print, climate_file)
 {exports}"""
 
 BY_HAND = ["climate_file", "polygon_area"]
-
-
-def _version():
-    return re.search(r"^project\(quorvel VERSION ([\d.]+)", PROJECT.read_text(encoding="utf-8"), re.MULTILINE)[1]
 
 
 def _namespace(calls):
@@ -118,7 +111,7 @@ def files(families):
     calls = binding_model.calls(families)
     pages = {f"man/{name}.Rd": text for name, text in r_docs.files(families, calls).items()}
     return {
-        "DESCRIPTION": DESCRIPTION.format(version=_version()),
+        "DESCRIPTION": DESCRIPTION.format(version=binding_model.project_version()),
         "NAMESPACE": _namespace(calls),
         "R/routines.R": _routines(calls),
         **pages,

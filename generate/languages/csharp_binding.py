@@ -1,14 +1,12 @@
 """bindings/csharp/Quorvel: the declarations of what both libraries export, the enumerations, and of each family the
 structures of several results, the methods with checks, and those without."""
 
-import csharp_checks
 from array_header import columns
 from binding_model import calls, camel, lower_camel, selectors
-from csharp_docs import Docs
-from csharp_model import (
-    EDIT, NUMBERS, block, element, field, is_elementwise, laid_out, literal, parameter_list, qualified,
-    returned, type_of)
-
+from languages import csharp_checks
+from languages.csharp_docs import Docs
+from languages.csharp_model import (EDIT, NUMBERS, block, element, field, is_elementwise, laid_out, literal,
+                                    parameter_list, qualified, returned, type_of)
 
 # ---- Declarations ----------------------------------------------------------------------------------------------
 

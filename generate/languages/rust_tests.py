@@ -5,8 +5,8 @@ import math
 
 import corpus_layout
 from binding_model import calls, camel, examples
-from rust_model import EDIT, NUMBERS, block, can_fail, has_arrays, indented, is_counted, listed, literal, path, spaced
-
+from languages.rust_model import (EDIT, NUMBERS, block, can_fail, has_arrays, indented, is_counted, listed, literal,
+                                  path, spaced)
 
 # ---- Examples ----------------------------------------------------------------------------------------------------
 

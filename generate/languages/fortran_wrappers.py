@@ -2,9 +2,9 @@
 subroutines whose results are optional."""
 
 from array_header import columns
-from fortran_model import (
-    EDIT, KIND_PARAMETERS, KINDS, WIDTH, by_arrays, declared, documented, extents, folded, is_elemental, is_function,
-    length, literal, own, procedure_name, result_extents)
+from languages.fortran_model import (EDIT, KIND_PARAMETERS, KINDS, WIDTH, by_arrays, declared, documented, extents,
+                                     folded, is_elemental, is_function, length, literal, own, procedure_name,
+                                     result_extents)
 from plain_text import in_clear_names, wrapped
 
 UNCHECKED = """\

@@ -2,7 +2,7 @@
 
 import binding_model
 import corpus_layout
-from fortran_model import KINDS, folded, is_function, literal, own, procedure_name
+from languages.fortran_model import KINDS, folded, is_function, literal, own, procedure_name
 
 PROGRAM = """\
 program {name}

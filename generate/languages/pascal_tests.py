@@ -5,7 +5,7 @@ import math
 import binding_model
 import corpus_layout
 from binding_model import camel, fixed
-from pascal_model import TYPES, element, folded, function_name, function_type, is_list, pointer
+from languages.pascal_model import TYPES, element, folded, function_name, function_type, is_list, pointer
 
 PROGRAM = """\
 program {name};

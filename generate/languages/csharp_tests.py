@@ -5,7 +5,7 @@ import math
 
 import corpus_layout
 from binding_model import calls, camel, examples, lower_camel
-from csharp_model import EDIT, block, element, field, is_elementwise, laid_out, literal, qualified
+from languages.csharp_model import EDIT, block, element, field, is_elementwise, laid_out, literal, qualified
 
 COLUMNS = {"Real": "Reals", "DoubleReal": "Doubles", "Integer": "Integers", "Text": "Texts"}
 

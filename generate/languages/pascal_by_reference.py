@@ -2,7 +2,7 @@
 
 from array_header import columns
 from binding_model import camel
-from pascal_model import EDIT, TYPES, comment, folded, pointer
+from languages.pascal_model import EDIT, TYPES, comment, folded, pointer
 
 UNIT = """\
 {edit}

@@ -2,7 +2,7 @@
 at, what the memory needs."""
 
 from binding_model import lower_camel
-from csharp_model import literal, qualified
+from languages.csharp_model import literal, qualified
 
 
 def _value(call, parameter):

@@ -1,7 +1,7 @@
 """quorvel_by_reference.f90: the routines as Fortran calls what C has exported, without anything between."""
 
 from array_header import columns
-from fortran_model import EDIT, WIDTH, by_arrays, folded
+from languages.fortran_model import EDIT, WIDTH, by_arrays, folded
 from plain_text import wrapped
 
 C_KINDS = {"Real": "real(c_float)", "DoubleReal": "real(c_double)", "Integer": "integer(c_int32_t)",

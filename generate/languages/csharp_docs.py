@@ -4,7 +4,7 @@ import re
 from xml.sax.saxutils import escape
 
 from binding_model import camel, lower_camel
-from csharp_model import qualified
+from languages.csharp_model import qualified
 
 
 class Docs:

@@ -3,8 +3,8 @@ all of them, and what is known of each routine at run time."""
 
 import textwrap
 
-from python_docs import TYPES, docstring, wrapped
-from python_model import class_name, is_documented, is_offered, operands, signature
+from languages.python_docs import TYPES, docstring, wrapped
+from languages.python_model import class_name, is_documented, is_offered, operands, signature
 
 EDIT = "# Produced from the catalogue of routines (catalogue/); do not edit."
 

@@ -5,8 +5,8 @@ from dataclasses import replace
 
 from array_header import name_of
 from cpp_types import bounds, counts
+from languages.python_model import class_name, given_counts, operands, signature
 from plain_text import in_clear_names
-from python_model import class_name, given_counts, operands, signature
 
 WIDTH = 100
 

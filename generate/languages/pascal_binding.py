@@ -1,10 +1,9 @@
 """bindings/pascal: the units that follow from the catalogue."""
 
 import binding_model
-import pascal_by_reference
-import pascal_functions
 from binding_model import camel
-from pascal_model import EDIT, TYPES, array_types, comment, function_type, result_type
+from languages import pascal_by_reference, pascal_functions
+from languages.pascal_model import EDIT, TYPES, array_types, comment, function_type, result_type
 
 TYPES_UNIT = """\
 {edit}

@@ -2,8 +2,8 @@
 
 import binding_model
 import corpus_layout
-import r_docs
-from r_model import EDIT, function_name
+from languages import r_docs
+from languages.r_model import EDIT, function_name
 
 
 def _compared(call, example):

@@ -2,9 +2,8 @@
 enumerations that return a value or a record."""
 
 from binding_model import Passed, camel, fixed
-from pascal_model import (
-    EDIT, TYPES, comment, element, first, folded, function_name, head, is_list, length, literal,
-    parameter_list, passed_names)
+from languages.pascal_model import (EDIT, TYPES, comment, element, first, folded, function_name, head, is_list, length,
+                                    literal, parameter_list, passed_names)
 from plain_text import in_clear_names
 
 UNCHECKED = """\

@@ -11,7 +11,7 @@ from plain_text import in_clear_names, plain, wrapped
 
 WIDTH = 120
 CONTINUATIONS = 24  # as many as VBA takes
-HAND = Path(__file__).parents[1] / "bindings/vba/by_hand.bas"
+HAND = Path(__file__).parents[2] / "bindings/vba/by_hand.bas"
 MARK = "\n' ---- Procedures\n"
 TYPES = {"Real": "Single", "DoubleReal": "Double", "Integer": "Long", "Text": "Byte"}
 LIMITS = {"Real": "largest", "DoubleReal": "1E+300", "Integer": "2147483647"}

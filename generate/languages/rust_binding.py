@@ -2,19 +2,15 @@
 of several results and the functions for one element and for whole arrays, with checks and without; and Cargo.toml."""
 
 import re
-import subprocess
-from pathlib import Path
 
 from array_header import columns
 from array_kernels import has_kernel
-from binding_model import calls, camel, selectors
-from rust_model import (
-    NUMBERS, Docs, blank, block, can_fail, element, file, has_arrays, is_counted, listed, literal, module, parameter_type,
-    path, result_type, returned, spaced, span)
+from binding_model import calls, camel, project_version, selectors
+from languages.rust_model import (NUMBERS, Docs, blank, block, can_fail, element, file, has_arrays, is_counted, listed,
+                                  literal, module, parameter_type, path, result_type, returned, spaced, span)
 
-VERSION = Path(__file__).parents[1] / "packaging/version"
 CARGO = """\
-# Produced by generate/rust_binding.py, which knows the version; do not edit.
+# Produced by generate/languages/rust_binding.py, which knows the version; do not edit.
 [package]
 name = "quorvel"
 version = "{version}"
@@ -296,9 +292,8 @@ def files(families):
     names = selectors(families)
     declared = [_by_reference(call) for call in found if call.routine.export]
     of_arrays = [_of_arrays(call) for call in found if has_kernel(call.routine)]
-    version = subprocess.run([VERSION], check=True, capture_output=True, text=True).stdout.strip()
     texts = {
-        "Cargo.toml": CARGO.format(version=version),
+        "Cargo.toml": CARGO.format(version=project_version()),
         "src/sys/by_reference.rs": _declarations("quorvel", declared, "use std::os::raw::c_char;"),
         "src/sys/arrays.rs": _declarations("quorvel_arrays", of_arrays),
         "src/selectors.rs": file(["use crate::selector::selector;"],

@@ -3,8 +3,8 @@
 import re
 import textwrap
 
+from languages.r_model import EDIT, formals, function_name, literal, names_in_r
 from plain_text import in_clear_names
-from r_model import EDIT, formals, function_name, literal, names_in_r
 
 WIDTH = 90  # of usage and examples, as R shows them
 
