@@ -67,6 +67,7 @@ BAD = [
     (shaded(overhang=FIN | {"slope": 90}), "overhang.slope: value 90; allowed -80 to 80 degrees, falling outwards"),
     (shaded({}, {"width": 0}), "obstruction[2].width: value 0; allowed 0.01 to 1000 m"),
     (shaded({"base": 6}), "obstruction[1].top: must be above the base"),
+    (shaded(window={"overhang": FIN}, overhang=FIN), "overhang: stands in the table of the window too"),
     (shaded(*[{}] * 21), "obstruction: value list of 21; allowed 1 to 20 tables"),
     (job() + "[shutter]\n", "shutter: unknown key; known are site, day, window"),
     (job() + "[[variant]]\n", "variant[1]: missing name"),
@@ -178,8 +179,8 @@ class Text(unittest.TestCase):
 
     def test_sunlight_and_shade_alone_are_answered(self):
         """An input without glazing and temperatures: the sunlit part and the irradiance."""
-        text = self.text(shaded({"base": 1}, overhang=FIN | {"left": 0.5}, left_fin=FIN, window={"sill": 2}))
-        for part in ("2 × 1.5 m, facing 180° (S), vertical", "Left fin: 0.5 m deep", "Sky left by what shades it",
+        text = self.text(shaded({"base": 1}, overhang=FIN | {"left": 0.5}, left_fin=FIN, window={"sill": 2, "reveal": 0.1}))
+        for part in ("2 × 1.5 m, facing 180° (S), vertical", "Reveal: 0.1 m deep", "Left fin: 0.5 m deep", "Sky left by what shades it",
                      "Overhang: 0.5 m deep, 0.5 m beyond it on the left", "% of the direct sun reaches the glass",
                      "Screen: 4 m wide, from 1 m up to 6 m above the ground, 5 m away"):
             self.assertIn(part, text)

@@ -172,8 +172,7 @@ Window read_window(const InputTable& table, const InputTable& root, const host::
     window.orientation = table.number("orientation", {0, 360, "degrees clockwise from north"});
     window.tilt = table.number("tilt", {0, 180, "degrees from the horizontal"}, 90);
     window.sill = table.number("sill", {0, 1000, "m above the ground"}, 0);
-    const bool own = has_shades(table);
-    read_size(table, own || has_shades(root), window);
+    read_size(table, has_shades(table) || has_shades(root), window);
     window.glazing = read_glazing(table, library, notes);
     if (table.has("blind")) {
         if (!std::holds_alternative<Unit>(window.glazing))
@@ -181,7 +180,7 @@ Window read_window(const InputTable& table, const InputTable& root, const host::
                 "blind", "needs a unit or panes; shading is of a whole unit and takes no blind");
         window.blind = read_blind(table.table("blind"), window.glazing, library);
     }
-    window.shades = read_shades(own ? table : root);
+    window.shades = read_shades(table, root);
     return window;
 }
 
