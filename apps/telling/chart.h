@@ -85,9 +85,11 @@ class Chart {
 
     // At a place of the picture, in pixels.
     void text(double x, double y, const std::string& text, const Style& style);
+
+    // In a row, their names shortened where they would run out of the picture.
     void keys(double x, double y, const std::vector<Key>& keys);
 
-    // What stands above all panels, in the first that is begun.
+    // What stands above all panels, in the first that is begun. A long title is set smaller.
     void heading(const std::string& title, const std::string& subtitle);
 
     // The title of a row of panels, with keys behind it.

@@ -118,7 +118,7 @@ host::Chart year_chart(const Subject& subject, const Question& question,
     const std::size_t first = year.months.front().month;
     chart.canvas({left, 0, plot_width, top});
     draw_heading(chart, subject, question, assessment, "twelve months from " + month_name(first));
-    chart.plot({host::curve(chart.data({{0, 0}}), 2, ink, 1)});
+    chart.plot({host::curve(chart.data({{-9, -9}}), 2, ink, 1)});  // out of sight
     if (!year.dry()) draw_water(chart, question, year);
     draw_surface(chart, surface_top, assessment.surface, first);
     return chart;

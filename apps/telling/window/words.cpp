@@ -94,13 +94,6 @@ std::string glazing_told(const Window& window) {
 
 std::string blind_told(const Window& window) { return window.blind ? told(*window.blind) : ""; }
 
-std::string shortened(const std::string& text, std::size_t most) {
-    if (host::character_count(text) <= most) return text;
-    std::string begin = text;
-    while (host::character_count(begin) >= most) begin.pop_back();
-    return begin + "…";
-}
-
 std::vector<std::string> shades_told(const Window& window) {
     const Shades& shades = window.shades;
     std::vector<std::string> lines;
