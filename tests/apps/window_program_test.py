@@ -186,6 +186,11 @@ class Text(unittest.TestCase):
             self.assertIn(part, text)
         self.assertNotIn("Solar heat gain", text)
 
+    def test_panes_are_counted_as_they_are_given(self):
+        for panes, warmer in [([{"transmittance": 0.4}, CLEAR], 1), ([CLEAR, {"transmittance": 0.4}], 2)]:
+            noon = rows(answer(job({"panes": panes}))["parts"]["South"])[11]
+            self.assertGreater(noon[f"pane_{warmer}"], noon[f"pane_{3 - warmer}"] + 2)
+
     def test_a_day_of_the_year_is_the_design_day_of_its_month(self):
         self.assertEqual(answer(shaded(day={"month": "June"}))["parts"], answer(shaded(day={"day_of_year": 172}))["parts"])
 

@@ -112,7 +112,7 @@ std::string described(const Window& window) {
     return text;
 }
 
-// Panes are counted from the room, as the library counts them.
+// Panes are counted from the outside, as the input has them and unlike the library's own numbers.
 std::string layer_name(const Window& window, std::size_t layer) {
     std::size_t layers = 0, pane = layer;
     if (const auto* unit = std::get_if<Unit>(&window.glazing)) layers = unit->panes.size();
@@ -123,7 +123,8 @@ std::string layer_name(const Window& window, std::size_t layer) {
         if (layer == blind) return "blind";
         if (layer > blind) --pane;
     }
-    return "pane " + std::to_string(layers - pane);
+    const std::string name = "pane " + std::to_string(pane + 1);
+    return layers > 1 && pane + 1 == layers ? name + " (room)" : name;
 }
 
 std::string method_told(Method method) {

@@ -16,7 +16,7 @@ std::string blind_told(const Window& window);       // slatted blind outside; em
 // Overhang: 0.4 m deep, 0.2 m above the window
 std::vector<std::string> shades_told(const Window& window);
 std::string described(const Window& window);                      // all of this, a line each
-std::string layer_name(const Window& window, std::size_t layer);  // pane 1 (room), blind
+std::string layer_name(const Window& window, std::size_t layer);  // pane 1, pane 2 (room), blind
 std::string method_told(Method method);
 
 // A direction of 360° is told as 0.
