@@ -75,6 +75,13 @@ Scale round_scale(double low, double high) {
     return {bottom, std::max(std::ceil(high / step) * step, bottom + step), step};
 }
 
+const char* series_colour(std::size_t i) {
+    static constexpr const char* colours[] = {"#3f72af", "#e08e45", "#6aa07a", "#9a6fb0", "#c9a93a",
+                                              "#6f7d8c", "#c0504d", "#4bacc6", "#8c6d46", "#7f9f3f",
+                                              "#d184a8", "#455a8c", "#a0a0a0"};
+    return colours[i % std::size(colours)];
+}
+
 std::string curve(const std::string& rows, std::size_t column, const char* colour, double width,
                   const char* dashes) {
     return rows + " using 1:" + std::to_string(column) + " with lines linewidth " +
@@ -156,6 +163,14 @@ void Chart::keys(double x, double y, const std::vector<Key>& keys) {
         text(x, y, key.mark, {key.colour, 15, true});
         text(x + 20, y, name, {colour::grey, 12});
         x += around_name + letter * static_cast<double>(character_count(name));
+    }
+}
+
+void Chart::key_list(double x, double y, const std::vector<Key>& keys) {
+    for (const Key& key : keys) {
+        text(x, y, key.mark, {key.colour, 15, true});
+        text(x + 26, y, key.name, {colour::grey, 13});
+        y += key_spacing;
     }
 }
 
