@@ -62,6 +62,7 @@ BAD = [
     (blind({"openness": 0.2}, ROLLER), "window[1].blind.openness: value 0.2; allowed 0 to 0.1"),
     (blind({"sealed": 1}, ROLLER), "window[1].blind.sealed: value 1; allowed true or false"),
     (job(*[{}] * 7), "window: value list of 7; allowed 1 to 6 tables"),
+    (job({}, {}), "window[2].name: is that of another window, or of all together"),
     (job({}, {}) + host.table("[overhang]", FIN), "window: is more than one; what shades each"),
     (shaded(left_fin={"depth": 21}), "left_fin.depth: value 21; allowed 0.01 to 20 m"),
     (shaded(overhang=FIN | {"slope": 90}), "overhang.slope: value 90; allowed -80 to 80 degrees, falling outwards"),
@@ -71,6 +72,7 @@ BAD = [
     (shaded(*[{}] * 21), "obstruction: value list of 21; allowed 1 to 20 tables"),
     (job() + "[shutter]\n", "shutter: unknown key; known are site, day, window"),
     (job() + "[[variant]]\n", "variant[1]: missing name"),
+    (job() + '[[variant]]\nname = "A"\n' * 2, "variant[2].name: is that of another variant too"),
     (job() + '[[variant]]\nname = "A"\n[variant.site]\nclass = 9\n', "site.class: value 9; allowed whole numbers 1 to 6"),
 ]
 

@@ -1,5 +1,6 @@
 #include "reading/window/job.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "calculation/calendar.h"
@@ -196,8 +197,12 @@ std::vector<Window> read_windows(const InputTable& root, const host::Library& li
         throw root.error("window",
                          "is more than one; what shades each of them belongs into its own table");
     std::vector<Window> windows;
-    for (const InputTable& table : tables)
-        windows.push_back(read_window(table, root, library, notes));
+    for (const InputTable& table : tables) {
+        Window window = read_window(table, root, library, notes);
+        if (window.name == "all" || std::ranges::count(windows, window.name, &Window::name) > 0)
+            throw table.error("name", "is that of another window, or of all together");
+        windows.push_back(std::move(window));
+    }
     return windows;
 }
 
