@@ -182,8 +182,8 @@ class Text(unittest.TestCase):
     def test_sunlight_and_shade_alone_are_answered(self):
         """An input without glazing and temperatures: the sunlit part and the irradiance."""
         text = self.text(shaded({"base": 1}, overhang=FIN | {"left": 0.5}, left_fin=FIN, window={"sill": 2, "reveal": 0.1}))
-        for part in ("2 × 1.5 m, facing 180° (S), vertical", "Reveal: 0.1 m deep", "Left fin: 0.5 m deep", "Sky left by what shades it",
-                     "Overhang: 0.5 m deep, 0.5 m beyond it on the left", "% of the direct sun reaches the glass",
+        for part in ("2 × 1.5 m, facing 180° (S), vertical", "Reveal: 0.1 m deep", "Left fin: 0.5 m deep",
+                     "Sky left by what shades it", "Overhang: 0.5 m deep, 0.5 m beyond it on the left", "% of the direct sun reaches the glass",
                      "Screen: 4 m wide, from 1 m up to 6 m above the ground, 5 m away"):
             self.assertIn(part, text)
         self.assertNotIn("Solar heat gain", text)
