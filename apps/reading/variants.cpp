@@ -88,6 +88,8 @@ std::vector<Variant> read_variants(const std::string& path, const Alternatives& 
     for (const InputTable& table : whole.root().tables("variant", 1, most_variants)) {
         if (!table.has("name")) throw table.error("", "missing name");
         const std::string name = table.text("name");
+        if (std::ranges::count(variants, name, &Variant::name) > 0)
+            throw table.error("name", "is that of another variant too");
         toml::table all = parsed(text, file);
         toml::table over =
             std::move(*all.get_as<toml::array>("variant")->get(variants.size() - 1)->as_table());

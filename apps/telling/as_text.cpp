@@ -104,16 +104,16 @@ std::string text_of(const std::vector<Figure>& figures) {
     return table.text();
 }
 
-// What --tables would add.
+// What --tables would add; a title that comes again, once.
 std::string left_out(const Answer& answer) {
-    std::string titles;
+    std::vector<std::string_view> titles;
     for (const Section& section : answer.sections)
-        for (const DataTable& table : section.tables)
-            if (table.on_request) {
-                if (!titles.empty()) titles += ", ";
-                titles += table.title.empty() ? table.key : table.title;
-            }
-    return titles.empty() ? "" : wrapped("With --tables also: " + titles, widest);
+        for (const DataTable& table : section.tables) {
+            const std::string& title = table.title.empty() ? table.key : table.title;
+            if (table.on_request && std::ranges::find(titles, title) == titles.end())
+                titles.push_back(title);
+        }
+    return titles.empty() ? "" : wrapped("With --tables also: " + joined(titles), widest);
 }
 
 // Nothing where all that it has is left out.

@@ -48,6 +48,22 @@ std::string terminal(Format format, int width, int height) {
     return "set terminal svg dynamic" + size(1, "") + look;
 }
 
+// Letters are reckoned as wide as in the widest of the fonts that stand in for Arial.
+constexpr double letter = 7.0, around_name = 44;
+
+// How many letters of each name there is room for.
+std::size_t longest_name(double room, const std::vector<Key>& keys) {
+    std::size_t longest = 0;
+    for (const Key& key : keys) longest = std::max(longest, character_count(key.name));
+    for (;; --longest) {
+        double needed = 0;
+        for (const Key& key : keys)
+            needed += around_name +
+                      letter * static_cast<double>(std::min(longest, character_count(key.name)));
+        if (needed <= room || longest <= 4) return longest;
+    }
+}
+
 }  // namespace
 
 Scale round_scale(double low, double high) {
@@ -57,6 +73,13 @@ Scale round_scale(double low, double high) {
     const double step = unit * (raw <= unit ? 1 : raw <= 2 * unit ? 2 : raw <= 5 * unit ? 5 : 10);
     const double bottom = std::floor(low / step) * step;
     return {bottom, std::max(std::ceil(high / step) * step, bottom + step), step};
+}
+
+const char* series_colour(std::size_t i) {
+    static constexpr const char* colours[] = {"#3f72af", "#e08e45", "#6aa07a", "#9a6fb0", "#c9a93a",
+                                              "#6f7d8c", "#c0504d", "#4bacc6", "#8c6d46", "#7f9f3f",
+                                              "#d184a8", "#455a8c", "#a0a0a0"};
+    return colours[i % std::size(colours)];
 }
 
 std::string curve(const std::string& rows, std::size_t column, const char* colour, double width,
@@ -133,17 +156,29 @@ void Chart::text(double x, double y, const std::string& text, const Style& style
                  " front " + style.side + (style.backed ? " boxed" : "") + font(style) + '\n';
 }
 
-// Letters are reckoned as wide as in the widest of the fonts that stand in for Arial.
 void Chart::keys(double x, double y, const std::vector<Key>& keys) {
+    const std::size_t longest = longest_name(width_ - x, keys);
+    for (const Key& key : keys) {
+        const std::string name = shortened(key.name, longest);
+        text(x, y, key.mark, {key.colour, 15, true});
+        text(x + 20, y, name, {colour::grey, 12});
+        x += around_name + letter * static_cast<double>(character_count(name));
+    }
+}
+
+void Chart::key_list(double x, double y, const std::vector<Key>& keys) {
     for (const Key& key : keys) {
         text(x, y, key.mark, {key.colour, 15, true});
-        text(x + 20, y, key.name, {colour::grey, 12});
-        x += 44 + 7.0 * static_cast<double>(character_count(key.name));
+        text(x + 26, y, key.name, {colour::grey, 13});
+        y += key_spacing;
     }
 }
 
 void Chart::heading(const std::string& title, const std::string& subtitle) {
-    text(chart_margin, 38, title, {colour::ink, 24, true});
+    constexpr double wide = 0.72;  // a bold letter, of the size of its font
+    const double fitting =
+        (width_ - 2 * chart_margin) / (wide * static_cast<double>(character_count(title)));
+    text(chart_margin, 38, title, {colour::ink, static_cast<int>(std::min(24.0, fitting)), true});
     text(chart_margin, 68, subtitle, {colour::grey, 12});
 }
 

@@ -18,9 +18,13 @@ inline constexpr const char* ink = "#1f2a44";   // titles, main curves
 inline constexpr const char* grey = "#6b7280";  // secondary text
 }  // namespace colour
 
+// Of windows and variants, in turn: as many as an input can have.
+const char* series_colour(std::size_t i);
+
 enum class Format { svg, pdf, png };
 
 inline constexpr double chart_margin = 24;  // pixels, of what stands above the panels
+inline constexpr double key_spacing = 22;   // of a list of keys
 
 // The plotting area inside the axes, in pixels from the upper left corner of the picture.
 struct Panel {
@@ -85,9 +89,14 @@ class Chart {
 
     // At a place of the picture, in pixels.
     void text(double x, double y, const std::string& text, const Style& style);
+
+    // In a row, their names shortened where they would run out of the picture.
     void keys(double x, double y, const std::vector<Key>& keys);
 
-    // What stands above all panels, in the first that is begun.
+    // One below the other.
+    void key_list(double x, double y, const std::vector<Key>& keys);
+
+    // What stands above all panels, in the first that is begun. A long title is set smaller.
     void heading(const std::string& title, const std::string& subtitle);
 
     // The title of a row of panels, with keys behind it.

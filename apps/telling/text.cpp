@@ -41,6 +41,12 @@ std::size_t character_count(std::string_view text) {
     return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, continues));
 }
 
+std::string shortened(std::string text, std::size_t most) {
+    if (character_count(text) <= most) return text;
+    while (character_count(text) >= most) text.pop_back();
+    return text + "…";
+}
+
 std::string joined(std::span<const std::string_view> names) {
     std::string result;
     for (const std::string_view name : names) {

@@ -30,6 +30,9 @@ std::string clock_time(double hours);
 // Characters of a UTF-8 text.
 std::size_t character_count(std::string_view text);
 
+// The beginning of a text of more than so many characters, with "…" for the rest.
+std::string shortened(std::string text, std::size_t most);
+
 // Names in a row: "one, two, three".
 std::string joined(std::span<const std::string_view> names);
 

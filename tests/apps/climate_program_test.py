@@ -85,6 +85,7 @@ class BadInput(unittest.TestCase):
                     self.assert_refused([command, *arguments], files, line)
 
         self.assert_refused(["show", "short.climate", "1"], {"short.climate": bytes(431)}, "short.climate: station 1: not in")
+        self.assert_refused(["list", "weather.epw"], {"weather.epw": b"LOCATION" * 500}, "weather.epw: has no station")
 
     def test_command_line(self):
         for arguments in ([], ["unpack"], ["pack"], ["pack", "out.climate"], ["show", "out.climate"], ["show", "x", "one"],

@@ -128,6 +128,8 @@ class Output(unittest.TestCase):
             name, (t, ps, p) = re.escape(row["interface"]), (row["temperature"], row["saturation"], row["vapour_pressure"])
             self.assertRegex(report, rf"\n  {name} .* {t:.1f} +{ps:.0f} +{p:.0f} ")
         self.assertIn("Vapour condenses at 2|3, behind Wool, November to March", " ".join(report.split()))
+        cold = self.report("job.toml", job(WOOL, climate={"inside_temperature": -20, "outside_temperature": 25}))
+        self.assertIn("Vapour condenses in layer 1, ", cold)
 
     def test_water_of_places_and_of_months_is_the_same(self):
         of = answer(job(PLASTER, WOOL, BRICK, climate={"outside_temperature": YEAR, "inside_humidity": 65}))

@@ -62,14 +62,17 @@ BAD = [
     (blind({"openness": 0.2}, ROLLER), "window[1].blind.openness: value 0.2; allowed 0 to 0.1"),
     (blind({"sealed": 1}, ROLLER), "window[1].blind.sealed: value 1; allowed true or false"),
     (job(*[{}] * 7), "window: value list of 7; allowed 1 to 6 tables"),
+    (job({}, {}), "window[2].name: is that of another window, or of all together"),
     (job({}, {}) + host.table("[overhang]", FIN), "window: is more than one; what shades each"),
     (shaded(left_fin={"depth": 21}), "left_fin.depth: value 21; allowed 0.01 to 20 m"),
     (shaded(overhang=FIN | {"slope": 90}), "overhang.slope: value 90; allowed -80 to 80 degrees, falling outwards"),
     (shaded({}, {"width": 0}), "obstruction[2].width: value 0; allowed 0.01 to 1000 m"),
     (shaded({"base": 6}), "obstruction[1].top: must be above the base"),
+    (shaded(window={"overhang": FIN}, overhang=FIN), "overhang: stands in the table of the window too"),
     (shaded(*[{}] * 21), "obstruction: value list of 21; allowed 1 to 20 tables"),
     (job() + "[shutter]\n", "shutter: unknown key; known are site, day, window"),
     (job() + "[[variant]]\n", "variant[1]: missing name"),
+    (job() + '[[variant]]\nname = "A"\n' * 2, "variant[2].name: is that of another variant too"),
     (job() + '[[variant]]\nname = "A"\n[variant.site]\nclass = 9\n', "site.class: value 9; allowed whole numbers 1 to 6"),
 ]
 
@@ -178,12 +181,17 @@ class Text(unittest.TestCase):
 
     def test_sunlight_and_shade_alone_are_answered(self):
         """An input without glazing and temperatures: the sunlit part and the irradiance."""
-        text = self.text(shaded({"base": 1}, overhang=FIN | {"left": 0.5}, left_fin=FIN, window={"sill": 2}))
-        for part in ("2 × 1.5 m, facing 180° (S), vertical", "Left fin: 0.5 m deep", "Sky left by what shades it",
-                     "Overhang: 0.5 m deep, 0.5 m beyond it on the left", "% of the direct sun reaches the glass",
+        text = self.text(shaded({"base": 1}, overhang=FIN | {"left": 0.5}, left_fin=FIN, window={"sill": 2, "reveal": 0.1}))
+        for part in ("2 × 1.5 m, facing 180° (S), vertical", "Reveal: 0.1 m deep", "Left fin: 0.5 m deep",
+                     "Sky left by what shades it", "Overhang: 0.5 m deep, 0.5 m beyond it on the left", "% of the direct sun reaches the glass",
                      "Screen: 4 m wide, from 1 m up to 6 m above the ground, 5 m away"):
             self.assertIn(part, text)
         self.assertNotIn("Solar heat gain", text)
+
+    def test_panes_are_counted_as_they_are_given(self):
+        for panes, warmer in [([{"transmittance": 0.4}, CLEAR], 1), ([CLEAR, {"transmittance": 0.4}], 2)]:
+            noon = rows(answer(job({"panes": panes}))["parts"]["South"])[11]
+            self.assertGreater(noon[f"pane_{warmer}"], noon[f"pane_{3 - warmer}"] + 2)
 
     def test_a_day_of_the_year_is_the_design_day_of_its_month(self):
         self.assertEqual(answer(shaded(day={"month": "June"}))["parts"], answer(shaded(day={"day_of_year": 172}))["parts"])

@@ -22,14 +22,16 @@ double between(const std::array<double, 4>& values, double temperature) {
     return std::max(value, 0.2 * values[0]);  // far beyond the table
 }
 
-// Heat that rises, by tilt; the standard gives 0, 45 and 90 degrees.
+// Heat that rises, by tilt: the standard has 0, 45 and 90 degrees, and straight lines between them.
 struct Law {
     double factor, exponent;
 };
 Law law(double tilt) {
-    if (tilt <= 45) return {0.16, 0.28};
-    const double share = (tilt - 45) / 45;
-    return {std::pow(0.16, 1 - share) * std::pow(0.035, share), 0.28 + share * (0.38 - 0.28)};
+    constexpr Law laws[] = {{0.16, 0.28}, {0.10, 0.31}, {0.035, 0.38}};
+    const std::size_t i = tilt < 45 ? 0 : 1;
+    const double share = tilt / 45 - static_cast<double>(i);
+    return {std::lerp(laws[i].factor, laws[i + 1].factor, share),
+            std::lerp(laws[i].exponent, laws[i + 1].exponent, share)};
 }
 
 // Heat that flows down, or up in a cavity that leans outwards over the room, stays where it is; in

@@ -132,6 +132,8 @@ Command list_command() {
                 for (const int number : climatefile::whole_stations(file))
                     if (auto station = file.any_station(number); !station.empty())
                         stations.push_back(std::move(station));
+                if (stations.empty())
+                    throw host::InputError(*path + ": has no station; see quorvel climate check");
                 return climatefile::told_stations(*path, stations);
             },
     };

@@ -1,5 +1,6 @@
 #include "reading/window/job.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "calculation/calendar.h"
@@ -172,8 +173,7 @@ Window read_window(const InputTable& table, const InputTable& root, const host::
     window.orientation = table.number("orientation", {0, 360, "degrees clockwise from north"});
     window.tilt = table.number("tilt", {0, 180, "degrees from the horizontal"}, 90);
     window.sill = table.number("sill", {0, 1000, "m above the ground"}, 0);
-    const bool own = has_shades(table);
-    read_size(table, own || has_shades(root), window);
+    read_size(table, has_shades(table) || has_shades(root), window);
     window.glazing = read_glazing(table, library, notes);
     if (table.has("blind")) {
         if (!std::holds_alternative<Unit>(window.glazing))
@@ -181,7 +181,7 @@ Window read_window(const InputTable& table, const InputTable& root, const host::
                 "blind", "needs a unit or panes; shading is of a whole unit and takes no blind");
         window.blind = read_blind(table.table("blind"), window.glazing, library);
     }
-    window.shades = read_shades(own ? table : root);
+    window.shades = read_shades(table, root);
     return window;
 }
 
@@ -197,8 +197,12 @@ std::vector<Window> read_windows(const InputTable& root, const host::Library& li
         throw root.error("window",
                          "is more than one; what shades each of them belongs into its own table");
     std::vector<Window> windows;
-    for (const InputTable& table : tables)
-        windows.push_back(read_window(table, root, library, notes));
+    for (const InputTable& table : tables) {
+        Window window = read_window(table, root, library, notes);
+        if (window.name == "all" || std::ranges::count(windows, window.name, &Window::name) > 0)
+            throw table.error("name", "is that of another window, or of all together");
+        windows.push_back(std::move(window));
+    }
     return windows;
 }
 

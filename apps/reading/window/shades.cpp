@@ -52,13 +52,19 @@ bool has_shades(const InputTable& table) {
     return std::ranges::any_of(keys, [&](std::string_view key) { return table.has(key); });
 }
 
-Shades read_shades(const InputTable& table) {
+Shades read_shades(const InputTable& window, const InputTable& root) {
+    const auto place_of = [&](std::string_view key) -> const InputTable& {
+        if (!root.has(key)) return window;
+        if (window.has(key)) throw root.error(key, "stands in the table of the window too");
+        return root;
+    };
     Shades shades;
-    shades.reveal = table.number("reveal", {0, 5, "m"}, 0);
-    shades.left_fin = read_fin(table, "left_fin");
-    shades.right_fin = read_fin(table, "right_fin");
-    if (table.has("overhang")) shades.overhang = read_overhang(table.table("overhang"));
-    if (table.has("obstruction"))
+    shades.reveal = place_of("reveal").number("reveal", {0, 5, "m"}, 0);
+    shades.left_fin = read_fin(place_of("left_fin"), "left_fin");
+    shades.right_fin = read_fin(place_of("right_fin"), "right_fin");
+    if (const InputTable& table = place_of("overhang"); table.has("overhang"))
+        shades.overhang = read_overhang(table.table("overhang"));
+    if (const InputTable& table = place_of("obstruction"); table.has("obstruction"))
         for (const InputTable& box : table.tables("obstruction", 1, most_obstructions))
             shades.obstructions.push_back(read_obstruction(box));
     return shades;

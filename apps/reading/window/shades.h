@@ -9,8 +9,8 @@ namespace quorvel::window {
 // Whether a table has any of the keys of what shades a window.
 bool has_shades(const host::InputTable& table);
 
-// Of a window's table, or of the whole input's, where it stands before its one window. Throws
+// Each in a window's table, or in that of the whole input, which has a single window then. Throws
 // host::InputError.
-Shades read_shades(const host::InputTable& table);
+Shades read_shades(const host::InputTable& window, const host::InputTable& root);
 
 }  // namespace quorvel::window

@@ -19,6 +19,19 @@ std::string joined(const std::vector<std::string>& words) {
     return host::joined(views);
 }
 
+// Names of deposits in a sentence: at 2|3, 3|4, in layer 5.
+std::string located(const std::vector<std::string>& deposits) {
+    std::string told;
+    bool at = false;
+    for (const std::string& deposit : deposits) {
+        const bool within = deposit.starts_with("in ");
+        told += told.empty() ? "" : ", ";
+        told += within ? "in layer " + deposit.substr(3) : (at ? "" : "at ") + deposit;
+        at = !within;
+    }
+    return told;
+}
+
 double condensing(const Profile& profile) {  // g/m² a day
     return std::accumulate(profile.gain.begin(), profile.gain.end(), 0.0,
                            [](double sum, double gain) { return sum + std::max(gain, 0.0); });
@@ -37,7 +50,7 @@ std::string steady_condensation(const Question& question, const Assessment& asse
             places.push_back(name);
     }
     if (places.empty()) return "No vapour condenses within it.";
-    return "Vapour condenses at " + joined(places) + ", " +
+    return "Vapour condenses " + located(places) + ", " +
            told_with_unit(water_gain, condensing(profile)) + ", as long as the climate stays so.";
 }
 
@@ -47,7 +60,8 @@ std::string wet_places(const Question& question, const Year& year) {
         names.push_back(deposit_name(deposit, question.element.layers.size()));
     const Deposit& first = year.deposits.front();
     const bool one = names.size() == 1 && !first.within && first.index > 0;
-    return joined(names) + (one ? ", behind " + question.element.layers[first.index - 1].name : "");
+    return located(names) +
+           (one ? ", behind " + question.element.layers[first.index - 1].name : "");
 }
 
 std::string year_told(const Question& question, const Year& year) {
@@ -57,7 +71,7 @@ std::string year_told(const Question& question, const Year& year) {
         gaining[month.month] = month.condensed - month.evaporated >= least_water;
     const auto name = [&](std::size_t i) { return month_name(year.months[i].month); };
     const std::string where =
-        "Vapour condenses at " + wet_places(question, year) + ", " + months_told(gaining) + ": ";
+        "Vapour condenses " + wet_places(question, year) + ", " + months_told(gaining) + ": ";
     const std::string most = grams(year.peak()) + " at the end of " + name(year.wettest);
     if (year.dries())
         return where + "at most " + most + ", dry again in " + name(year.dry_from) + '.';
@@ -87,7 +101,7 @@ std::string interface_name(std::size_t i, std::size_t layers) {
 
 std::string place_name(const Place& place, std::size_t layers) {
     if (!place.within) return interface_name(place.index, layers);
-    return "in " + std::to_string(place.index + 1) + ", " + fixed(1000 * place.position, 0) + " mm";
+    return "in " + std::to_string(place.index + 1) + ", " + fixed(1000 * place.position, 1) + " mm";
 }
 
 std::string deposit_name(const Deposit& deposit, std::size_t layers) {

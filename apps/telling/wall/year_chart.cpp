@@ -20,15 +20,10 @@ constexpr double water_height = 270, surface_height = 180;
 // From the inside outwards; further places take the last.
 constexpr const char* water_colours[] = {"#2b6cb8", "#7fb2e5", "#1f9e89",
                                          "#95d5b2", "#7b5ea7", "#c3b1e1"};
-constexpr const char* variant_colours[] = {"#1f2a44", "#2b6cb8", "#c8452f",
-                                           "#3c8d5a", "#d98e04", "#7b5ea7"};
 constexpr const char* demand_colour = "#d98e04";
 
 const char* water_colour(std::size_t i) {
     return water_colours[std::min(i, std::size(water_colours) - 1)];
-}
-const char* variant_colour(std::size_t i) {
-    return variant_colours[i % std::size(variant_colours)];
 }
 
 // Where the m-th of the months in a row begins; their names stand at the whole numbers.
@@ -118,15 +113,16 @@ host::Chart year_chart(const Subject& subject, const Question& question,
     const std::size_t first = year.months.front().month;
     chart.canvas({left, 0, plot_width, top});
     draw_heading(chart, subject, question, assessment, "twelve months from " + month_name(first));
-    chart.plot({host::curve(chart.data({{0, 0}}), 2, ink, 1)});
+    chart.plot({host::curve(chart.data({{-9, -9}}), 2, ink, 1)});  // out of sight
     if (!year.dry()) draw_water(chart, question, year);
     draw_surface(chart, surface_top, assessment.surface, first);
     return chart;
 }
 
 host::Chart comparison_chart(const std::vector<Variation>& variations) {
-    constexpr double top = 120;
-    host::Chart chart(static_cast<int>(width), static_cast<int>(top + water_height + below));
+    constexpr double top = 100, keys_top = top + water_height + 72;
+    const double keys_height = host::key_spacing * static_cast<double>(variations.size());
+    host::Chart chart(static_cast<int>(width), static_cast<int>(keys_top + keys_height));
     double most = 0;
     const Variation* wettest = &variations.front();
     for (const Variation& v : variations) {
@@ -142,11 +138,11 @@ host::Chart comparison_chart(const std::vector<Variation>& variations) {
     std::vector<host::Key> keys;
     std::vector<std::string> curves;
     for (std::size_t i = 0; i < variations.size(); ++i) {
-        keys.push_back({"━", variant_colour(i), variations[i].subject.variant_name()});
+        keys.push_back({"━", host::series_colour(i), variations[i].subject.variant_name()});
         curves.push_back(host::curve(chart.data(water_of(*variations[i].assessment.year, first)), 2,
-                                     variant_colour(i), 2.5));
+                                     host::series_colour(i), 2.5));
     }
-    chart.keys(host::chart_margin, 94, keys);
+    chart.key_list(left, keys_top, keys);
     chart.plot(curves);
     return chart;
 }

@@ -1,7 +1,7 @@
 // The colours of windows' pictures.
 #pragma once
 
-#include "calculation/window/input.h"
+#include "telling/chart.h"
 
 namespace quorvel::window {
 
@@ -17,13 +17,6 @@ inline constexpr const char* outer_colour = "#eda63a";
 inline constexpr const char* blind_colour = "#7a5ea8";
 inline constexpr const char* pale_blind_colour = "#d5cce6";
 
-// Of windows and of variants, in turn.
-inline constexpr const char* series_colours[] = {
-    "#3f72af", "#e08e45", "#6aa07a", "#9a6fb0", "#c9a93a", "#6f7d8c", "#c0504d",
-    "#4bacc6", "#8c6d46", "#7f9f3f", "#d184a8", "#455a8c", "#a0a0a0"};
-
-inline const char* series_colour(std::size_t i) {
-    return series_colours[i % (sizeof series_colours / sizeof *series_colours)];
-}
+using host::series_colour;
 
 }  // namespace quorvel::window

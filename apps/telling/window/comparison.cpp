@@ -17,7 +17,7 @@ using host::Section;
 using host::colour::grey;
 using host::colour::ink;
 
-constexpr double left = 84, right = 30, width = 900, top = 130, height = 300, line = 22;
+constexpr double left = 84, right = 30, width = 900, top = 130, height = 300;
 
 std::string name_of(const Case& given) {
     return given.variant.empty() ? "as given" : given.variant;
@@ -93,7 +93,8 @@ DataTable comparison(std::span<const AnyCase> cases, int decimals) {
 template <class AnyCase>
 host::Chart empty_chart(std::span<const AnyCase> cases) {
     return {static_cast<int>(width),
-            static_cast<int>(top + height + 80 + line * static_cast<double>(cases.size()))};
+            static_cast<int>(top + height + 80 +
+                             host::key_spacing * static_cast<double>(cases.size()))};
 }
 
 template <class AnyCase>
@@ -101,20 +102,19 @@ void head(host::Chart& chart, std::span<const AnyCase> cases, const std::string&
           int decimals) {
     chart.heading(cases.front().title(), place(cases.front().site));
     chart.text(host::chart_margin, top - 24, panel, {ink, 14, true});
-    double y = top + height + 72;
-    for (std::size_t i = 0; i < cases.size(); ++i, y += line) {
+    std::vector<host::Key> keys;
+    for (const AnyCase& given : cases) {
         double gain = 0, peak = 0;
-        for (const Result& result : results(cases[i])) {
+        for (const Result& result : results(given)) {
             gain += result.solar_gain;
             peak = std::max(peak, result.peak);
         }
-        chart.text(left, y, "━", {series_colour(i), 15, true});
-        chart.text(
-            left + 26, y,
-            name_of(cases[i]) + ": solar heat gain " + host::fixed(gain, decimals) + " kWh" +
-                (cases[i].windows.size() > 1 ? "" : ", at most " + host::fixed(peak, 0) + " W"),
-            {grey, 13});
+        keys.push_back(
+            {"━", series_colour(keys.size()),
+             name_of(given) + ": solar heat gain " + host::fixed(gain, decimals) + " kWh" +
+                 (given.windows.size() > 1 ? "" : ", at most " + host::fixed(peak, 0) + " W")});
     }
+    chart.key_list(left, top + height + 72, keys);
 }
 
 host::Chart chart_of(std::span<const DayCase> cases) {

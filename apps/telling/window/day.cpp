@@ -127,15 +127,17 @@ class Hours {
 
 double incidence_told(const WindowHour& at) { return at.incidence <= 90 ? at.incidence : none; }
 
-std::string key_of(std::string name) {
-    std::ranges::replace(name, ' ', '_');
-    return name;
+// pane_2 of "pane 2 (room)".
+std::string key_of(const std::string& layer) {
+    std::string key = layer.substr(0, layer.find(" ("));
+    std::ranges::replace(key, ' ', '_');
+    return key;
 }
 
 void add_temperatures(Hours& hours, const WindowDay& window) {
     for (std::size_t k = window.layers; k-- > 0;) {
         const std::string name = layer_name(*window.window, k);
-        hours.add(celsius(key_of(name), name == "pane 1" ? "pane 1 (room)" : name, "Temperature"),
+        hours.add(celsius(key_of(name), name, "Temperature"),
                   [&window, k](std::size_t i) { return window.at[i].gain.temperature[k]; });
     }
 }
@@ -230,14 +232,19 @@ void add_day_figures(const WindowDay& window, std::vector<Figure>& figures) {
     figures.push_back({watts("peak_net", "Greatest net heat flow"), net.power, at_hour(net)});
 }
 
+// The pane at the room, the blind and the panes beside it. The first has the same key whatever the
+// number of panes.
 void add_warmest(const WindowDay& window, std::vector<Figure>& figures) {
+    const std::size_t innermost = window.layers - (window.blind == window.layers - 1 ? 2 : 1);
     for (std::size_t k = window.layers; k-- > 0;) {
-        const bool told = k + 1 == window.layers || window.blind == k || window.blind == k + 1;
+        const bool told = k == innermost || window.blind == k || window.blind == k + 1;
         if (!told) continue;
         double most = none;
         for (const WindowHour& at : window.at) most = std::fmax(most, at.gain.temperature[k]);
         const std::string name = layer_name(*window.window, k);
-        figures.push_back({celsius("warmest_" + key_of(name), "Warmest: " + name), most});
+        figures.push_back({k == innermost ? celsius("warmest_pane", "Warmest pane at the room")
+                                          : celsius("warmest_" + key_of(name), "Warmest: " + name),
+                           most});
     }
 }
 

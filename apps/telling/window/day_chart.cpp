@@ -121,7 +121,7 @@ void Picture::column_title(std::size_t i) {
     const WindowDay& window = hourly_.windows[i];
     const double x = column_left(i);
     const auto fitting = [&](const std::string& text) {
-        return shortened(text, static_cast<std::size_t>(column_ / 7.2));
+        return host::shortened(text, static_cast<std::size_t>(column_ / 7.2));
     };
     chart_.text(x, irradiance_top - 68, window.window->name, {ink, 14, true});
     chart_.text(x, irradiance_top - 50, size_and_facing(*window.window), {grey, 12});
@@ -270,7 +270,7 @@ void Picture::all_windows() {
     std::vector<Key> keys;
     for (const WindowDay& window : hourly_.windows)
         keys.push_back({"■", series_colour(keys.size()),
-                        window.window->name + ' ' +
+                        host::shortened(window.window->name, 26) + ' ' +
                             fixed(daily_energy(window, &WindowHour::solar_gain), 2) + " kWh"});
     chart_.title(all_top - 26, "Solar heat gain of all windows, W", keys);
     say_the_hour(all_top + all_height);

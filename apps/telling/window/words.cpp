@@ -94,13 +94,6 @@ std::string glazing_told(const Window& window) {
 
 std::string blind_told(const Window& window) { return window.blind ? told(*window.blind) : ""; }
 
-std::string shortened(const std::string& text, std::size_t most) {
-    if (host::character_count(text) <= most) return text;
-    std::string begin = text;
-    while (host::character_count(begin) >= most) begin.pop_back();
-    return begin + "…";
-}
-
 std::vector<std::string> shades_told(const Window& window) {
     const Shades& shades = window.shades;
     std::vector<std::string> lines;
@@ -119,7 +112,7 @@ std::string described(const Window& window) {
     return text;
 }
 
-// Panes are counted from the room, as the library counts them.
+// Panes are counted from the outside, as the input has them and unlike the library's own numbers.
 std::string layer_name(const Window& window, std::size_t layer) {
     std::size_t layers = 0, pane = layer;
     if (const auto* unit = std::get_if<Unit>(&window.glazing)) layers = unit->panes.size();
@@ -130,7 +123,8 @@ std::string layer_name(const Window& window, std::size_t layer) {
         if (layer == blind) return "blind";
         if (layer > blind) --pane;
     }
-    return "pane " + std::to_string(layers - pane);
+    const std::string name = "pane " + std::to_string(pane + 1);
+    return layers > 1 && pane + 1 == layers ? name + " (room)" : name;
 }
 
 std::string method_told(Method method) {

@@ -13,11 +13,10 @@ std::string sky_told(const Site& site);             // clear sky after Perez
 std::string size_and_facing(const Window& window);  // 2.4 m² facing 180° (S), vertical
 std::string glazing_told(const Window& window);     // double low-e argon
 std::string blind_told(const Window& window);       // slatted blind outside; empty without one
-std::string shortened(const std::string& text, std::size_t most);  // to so many characters
 // Overhang: 0.4 m deep, 0.2 m above the window
 std::vector<std::string> shades_told(const Window& window);
 std::string described(const Window& window);                      // all of this, a line each
-std::string layer_name(const Window& window, std::size_t layer);  // pane 1 (room), blind
+std::string layer_name(const Window& window, std::size_t layer);  // pane 1, pane 2 (room), blind
 std::string method_told(Method method);
 
 // A direction of 360° is told as 0.

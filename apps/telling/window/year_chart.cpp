@@ -44,11 +44,11 @@ void draw(host::Chart& chart, const WindowYear& window, double top) {
         data + " using 1:5 with linespoints linewidth 2 pointtype 7 pointsize 0.6 linecolor rgb '" +
         ink + "'");
     chart.text(left, top - 34, window.window->name, {ink, 14, true});
-    chart.text(left, top - 16,
-               shortened(size_and_facing(*window.window) + "  ·  " + glazing_told(*window.window) +
-                             "  ·  " + blind_told(*window.window),
-                         108),
-               {grey, 12});
+    const std::string blind = blind_told(*window.window);
+    const std::string described = size_and_facing(*window.window) + "  ·  " +
+                                  glazing_told(*window.window) +
+                                  (blind.empty() ? "" : "  ·  " + blind);
+    chart.text(left, top - 16, host::shortened(described, 108), {grey, 12});
     chart.text(width - right, top - 34,
                "solar gain " + host::fixed(window.year.solar_gain, 1) + " kWh, net " +
                    host::fixed(window.year.net(), 1) + " kWh",
