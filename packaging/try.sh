@@ -5,12 +5,17 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-# What is mounted is seen by this process alone, and goes with it.
-[[ ${QUORVEL_APART-} ]] || QUORVEL_APART=1 exec unshare --mount --pid --fork "$0" "$@"
-
 name=$1 out=$2
 empty=$PWD/build/userland/empty
 system=$PWD/build/userland/$name
+
+# What is mounted and started there is of these processes alone, and goes with them.
+if [[ ! ${QUORVEL_APART-} ]]; then
+    QUORVEL_APART=1 unshare --mount --pid --fork "$0" "$@"
+    rm -rf --one-file-system "$system"
+    echo "package $name: installed and used in an empty system"
+    exit
+fi
 
 settle() {
     local mirror
@@ -43,6 +48,3 @@ env -i HOME=/root PATH="$PATH" LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive PIP_C
     need() { apt-get install -qq -y --no-install-recommends \"\$@\" >/dev/null 2>&1; }
     apt-get update -qq
     . ./$name"
-umount "$system"/{proc,sys,dev}
-rm -rf --one-file-system "$system"
-echo "package $name: installed and used in an empty system"
