@@ -27,8 +27,9 @@ class Merger {
                 merge(*old->as_array(), std::move(*value.as_array()));
             } else {
                 make_room(base, key.str());
-                std::move(value).visit(
-                    [&](auto&& node) { base.insert_or_assign(key, std::move(node)); });
+                std::move(value).visit([&base, &at = key](auto&& node) {
+                    base.insert_or_assign(at, std::move(node));
+                });
             }
         }
     }

@@ -60,7 +60,8 @@ TEST_F(UValue, OfUsualUnitsAsTheStandardPrintsThem) {
 // a level gap, 0.10 Ra^0.31 at 45 degrees and 0.035 Ra^0.38 in an upright one.
 TEST_F(UValue, GrowsWithTheSlope) {
     const Unit argon_unit = unit({glass, low_e}, argon, 16);
-    for (const auto& [tilt, expected] : {std::pair{0, 1.654}, {30, 1.544}, {45, 1.453}, {90, 1.098}})
+    for (const auto& [tilt, expected] :
+         {std::pair{0, 1.654}, {30, 1.544}, {45, 1.453}, {90, 1.098}})
         EXPECT_NEAR(u_value(argon_unit, tilt), expected, 0.002) << tilt;
     EXPECT_NEAR(u_value(argon_unit, 89.99), u_value(argon_unit, 90), 0.001);
 }
