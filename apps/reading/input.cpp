@@ -276,6 +276,11 @@ InputError InputTable::error(std::string_view key, std::string_view message) con
     return located(place, path_of(key) + ": " + std::string(message));
 }
 
+const toml::node& InputTable::node(std::string_view key) const {
+    if (const toml::node* found = table_->get(key)) return *found;
+    throw error("", "missing " + std::string(key));
+}
+
 InputError InputTable::not_allowed(std::string_view key, std::string_view allowed) const {
     return error(key, "value " + shown(node(key)) + "; allowed " + std::string(allowed));
 }

@@ -86,7 +86,7 @@ class InputTable {
     InputError error(std::string_view key, std::string_view message) const;
 
   private:
-    const toml::node& node(std::string_view key) const { return *table_->get(key); }
+    const toml::node& node(std::string_view key) const;  // throws where it is missing
     InputError not_allowed(std::string_view key, std::string_view allowed) const;
     InputError not_allowed(std::string_view key, std::size_t index, const toml::node& entry,
                            std::string_view allowed) const;  // of an entry of a list

@@ -87,7 +87,6 @@ std::vector<Variant> read_variants(const std::string& path, const Alternatives& 
 
     const Merger merger(alternatives);
     for (const InputTable& table : whole.root().tables("variant", 1, most_variants)) {
-        if (!table.has("name")) throw table.error("", "missing name");
         const std::string name = table.text("name");
         if (std::ranges::count(variants, name, &Variant::name) > 0)
             throw table.error("name", "is that of another variant too");

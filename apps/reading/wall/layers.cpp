@@ -16,8 +16,7 @@ constexpr std::size_t most_parts = 4;
 constexpr host::Range thickness_of_solid{0.1, 1000, "mm"}, thickness_of_gap{1, 500, "mm"};
 
 double thickness(const InputTable& table, const host::Range& range) {
-    if (table.has("thickness")) return table.number("thickness", range) / 1000;
-    throw table.error("", "missing thickness");
+    return table.number("thickness", range) / 1000;
 }
 
 void read_extras(const InputTable& table, Layer& layer) {
@@ -46,7 +45,6 @@ Layer read_homogeneous(const InputTable& table, const Library& library) {
 
 Part read_part(const InputTable& table, double thickness, const Library& library) {
     const Properties properties(table, library);
-    if (!table.has("fraction")) throw table.error("", "missing fraction");
     const double fraction = table.number("fraction", {0.001, 0.999, "of the area"});
     if (properties.membrane() && !properties.gap())
         throw table.error("", "a part of a layer needs a conductivity or a resistance");
