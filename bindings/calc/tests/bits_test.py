@@ -16,7 +16,7 @@ from quorvel_calc import library
 from quorvel_calc.evaluation import Evaluation
 
 OUT = Path(os.environ["QUORVEL_OUT"])
-FAMILIES = catalogue.load(Path(calc_binding.__file__).parents[1] / "catalogue")
+FAMILIES = catalogue.load(Path(catalogue.__file__).parents[1] / "catalogue")
 CALLS = [call for call in calc_binding.calls(FAMILIES) if call.routine.export and not calc_binding.needs_file(call)]
 CODES = {"Real": "f", "DoubleReal": "d", "Integer": "i"}
 UNTOUCHED = {code: struct.unpack(f"<{code}", b"\xC5" * struct.calcsize(code))[0] for code in CODES.values()}

@@ -13,7 +13,7 @@ from office import Office, block, properties, shown
 from quorvel_calc.evaluation import Evaluation
 
 OUT = Path(os.environ["QUORVEL_OUT"])
-FAMILIES = catalogue.load(Path(calc_binding.__file__).parents[1] / "catalogue")
+FAMILIES = catalogue.load(Path(catalogue.__file__).parents[1] / "catalogue")
 EXAMPLES = [(call, example) for call in calc_binding.calls(FAMILIES) if not calc_binding.needs_file(call)
             for example in call.routine.examples]
 CLIMATE_FILE = "Zürich – Böen.dat"
