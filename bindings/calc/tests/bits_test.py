@@ -8,10 +8,10 @@ import unittest
 from math import copysign, isnan
 from pathlib import Path
 
-from languages import calc_binding
 import catalogue
 import quorvel_calc
 from corpus_layout import CASES, Layout
+from languages import calc_binding
 from quorvel_calc import library
 from quorvel_calc.evaluation import Evaluation
 

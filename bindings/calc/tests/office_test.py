@@ -6,10 +6,10 @@ import struct
 import unittest
 from pathlib import Path
 
-from languages import calc_binding
 import catalogue
 import quorvel_calc
 from office import Office, block, properties, shown
+from languages import calc_binding
 from quorvel_calc.evaluation import Evaluation
 
 OUT = Path(os.environ["QUORVEL_OUT"])
