@@ -2,14 +2,13 @@
 // each level that this processor has; the least of interleaved runs, so that ratios hold on a busy
 // machine.
 //     quorvel_array_ratios [ROUTINE...]
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <memory>
 #include <vector>
 
 #include "conformance/random_arguments.h"
+#include "least_time.h"
 #include "quorvel/library.h"
 #include "quorvel_arrays.h"
 
@@ -18,14 +17,9 @@ using namespace quorvel::conformance;
 
 namespace {
 
-constexpr std::size_t elements = 2048;  // what stays in the nearest caches
+constexpr int elements = 2048;  // what stays in the nearest caches
 constexpr int rounds = 40;
 constexpr const char* levels[] = {"scalar", "v2", "v3", "v4"};
-
-double now() {
-    using namespace std::chrono;
-    return duration<double, std::nano>(steady_clock::now().time_since_epoch()).count();
-}
 
 // Valid arguments of all elements, as both kinds of calls take them.
 class Work {
@@ -88,33 +82,18 @@ class Work {
     std::vector<std::ptrdiff_t> stride_;
 };
 
-template <class F>
-double elapsed(F f) {
-    const double start = now();
-    f();
-    return (now() - start) / elements;
-}
-
 void compare(const Routine& routine) {
     Work work(routine);
-    double single = 1e9;
-    std::vector<double> arrays(std::size(levels), 1e9);
+    bench::LeastTime single, arrays[std::size(levels)];
     for (int round = 0; round < rounds; ++round) {
-        single = std::min(single, elapsed([&] { work.by_reference(); }));
-        for (std::size_t i = 0; i < arrays.size(); ++i)
-            if (quorvel_choose_level(levels[i]))
-                arrays[i] = std::min(arrays[i], elapsed([&] { work.by_array(); }));
+        single.of(elements, [&] { work.by_reference(); });
+        for (std::size_t i = 0; i < std::size(levels); ++i)
+            if (quorvel_choose_level(levels[i])) arrays[i].of(elements, [&] { work.by_array(); });
     }
-    std::printf("%-10s %9.2f", routine.name, single);
-    for (const double time : arrays)
-        if (time < 1e9) std::printf("  %9.2f %5.2f", time, single / time);
+    std::printf("%-10s %9.2f", routine.name, single.ns);
+    for (const auto& array : arrays)
+        if (array.taken()) std::printf("  %9.2f %5.2f", array.ns, single.ns / array.ns);
     std::printf("\n");
-}
-
-bool asked_for(const char* name, int count, char** names) {
-    for (int i = 1; i < count; ++i)
-        if (std::strcmp(names[i], name) == 0) return true;
-    return count <= 1;
 }
 
 }  // namespace
@@ -126,6 +105,7 @@ int main(int argc, char** argv) {
         if (quorvel_choose_level(level)) std::printf("  %9s ratio", level);
     std::printf("\n");
     for (const Routine& routine : routines())
-        if (quorvel_find_routine(routine.name)->elementwise && asked_for(routine.name, argc, argv))
+        if (quorvel_find_routine(routine.name)->elementwise &&
+            bench::asked_for(routine.name, argc - 1, argv + 1))
             compare(routine);
 }
