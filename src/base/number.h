@@ -4,9 +4,10 @@
 //     MaskOf<R>, IntegerOf<R>     what comparisons give; selectors, days and counts
 //     DoubleOf<R>                 what formulas compute in that need more than single precision
 //     select(mask, a, b)          one of two values at hand
-//     either(mask, f, g)          one of two calculations; only what is needed is evaluated
-//     piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where none does
-//     both(mask, f)               mask & f(), where f is evaluated only if needed
+//     either(mask, f, g)          one of two calculations; only what is needed is evaluated. The
+//     first either(rarely(mask), f, g)  is the usual one, and compiled as such, or else the
+//     exception piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where
+//     none does both(mask, f)               mask & f(), where f is evaluated only if needed
 //     any(mask)                   whether the mask holds anywhere
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
 //     replaced(mask, y, f, x...)  y, but f(x...) of single numbers where the mask holds, which is
@@ -51,9 +52,11 @@ constexpr T select(bool mask, const T& a, const T& b) noexcept {
     return mask ? a : b;
 }
 
+constexpr bool rarely(bool mask) noexcept { return __builtin_expect(mask, false); }
+
 template <class F, class G>
 constexpr auto either(bool mask, F f, G g) noexcept -> decltype(f()) {
-    return mask ? f() : g();
+    return __builtin_expect(mask, true) ? f() : g();
 }
 
 template <class F>

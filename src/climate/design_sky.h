@@ -55,9 +55,10 @@ inline DesignIrradiance<R> design_irradiance(R altitude, R height, IntegerOf<R> 
     const MaskOf<R> low = altitude <= 0.087f;
     const R factor = height_factor(height, altitude);
     const R direct = either(
-        low, [&] { return 2397.26f * altitude; }, [&] { return high_sun_direct(altitude); });
+        rarely(low), [&] { return 2397.26f * altitude; },
+        [&] { return high_sun_direct(altitude); });
     const R diffuse = either(
-        low, [&] { return lookup(low_sun_slopes, sky) * altitude; },
+        rarely(low), [&] { return lookup(low_sun_slopes, sky) * altitude; },
         [&] { return high_sun_diffuse<R>(altitude, sky); });
     return {select(beyond, R(0.0f), direct * factor), select(beyond, R(0.0f), diffuse * factor)};
 }

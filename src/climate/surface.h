@@ -18,8 +18,9 @@ struct SurfaceAngles {
 // Angle off the normal of a direction whose components are n along the normal and s beside it.
 template <class R>
 R angle_off_normal(R s, R n) noexcept {
-    return either((s == 0.0f) & (n == 0.0f), [&] { return R(0.5f * pi); },
-                  [&] { return math::acos(limited(n / math::sqrt(s * s + n * n), -1.0f, 1.0f)); });
+    return either(
+        rarely((s == 0.0f) & (n == 0.0f)), [&] { return R(0.5f * pi); },
+        [&] { return math::acos(limited(n / math::sqrt(s * s + n * n), -1.0f, 1.0f)); });
 }
 
 template <class R>

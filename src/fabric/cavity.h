@@ -57,7 +57,7 @@ template <class R>
 inline R tilted_cavity_resistance(R tilt, R width, R e1, R e2, R rayleigh, R k) noexcept {
     const MaskOf<R> none = (tilt < 0.0f) | (tilt > 3.1416f) | (width < least_cavity_width);
     return either(
-        none, [&] { return R(0.0f); },
+        rarely(none), [&] { return R(0.0f); },
         [&] {
             const R radiation = black_body_coefficient * e1 * e2 / (e1 + e2 - e1 * e2);
             return cavity_resistance(cavity_convection(tilt), rayleigh, radiation, k, width);
@@ -95,7 +95,7 @@ R vertical_cavity_resistance(R width) noexcept {
     constexpr Real radiation = black_body_coefficient * 0.85f * 0.86f / 0.979f;
     constexpr Real floor = 0.1f;
     return either(
-        width < least_cavity_width, [&] { return R(floor); },
+        rarely(width < least_cavity_width), [&] { return R(floor); },
         [&] {
             const CavityConvection<R> vertical = {R(vertical_cavity.C), R(vertical_cavity.n)};
             return greater(cavity_resistance(vertical, air_rayleigh_number(width), R(radiation),

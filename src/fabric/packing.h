@@ -41,7 +41,7 @@ inline R packed_fractions(const Fractions<R>& p) noexcept {
 template <class R>
 inline Fractions<R> unpacked_fractions(R v) noexcept {
     return either(
-        is_undefined(v), [&] { return undefined_fractions<R>(); },
+        rarely(is_undefined(v)), [&] { return undefined_fractions<R>(); },
         [&] {
             return Fractions<R>{hundredths(v - truncated(v)) * 0.01f,
                                 truncated(modulo(v, 100.0f)) * 0.01f, truncated(0.01f * v) * 0.01f};
@@ -68,7 +68,7 @@ inline R packed_pane(const Fractions<R>& pane) noexcept {
 template <class R>
 inline Fractions<R> unpacked_pane(R v) noexcept {
     return either(
-        is_undefined(v), [&] { return undefined_fractions<R>(); },
+        rarely(is_undefined(v)), [&] { return undefined_fractions<R>(); },
         [&] {
             const Fractions<R> p = unpacked_fractions(v);
             return Fractions<R>{p.first, face_complement(p.first, p.second),

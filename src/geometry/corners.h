@@ -66,7 +66,7 @@ inline Facing<R> facing(const Triangle<R>& t, R level_azimuth) noexcept {
     const R from_vertical = math::acos(inward.z / length(inward));
     const R level = length(PlanVector<R>{inward.x, inward.y});
     const R bearing = either(
-        level < 1.0e-10, [&] { return level_azimuth; },
+        rarely(level < 1.0e-10), [&] { return level_azimuth; },
         [&] {
             const R from_north = math::acos(inward.y / level);
             return select(inward.x < 0.0, two_pi - from_north, from_north) + triangle_pi;

@@ -67,7 +67,8 @@ MaskOf<R> spans(SpaceVector<R> a, SpaceVector<R> b, SpaceVector<R> p) noexcept {
         return ((v > end) & (v > other_end)) | ((v < end) & (v < other_end));
     };
     const MaskOf<R> x_between = ((a.x <= p.x) & (p.x <= b.x)) | ((b.x <= p.x) & (p.x <= a.x));
-    return both(x_between, [&] { return !(beyond(p.y, a.y, b.y) | beyond(p.z, a.z, b.z)); });
+    return both(both(x_between, [&] { return !beyond(p.y, a.y, b.y); }),
+                [&] { return !beyond(p.z, a.z, b.z); });
 }
 
 template <class R>

@@ -23,7 +23,7 @@ SpaceVector<R> direction_to(R altitude, R azimuth) noexcept {
 template <class R>
 R back_azimuth(R angle) noexcept {
     return either(
-        absolute(angle) >= 1000.0f, [&] { return angle; },
+        rarely(absolute(angle) >= 1000.0f), [&] { return angle; },
         [&] { return modulo(630.0f - angle, R(360.0f)); });
 }
 

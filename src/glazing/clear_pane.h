@@ -39,13 +39,13 @@ class ClearPane {
     explicit ClearPane(R Tn) noexcept
         : opaque_(Tn < 0.001f),
           KL_(either(
-              opaque_, [&] { return R(0.0f); },
+              rarely(opaque_), [&] { return R(0.0f); },
               [&] { return absorption_product(Tn, R(glass_index)); })) {}
 
     // At the angle of incidence theta, rad.
     Polarised<Optics<R>> direct(R theta) const noexcept {
         return either(
-            opaque_,
+            rarely(opaque_),
             [&] {
                 return Polarised<Optics<R>>{opaque_optics<R>(), opaque_optics<R>()};
             },
@@ -61,7 +61,7 @@ class ClearPane {
     // At normal incidence, where the polarisations do not differ.
     Optics<R> normal() const noexcept {
         return either(
-            opaque_, [&] { return opaque_optics<R>(); },
+            rarely(opaque_), [&] { return opaque_optics<R>(); },
             [&] {
                 constexpr Real r = squared((1.0f - glass_index) / (1.0f + glass_index));
                 return slab_optics(absorption_along(R(1.0f), KL_), R(r));
@@ -70,7 +70,7 @@ class ClearPane {
 
     Diffuse<R> diffuse() const noexcept {
         return either(
-            opaque_,
+            rarely(opaque_),
             [&] {
                 return Diffuse<R>{R(0.0f), R(0.0f)};
             },

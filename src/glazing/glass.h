@@ -55,7 +55,7 @@ template <class R>
 Optics<R> coated_direct(R Tn, R R0, R theta) noexcept {
     const R angle = absolute(theta);
     return either(
-        angle > right_angle, [&] { return opaque_optics<R>(); },
+        rarely(angle > right_angle), [&] { return opaque_optics<R>(); },
         [&] { return coated_optics(coated_factors(angle), Tn, R0); });
 }
 

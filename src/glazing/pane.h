@@ -43,7 +43,7 @@ template <class R>
 R refraction_angle(R theta, R n) noexcept {
     const R s = math::sin(theta);
     return either(
-        absolute(s) < 0.01f, [&] { return theta / n; }, [&] { return math::asin(s / n); });
+        rarely(absolute(s) < 0.01f), [&] { return theta / n; }, [&] { return math::asin(s / n); });
 }
 
 // Reflectance of one face, by Fresnel's equations. The parallel one is formed with a ratio of

@@ -97,7 +97,7 @@ template <class R>
 Optics<R> beam_through_blind(const Slats<R>& slats, const Gap<R>& gap, R open, R to_slats, R sine,
                              R cosine) noexcept {
     return either(
-        absolute(to_slats) < parallel_angle,
+        rarely(absolute(to_slats) < parallel_angle),
         [&] {
             return Optics<R>{R(1.0f), R(0.0f), R(0.0f)};
         },
@@ -118,19 +118,20 @@ template <class R>
 Optics<R> open_slat_direct(R spacing, R width, R slat_angle, R profile, R open, R struck,
                            R opposite) noexcept {
     const R cosine = math::cos(profile), from_normal = absolute(profile);
-    return either((absolute(cosine) < 1e-6f) | (from_normal >= 1.570796f),
-                  [&] {
-                      // Along the blind, which then is an opaque sheet. Deliberate: its absorptance
-                      // is not reduced by the open share.
-                      return reflecting_the_rest(greater(R(0.0f), open), struck);
-                  },
-                  [&] {
-                      const R angle = degree * slat_angle, to_slats = profile + angle;
-                      const Slats<R> slats = slats_of(spacing, width, angle, struck, opposite);
-                      const Gap<R> gap = gap_between(slats, to_slats <= 0.0f);
-                      const R sine = math::sin(absolute(to_slats));
-                      return beam_through_blind(slats, gap, open, to_slats, sine, cosine);
-                  });
+    return either(
+        rarely((absolute(cosine) < 1e-6f) | (from_normal >= 1.570796f)),
+        [&] {
+            // Along the blind, which then is an opaque sheet. Deliberate: its absorptance
+            // is not reduced by the open share.
+            return reflecting_the_rest(greater(R(0.0f), open), struck);
+        },
+        [&] {
+            const R angle = degree * slat_angle, to_slats = profile + angle;
+            const Slats<R> slats = slats_of(spacing, width, angle, struck, opposite);
+            const Gap<R> gap = gap_between(slats, to_slats <= 0.0f);
+            const R sine = math::sin(absolute(to_slats));
+            return beam_through_blind(slats, gap, open, to_slats, sine, cosine);
+        });
 }
 
 template <class R>

@@ -163,7 +163,7 @@ template <class D>
 QUORVEL_INLINE D sum(const Addends<D>& a) noexcept {
     const D quick = a.s + beyond_step(a);
     return either(
-        absolute(quick) < kCancelled,
+        rarely(absolute(quick) < kCancelled),
         [&] {
             const PairOf<D> careful = careful_sine(a);
             return careful.high - careful.low;
@@ -200,9 +200,9 @@ QUORVEL_INLINE D tangent(StepAngle<D> x) noexcept {
     const Addends<D> s = addends(x), c = quarter_on(s);
     const D quick = quotient<D>({s.s, -beyond_step(s)}, {c.s, -beyond_step(c)});
     const D size = absolute(quick);
-    return either((size < kCancelled) | (size > 1.0 / kCancelled),
-                  [&] { return quotient(careful_sine(s), careful_sine(c)); },
-                  [&] { return quick; });
+    return either(
+        rarely((size < kCancelled) | (size > 1.0 / kCancelled)),
+        [&] { return quotient(careful_sine(s), careful_sine(c)); }, [&] { return quick; });
 }
 
 template <class D>

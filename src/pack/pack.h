@@ -306,6 +306,10 @@ QUORVEL_PACK Mask select(Truth<L> m, Mask a, Mask b) noexcept {
     return (m & a) | (!Mask(m) & b);
 }
 
+template <class L>
+QUORVEL_PACK Truth<L> rarely(Truth<L> m) noexcept {
+    return m;
+}
 template <class L, class F, class G>
 QUORVEL_PACK auto either(Truth<L> m, F f, G g) noexcept -> decltype(f()) {
     if (all(m)) return f();

@@ -66,7 +66,7 @@ R psychrometer_coefficient(IntegerOf<R> type, MaskOf<R> iced) noexcept {
 template <class R>
 R vapour_pressure_from_psychrometer(R t, R twb, R p, IntegerOf<R> type) noexcept {
     return either(
-        twb >= t, [&] { return saturation_pressure(t); },
+        rarely(twb >= t), [&] { return saturation_pressure(t); },
         [&] {
             const R A = psychrometer_coefficient<R>(type, twb < 0.0f);
             return saturation_pressure(twb) - A * p * (t - twb);

@@ -45,7 +45,7 @@ class MoistAirAt {
 
     R moisture_content(R twb) const noexcept {
         return either(
-            twb >= t_, [&] { return saturation_content(); },
+            rarely(twb >= t_), [&] { return saturation_content(); },
             [&] { return content_at(saturation_pressure(twb) - slope_.at(twb) * (t_ - twb)); });
     }
 

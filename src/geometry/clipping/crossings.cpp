@@ -83,7 +83,8 @@ bool crosses_itself(const PreparedRing& ring) noexcept {
         const Edge edge = ring.edge(i);
         const HalfPlane half_plane(edge, Orientation::clockwise);
         bool start = half_plane.contains(ring[i + 2]);
-        for (Integer j = i + 2; j < ring.size(); ++j) {
+        const Integer beyond = ring.size() - (i == 0);  // the last edge is a neighbour of the first
+        for (Integer j = i + 2; j < beyond; ++j) {
             const bool end = half_plane.contains(ring[ring.after(j)]);
             if (start != end && HalfPlane(ring.edge(j), Orientation::clockwise).parts(edge) &&
                 !neighbours(ring, i, j))
