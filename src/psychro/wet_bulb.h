@@ -61,7 +61,7 @@ class MoistAirAt {
         const MaskOf<R> holds = is_ordinary(t_) & (p > 0.0f) & (p < 1e9f) & (saturated < 5.0f) &
                                 (target >= 0.0f) & (target <= saturated);
         if (any(holds)) {
-            forecast.approach_root(3);
+            forecast.approach_root(2);
             forecast.decide(1e-4f * forecast.saturation_near_root(), holds);
         }
         return forecast;
@@ -117,10 +117,11 @@ struct Searched {
 template <class R>
 Searched<R> searched_wet_bulb(const PsychrometerReading<R>& air) noexcept requires is_single<R> {
     const auto& forecast = air.forecast;
-    R tw = air.t;
+    const R whole = forecast.whole_steps(air.t);
+    R tw = air.t - whole;
     R tn = air.t;
     R step = 1.0f;
-    for (int i = 0; i < widest_search; ++i) {
+    for (int i = to_integer(whole); i < widest_search; ++i) {
         bool sinks = forecast.above(tw);
         bool rises = forecast.below(tw);
         if (!sinks && !rises) {
@@ -144,7 +145,7 @@ Searched<R> searched_wet_bulb(const PsychrometerReading<R>& air) noexcept requir
 // A pack goes all steps that its forecasts decide before it asks for a trial of those in doubt.
 template <class R>
 Searched<R> searched_wet_bulb(const PsychrometerReading<R>& air) noexcept {
-    R tw = air.t;
+    R tw = air.t - air.forecast.whole_steps(air.t);
     R tn = air.t;
     R step(1.0f);
     MaskOf<R> searching(true);
@@ -181,10 +182,11 @@ R wet_bulb_from_percentage_saturation(R t, R saturation, R p, IntegerOf<R> type)
     const WetBulbForecast<R> forecast = air.forecast(saturation * saturated / 100.0f);
     const auto trial = [&](R twb) { return 100.0f * air.moisture_content(twb) / saturated; };
 
-    R twb = t;
+    const R whole = forecast.whole_steps(t);
+    R twb = t - whole;
     R step(1.0f);
     if constexpr (is_single<R>) {
-        for (int i = 0; i < widest_search; ++i) {
+        for (int i = to_integer(whole); i < widest_search; ++i) {
             twb -= step;
             if (forecast.above(twb)) continue;
             if (!forecast.below(twb)) {
