@@ -199,10 +199,16 @@ class Call:
         return counted and all(parameter.allows(example.given[parameter.name]) for parameter in self.parameters)
 
     @property
+    def notes(self):
+        """With what the numbers of a status tell."""
+        told = [f"{each.status} {each.meaning}" for each in self.routine.statuses]
+        return [*self.routine.notes, *([f"Status: {'; '.join(told)}."] if told else [])]
+
+    @property
     def remarks(self):
         """Formula, notes and source, a text each."""
         formula = [f"Formula: {self.routine.formula}"] if self.routine.formula else []
-        return [*formula, *self.routine.notes, f"Source: {self.routine.source}"]
+        return [*formula, *self.notes, f"Source: {self.routine.source}"]
 
     @property
     def structure(self):

@@ -10,6 +10,7 @@ import quantities as quantity_file
 from checks import C_TYPES
 from examples import example
 from place import CatalogueError, read
+from statuses import statuses
 
 __all__ = ["C_TYPES", "CatalogueError", "Argument", "Family", "Result", "Routine", "by_reference", "load"]
 
@@ -30,6 +31,7 @@ ROUTINE = {
     "args": checks.is_list_of(checks.is_table),
     "result": checks.is_table,
     "notes": checks.is_list_of(checks.is_text),
+    "statuses": checks.is_list_of(checks.is_table),
     "examples": checks.is_list_of(checks.is_table),
 }
 
@@ -74,6 +76,7 @@ class Routine:
     args: tuple = ()
     result: Result | None = None
     notes: tuple = ()
+    statuses: tuple = ()  # what the numbers of its output `status` tell
     formula: str = ""
     examples: tuple = ()
     state: str = ""
@@ -165,7 +168,8 @@ def _routine(table, quantities, topic, place):
     by_hand = next((f"{key} =" for key in ("state", "entry") if key in table), "")
     elementwise = not by_hand and all(arg.type != "Text" for arg in args)
     place.require(exported or elementwise, "without an exported name a routine is a formula for each element", by_hand)
-    plain = {**table, "args": args, "result": result, "examples": (), "topic": topic}
+    told = statuses(table.get("statuses", []), args, place)
+    plain = {**table, "args": args, "result": result, "statuses": told, "examples": (), "topic": topic}
     routine = Routine(**{**plain, "notes": tuple(table.get("notes", ()))})
     entries = enumerate(table.get("examples", []))
     return replace(routine, examples=tuple(example(routine, entry, place.entry("given", n)) for n, entry in entries))

@@ -12,6 +12,10 @@ def is_number(value):
     return isinstance(value, (int, float)) and not isinstance(value, bool)
 
 
+def is_whole(value):
+    return type(value) is int and value in INT32
+
+
 def is_text(value):
     return isinstance(value, str) and value != ""
 

@@ -96,12 +96,16 @@ def _example(routine):
 
 
 def about(routine):
-    """Formula and notes."""
+    """Formula, notes and statuses."""
     lines = paragraph(f"Formula: {routine.formula}", "", "    ") if routine.formula else []
     if routine.notes:
         lines.append("Notes:")
         for note in routine.notes:
             lines += paragraph(note, "    - ", "      ")
+    if routine.statuses:
+        lines.append("Status:")
+    for status in routine.statuses:
+        lines += paragraph(status.meaning, f"    {status.status:<5}", " " * 9)
     return lines
 
 

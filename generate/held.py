@@ -5,10 +5,11 @@ from pathlib import Path
 
 import array_header
 import cpp_headers
+import cpp_statuses
 import elementary_tables
 import header
 import incidence_bands
-from languages import (calc_binding, csharp_binding, fortran_binding, javascript_binding, pascal_binding,
+from languages import (calc_binding, clipping_statuses, csharp_binding, fortran_binding, javascript_binding, pascal_binding,
                        python_package, r_binding, rust_binding, vba_binding)
 
 ROOT = Path(__file__).parents[1]
@@ -31,6 +32,9 @@ def texts(families):
         **{ROOT / "bindings/rust" / name: text for name, text in rust_binding.files(families).items()},
         **{ROOT / "bindings/calc/addin" / name: text for name, text in calc_binding.files(families).items()},
         **{ROOT / "bindings/r/quorvel" / name: text for name, text in r_binding.files(families).items()},
+        **{ROOT / name: text for name, text in clipping_statuses.files(families).items()},
+        ROOT / "include/quorvel/clipping_status.hpp": cpp_statuses.public(families),
+        ROOT / "src/geometry/clipping/status.h": cpp_statuses.core(families),
         ROOT / "src/math/tables.h": elementary_tables.render(),
         glass: incidence_bands.render(glass.read_text(encoding="utf-8")),
         ROOT / "data/bands/bands.csv": make_bands.table_text(),

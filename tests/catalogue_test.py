@@ -11,9 +11,10 @@ ROOT = Path(__file__).parents[1]
 sys.path.insert(0, str(ROOT / "generate"))
 import catalogue  # noqa: E402
 
-QUANTITIES, TOPIC = "quantities.toml", "psychro/saturation.toml"
+QUANTITIES, TOPIC, CLIPPING = "quantities.toml", "psychro/saturation.toml", "geometry/clipping.toml"
 
 GLOSS = "[gloss]\nunit = '1'\nmeaning = 'gloss'\n"
+DONE = "statuses = [{ status = 0, name = 'done', meaning = 'success' }]\n"
 CHOICE, PRESSURE = '{ is = "psychrometer" }', '{ is = "pressure" }'
 
 # File, a text that stands there once, what stands in its place, and the complaint about that line.
@@ -37,6 +38,10 @@ FAULTS = [
     (TOPIC, "pressure = 101325,", "humidity = 101325,", "humidity is not given to PSVAP"),
     (TOPIC, "pressure = 101325,", "", "pressure is not given"),
     (TOPIC, "gives = { result = 2002 }", "gives = { wet_bulb = 2002 }", "wet_bulb is not returned by PSVAP"),
+    (CLIPPING, '3, name = "ring_a_crosses_itself"', '2, name = "ring_a_crosses_itself"', "status 2 stands twice"),
+    (CLIPPING, 'fault = "a has no area"', 'warning = "a has no area"', "unknown key warning"),
+    (CLIPPING, 'success" }', 'success", fault = "none" }', "a status has a fault, 0 has none"),
+    (TOPIC, 'export = "PSVAP"', DONE + 'export = "PSVAP"', "an output status goes with statuses"),
     (TOPIC, "within = 9,", "within = { wet_bulb = 9 },", "within needs a tolerance for each result"),
 ]
 

@@ -894,7 +894,7 @@ Private Sub Clip(ByVal a As Variant, ByVal b As Variant, ByRef x() As Double, By
     room = firstRoom
     crossings = 1024
     status = 7
-    Do While fault = 0 And (status = 7 Or status = 10 Or status = 11) And room <= mostRoom
+    Do While fault = 0 And IsShortOfRoom(status) And room <= mostRoom
         used = verticesA + verticesB
         capacity = used + room
         ReDim x(0 To capacity - 1), y(0 To capacity - 1), difference(0 To capacity - 1), overlap(0 To capacity - 1)
@@ -942,6 +942,10 @@ Private Sub Unfold(ByVal which As Long, ByRef list() As Long, ByRef x() As Doubl
         at = at + list(at) + 1
     Loop
 End Sub
+
+Private Function IsShortOfRoom(ByVal status As Long) As Boolean
+    IsShortOfRoom = status = 7 Or status = 10 Or status = 11
+End Function
 
 ' Specific enthalpy of dry air.
 '   temperature: temperature [degC]; valid -50 to 100

@@ -121,7 +121,7 @@ def _comment(call, texts):
     routine = call.routine
     lines = [routine.summary, ""]
     lines += [f"Formula: {routine.formula}", ""] if routine.formula else []
-    lines += [f"- {note}" for note in routine.notes] + [""] * bool(routine.notes)
+    lines += [f"- {note}" for note in call.notes] + [""] * bool(call.notes)
     lines += [f"Source: {routine.source}", ""]
     lines += [f"@param {lower_camel(parameter.name)} {parameter.sentence}" for parameter in call.parameters]
     if len(call.results) == 1:

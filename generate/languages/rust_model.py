@@ -177,7 +177,7 @@ class Docs:
 
     def _remarks(self, call):
         routine = call.routine
-        notes = ([f"Formula: {routine.formula}"] if routine.formula else []) + list(routine.notes)
+        notes = ([f"Formula: {routine.formula}"] if routine.formula else []) + call.notes
         yield from ("///", "/// # Notes") if notes else ()
         for note in notes:
             yield from self.lines(note, "* ", "  ")

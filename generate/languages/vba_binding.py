@@ -7,6 +7,7 @@ from pathlib import Path
 
 from array_header import columns
 from binding_model import calls, camel, lower_camel, selectors
+from languages import clipping_statuses
 from plain_text import in_clear_names, plain, wrapped
 
 WIDTH = 120
@@ -279,7 +280,7 @@ def render(families):
     declarations, procedures = HAND.read_text(encoding="ascii").split(MARK)
     _require_apart(found, procedures)
     lines = [*(line for call in found for line in _declarations(call)), *_enumerations(families), ""]
-    lines += [declarations, procedures]
+    lines += [declarations, procedures, clipping_statuses.vba(families)]
     for call in found:
         if not call.is_by_hand:
             lines += [*_function(call, names), ""]

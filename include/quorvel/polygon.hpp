@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "quorvel/call.hpp"
+#include "quorvel/clipping_status.hpp"
 #include "quorvel/input.hpp"
 
 namespace quorvel::geometry {
@@ -56,33 +57,6 @@ struct Clipped {
     std::int32_t status = 0;  ///< other than 0: it failed, and there are no pieces
 };
 
-/// Why polygons could not be clipped, by the status.
-inline const char* clipping_fault(std::int32_t status) {
-    struct Fault {
-        std::int32_t status;
-        const char* text;
-    };
-    constexpr const char* too_many = "the pieces have more than 16 million vertices";
-    constexpr Fault faults[] = {
-        {0, "no fault"},
-        {1, "a has fewer than 3 vertices"},
-        {2, "b has fewer than 3 vertices"},
-        {3, "a crosses itself"},
-        {4, "b crosses itself"},
-        {5, "a has no area"},
-        {6, "a and b cross more than 1024 times"},
-        {7, too_many},
-        {8, "an edge of a carries more than 10 crossings"},
-        {9, "an edge of b carries more than 10 crossings"},
-        {10, too_many},
-        {11, too_many},
-        {109, "a or b has coordinates that are not numbers"},
-    };
-    for (const Fault& fault : faults)
-        if (fault.status == status) return fault.text;
-    return "a or b is narrower than the tolerance, or touches itself";
-}
-
 class ClippingError : public std::runtime_error {
   public:
     explicit ClippingError(std::int32_t status)
@@ -113,10 +87,6 @@ class Clipper {
   private:
     static constexpr std::size_t first_room = 64, most_room = std::size_t{1} << 24;
     static constexpr std::int32_t most_crossings = 1024;
-
-    static bool is_short_of_room(std::int32_t status) {
-        return status == 7 || status == 10 || status == 11;
-    }
 
     void load(const Polygon& a, const Polygon& b) {
         x_.clear();

@@ -44,28 +44,11 @@ namespace Quorvel
     /// <summary>Two polygons cannot be clipped; says why.</summary>
     public sealed class ClippingException : ArgumentException
     {
-        internal ClippingException(int status) : base($"Geometry.Clip: {Fault(status)}") => Status = status;
+        internal ClippingException(int status) : base($"Geometry.Clip: {ClippingStatus.Fault(status)}") =>
+            Status = status;
 
         /// <summary>As HOHOLEDP of quorvel.h returns it.</summary>
         public int Status { get; }
-
-        private static string Fault(int status)
-        {
-            switch (status)
-            {
-                case 1: return "a has fewer than 3 vertices";
-                case 2: return "b has fewer than 3 vertices";
-                case 3: return "a crosses itself";
-                case 4: return "b crosses itself";
-                case 5: return "a has no area";
-                case 6: return "a and b cross more than 1024 times";
-                case 7: case 10: case 11: return "the pieces have more than 16 million vertices";
-                case 8: return "an edge of a carries more than 10 crossings";
-                case 9: return "an edge of b carries more than 10 crossings";
-                case 109: return "a or b has coordinates that are not numbers";
-                default: return "a or b is narrower than the tolerance, or touches itself";
-            }
-        }
     }
 
     // Polygons are lists of vertices one after the other, either way round.
@@ -88,8 +71,7 @@ namespace Quorvel
                 Fill(b, a.Count, x, y);
                 Clip found = Unchecked.Geometry.Clip(x, y, Positions(1, a.Count), Positions(1 + a.Count, b.Count),
                     MostCrossings, given + room, given + room, given);
-                bool isShortOfRoom = found.Status == 7 || found.Status == 10 || found.Status == 11;
-                if (isShortOfRoom && room < MostRoom) continue;
+                if (ClippingStatus.IsShortOfRoom(found.Status) && room < MostRoom) continue;
                 if (found.Status != 0) throw new ClippingException(found.Status);
                 return new Clipped(Pieces(found, found.DifferencePieces), Pieces(found, found.OverlapPieces));
             }

@@ -2,6 +2,7 @@
 module quorvel_polygons
    use, intrinsic :: iso_fortran_env, only: dp => real64, i4 => int32
    use quorvel_by_reference, only: HOHOLEDP
+   use quorvel_clipping_status, only: clipping_fault, is_short_of_room
    use quorvel_faults, only: quorvel_fault, set_fault
    implicit none
    private
@@ -44,7 +45,7 @@ contains
       call check(b, 'b', own_fault)
       clipped%status = 0
       if (.not. own_fault%found) call clip_in_enough_room(a, b, clipped)
-      if (clipped%status /= 0) call set_fault(own_fault, 'clip', trim(reason(clipped%status)))
+      if (clipped%status /= 0) call set_fault(own_fault, 'clip', clipping_fault(clipped%status))
       if (present(fault)) fault = own_fault
       if (own_fault%found .and. .not. present(fault)) error stop own_fault%message()
       if (own_fault%found) then
@@ -88,7 +89,7 @@ contains
       room = first_room
       do
          call clip_in_room(a, b, room, clipped)
-         if (all(clipped%status /= [7, 10, 11]) .or. room >= most_room) exit
+         if (.not. is_short_of_room(clipped%status) .or. room >= most_room) exit
          room = 2*room
       end do
    end subroutine
@@ -138,34 +139,5 @@ contains
          count = count + 1
          at = at + 1 + list(at)
       end do
-   end function
-
-   pure function reason(status) result(text)
-      integer(i4), intent(in) :: status
-      character(len=64) :: text
-      select case (status)
-      case (1)
-         text = 'a has fewer than 3 vertices'
-      case (2)
-         text = 'b has fewer than 3 vertices'
-      case (3)
-         text = 'a crosses itself'
-      case (4)
-         text = 'b crosses itself'
-      case (5)
-         text = 'a has no area'
-      case (6)
-         text = 'a and b cross more than 1024 times'
-      case (7, 10, 11)
-         text = 'the pieces have more than 16 million vertices'
-      case (8)
-         text = 'an edge of a carries more than 10 crossings'
-      case (9)
-         text = 'an edge of b carries more than 10 crossings'
-      case (109)
-         text = 'a or b has coordinates that are not numbers'
-      case default
-         text = 'a or b is narrower than the tolerance, or touches itself'
-      end select
    end function
 end module quorvel_polygons

@@ -1,21 +1,7 @@
 // Polygons in plan as lists of points, in double precision.
+import { clippingFault, isShortOfRoom } from './clipping_status.js';
 import { clip as clipPools } from './routines/geometry.js';
 
-const TOO_MANY = 'the pieces have more than 16 million vertices';
-const FAULTS = {
-  1: 'a has fewer than 3 vertices',
-  2: 'b has fewer than 3 vertices',
-  3: 'a crosses itself',
-  4: 'b crosses itself',
-  5: 'a has no area',
-  6: 'a and b cross more than 1024 times',
-  7: TOO_MANY,
-  8: 'an edge of a carries more than 10 crossings',
-  9: 'an edge of b carries more than 10 crossings',
-  10: TOO_MANY,
-  11: TOO_MANY,
-};
-const SHORT_OF_ROOM = [7, 10, 11];
 const MOST_ROOM = 1 << 24;
 const MOST_CROSSINGS = 1024;
 
@@ -57,9 +43,8 @@ export function clip(a, b) {
   checkPoints(b, 'b');
   let room = 64;
   let left = attempt(a, b, room);
-  while (SHORT_OF_ROOM.includes(left.status) && room < MOST_ROOM) left = attempt(a, b, (room *= 2));
-  if (left.status !== 0)
-    throw new ClippingError(FAULTS[left.status] ?? 'a or b is narrower than the tolerance, or touches itself');
+  while (isShortOfRoom(left.status) && room < MOST_ROOM) left = attempt(a, b, (room *= 2));
+  if (left.status !== 0) throw new ClippingError(clippingFault(left.status));
   return { difference: pieces(left, left.differencePieces), overlap: pieces(left, left.overlapPieces) };
 }
 

@@ -49,7 +49,7 @@ function Clip(const A, B: TPolygon): TClipped;
 implementation
 
 uses
-  QuorvelByReference, QuorvelFloatingPoint;
+  QuorvelByReference, QuorvelClippingStatus, QuorvelFloatingPoint;
 
 const
   MostCrossings = 1024;
@@ -63,27 +63,9 @@ type
     Difference, Overlap: array of LongInt;
   end;
 
-function Reason(Status: LongInt): string;
-begin
-  case Status of
-    1: Result := 'a has fewer than 3 vertices';
-    2: Result := 'b has fewer than 3 vertices';
-    3: Result := 'a crosses itself';
-    4: Result := 'b crosses itself';
-    5: Result := 'a has no area';
-    6: Result := 'a and b cross more than 1024 times';
-    7, 10, 11: Result := 'the pieces have more than 16 million vertices';
-    8: Result := 'an edge of a carries more than 10 crossings';
-    9: Result := 'an edge of b carries more than 10 crossings';
-    109: Result := 'a or b has coordinates that are not numbers';
-  else
-    Result := 'a or b is narrower than the tolerance, or touches itself';
-  end;
-end;
-
 constructor EClippingError.Create(AStatus: LongInt);
 begin
-  inherited Create('Clip', 'a and b', 'cannot be clipped: ' + Reason(AStatus));
+  inherited Create('Clip', 'a and b', 'cannot be clipped: ' + ClippingFault(AStatus));
   FStatus := AStatus;
 end;
 
@@ -178,7 +160,7 @@ var
 begin
   Room := FirstRoom;
   Status := ClipInRoom(A, B, Room, Pool);
-  while (Status in [7, 10, 11]) and (Room < MostRoom) do
+  while IsShortOfRoom(Status) and (Room < MostRoom) do
   begin
     Room := 2 * Room;
     Status := ClipInRoom(A, B, Room, Pool);

@@ -1,3 +1,4 @@
+use crate::clipping_status;
 use std::fmt::{self, Display, Formatter};
 use std::io;
 use std::path::PathBuf;
@@ -60,28 +61,12 @@ impl Display for Error {
             Error::Length { function, argument, length, valid } => {
                 write!(text, "{function}: {argument} has {length} elements; valid are {valid}")
             }
-            Error::Clipping { status } => write!(text, "polygon::clip: {}", clipping_fault(*status)),
+            Error::Clipping { status } => write!(text, "polygon::clip: {}", clipping_status::fault(*status)),
             Error::File { path, kind: io::ErrorKind::Other } => {
                 write!(text, "{}: cannot be read as a climate data file", path.display())
             }
             Error::File { path, kind } => write!(text, "{}: {kind}", path.display()),
             Error::Station { path, station } => write!(text, "{}: station {station} cannot be read", path.display()),
         }
-    }
-}
-
-fn clipping_fault(status: i32) -> &'static str {
-    match status {
-        1 => "a has fewer than 3 vertices",
-        2 => "b has fewer than 3 vertices",
-        3 => "a crosses itself",
-        4 => "b crosses itself",
-        5 => "a has no area",
-        6 => "a and b cross more than 1024 times",
-        7 | 10 | 11 => "the pieces have more than 16 million vertices",
-        8 => "an edge of a carries more than 10 crossings",
-        9 => "an edge of b carries more than 10 crossings",
-        109 => "a or b has coordinates that are not numbers",
-        _ => "a or b is narrower than the tolerance, or touches itself",
     }
 }

@@ -48,6 +48,7 @@
 mod check;
 pub mod climate;
 mod climate_file;
+mod clipping_status;
 mod elements;
 mod error;
 pub mod fabric;

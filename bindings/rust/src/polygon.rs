@@ -10,6 +10,7 @@
 //! # Ok::<(), quorvel::Error>(())
 //! ```
 
+use crate::clipping_status::is_short_of_room;
 use crate::{geometry, unchecked, Error};
 
 /// x and y in m.
@@ -53,7 +54,7 @@ pub fn clip(a: &[Point], b: &[Point]) -> Result<Clipped, Error> {
                     overlap: pieces(&found.overlap_pieces),
                 });
             }
-            7 | 10 | 11 if room < MOST_ROOM => room *= 2,
+            status if is_short_of_room(status) && room < MOST_ROOM => room *= 2,
             status => return Err(Error::Clipping { status }),
         }
     }

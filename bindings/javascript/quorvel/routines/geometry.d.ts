@@ -30,16 +30,17 @@ export interface Clip<Integer = number> {
  *   is moved off A where they touch: contact within a tolerance of 1e-4 of the diagonal of the box round both
  *   counts as none, and the areas are exact to about this times the length of the boundaries. The areas of
  *   difference and overlap add up to that of A to rounding.
- * - Status 1 or 2: A or B has fewer than 3 vertices, or one that is not in the pool (up to usedPoints and
- *   pointCapacity). 3 or 4: A or B crosses itself. 5: A has no area to speak of (25 square tolerances). B without
- *   area is nothing to subtract.
- * - Status 6: more than crossingCapacity crossings. 7: the pool is full. 8 or 9: an edge of A or B carries more
- *   than 10 crossings. 10 or 11: differencePieces or overlapPieces is full. 105 or 106: the edges of A or of B do
- *   not enter and leave the other polygon by turns, as can happen where a polygon is narrower than the tolerance,
- *   or touches itself. 109: no bridge, for polygons with coordinates that are not numbers. In no case does anything
- *   happen beyond what the capacities allow. A failure leaves lists and pool as they are by then.
+ * - B without area is nothing to subtract. In no case does anything happen beyond what the capacities allow. A
+ *   failure leaves lists and pool as they are by then.
  * - On which side of an edge a point lies is decided exactly, also at site coordinates, where edges are in line
  *   with one another only to rounding.
+ * - Status: 0 success; 1 A has fewer than 3 vertices, or one that is not in the pool (up to usedPoints and
+ *   pointCapacity); 2 B has fewer than 3 vertices, or one that is not in the pool; 3 A crosses itself; 4 B crosses
+ *   itself; 5 A has no area to speak of (25 square tolerances); 6 A and B cross more than crossingCapacity times; 7
+ *   the pool is full; 8 an edge of A carries more than 10 crossings; 9 an edge of B carries more than 10 crossings;
+ *   10 differencePieces is full; 11 overlapPieces is full; 105 the edges of A do not enter and leave B by turns, as
+ *   can happen where a polygon is narrower than the tolerance, or touches itself; 106 the edges of B do not enter
+ *   and leave A by turns, likewise; 109 no bridge from B to A, for polygons with coordinates that are not numbers.
  *
  * Source: Boundary tracing from crossing to crossing: K. Weiler, P. Atherton, Hidden surface removal using polygon
  *   area sorting, 1977.

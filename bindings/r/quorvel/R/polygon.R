@@ -1,12 +1,5 @@
 # Polygons in plan as matrices of two columns, in double precision.
 
-clipping_faults <- c(
-  "a has fewer than 3 vertices", "b has fewer than 3 vertices", "a crosses itself", "b crosses itself",
-  "a has no area", "a and b cross more than 1024 times", "the pieces have more than 16 million vertices",
-  "an edge of a carries more than 10 crossings", "an edge of b carries more than 10 crossings",
-  "the pieces have more than 16 million vertices", "the pieces have more than 16 million vertices")
-short_of_room <- c(7, 10, 11)
-
 plan <- function(polygon, routine, name) {
   points <- unname(as.matrix(polygon))
   if (!is.numeric(points) || ncol(points) != 2 || !all(is.finite(points)))
@@ -40,12 +33,9 @@ clip_polygons <- function(a, b) {
     if (nrow(get(name)) < 3) fault("clip_polygons", name, get(name), "has fewer than 3 vertices")
   room <- 64
   clipped <- clip_in_room(a, b, room)
-  while (clipped$status %in% short_of_room && room < 2^24) clipped <- clip_in_room(a, b, room <- 2 * room)
-  if (clipped$status != 0) {
-    why <- clipping_faults[clipped$status]
-    fault("clip_polygons", "a and b", clipped$status,
-          paste("cannot be clipped:", if (is.na(why)) "one is narrower than the tolerance, or touches itself" else why))
-  }
+  while (is_short_of_room(clipped$status) && room < 2^24) clipped <- clip_in_room(a, b, room <- 2 * room)
+  if (clipped$status != 0)
+    fault("clip_polygons", "a and b", clipped$status, paste("cannot be clipped:", clipping_fault(clipped$status)))
   list(difference = pieces(clipped, clipped$difference_pieces), overlap = pieces(clipped, clipped$overlap_pieces))
 }
 

@@ -2,6 +2,7 @@
 
 from quorvel_calc import library
 from quorvel_calc.arguments import read
+from quorvel_calc.clipping_status import FAULTS, SHORT_OF_ROOM
 from quorvel_calc.faults import MISSING, OUTSIDE, UNFIT, Fault, error
 from quorvel_calc.model import Parameter
 
@@ -9,13 +10,6 @@ PARTS = {"difference": 1, "overlap": 2}
 PARAMETERS = (Parameter("a", "DoubleReal", shape=(2, "vertices")), Parameter("b", "DoubleReal", shape=(2, "vertices")),
               Parameter("part", "Integer", limits=(1, 2), words=PARTS))
 FIRST_ROOM, MOST_ROOM, MOST_CROSSINGS = 64, 1 << 20, 1024
-
-FAULTS = {
-    1: "a has fewer than 3 vertices", 2: "b has fewer than 3 vertices", 3: "a crosses itself", 4: "b crosses itself",
-    5: "a has no area", 6: "a and b cross more than 1024 times", 8: "an edge of a carries more than 10 crossings",
-    9: "an edge of b carries more than 10 crossings",
-}
-SHORT_OF_ROOM = (7, 10, 11)
 
 
 def clip(cells):
@@ -28,7 +22,7 @@ def clip(cells):
         status, returned = _attempt(a, b, room)
         room *= 2
     if status:
-        raise Fault(OUTSIDE, FAULTS.get(status, "a or b is narrower than the tolerance, or touches itself"))
+        raise Fault(OUTSIDE, FAULTS[status])
     pieces = returned["difference_pieces" if part == [1] else "overlap_pieces"][0]
     rows = tuple(_rows(pieces, returned["new_x"][0], returned["new_y"][0]))
     return rows or ((error(MISSING),) * 3,)

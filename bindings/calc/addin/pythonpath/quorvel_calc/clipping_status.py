@@ -1,0 +1,20 @@
+"""Why polygons cannot be clipped, and whether more room helps, by the status of HOHOLEDP."""
+# Produced from the catalogue of routines (catalogue/); do not edit.
+
+FAULTS = {
+    1: "a has fewer than 3 vertices",
+    2: "b has fewer than 3 vertices",
+    3: "a crosses itself",
+    4: "b crosses itself",
+    5: "a has no area",
+    6: "a and b cross more than 1024 times",
+    7: "the pieces have more vertices than there is room for",
+    10: "the pieces have more vertices than there is room for",
+    11: "the pieces have more vertices than there is room for",
+    8: "an edge of a carries more than 10 crossings",
+    9: "an edge of b carries more than 10 crossings",
+    105: "a or b is narrower than the tolerance, or touches itself",
+    106: "a or b is narrower than the tolerance, or touches itself",
+    109: "a or b has coordinates that are not numbers",
+}
+SHORT_OF_ROOM = (7, 10, 11)
