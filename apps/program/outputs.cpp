@@ -14,7 +14,7 @@
 #include "telling/as_html.h"
 #include "telling/as_json.h"
 #include "telling/as_text.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::program {
 namespace {

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "program/command.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::program {
 namespace {

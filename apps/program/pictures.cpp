@@ -7,7 +7,7 @@
 
 #include "reading/input.h"
 #include "telling/output_file.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::program {
 namespace {

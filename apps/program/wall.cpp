@@ -4,11 +4,11 @@
 #include <memory>
 #include <optional>
 
+#include "calculation/climate/mended_weather.h"
 #include "program/commands.h"
 #include "program/options.h"
 #include "quorvel/library.h"
 #include "reading/wall/question.h"
-#include "telling/climate/station_answer.h"
 #include "telling/wall/answer.h"
 
 namespace quorvel::program {

@@ -7,7 +7,7 @@
 #include <optional>
 #include <sstream>
 
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 namespace {

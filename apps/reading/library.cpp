@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "telling/text.h"
 #include "telling/value.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "telling/svg.h"
-#include "telling/text.h"
 #include "telling/value.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 namespace {

@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
-#include "telling/text.h"
 #include "telling/value.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 namespace {

@@ -4,8 +4,8 @@
 #include <sstream>
 
 #include "telling/table.h"
-#include "telling/text.h"
 #include "telling/value.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 namespace {

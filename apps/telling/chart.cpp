@@ -5,7 +5,7 @@
 
 #include "telling/gnuplot.h"
 #include "telling/svg.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 namespace {

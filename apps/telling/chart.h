@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "telling/gnuplot.h"
+
 namespace quorvel::host {
 
 namespace colour {
@@ -20,8 +22,6 @@ inline constexpr const char* grey = "#6b7280";  // secondary text
 
 // Of windows and variants, in turn: as many as an input can have.
 const char* series_colour(std::size_t i);
-
-enum class Format { svg, pdf, png };
 
 inline constexpr double chart_margin = 24;  // pixels, of what stands above the panels
 inline constexpr double key_spacing = 22;   // of a list of keys

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 

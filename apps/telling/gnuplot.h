@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "telling/chart.h"
-
 namespace quorvel::host {
+
+enum class Format { svg, pdf, png };
 
 // A text as a string of gnuplot.
 std::string quoted(const std::string& text);

@@ -3,9 +3,10 @@
 
 #include <string>
 
+#include "calculation/none.h"
 #include "calculation/sun.h"
 #include "telling/chart.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::host {
 

@@ -1,4 +1,4 @@
-#include "telling/text.h"
+#include "text/text.h"
 
 #include <algorithm>
 #include <charconv>

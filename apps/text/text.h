@@ -7,8 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "calculation/none.h"
-
 namespace quorvel::host {
 
 // Stands for a quantity that does not exist.

@@ -154,4 +154,13 @@ WeatherYear mended(WeatherYear year) {
     return year;
 }
 
+std::vector<std::string> told(const std::vector<Replacement>& replaced) {
+    std::vector<std::string> lines;
+    for (const auto& [of, quantity, remedy, hours, first] : replaced)
+        lines.push_back(quantity + ": " + std::to_string(hours) +
+                        (hours == 1 ? " hour " : " hours ") + remedy +
+                        (hours == 1 ? " (" : " (first ") + first + ')');
+    return lines;
+}
+
 }  // namespace quorvel::climatefile

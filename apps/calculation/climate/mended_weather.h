@@ -2,6 +2,8 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "calculation/climate/weather.h"
 
@@ -25,5 +27,8 @@ class NotMendable : public std::runtime_error {
 //                     what there is first; the rest a straight line between what there is then
 // A gap at an end of the year goes on at the other end.
 WeatherYear mended(WeatherYear year);
+
+// What was replaced, a line for each kind.
+std::vector<std::string> told(const std::vector<Replacement>& replaced);
 
 }  // namespace quorvel::climatefile

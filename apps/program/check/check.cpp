@@ -5,6 +5,7 @@
 #include <memory>
 #include <sstream>
 
+#include "calculation/none.h"
 #include "conformance/climate_file.h"
 #include "conformance/examples.h"
 #include "conformance/routine_table.h"
@@ -13,7 +14,7 @@
 #include "program/commands.h"
 #include "program/library_identity.h"
 #include "quorvel/library.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::program {
 namespace {

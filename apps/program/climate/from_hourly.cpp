@@ -6,16 +6,16 @@
 
 #include "calculation/calendar.h"
 #include "calculation/climate/band_climate.h"
+#include "calculation/climate/mended_weather.h"
 #include "program/climate/files.h"
 #include "quorvel/library.h"
 #include "reading/climate/epw.h"
 #include "reading/folder.h"
 #include "reading/input.h"
 #include "telling/climate/files.h"
-#include "telling/climate/station_answer.h"
 #include "telling/output_file.h"
 #include "telling/progress.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::program {
 namespace {

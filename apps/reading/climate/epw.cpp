@@ -9,7 +9,7 @@
 #include "calculation/climate/mended_weather.h"
 #include "calculation/none.h"
 #include "reading/input.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::climatefile {
 namespace {

@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "calculation/calendar.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::climatefile {
 namespace {

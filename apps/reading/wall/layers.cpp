@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "reading/wall/material.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::wall {
 namespace {

@@ -4,13 +4,13 @@
 #include <cmath>
 
 #include "calculation/calendar.h"
+#include "calculation/climate/mended_weather.h"
 #include "calculation/none.h"
 #include "reading/climate/epw.h"
 #include "reading/variants.h"
 #include "reading/window/glazing.h"
 #include "reading/window/shades.h"
 #include "reading/window/temperatures.h"
-#include "telling/climate/station_answer.h"
 
 namespace quorvel::window {
 namespace {

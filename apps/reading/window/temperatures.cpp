@@ -2,7 +2,7 @@
 
 #include "calculation/calendar.h"
 #include "reading/climate/data_file.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::window {
 namespace {

@@ -7,7 +7,7 @@
 #include <cstdint>
 
 #include "calculation/calendar.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::climatefile {
 namespace {

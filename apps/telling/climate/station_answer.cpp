@@ -1,7 +1,7 @@
 #include "telling/climate/station_answer.h"
 
 #include "calculation/calendar.h"
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::climatefile {
 namespace {
@@ -100,15 +100,6 @@ Answer told_violations(const std::string& file, std::size_t stations,
                   .wrong = !violations.empty()};
     if (!violations.empty()) answer.sections.push_back({.tables = {table}});
     return answer;
-}
-
-std::vector<std::string> told(const std::vector<Replacement>& replaced) {
-    std::vector<std::string> lines;
-    for (const auto& [of, quantity, remedy, hours, first] : replaced)
-        lines.push_back(quantity + ": " + std::to_string(hours) +
-                        (hours == 1 ? " hour " : " hours ") + remedy +
-                        (hours == 1 ? " (" : " (first ") + first + ')');
-    return lines;
 }
 
 }  // namespace quorvel::climatefile

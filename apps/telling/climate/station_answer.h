@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "calculation/climate/station.h"
-#include "calculation/climate/weather.h"
 #include "telling/answer.h"
 
 namespace quorvel::climatefile {
@@ -21,8 +20,5 @@ host::Answer told_stations(const std::string& file, const std::vector<Station>& 
 // The violations found in so many stations of a file; wrong if there are any.
 host::Answer told_violations(const std::string& file, std::size_t stations,
                              const std::vector<std::string>& violations);
-
-// What was replaced in a year of weather, a line for each kind.
-std::vector<std::string> told(const std::vector<Replacement>& replaced);
 
 }  // namespace quorvel::climatefile

@@ -1,10 +1,10 @@
 #include "telling/wall/answer.h"
 
-#include "telling/text.h"
 #include "telling/wall/figures.h"
 #include "telling/wall/section_chart.h"
 #include "telling/wall/tables.h"
 #include "telling/wall/year_chart.h"
+#include "text/text.h"
 
 namespace quorvel::wall {
 namespace {

@@ -11,12 +11,6 @@ namespace quorvel::wall {
 host::Answer answer(const Subject& subject, const Question& question, const Assessment& assessment,
                     std::optional<std::size_t> month);
 
-struct Variation {
-    Subject subject;
-    Question question;
-    Assessment assessment = {};
-};
-
 // The input as it is and its variants side by side.
 host::Answer comparison(const std::vector<Variation>& variations);
 

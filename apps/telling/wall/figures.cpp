@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "telling/text.h"
+#include "text/text.h"
 
 namespace quorvel::wall {
 namespace {

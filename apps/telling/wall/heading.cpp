@@ -1,7 +1,7 @@
 #include "telling/wall/heading.h"
 
-#include "telling/text.h"
 #include "telling/value.h"
+#include "text/text.h"
 
 namespace quorvel::wall {
 namespace {

@@ -4,10 +4,10 @@
 #include <cmath>
 
 #include "quorvel/psychro.h"
-#include "telling/text.h"
 #include "telling/value.h"
 #include "telling/wall/hatching.h"
 #include "telling/wall/heading.h"
+#include "text/text.h"
 
 namespace quorvel::wall {
 namespace {

@@ -5,8 +5,8 @@
 #include <numeric>
 
 #include "calculation/calendar.h"
-#include "telling/text.h"
 #include "telling/value.h"
+#include "text/text.h"
 
 namespace quorvel::wall {
 namespace {

@@ -20,6 +20,12 @@ struct Subject {
     std::string variant_name() const { return variant.empty() ? "as it is" : variant; }
 };
 
+struct Variation {
+    Subject subject;
+    Question question;
+    Assessment assessment = {};
+};
+
 // What is told has the same digits in tables and pictures.
 inline const host::Quantity u_value{"u_value", "U-value", "W/m²K", 3};
 inline const host::Quantity resistance_to_heat{"resistance", "R", "m²K/W", 3};

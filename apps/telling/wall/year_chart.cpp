@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "telling/text.h"
 #include "telling/value.h"
 #include "telling/wall/heading.h"
+#include "text/text.h"
 
 namespace quorvel::wall {
 namespace {

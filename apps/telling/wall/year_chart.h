@@ -1,7 +1,8 @@
 // The year of an element as a picture.
 #pragma once
 
-#include "telling/wall/answer.h"
+#include "telling/chart.h"
+#include "telling/wall/words.h"
 
 namespace quorvel::wall {
 

@@ -3,11 +3,11 @@
 
 #include "calculation/calendar.h"
 #include "telling/sun.h"
-#include "telling/text.h"
 #include "telling/window/colours.h"
 #include "telling/window/times.h"
 #include "telling/window/told.h"
 #include "telling/window/words.h"
+#include "text/text.h"
 
 namespace quorvel::window {
 namespace {

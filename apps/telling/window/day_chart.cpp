@@ -5,10 +5,10 @@
 #include <functional>
 
 #include "telling/sun.h"
-#include "telling/text.h"
 #include "telling/window/colours.h"
 #include "telling/window/times.h"
 #include "telling/window/words.h"
+#include "text/text.h"
 
 namespace quorvel::window {
 namespace {

@@ -6,9 +6,9 @@
 #include "calculation/angle.h"
 #include "telling/direction.h"
 #include "telling/sun.h"
-#include "telling/text.h"
 #include "telling/window/times.h"
 #include "telling/window/words.h"
+#include "text/text.h"
 
 namespace quorvel::window {
 namespace {

@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "telling/direction.h"
-#include "telling/text.h"
 #include "telling/value.h"
+#include "text/text.h"
 
 namespace quorvel::window {
 namespace {

@@ -1,8 +1,8 @@
 #include "calculation/calendar.h"
-#include "telling/text.h"
 #include "telling/window/told.h"
 #include "telling/window/words.h"
 #include "telling/window/year_chart.h"
+#include "text/text.h"
 
 namespace quorvel::window {
 namespace {

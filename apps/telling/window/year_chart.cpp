@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "calculation/calendar.h"
-#include "telling/text.h"
 #include "telling/window/colours.h"
 #include "telling/window/words.h"
+#include "text/text.h"
 
 namespace quorvel::window {
 namespace {
