@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <stdexcept>
 
 #include "conformance/array_argument.h"
 #include "conformance/canonical.h"

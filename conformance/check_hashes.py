@@ -62,6 +62,44 @@ def first_difference(program, routine, reference, library):
     return "    both give the same results: the committed hash is another one"
 
 
+def compare_part(lines, committed):
+    """What some of the routines gave; whether any of it differs."""
+    known = {line.split()[0] for line in committed}
+    differing = [line.split()[0] for line in lines if line not in committed]
+    for label, names in {
+        "the same": [line.split()[0] for line in lines if line in committed],
+        "DIFFERS": [name for name in differing if name in known],
+        "new, record with ./dev hashes": [name for name in differing if name not in known],
+    }.items():
+        if names:
+            print(f"{label}:", *names)
+    return bool(differing) or not lines
+
+
+def differing_routines(found, committed):
+    return dict.fromkeys(line.split()[0] for line in sorted(set(found) ^ set(committed)))
+
+
+def compare_all(program, libraries, committed, apart):
+    """Every routine of every library; whether any differs."""
+    failed = False
+    for library in libraries:
+        label = library or " ".join(program)
+        if not runs_here(library):
+            print(f"skipped   {label}: this CPU lacks its instruction set")
+            continue
+        names = [line.split()[0] for line in committed]
+        found = run_apart(program, library, names) if apart else run(program, library)
+        differing = differing_routines(found, committed)
+        print(f"{'DIFFERS' if differing else 'the same'}  {len(set(found) & set(committed))} of {len(committed)}  {label}")
+        for routine in differing:
+            print(f"  {routine}")
+            if len(libraries) > 1:
+                print(first_difference(program, routine, libraries[0], library))
+        failed = failed or bool(differing)
+    return failed
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--write", action="store_true", help="write HASHES anew (say why in the changelog)")
@@ -72,45 +110,22 @@ def main():
     parser.add_argument("program", type=shlex.split)
     parser.add_argument("libraries", nargs="*")
     options = parser.parse_args()
-    libraries = options.libraries or [""]
+    program, libraries = options.program, options.libraries or [""]
 
     if options.write:
-        options.hashes.write_text("".join(f"{line}\n" for line in sorted(run(options.program, libraries[0]))))
+        options.hashes.write_text("".join(f"{line}\n" for line in sorted(run(program, libraries[0]))))
         return
     committed = options.hashes.read_text().splitlines()
     if options.family or options.arrays:
-        lines = run(options.program, libraries[0], *([options.family] if options.family else []))
-        known = {line.split()[0] for line in committed}
-        differing = [line.split()[0] for line in lines if line not in committed]
-        for label, names in {
-            "the same": [line.split()[0] for line in lines if line in committed],
-            "DIFFERS": [name for name in differing if name in known],
-            "new, record with ./dev hashes": [name for name in differing if name not in known],
-        }.items():
-            if names:
-                print(f"{label}:", *names)
-        sys.exit(bool(differing) or not lines)
-    failed = False
-    for library in libraries:
-        label = library or " ".join(options.program)
-        if not runs_here(library):
-            print(f"skipped   {label}: this CPU lacks its instruction set")
-            continue
-        names = [line.split()[0] for line in committed]
-        found = run_apart(options.program, library, names) if options.apart else run(options.program, library)
-        differing = dict.fromkeys(line.split()[0] for line in sorted(set(found) ^ set(committed)))
-        print(f"{'DIFFERS' if differing else 'the same'}  {len(set(found) & set(committed))} of {len(committed)}  {label}")
-        for routine in differing:
-            print(f"  {routine}")
-            if len(libraries) > 1:
-                print(first_difference(options.program, routine, libraries[0], library))
-        failed = failed or bool(differing)
-    if options.apart:
-        sys.exit(failed)
-    shuffled = sorted(set(run(options.program, libraries[0], "--shuffled")) ^ set(committed))
-    if shuffled and not failed:
-        print("DIFFERS  when the routines run in another order:", *dict.fromkeys(line.split()[0] for line in shuffled))
-    sys.exit(failed or bool(shuffled))
+        lines = run(program, libraries[0], *([options.family] if options.family else []))
+        sys.exit(compare_part(lines, committed))
+    failed = compare_all(program, libraries, committed, options.apart)
+    if not options.apart and not failed:
+        shuffled = differing_routines(run(program, libraries[0], "--shuffled"), committed)
+        if shuffled:
+            print("DIFFERS  when the routines run in another order:", *shuffled)
+        failed = bool(shuffled)
+    sys.exit(failed)
 
 
 if __name__ == "__main__":

@@ -1,7 +1,7 @@
 // Every exported routine as data, from the catalogue: what it takes and how to call it by address.
 #pragma once
 
-#include <string_view>
+#include <cstddef>
 #include <vector>
 
 namespace quorvel::conformance {
