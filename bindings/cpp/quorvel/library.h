@@ -14,6 +14,7 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <string>
 #include <type_traits>
@@ -22,7 +23,7 @@ namespace quorvel::host {
 
 // Loads quorvel.dll or libquorvel.so, of the interface that this was made for, as the loader finds
 // it (beside the program first), or the file named by the environment variable QUORVEL_LIBRARY.
-// Throws std::runtime_error with the reason.
+// Throws std::runtime_error with the reason. To be called before there are threads.
 void load_library();
 
 // Address of an exported routine; throws std::runtime_error when the library does not export it.
@@ -57,31 +58,35 @@ class Argument {
     Pointer address_;
 };
 
-// A routine, looked up at its first call.
+// A routine, looked up at its first call, by any thread.
 template <class Function>
 class Routine;
 
 template <class Result, class... Pointers>
 class Routine<Result(Pointers...)> {
+    using Function = Result (*)(Pointers...);
+
   public:
     explicit constexpr Routine(const char* name) : name_(name) {}
     // Of a library that is not the one loaded above.
     explicit Routine(void* address)
-        : name_(nullptr), function_(reinterpret_cast<Result (*)(Pointers...)>(address)) {}
+        : name_(nullptr), function_(reinterpret_cast<Function>(address)) {}
 
     Result operator()(const Argument<Pointers>&... arguments) const {
         return address()(arguments.address()...);
     }
 
-    auto address() const -> Result (*)(Pointers...) {
-        if (!function_)
-            function_ = reinterpret_cast<Result (*)(Pointers...)>(routine_address(name_));
-        return function_;
+    Function address() const {
+        Function function = function_.load(std::memory_order_relaxed);
+        if (function) return function;
+        function = reinterpret_cast<Function>(routine_address(name_));
+        function_.store(function, std::memory_order_relaxed);
+        return function;
     }
 
   private:
     const char* name_;
-    mutable Result (*function_)(Pointers...) = nullptr;
+    mutable std::atomic<Function> function_ = nullptr;
 };
 
 }  // namespace quorvel::host
