@@ -2,7 +2,7 @@
 
 #include <quorvel/polygon.hpp>
 
-#include <optional>
+#include <new>
 #include <span>
 
 namespace quorvel::python {
@@ -53,7 +53,7 @@ PyObject* list_of(const std::vector<Polygon>& pieces) {
 
 // clip(points of a, points of b): the status in words, empty for success, and two lists of points
 // as bytes.
-PyObject* clip(PyObject*, PyObject* arguments) {
+PyObject* clip(PyObject*, PyObject* arguments) try {
     PyObject *first = nullptr, *second = nullptr;
     if (!PyArg_ParseTuple(arguments, "OO", &first, &second)) return nullptr;
     const Points a(first, PyBUF_SIMPLE), b(second, PyBUF_SIMPLE);
@@ -62,6 +62,8 @@ PyObject* clip(PyObject*, PyObject* arguments) {
     Clipper().clip({a.all().begin(), a.all().end()}, {b.all().begin(), b.all().end()}, clipped);
     const char* fault = clipped.status == 0 ? "" : geometry::clipping_fault(clipped.status);
     return Py_BuildValue("sNN", fault, list_of(clipped.difference), list_of(clipped.overlap));
+} catch (const std::bad_alloc&) {
+    return PyErr_NoMemory();
 }
 
 // Many polygons: the points of all, and where each begins, with the end of the last.
