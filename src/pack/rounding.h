@@ -52,11 +52,7 @@ QUORVEL_PACK Mask near_midpoint(DoubleReals value) noexcept {
 // ordinary
 template <std::uint32_t kError, class F, class... N>
 QUORVEL_PACK Reals rounded(DoubleReals value, Mask extraordinary, F scalar, N... x) noexcept {
-    const Reals y = to_real(value);
-    const Mask doubtful = near_midpoint<kError>(value) | extraordinary;
-    if (any(doubtful)) [[unlikely]]
-        return replaced(doubtful, y, scalar, x...);
-    return y;
+    return replaced(near_midpoint<kError>(value) | extraordinary, to_real(value), scalar, x...);
 }
 
 }  // namespace quorvel::math::detail
