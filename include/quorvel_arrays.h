@@ -17,8 +17,9 @@
  * The functions return QUORVEL_OK, or what is wrong, found before anything is written; quorvel_message
  * says it in words. An output may stand where an input of its element stands (not where that is an
  * array itself that is counted), and columns of one table may be inputs and outputs; arrays that overlap
- * in any other way are refused. No function starts a thread, and but for those of climate data files
- * none allocates memory or keeps anything; all may be called from any thread.
+ * in any other way are refused. Numbers may begin at any byte, but in lists and records (routines whose
+ * in_place is 0) as their type is aligned. No function starts a thread, and but for those of climate
+ * data files none allocates memory or keeps anything; all may be called from any thread.
  */
 #ifndef QUORVEL_ARRAYS_H
 #define QUORVEL_ARRAYS_H

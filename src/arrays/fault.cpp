@@ -17,16 +17,24 @@ std::int64_t size_of(std::int32_t type) noexcept {
     return type == QUORVEL_DOUBLE_REAL ? sizeof(DoubleReal) : sizeof(Real);
 }
 
-// The elements of one argument in memory: each `bytes` from at + i step.
+// The elements of one argument in memory: each `bytes` from at + i step. A single one has no step.
 struct Span {
-    std::intptr_t at;
-    std::ptrdiff_t step;
-    std::int64_t bytes, count;
+    std::int64_t at, step, bytes, count;
 
+    std::int64_t row() const noexcept { return step < 0 ? -step : step; }
     std::int64_t reach() const noexcept { return step * (count - 1); }
-    std::intptr_t begin() const noexcept { return at + std::min<std::int64_t>(reach(), 0); }
-    std::intptr_t end() const noexcept { return at + std::max<std::int64_t>(reach(), 0) + bytes; }
+    std::int64_t begin() const noexcept { return at + std::min<std::int64_t>(reach(), 0); }
+    std::int64_t end() const noexcept { return at + std::max<std::int64_t>(reach(), 0) + bytes; }
 };
+
+// Whether elements are so many, or so far apart, that they would go round all addresses.
+bool wraps(std::int64_t step, std::size_t count) noexcept {
+    constexpr std::int64_t most = INT64_MAX / 2;
+    std::int64_t reach = 0;
+    return count > std::uint64_t{most} ||
+           __builtin_mul_overflow(step, static_cast<std::int64_t>(count - 1), &reach) ||
+           reach > most || reach < -most;
+}
 
 bool far_apart(const Span& a, const Span& b) noexcept {
     return a.end() <= b.begin() || b.end() <= a.begin();
@@ -34,7 +42,7 @@ bool far_apart(const Span& a, const Span& b) noexcept {
 
 // Columns of one table: elements side by side, at the same distance from one another.
 bool side_by_side(const Span& a, const Span& b) noexcept {
-    const std::ptrdiff_t row = a.step < 0 ? -a.step : a.step;
+    const std::int64_t row = a.row();
     if (row == 0 || (b.step != a.step && b.step != 0)) return false;
     const std::int64_t off = ((b.at - a.at) % row + row) % row;
     return off >= a.bytes && off + b.bytes <= row;
@@ -54,6 +62,9 @@ class Call {
     std::int32_t fault() const noexcept {
         for (int k = 0; k < arguments(); ++k)
             if (at_[k] == nullptr) return status(QUORVEL_NO_ARRAY, k);
+        for (int k = 0; k < arguments(); ++k)
+            if (wraps(step_[k], static_cast<std::size_t>(count_)))
+                return status(QUORVEL_OVERLAP, k);
         for (int k = 0; k < routine_.inputs; ++k)
             if (counts_outside(k)) return status(QUORVEL_OUTSIDE_RANGE, k);
         for (int k = routine_.inputs; k < arguments(); ++k)
@@ -91,14 +102,13 @@ class Call {
     }
 
     Span span(int k) const noexcept {
-        return {reinterpret_cast<std::intptr_t>(at_[k]), step_[k],
-                numbers(k) * size_of(argument(k).type), count_};
+        return {static_cast<std::int64_t>(reinterpret_cast<std::uintptr_t>(at_[k])),
+                count_ == 1 ? 0 : step_[k], numbers(k) * size_of(argument(k).type), count_};
     }
 
     bool overlaps(int k) const noexcept {
         const Span out = span(k);
-        const std::int64_t row = out.step < 0 ? -out.step : out.step;
-        if (count_ > 1 && row < out.bytes) return true;
+        if (count_ > 1 && out.row() < out.bytes) return true;
         for (int j = 0; j < k; ++j) {
             const Span other = span(j);
             const bool apart = far_apart(out, other) || side_by_side(out, other);

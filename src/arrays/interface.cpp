@@ -1,6 +1,7 @@
 // The exported functions of the array library.
 #include <cstring>
 #include <iterator>
+#include <type_traits>
 
 #include "arrays/fault.h"
 #include "arrays/level.h"
@@ -40,6 +41,7 @@ std::int32_t call(std::size_t number, std::size_t count, void* const* at,
     const quorvel_routine& routine = routines[number];
     if (routine.elementwise == 0) return QUORVEL_NOT_ELEMENTWISE;
     if (count == 0) return QUORVEL_OK;
+    if (at == nullptr || stride == nullptr) return QUORVEL_NO_ARRAY;
     const std::int32_t fault = quorvel::arrays::fault_of(routine, count, at, stride);
     if (fault != QUORVEL_OK) return fault;
     const auto kernel = quorvel::arrays::kernel(number, count);
@@ -50,6 +52,7 @@ std::int32_t call(std::size_t number, std::size_t count, void* const* at,
 }  // namespace
 
 const quorvel_routine* quorvel_find_routine(const char* name) {
+    if (name == nullptr) return nullptr;
     const auto is = [&](const char* known) { return known && std::strcmp(known, name) == 0; };
     for (const quorvel_routine& routine : routines)
         if (is(routine.name) || is(routine.exported_name)) return &routine;
@@ -63,6 +66,7 @@ const quorvel_routine* quorvel_routines(size_t* count) {
 
 int32_t quorvel_call(const quorvel_routine* routine, size_t count, void* const* at,
                      const ptrdiff_t* stride) {
+    if (routine == nullptr) return QUORVEL_NO_ARRAY;
     return call(static_cast<std::size_t>(routine - routines), count, at, stride);
 }
 

@@ -50,18 +50,16 @@ const Level* first_level() noexcept {
     return wanted != nullptr ? wanted : supported_level(nullptr);
 }
 
-// Threads that come first together find the same.
 std::atomic<const Level*> chosen = nullptr;
 
 }  // namespace
 
 const Level& level() noexcept {
     const Level* now = chosen.load(std::memory_order_relaxed);
-    if (now == nullptr) {
-        now = first_level();
-        chosen.store(now, std::memory_order_relaxed);
-    }
-    return *now;
+    if (now != nullptr) return *now;
+    const Level* const first = first_level();
+    // What another thread has chosen meanwhile stays.
+    return chosen.compare_exchange_strong(now, first, std::memory_order_relaxed) ? *first : *now;
 }
 
 Kernel kernel(std::size_t routine, std::size_t count) noexcept {

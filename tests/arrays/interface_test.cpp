@@ -112,6 +112,10 @@ TEST(Arrays, RefusesOverlapsButThoseThatAreSafe) {
     EXPECT_EQ(call(t, next, t + 8, 0), QUORVEL_OVERLAP) << "all results in one place";
     EXPECT_EQ(call(t, next, t + 8, 2), QUORVEL_OVERLAP) << "results in one another";
     EXPECT_EQ(memory.back(), 20.0f);
+    const auto many = static_cast<std::size_t>(-1);  // as languages pass it that have signed counts
+    EXPECT_EQ(quorvel_saturation_pressure(many, t, 0, t + 8, next) & 255, QUORVEL_OVERLAP);
+    EXPECT_EQ(quorvel_saturation_pressure(3, t, PTRDIFF_MIN, t + 8, next) & 255, QUORVEL_OVERLAP);
+    EXPECT_EQ(quorvel_saturation_pressure(1, t, PTRDIFF_MIN, t, next), QUORVEL_OK) << "no step";
 }
 
 TEST(Arrays, NamesTheArgumentAndItsRange) {
@@ -148,6 +152,7 @@ TEST(Arrays, FindsRoutinesByEitherName) {
         }
     }
     EXPECT_EQ(quorvel_find_routine("no such routine"), nullptr);
+    EXPECT_EQ(quorvel_call(quorvel_find_routine(nullptr), 1, nullptr, nullptr), QUORVEL_NO_ARRAY);
 }
 
 // Run once as it is, once with a level in the environment.
