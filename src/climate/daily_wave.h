@@ -11,10 +11,10 @@ namespace quorvel::climate {
 // the first.
 template <class R>
 inline R half_waves(R hour, R first, R second, R rising) noexcept {
-    return piecewise(
-        hour < first, [&] { return -math::cos(pi * (hour + 24.0f - second) / rising); },
-        hour < second, [&] { return math::cos(pi * (hour - first) / (second - first)); },
-        [&] { return -math::cos(pi * (hour - second) / rising); });
+    const MaskOf<R> early = hour < first, falls = (hour < second) & !early;
+    const R since = select(early, hour + 24.0f - second, hour - select(falls, first, second));
+    const R wave = math::cos(pi * since / select(falls, second - first, rising));
+    return select(falls, wave, -wave);
 }
 
 // Between the extremes of a day and the hours at which they are reached; the mean if these
