@@ -4,7 +4,7 @@ import re
 
 from array_kernels import has_kernel, inputs, outputs
 from catalogue import C_TYPES
-from header import WIDTH, about, paragraph, rows
+from header import WIDTH, about, paragraph, result_meaning, rows
 
 PREAMBLE = """\
 /*
@@ -191,7 +191,7 @@ def _comment(routine):
     if given:
         lines += ["Given:", *rows(given, returned=False)]
     if routine.result:
-        lines += ["Result:", *paragraph(routine.result.meaning, f"    {routine.result.unit}  ".rstrip() + "  ", "        ")]
+        lines += ["Result:", *paragraph(result_meaning(routine.result), f"    {routine.result.unit}  ".rstrip() + "  ", "        ")]
     if returned:
         lines += ["Returned:", *rows(returned, returned=True)]
     if not routine.export:

@@ -3,8 +3,8 @@ all of them, and what is known of each routine at run time."""
 
 import textwrap
 
-from languages.python_docs import TYPES, docstring, wrapped
-from languages.python_model import class_name, is_documented, is_offered, operands, signature
+from languages.python_docs import TYPES, docstring, in_python, wrapped
+from languages.python_model import class_name, is_documented, is_filled, is_offered, operands, seen_signature, signature
 
 EDIT = "# Produced from the catalogue of routines (catalogue/); do not edit."
 
@@ -51,6 +51,10 @@ def _function(family, routine, names):
             f'    """{text.lstrip()}\n    """\n    return {call}\n')
 
 
+def _core_function(routine):
+    return f'filled("{routine.name}")' if is_filled(routine) else f'functions["{routine.name}"]'
+
+
 def _module(family, names):
     routines = _kept(family)
     several = [routine for routine in routines if len(operands(routine)[1]) > 1]
@@ -59,10 +63,11 @@ def _module(family, names):
     lines = [f'"""{family.title}: the routines of the library, element by element."""', "", EDIT, ""]
     lines += ["from collections import namedtuple", ""] if several else []
     lines += ["from .._core import functions"]
+    lines += ["from .._dispatch import filled"] if any(map(is_filled, routines)) else []
     lines += [f"from ..selectors import {', '.join(selectors)}"] if selectors else []
     lines += ["", "_new = tuple.__new__  # a third of the time of _make"] if several else []
     lines += ["", "__all__ = [", *(f'    "{name}",' for name in public), "]", ""]
-    lines += [f'_{routine.name} = functions["{routine.name}"]' for routine in routines]
+    lines += [f'_{routine.name} = {_core_function(routine)}' for routine in routines]
     lines += ["".join(map(_class, several))]
     return "\n".join(lines) + "".join(_function(family, routine, names) for routine in routines)
 
@@ -115,11 +120,11 @@ def _stubs(family):
             + "\n".join(map(_stub, routines)))
 
 
-def _selectors(families):
+def _selectors(families, names):
     """By their quantities; where two routines differ in what they say of the values, the last one speaks."""
     found = {}
     for family in families:
-        for routine in _kept(family):
+        for routine in (in_python(kept, names) for kept in _kept(family)):
             found |= {o.of.selector: o.arg for side in operands(routine) for o in side if o.of.selector}
     text = f'"""What the selectors stand for."""\n\n{EDIT}\n\nfrom enum import IntEnum\n'
     for name, arg in found.items():
@@ -130,17 +135,22 @@ def _selectors(families):
     return text
 
 
+def _extents(operand):
+    return f"(Filled({', '.join(map(repr, operand.filled))}),)" if operand.filled else repr(operand.axes)
+
+
 def _argument(operand):
     arg = operand.arg
     interval = operand.of.limits if operand.of.is_limited else ()
     text = ", ".join(map(repr, (
-        operand.of.clear_name, TYPES[operand.kind], arg.unit, arg.meaning, interval, operand.of.selector, operand.axes)))
+        operand.of.clear_name, TYPES[operand.kind], arg.unit, arg.meaning, interval, operand.of.selector)))
+    text += f", {_extents(operand)}"
     return f"A({text.replace('inf', 'INF')})" if "inf" in repr(interval) else f"A({text})"
 
 
 def _described(family, routine):
     inputs, outputs = ("".join(f"\n         {_argument(o)}," for o in side) for side in operands(routine))
-    return (f'    "{routine.name}": R(\n        "{family.family}", {routine.export!r}, {signature(routine)!r},\n'
+    return (f'    "{routine.name}": R(\n        "{family.family}", {routine.export!r}, {seen_signature(routine)!r},\n'
             f"        ({inputs}\n        ),\n        ({outputs}\n        ),\n    ),\n")
 
 
@@ -149,6 +159,7 @@ def _catalogue(families):
                        if is_offered(routine))
     return (f'"""What is known of each routine at run time."""\n\n{EDIT}\n\n'
             "from collections import namedtuple\n\nINF = float(\"inf\")\n\n"
+            'Filled = namedtuple("Filled", "name count more")  # an extent: so many more than that count\n'
             'A = Argument = namedtuple("Argument", "name dtype unit meaning range selector axes")\n'
             'R = Routine = namedtuple("Routine", "family exported_name signature inputs outputs")\n\n'
             f"ROUTINES = {{\n{routines}}}\n")
@@ -157,7 +168,7 @@ def _catalogue(families):
 def files(families):
     """The texts by their names."""
     names = {routine.export: routine.name for family in families for routine in _kept(family) if routine.export}
-    texts = {"selectors.py": _selectors(families), "catalogue.py": _catalogue(families)}
+    texts = {"selectors.py": _selectors(families, names), "catalogue.py": _catalogue(families)}
     for family in families:
         texts[f"{family.family}/routines.py"] = _module(family, names)
         texts[f"{family.family}/routines.pyi"] = _stubs(family)

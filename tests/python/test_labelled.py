@@ -112,8 +112,23 @@ def test_what_goes_with_xarray():
         fabric.u_value(layers, xarray.DataArray([1.0, 1, 1], dims="l"), 0.13, 0.04)
     with pytest.raises(ValueError, match=r"thickness: an array of shape \(..., layers\) is needed"):
         fabric.u_value(xarray.DataArray(0.1), [1.0], 0.13, 0.04)
-    profile = fabric.condensation_profile([0.1, 0.1], [0.77, 0.04], [50, 5], 0.13, 0.04, 20.0, t.chunk(time=5), 50.0, 80.0)
-    assert profile.interface_temperature.shape == (12, 21)
+
+
+def test_outputs_as_long_as_lists_say():
+    def profile(thickness, outside):
+        return fabric.condensation_profile(thickness, [0.77, 0.04], [50, 5], 0.13, 0.04, 20, outside, 50, 80)
+
+    plain, index = profile([0.1, 0.1], T).interface_temperature, pandas.Index(T, name="time")
+    assert plain.shape == (12, 3) and np.isfinite(plain).all()
+    series = profile([0.1, 0.1], pandas.Series(T, index=index)).interface_temperature
+    assert isinstance(series, pandas.DataFrame) and series.index.equals(index)
+    lazy = profile(dask.from_array([0.1, 0.1], chunks=1), dask.from_array(T, chunks=5)).interface_temperature
+    assert lazy.shape == (12, 3)  # before anything is worked out
+    labelled = xarray.DataArray(T, dims="time")
+    chunked = profile([0.1, 0.1], labelled.chunk(time=5)).interface_temperature
+    assert chunked.dims == ("time", "interfaces") and chunked.sizes["interfaces"] == 3
+    for each in (series, lazy.compute(), profile([0.1, 0.1], labelled).interface_temperature, chunked):
+        same(each, plain)
 
 
 def test_data_set():

@@ -64,6 +64,18 @@ def test_documentation(name):
     assert max(map(len, text.splitlines())) <= 100
 
 
+# What is seen of the call by reference only: counts that lists tell, outputs let be, numbers from 1, other names.
+UNSEEN = re.compile(r"\b(a count|counts? (below|above|outside)|fewer than (0|one)|is written|is read|left as|no array|"
+                    r"(vertex|corner|point|element) \d\b|from 1 on|caller's variable|-1 if)|"
+                    r"\b(PS|TP|CL|ICL|WN|GE|IGE)[A-Z0-9]{2,6}\b(?! in quorvel.h)")
+
+
+@pytest.mark.parametrize("name", DOCUMENTED)
+def test_documentation_is_of_what_is_seen(name):
+    text = " ".join(inspect.getdoc(function(name)).split())
+    assert not UNSEEN.search(text), UNSEEN.search(text)
+
+
 def test_pickling_and_copying():
     for each in (quorvel.psychro.vapour_pressure, quorvel.psychro.Psychrometer.sling,
                  quorvel.geometry.facing(np.eye(3), 1.0)):

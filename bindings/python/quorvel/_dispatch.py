@@ -6,6 +6,7 @@ No library of tables or labelled arrays is imported: one whose objects are given
 import numpy as np
 
 from . import _labelled
+from ._filled import Filled
 from .errors import RangeError
 
 
@@ -33,6 +34,18 @@ def dispatch(name, ufunc, args, out, where):
         raise
     except (TypeError, ValueError, OverflowError) as error:
         raise _explained(name, routine, args, error) from None
+
+
+def filled(name):
+    """The function whose outputs are as long as a list says; as those of `_core.functions` it takes the inputs, `out`
+    and `where`."""
+    ufunc = Filled(name)
+
+    def call(*given):
+        *args, out, where = given
+        return dispatch(name, ufunc, args, out, where)
+
+    return call
 
 
 def _options(out, where):
