@@ -73,6 +73,8 @@ def _module(family, names):
 
 
 def _scalar_type(operand):
+    if operand.of.selector:
+        return f"int | Literal[{', '.join(map(repr, operand.arg.values))}]"
     return {"Real": "float", "DoubleReal": "float", "Integer": "int"}[operand.kind]
 
 

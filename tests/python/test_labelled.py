@@ -46,8 +46,28 @@ def test_names_of_selectors_keep_their_labels():
         same(result, numbers)
         assert isinstance(result, np.ndarray if given is kinds else type(given))
     assert result.coords["kind"].values.tolist() == kinds
-    table = pandas.DataFrame([kinds], columns=["x", "y"])
+    table = pandas.DataFrame([["sling", 2]], columns=["x", "y"])
     assert psychro.vapour_pressure_from_psychrometer(25, 20, 101325, table).columns.tolist() == ["x", "y"]
+
+
+def test_names_of_selectors_in_any_array():
+    def pressure(kind):
+        return psychro.vapour_pressure_from_psychrometer(25, 20, 101325, kind)
+
+    kinds, numbers = ["sling", "screen"], pressure([1, 2])
+    for given in (np.array(kinds, object), ["sling", psychro.Psychrometer.screen], np.array(["sling", 2], object),
+                  pandas.Categorical(kinds), pandas.CategoricalIndex(kinds), pandas.array(kinds, dtype="string"),
+                  pandas.Series([1, 2], dtype="Int64"), xarray.Dataset({"kind": ("k", kinds)}).kind):
+        same(pressure(given), numbers)
+    same(pressure([["sling"], ["screen"]]), numbers[:, None])
+    assert pressure([]).shape == (0,)
+    lazy = dask.from_array(np.array(kinds), chunks=1)
+    assert pressure(xarray.DataArray(lazy, dims="k")).chunks and not isinstance(pressure(lazy), np.ndarray)
+    same(pressure(lazy).compute(scheduler="threads"), numbers)
+    same(pressure(xarray.Dataset({"a": ("k", kinds)})).a, numbers)
+    for missing in (pandas.Series(["sling", None], dtype="category"), pandas.Series(["sling", None], dtype="string")):
+        with pytest.raises(ValueError, match="psychrometer: (nan|<NA>) is none of 'sling', 'screen'"):
+            pressure(missing)
 
 
 def test_pandas_lists_go_together_by_their_labels():

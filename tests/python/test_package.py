@@ -95,7 +95,9 @@ from quorvel import climate, fabric, geometry, psychro
 one: np.float32 = psychro.vapour_pressure(20.0, 50)
 many: NDArray[np.float32] = psychro.vapour_pressure(np.linspace(0, 1), [40, 50])
 u = fabric.u_value([0.1, 0.2], [0.3, 0.4], 0.13, 0.04)
-kind = psychro.vapour_pressure_from_psychrometer(25, 20, 101325, psychro.Psychrometer.sling)
+kind: np.float32 = psychro.vapour_pressure_from_psychrometer(25, 20, 101325, psychro.Psychrometer.sling)
+kind = psychro.vapour_pressure_from_psychrometer(25, 20, 101325, "screen")
+kinds: NDArray[np.float32] = psychro.vapour_pressure_from_psychrometer(25, 20, 101325, ["sling", "screen"])
 tilt = geometry.facing(np.eye(3), 1.0).tilt
 with quorvel.errstate(range="warn"):
     enthalpy = psychro.mixed(psychro.state(t=20, rh=50), psychro.state(t=10, rh=50)).enthalpy
@@ -108,7 +110,8 @@ area = geometry.overlap_area([(0, 0), (0, 1), (1, 1)], [(0, 0), (0, 1), (1, 1)])
                              capture_output=True, text=True)
     assert checked.returncode == 0, checked.stdout + checked.stderr
     for text, accepted in ((good, True), (good + "text: str = psychro.vapour_pressure(20.0, 50)\n", False),
-                           (good + "psychro.vapour_pressure(20.0)\n", False)):
+                           (good + "psychro.vapour_pressure(20.0)\n", False),
+                           (good + "kind = psychro.vapour_pressure_from_psychrometer(25, 20, 101325, 'slung')\n", False)):
         program.write_text(text)
         checked = subprocess.run([sys.executable, "-m", "mypy", "--strict", program], capture_output=True, text=True)
         assert (checked.returncode == 0) == accepted, checked.stdout + checked.stderr

@@ -82,11 +82,18 @@ def is_table(value):
     return hasattr(value, "index") and hasattr(value, "reindex") and hasattr(value, "to_numpy")
 
 
+def like(table, values):
+    """A Series or table of those values with the labels of another."""
+    rest = {"columns": table.columns} if hasattr(table, "columns") else {"name": table.name}
+    return type(table)(values, index=table.index, **rest)
+
+
 def _plain_numbers(value):
     """Without the types of pandas' own that stand for numbers or nothing; missing is not a number."""
     if is_table(value) and hasattr(value, "dtype") and not isinstance(value.dtype, np.dtype):
         if value.dtype.kind in "iufb":
-            return type(value)(value.to_numpy(dtype=float, na_value=np.nan), index=value.index, name=value.name)
+            whole = value.dtype.kind in "iu" and not value.hasnans
+            return like(value, value.to_numpy(dtype=np.int64) if whole else value.to_numpy(dtype=float, na_value=np.nan))
     return value
 
 
