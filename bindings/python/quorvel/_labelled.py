@@ -141,7 +141,7 @@ def of_xarray(name, routine, args):
     )
     several = results if isinstance(results, tuple) else (results,)
     for result, output in zip(several, routine.outputs):
-        _describe(result, output)
+        describe(result, output)
     return _returned(several, routine)
 
 
@@ -160,7 +160,7 @@ def _for_xarray(value, args, argument, xarray):
     return value.to_xarray()
 
 
-def _describe(result, output):
+def describe(result, output):
     attributes = {"units": output.unit} if output.unit else {}
     attributes["long_name"] = output.meaning
     if hasattr(result, "data_vars"):
