@@ -68,7 +68,7 @@ class Objects:
     def __init__(self, url):
         self.path = url.rstrip("/")
         try:
-            self.files, self.root = needed("fsspec").core.url_to_fs(self.path)
+            self.files, self.root = needed("fsspec").core.url_to_fs(self.path, use_listings_cache=False)
         except (ImportError, ValueError) as error:  # a library of that store is missing, or it knows no such URL
             raise StudyError(f"{url}: {error}") from None
 
@@ -77,11 +77,9 @@ class Objects:
             raise StudyError(f"{self.path} is in the memory of this process, which workers elsewhere do not see")
 
     def exists(self):
-        self.files.invalidate_cache()
         return self.files.exists(self.root)
 
     def names(self, folder):
-        self.files.invalidate_cache()
         return {name.rsplit("/", 1)[-1] for name in self.files.ls(f"{self.root}/{folder}", detail=False)}
 
     def has(self, folder, name):
