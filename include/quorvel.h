@@ -713,7 +713,7 @@ QUORVEL_API int32_t ITPCON(const float *warm_temperature, const float *cold_temp
  *     record_number    int32_t            from 1   record asked about, counted from 1
  *     item             int32_t            1 .. 72  property asked for
  * Result:
- *     float  by item  the property, 1e20 if it does not exist; 1e20 for none
+ *     float  by item  the property; 1e20 for none
  * Notes:
  *     - The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2
  *       another layer, 3 gap (300 of given resistance, 302 filled with gas), 4 translucent layer, 5
@@ -2765,8 +2765,8 @@ QUORVEL_API void GECLOS(const float *x, const float *y, const int32_t *vertices,
  *     - The edges are tried in turn, from that between the first two vertices on, as GECROS does;
  *       the first one that is crossed away from the start ends the search. A crossing beyond 100000
  *       is none.
- *     - No such edge, but the start at a vertex (to less than 1e-5): the code is less its number,
- *       and the point is the last outcome of the search, the start or 1e20.
+ *     - No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a
+ *       minus, and the point is the last outcome of the search, the start or 1e20.
  *     - Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the
  *       last of them, and the point that vertex. (The sum is taken modulo 2^32. Of a polygon with
  *       1000 vertices or more, small codes of this kind cannot be told from edges by the code

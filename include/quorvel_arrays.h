@@ -1231,7 +1231,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_condenses_within_layer(
  *     record_number    int32_t            from 1   record asked about, counted from 1
  *     item             int32_t            1 .. 72  property asked for
  * Result:
- *     by item  the property, 1e20 if it does not exist; 1e20 for none
+ *     by item  the property; 1e20 for none
  */
 QUORVEL_ARRAYS_API int32_t quorvel_element_property(
     size_t count,

@@ -453,7 +453,7 @@ inline void condenses_within_layer(const Input<float>& warm_temperature,
 ///     type code [10, record_count]
 /// @param record_number  from 1: record asked about, counted from 1
 /// @param item  1 .. 72: property asked for
-/// @return by item: the property, 1e20 if it does not exist; 1e20 for none
+/// @return by item: the property; 1e20 for none
 /// @throws std::out_of_range unless element_records has from 1 (record_count: number of records)
 /// Source: Layout of the element records.
 /// (BELDAT of quorvel.h)

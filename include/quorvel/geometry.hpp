@@ -287,8 +287,8 @@ struct BoundaryCrossingArrays {
 /// the first one that is crossed away from the start ends the search. A crossing beyond 100000 is
 /// none.
 ///
-/// @note No such edge, but the start at a vertex (to less than 1e-5): the code is less its number,
-/// and the point is the last outcome of the search, the start or 1e20.
+/// @note No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a
+/// minus, and the point is the last outcome of the search, the start or 1e20.
 ///
 /// @note Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the
 /// last of them, and the point that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000

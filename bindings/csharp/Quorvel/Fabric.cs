@@ -516,7 +516,7 @@ namespace Quorvel
         /// field].</param>
         /// <param name="recordNumber">Record asked about, counted from 1; valid from 1.</param>
         /// <param name="item">Property asked for; valid 1 to 72.</param>
-        /// <returns>The property, 1e20 if it does not exist [by item]; 1e20 where there is none.</returns>
+        /// <returns>The property [by item]; 1e20 where there is none.</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2 another

@@ -335,8 +335,8 @@ namespace Quorvel
         /// <para>The edges are tried in turn, from that between the first two vertices on, as
         /// <c>Geometry.CrossingPoint</c> does; the first one that is crossed away from the start ends the search. A
         /// crossing beyond 100000 is none.</para>
-        /// <para>No such edge, but the start at a vertex (to less than 1e-5): the code is less its number, and the
-        /// point is the last outcome of the search, the start or 1e20.</para>
+        /// <para>No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a minus, and
+        /// the point is the last outcome of the search, the start or 1e20.</para>
         /// <para>Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of them,
         /// and the point that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more, small
         /// codes of this kind cannot be told from edges by the code alone.)</para>

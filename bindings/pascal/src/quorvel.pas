@@ -750,7 +750,7 @@ function CondensesWithinLayer(WarmTemperature: Single; ColdTemperature: Single; 
   ElementRecords: ten fields of each record, counted from 1; the first is its type code [by field]
   RecordNumber: record asked about, counted from 1; valid from 1
   Item: property asked for; valid 1 to 72
-  Result: the property, 1e20 if it does not exist [by item]; 1e20 where there is none
+  Result: the property [by item]; 1e20 where there is none
   The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2 another layer, 3 gap (300
     of given resistance, 302 filled with gas), 4 translucent layer, 5 boundary, 6 end marker; other classes have no
     meaning. It is rounded after the limits are tested: 149.6 is class 1, subtype 50; 49.6 and what is no number are
@@ -1945,8 +1945,8 @@ function CountEnclosed(const X: array of Single; const Y: array of Single; const
   Result.CrossingCode: number, counted from 1, of the vertex that ends the crossed edge, or what the notes say
   The edges are tried in turn, from that between the first two vertices on, as CrossingPoint does; the first one that
     is crossed away from the start ends the search. A crossing beyond 100000 is none.
-  No such edge, but the start at a vertex (to less than 1e-5): the code is less its number, and the point is the last
-    outcome of the search, the start or 1e20.
+  No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a minus, and the point is
+    the last outcome of the search, the start or 1e20.
   Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of them, and the point
     that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more, small codes of this kind
     cannot be told from edges by the code alone.)

@@ -594,7 +594,7 @@ ROUTINES = {
          A('item', 'int32', '', 'property asked for', (1, 72), '', ()),
         ),
         (
-         A('property_value', 'float32', 'by item', 'the property, 1e20 if it does not exist', (), '', ()),
+         A('property_value', 'float32', 'by item', 'the property', (), '', ()),
         ),
     ),
     "natural_convection_coefficient": R(

@@ -452,7 +452,7 @@ pub fn condenses_within_layer(
 /// * `item`: property asked for; valid 1 to 72
 ///
 /// # Returns
-/// The property, 1e20 if it does not exist (by item); 1e20 where there is none.
+/// The property (by item); 1e20 where there is none.
 ///
 /// # Errors
 /// Where an argument is not valid.

@@ -322,7 +322,7 @@ export function condensesWithinLayer(
  * @param elementRecords ten fields of each record, counted from 1; the first is its type code [by field]
  * @param recordNumber record asked about, counted from 1; valid from 1
  * @param item property asked for; valid 1 to 72
- * @returns the property, 1e20 if it does not exist [by item]; 1e20 where there is none
+ * @returns the property [by item]; 1e20 where there is none
  * @see BELDAT of quorvel.h
  */
 export function elementProperty(elementRecords: List, recordNumber: number, item: number): number;

@@ -629,7 +629,7 @@ def element_property(element_records, record_number, item, *, out=None):
     Returns
     -------
     property_value : float32
-        The property, 1e20 if it does not exist [by item]; 1e20 where there is none.
+        The property [by item]; 1e20 where there is none.
 
     Raises
     ------
