@@ -155,8 +155,7 @@ def example_lines(routine, family):
     yield from wrapped(f"({example.source})")
 
 
-def docstring(routine, family, names):
-    routine = in_python(routine, names)
+def docstring(routine, family):
     inputs, outputs = operands(routine)
     lines = [*wrapped(routine.summary), "", "Parameters", "----------",
              *_parameters(routine, inputs, len(outputs) > 1), "", "Returns", "-------", *_returns(routine, outputs), ""]

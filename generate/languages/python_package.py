@@ -2,6 +2,7 @@
 all of them, and what is known of each routine at run time."""
 
 import textwrap
+from dataclasses import replace
 
 from languages.python_docs import TYPES, docstring, in_python, wrapped
 from languages.python_model import class_name, is_documented, is_filled, is_offered, operands, seen_signature, signature
@@ -40,13 +41,13 @@ def _class(routine):
             f'{class_name(routine)}.__doc__ = """What {routine.name} returns.\n\n{about}\n"""')
 
 
-def _function(family, routine, names):
+def _function(family, routine):
     inputs, outputs = operands(routine)
     given = ", ".join([operand.field for operand in inputs] + ["out", "True" if signature(routine) else "where"])
     call = f"_{routine.name}({given})"
     if len(outputs) > 1:
         call = f"_new({class_name(routine)}, {call})"
-    text = textwrap.indent(_quoted(docstring(routine, family.family, names)), "    ")
+    text = textwrap.indent(_quoted(docstring(routine, family.family)), "    ")
     return (f"\n\ndef {routine.name}({_parameters(routine)}):\n"
             f'    """{text.lstrip()}\n    """\n    return {call}\n')
 
@@ -55,7 +56,7 @@ def _core_function(routine):
     return f'filled("{routine.name}")' if is_filled(routine) else f'functions["{routine.name}"]'
 
 
-def _module(family, names):
+def _module(family):
     routines = _kept(family)
     several = [routine for routine in routines if len(operands(routine)[1]) > 1]
     selectors = _selectors_of(routines)
@@ -69,7 +70,7 @@ def _module(family, names):
     lines += ["", "__all__ = [", *(f'    "{name}",' for name in public), "]", ""]
     lines += [f'_{routine.name} = {_core_function(routine)}' for routine in routines]
     lines += ["".join(map(_class, several))]
-    return "\n".join(lines) + "".join(_function(family, routine, names) for routine in routines)
+    return "\n".join(lines) + "".join(_function(family, routine) for routine in routines)
 
 
 def _scalar_type(operand):
@@ -122,11 +123,11 @@ def _stubs(family):
             + "\n".join(map(_stub, routines)))
 
 
-def _selectors(families, names):
+def _selectors(families):
     """By their quantities; where two routines differ in what they say of the values, the last one speaks."""
     found = {}
     for family in families:
-        for routine in (in_python(kept, names) for kept in _kept(family)):
+        for routine in _kept(family):
             found |= {o.of.selector: o.arg for side in operands(routine) for o in side if o.of.selector}
     text = f'"""What the selectors stand for."""\n\n{EDIT}\n\nfrom enum import IntEnum\n'
     for name, arg in found.items():
@@ -170,8 +171,10 @@ def _catalogue(families):
 def files(families):
     """The texts by their names."""
     names = {routine.export: routine.name for family in families for routine in _kept(family) if routine.export}
-    texts = {"selectors.py": _selectors(families, names), "catalogue.py": _catalogue(families)}
+    families = [replace(family, routines=tuple(in_python(routine, names) for routine in family.routines))
+                for family in families]
+    texts = {"selectors.py": _selectors(families), "catalogue.py": _catalogue(families)}
     for family in families:
-        texts[f"{family.family}/routines.py"] = _module(family, names)
+        texts[f"{family.family}/routines.py"] = _module(family)
         texts[f"{family.family}/routines.pyi"] = _stubs(family)
     return texts

@@ -505,7 +505,7 @@ ROUTINES = {
          A('decrement_lag', 'float32', 'h', 'time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition', (), '', ()),
          A('surface_factor', 'float32', '1', 'surface factor F', (), '', ()),
          A('surface_factor_lag', 'float32', 'h', 'time lag of the surface factor, 0 to 24 / harmonic', (), '', ()),
-         A('u_value', 'float32', 'W/m²K', 'U-value, as TPUVAL gives it', (0, INF), '', ()),
+         A('u_value', 'float32', 'W/m²K', 'U-value, as `u_value` gives it', (0, INF), '', ()),
         ),
     ),
     "vertical_cavity_resistance": R(

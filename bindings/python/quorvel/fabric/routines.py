@@ -73,7 +73,7 @@ CyclicResponse.__doc__ = """What cyclic_response returns.
     decrement_lag: time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]
     surface_factor: surface factor F
     surface_factor_lag: time lag of the surface factor, 0 to 24 / harmonic [h]
-    u_value: U-value, as TPUVAL gives it [W/m²K]
+    u_value: U-value, as `u_value` gives it [W/m²K]
 """
 
 CondensationProfile = namedtuple("CondensationProfile", "interface_temperature interface_vapour_pressure interface_saturation_pressure")
