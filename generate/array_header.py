@@ -191,7 +191,8 @@ def _comment(routine):
     if given:
         lines += ["Given:", *rows(given, returned=False)]
     if routine.result:
-        lines += ["Result:", *paragraph(result_meaning(routine.result), f"    {routine.result.unit}  ".rstrip() + "  ", "        ")]
+        first = f"    {routine.result.unit}  ".rstrip() + "  "
+        lines += ["Result:", *paragraph(result_meaning(routine.result), first, "        ")]
     if returned:
         lines += ["Returned:", *rows(returned, returned=True)]
     if not routine.export:

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # packaging/try.sh NAME OUT SUITE: installs package NAME of ./dev package, which lies in folder OUT, as its users would,
-# in a Debian system of that suite with nothing in it, and uses it: packaging/trials/NAME runs there, in a folder with the
-# packages. Needs debootstrap and root. Debian's mirrors, settings of apt, and certificates are those of this machine.
+# in a Debian system of that suite with nothing in it, and uses it: packaging/trials/NAME runs there, in a folder with
+# the packages. Needs debootstrap and root. Debian's mirrors, settings of apt, and certificates are those of this
+# machine.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -95,7 +95,8 @@ def _counted_by(name, routine):
 
 def _notes(routine):
     formula = [f"Formula: {routine.formula}"] if routine.formula else []
-    room = [f"Elements of {_counted_by(name, routine)} beyond `{name}` are not numbers." for name in given_counts(routine)]
+    room = [f"Elements of {_counted_by(name, routine)} beyond `{name}` are not numbers."
+            for name in given_counts(routine)]
     same = [f"Each element has the bits of {routine.export} in quorvel.h."] if routine.export else []
     for text in [*formula, *routine.notes, *room, *same]:
         yield from wrapped(text)

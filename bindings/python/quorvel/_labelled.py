@@ -92,8 +92,9 @@ def _plain_numbers(value):
     """Without the types of pandas' own that stand for numbers or nothing; missing is not a number."""
     if is_table(value) and hasattr(value, "dtype") and not isinstance(value.dtype, np.dtype):
         if value.dtype.kind in "iufb":
-            whole = value.dtype.kind in "iu" and not value.hasnans
-            return like(value, value.to_numpy(dtype=np.int64) if whole else value.to_numpy(dtype=float, na_value=np.nan))
+            if value.dtype.kind in "iu" and not value.hasnans:
+                return like(value, value.to_numpy(dtype=np.int64))
+            return like(value, value.to_numpy(dtype=float, na_value=np.nan))
     return value
 
 

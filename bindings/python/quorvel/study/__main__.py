@@ -31,8 +31,8 @@ def main(args=None):
 def _options(args):
     parser = argparse.ArgumentParser(prog="python -m quorvel.study", description="Run a parametric study of a facade.")
     parser.add_argument("study", help="TOML file; quorvel.study.definition describes it")
-    parser.add_argument("--result", help="Zarr group to make or to go on with, a folder or the URL of a store (default: the file's "
-                        "name with .zarr)")
+    parser.add_argument("--result", help="Zarr group to make or to go on with, a folder or the URL of a store "
+                        "(default: the file's name with .zarr)")
     parser.add_argument("--plan", "--check", action="store_true", help="say how much and how long, without running")
     where = parser.add_mutually_exclusive_group()
     where.add_argument("--threads", type=int, default=processors(), help="threads of this machine")
