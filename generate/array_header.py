@@ -4,7 +4,7 @@ import re
 
 from array_kernels import has_kernel, inputs, outputs
 from catalogue import C_TYPES
-from header import WIDTH, about, paragraph, rows
+from header import WIDTH, about, paragraph, result_meaning, rows
 
 PREAMBLE = """\
 /*
@@ -192,7 +192,8 @@ def _comment(routine):
     if given:
         lines += ["Given:", *rows(given, returned=False)]
     if routine.result:
-        lines += ["Result:", *paragraph(routine.result.meaning, f"    {routine.result.unit}  ".rstrip() + "  ", "        ")]
+        first = f"    {routine.result.unit}  ".rstrip() + "  "
+        lines += ["Result:", *paragraph(result_meaning(routine.result), first, "        ")]
     if returned:
         lines += ["Returned:", *rows(returned, returned=True)]
     if not routine.export:

@@ -42,7 +42,7 @@ def _output(arg, name):
         return f"logical({name})"
     if getattr(arg, "dir", "") == "inout":
         return f"or_given({name}, {arg.name})"
-    return f"or_none({name})" if getattr(arg, "unwritten", "") else name
+    return f"or_none({name})" if getattr(arg, "left", "") else name
 
 
 def _formula(family, routine):

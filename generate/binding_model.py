@@ -126,8 +126,9 @@ class Result(_Described):
 
     @property
     def unwritten(self):
-        """When a call leaves it as it was, in words: a modern call then gives not-a-number, or what was given."""
-        return getattr(self.arg, "unwritten", "")
+        """When a call by reference leaves it as it was, in words: a modern call, which refuses counts out of range,
+        then gives not-a-number, or what was given."""
+        return getattr(self.arg, "left", "")
 
     @property
     def name_in_arrays(self):
@@ -138,9 +139,9 @@ class Result(_Described):
     def sentence(self):
         """What it means, its unit, and what it is where there is none."""
         text = self.meaning + "; 1e20 where there is none" * self.arg.none
-        if self.unwritten:
+        if left := getattr(self.arg, "left_in_range", ""):
             blank = "0" if self.kind == "Integer" else "not a number"
-            text += f"; {'as given' if self.given else blank} {self.unwritten}"
+            text += f"; {'as given' if self.given else blank} {left}"
         return text
 
 

@@ -23,6 +23,8 @@ ARGUMENT = {
     "draw": checks.is_interval,
     "ignored": checks.is_flag,
     "unwritten": checks.is_text,
+    "uncounted": checks.is_text,
+    "filled": checks.is_named_sum,
     "none": checks.is_flag,
 }
 RESULT = {**DESCRIBED, "logical": checks.is_flag, "none": checks.is_flag}
@@ -31,6 +33,7 @@ ROUTINE = {
     "args": checks.is_list_of(checks.is_table),
     "result": checks.is_table,
     "notes": checks.is_list_of(checks.is_text),
+    "by_reference": checks.is_list_of(checks.is_text),
     "statuses": checks.is_list_of(checks.is_table),
     "examples": checks.is_list_of(checks.is_table),
 }
@@ -50,7 +53,21 @@ class Argument:
     draw: tuple = ()  # what random arguments are drawn from
     ignored: bool = False
     unwritten: str = ""  # when a call leaves the output as it was
+    uncounted: str = ""  # the same of counts out of range, which only a call by reference takes
+    filled: tuple = ()  # of an output with room for the most: what is written, a count, and how many more these are
     none: bool = False  # 1e20 stands for "does not exist"
+
+    @property
+    def left_in_range(self):
+        """When a call with valid counts leaves the output as it was, in words."""
+        _, count, more = self.filled or ("", "", 0)
+        beyond = f"beyond element {count}" + f" + {more}" * bool(more)
+        return ", and ".join(filter(None, (self.unwritten, beyond if count else "")))
+
+    @property
+    def left(self):
+        """The same of any call by reference."""
+        return ", and ".join(filter(None, (self.uncounted, self.left_in_range)))
 
 
 @dataclass(frozen=True)
@@ -76,6 +93,7 @@ class Routine:
     args: tuple = ()
     result: Result | None = None
     notes: tuple = ()
+    by_reference: tuple = ()  # notes about what only a call by reference can say
     statuses: tuple = ()  # what the numbers of its output `status` tell
     formula: str = ""
     examples: tuple = ()
@@ -148,7 +166,18 @@ def _arguments(tables, quantities, place):
         for extent in arg.shape:
             known = isinstance(extent, int) or extent in counts
             place.entry("is", index).require(known, f"extent {extent} is no Integer that is given")
-    return tuple(args)
+    return tuple(_filled(arg, args, place.entry("is", index)) if arg.filled else arg for index, arg in enumerate(args))
+
+
+def _filled(arg, args, place):
+    """An output with its `filled` read: a count, or one and a whole number."""
+    (name, text), = arg.filled.items()
+    count, more = text.split(" + ")
+    most = {each.name: each.range[1] for each in args if each.type == "Integer" and each.range and each.dir == "in"}
+    place.require(count in most, f"{count} is no count with a highest value", "filled =")
+    same = arg.dir == "out" and list(arg.shape) == [most[count] + int(more)]
+    place.require(same, f"an output with room for the most {name} is needed", "filled =")
+    return replace(arg, filled=(name, count, int(more)))
 
 
 def _result(table, quantities, place):
@@ -170,7 +199,9 @@ def _routine(table, quantities, topic, place):
     place.require(exported or elementwise, "without an exported name a routine is a formula for each element", by_hand)
     told = statuses(table.get("statuses", []), args, place)
     plain = {**table, "args": args, "result": result, "statuses": told, "examples": (), "topic": topic}
-    routine = Routine(**{**plain, "notes": tuple(table.get("notes", ()))})
+    notes = {key: tuple(table.get(key, ())) for key in ("notes", "by_reference")}
+    place.require(exported or not notes["by_reference"], "there is no call by reference", "by_reference =")
+    routine = Routine(**{**plain, **notes})
     entries = enumerate(table.get("examples", []))
     return replace(routine, examples=tuple(example(routine, entry, place.entry("given", n)) for n, entry in entries))
 

@@ -43,6 +43,12 @@ def is_selector(value):
         for choice in value.values())
 
 
+def is_named_sum(value):
+    """What is counted by a count and some more: {interfaces = "layers + 1"}."""
+    return isinstance(value, dict) and len(value) == 1 and all(
+        is_text(text) and re.fullmatch(r"[a-z]\w* \+ [1-9]\d*", text) for text in value.values())
+
+
 def is_table(value):
     return isinstance(value, dict)
 

@@ -53,6 +53,11 @@ def _lines(text, first="/// ", rest="/// "):
     return textwrap.wrap(text, WIDTH, initial_indent=first, subsequent_indent=rest, break_on_hyphens=False)
 
 
+def _left(arg):
+    blank = "as given" if arg.dir == "inout" else "not a number"
+    return f"{blank} {arg.left_in_range}" if arg.left_in_range else ""
+
+
 def _described(arg, returned):
     """Unit, range and meaning of an argument or result."""
     where = "" if returned else domain(arg)
@@ -60,8 +65,10 @@ def _described(arg, returned):
     lead = ", ".join(filter(None, [arg.unit if arg.unit != "1" else "", named]))
     if returned and getattr(arg, "logical", False):
         return arg.meaning
-    text = meaning(arg, returned).replace("left as it was", "as given" if arg.dir == "inout" else "not a number") if (
-        hasattr(arg, "dir")) else arg.meaning + "; 1e20 for none" * arg.none
+    if hasattr(arg, "dir"):
+        text = meaning(arg, returned, _left(arg) if returned else "")
+    else:
+        text = arg.meaning + "; 1e20 for none" * arg.none
     return f"{lead}: {text}" if lead else text
 
 

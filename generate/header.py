@@ -53,19 +53,26 @@ def domain(arg):
     return _interval(*arg.range) if arg.range else "any"
 
 
-def meaning(arg, returned):
+def meaning(arg, returned, left=""):
+    """With `left`, which says when an output is left as what."""
     text = arg.meaning
     if arg.values:
         text += ": " + ", ".join(f"{number} {meaning}" for number, meaning in arg.values.values())
     if arg.shape:
         text += f" [{', '.join(str(extent) for extent in arg.shape)}]"
-    if returned and arg.unwritten:
-        text += f"; left as it was {arg.unwritten}"
+    text += f"; {left}" * bool(left)
     return text + "; 1e20 for none" * (returned and arg.none)
 
 
+def result_meaning(result):
+    """Of the value of a function."""
+    return result.meaning + "; -1 if so, else 0" * result.logical + "; 1e20 for none" * result.none
+
+
 def rows(args, returned):
-    cells = [(arg.name, C_TYPES[arg.type], arg.unit, domain(arg), meaning(arg, returned)) for arg in args]
+    left = {arg.name: f"left as it was {arg.left}" for arg in args if returned and arg.left}
+    cells = [(arg.name, C_TYPES[arg.type], arg.unit, domain(arg), meaning(arg, returned, left.get(arg.name, "")))
+             for arg in args]
     widths = [max(len(row[column]) for row in cells) for column in range(4)]
     for row in cells:
         lead = "    " + "  ".join(cell.ljust(width) for cell, width in zip(row, widths)) + "  "
@@ -98,9 +105,9 @@ def _example(routine):
 def about(routine):
     """Formula, notes and statuses."""
     lines = paragraph(f"Formula: {routine.formula}", "", "    ") if routine.formula else []
-    if routine.notes:
+    if notes := (*routine.notes, *routine.by_reference):
         lines.append("Notes:")
-        for note in routine.notes:
+        for note in notes:
             lines += paragraph(note, "    - ", "      ")
     if routine.statuses:
         lines.append("Status:")
@@ -120,8 +127,7 @@ def comment(routine):
         lines += ["Returned:", *rows(returned, returned=True)]
     if routine.result:
         value = f"{result_type(routine)}  {routine.result.unit}".rstrip()
-        meaning = routine.result.meaning + "; 1e20 for none" * routine.result.none
-        lines += ["Result:", *paragraph(meaning, f"    {value}  ", "        ")]
+        lines += ["Result:", *paragraph(result_meaning(routine.result), f"    {value}  ", "        ")]
     lines += [*about(routine), *_example(routine)]
     lines += paragraph(f"Source: {routine.source}", "", "    ")
     return "\n".join(["/*", *(f" * {line}".rstrip() for line in lines), " */"])

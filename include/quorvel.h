@@ -495,7 +495,7 @@ QUORVEL_API float PSWBLB(const float *dry_bulb, const float *moisture_content,
  * Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (u_value
  *     m12); F = 1 - inside_resistance Y
  * Notes:
- *     - A count below 1 leaves the two surfaces alone; no array is read.
+ *     - Without layers the two surfaces are left.
  *     - Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U,
  *       the time shifts are not numbers. One below 0 gives no numbers.
  *     - A layer without heat capacity acts as its resistance. One with very little is the less
@@ -514,6 +514,7 @@ QUORVEL_API float PSWBLB(const float *dry_bulb, const float *moisture_content,
  *     - The formula's M is the product of the transmission matrices of the surfaces and the layers.
  *       Its complex Y, f and F are the admittance, the decrement factor and the surface factor with
  *       their time shifts.
+ *     - A count below 1 is no layers; no array is read.
  * Source: Pipes, Matrix analysis of heat transfer problems, Journal of the Franklin Institute 263,
  *     1957; Milbank and Harrington-Lynn, Thermal response and the admittance procedure, Building
  *     Research Establishment CP 61/74, 1974; ISO 13786.
@@ -614,8 +615,9 @@ QUORVEL_API float TPRCAX(const float *tilt, const float *cavity_width, const flo
  * Notes:
  *     - A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness,
  *       whatever its resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
- *     - A count below 1 gives 0.
+ *     - Without layers it is 0.
  *     - Results are in N s/kg, resistivities in GN s/(kg m).
+ *     - A count below 1 is no layers.
  * Example: TPDAMP((0.1), (50), 1) -> vapour_resistance = 5e+09 +- 1000
  * Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
  */
@@ -656,9 +658,8 @@ QUORVEL_API void TPDAMP(const float *thickness, const float *vapour_resistivity,
  *                                                 with a count outside 0 to 20, and beyond element
  *                                                 layers + 1
  * Notes:
- *     - Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0,
- *       write nothing. Without layers there is one surface, with the temperature and the vapour
- *       pressure of its inside.
+ *     - The first and the last interface are the surfaces. Without layers there is one surface,
+ *       with the temperature and the vapour pressure of its inside.
  *     - Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
  *     - Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to
  *       saturation there. Between two surfaces without any vapour resistance the vapour pressure is
@@ -666,6 +667,8 @@ QUORVEL_API void TPDAMP(const float *thickness, const float *vapour_resistivity,
  *     - A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness,
  *       as in TPDAMP.
  *     - Saturation inside a layer, between its interfaces, is not looked for: see ITPCON.
+ *     - Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0,
+ *       write nothing.
  * Source: Glaser's method in the stepwise form of ISO 13788: the vapour line is straight over the
  *     vapour resistance between the interfaces at which it is held to saturation.
  */
@@ -704,13 +707,13 @@ QUORVEL_API int32_t ITPCON(const float *warm_temperature, const float *cold_temp
  * BELDAT (element_property): One property of one record of a construction, a list of elements from
  *     face to face.
  * Given:
- *     element_records  float    by field  any      ten fields of each record, the first its type
- *                                                  code [10, record_count]
+ *     element_records  float    by field  any      ten fields of each record, counted from 1; the
+ *                                                  first is its type code [10, record_count]
  *     record_count     int32_t            from 1   number of records
- *     record_number    int32_t            from 1   record asked about
+ *     record_number    int32_t            from 1   record asked about, counted from 1
  *     item             int32_t            1 .. 72  property asked for
  * Result:
- *     float  by item  the property, 1e20 if it does not exist; 1e20 for none
+ *     float  by item  the property; 1e20 for none
  * Notes:
  *     - The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2
  *       another layer, 3 gap (300 of given resistance, 302 filled with gas), 4 translucent layer, 5
@@ -939,9 +942,10 @@ QUORVEL_API float TPRSU2(const int32_t *surface, const float *tilt, const int32_
  *     u_value  float  W/m²K    U-value; left as it was with more than 20 layers
  * Formula: 1 / (surface_resistance_1 + surface_resistance_2 + sum of thickness / conductivity)
  * Notes:
- *     - A count below 1 leaves the two surfaces alone; no array is read.
+ *     - Without layers the two surfaces are left.
  *     - How far below 0 a thickness is makes no difference here; it does in TPDAMP and TPGRAD.
  *     - A thickness that is no number gives no number.
+ *     - A count below 1 is no layers; no array is read.
  * Example: TPUVAL((0.1, 0.1), (0.04, 1), 0.13, 0.04, 2) -> u_value = 0.361011 +- 1e-06
  * Source: Resistances in series; ISO 6946.
  */
@@ -1091,7 +1095,7 @@ QUORVEL_API void WNDFGL(const float *normal_transmittance, const float *normal_r
  * WNCOM2 (stacked_layers): Transmittance, absorptance and reflectance of a stack of layers, each
  *     reflection counted once.
  * Given:
- *     layers                int32_t     from 0    number of layers; the last is met first
+ *     layers                int32_t     from 0    number of layers
  *     layer_transmittances  float    1  0 .. 1    transmittance of each layer [layers]
  *     unused                float    1  not used  accepted for the sake of existing callers
  *     layer_reflectances    float    1  0 .. 1    reflectance of each layer [layers]
@@ -1104,7 +1108,8 @@ QUORVEL_API void WNDFGL(const float *normal_transmittance, const float *normal_r
  *       reflection.
  *     - Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until
  *       they do not. It turns negative if the transmittance alone is above 0.99.
- *     - A count below 1 is an empty stack, which transmits everything; no array is read.
+ *     - The last layer is met first. No layers are an empty stack, which transmits everything.
+ *     - A count below 1 is an empty stack; no array is read.
  * Source: First-order combination of the layers.
  */
 QUORVEL_API void WNCOM2(const int32_t *layers, const float *layer_transmittances,
@@ -1115,7 +1120,7 @@ QUORVEL_API void WNCOM2(const int32_t *layers, const float *layer_transmittances
  * WNCOMP (traced_layers): Transmittance, absorptance and reflectance of a stack of layers with the
  *     inter-reflections between all of them.
  * Given:
- *     layers                int32_t     0 .. 11  number of layers; the last is met first
+ *     layers                int32_t     0 .. 11  number of layers
  *     layer_transmittances  float    1  0 .. 1   transmittance of each layer, the same from both
  *                                                sides [layers]
  *     layer_absorptances    float    1  0 .. 1   absorptance of each layer [layers]
@@ -1131,9 +1136,10 @@ QUORVEL_API void WNCOM2(const int32_t *layers, const float *layer_transmittances
  *       What needs more than eight steps back is missing from all three results: nothing of one
  *       layer; of two, the ninth power of the product of their reflectances as a share of the
  *       transmittance; of ten and eleven layers all that the last ones reflect.
- *     - A count below 1 is an empty stack, which transmits everything; no array is read.
+ *     - The last layer is met first. No layers are an empty stack, which transmits everything.
  *     - That transmittance, absorptance and reflectance of a layer add up to 1 is left to the
  *       caller.
+ *     - A count below 1 is an empty stack; no array is read.
  * Source: Tracing of one forward and one backward flux, which tends to the adding method.
  */
 QUORVEL_API void WNCOMP(const int32_t *layers, const float *layer_transmittances,
@@ -1317,18 +1323,19 @@ QUORVEL_API float WNTNOR(const float *absorption_product, const float *normal_re
  *     absorbed_5           float    W/m²  from 0       absorbed in pane 5
  * Returned:
  *     pane_temperature_1  float  °C    temperature of pane 1, nearest the room; left as it was with
- *                                      a count outside 1 to 5
- *     pane_temperature_2  float  °C    temperature of pane 2; left as it was with a count outside 2
+ *                                      panes outside 1 to 5
+ *     pane_temperature_2  float  °C    temperature of pane 2; left as it was with panes outside 2
  *                                      to 5
- *     pane_temperature_3  float  °C    temperature of pane 3; left as it was with a count outside 3
+ *     pane_temperature_3  float  °C    temperature of pane 3; left as it was with panes outside 3
  *                                      to 5
- *     pane_temperature_4  float  °C    temperature of pane 4; left as it was with a count outside 4
+ *     pane_temperature_4  float  °C    temperature of pane 4; left as it was with panes outside 4
  *                                      to 5
- *     pane_temperature_5  float  °C    temperature of pane 5; left as it was with a count outside 4
+ *     pane_temperature_5  float  °C    temperature of pane 5; left as it was with panes outside 4
  *                                      to 5
  * Notes:
- *     - Only as many absorbed values are read as there are panes. Four panes are calculated as
- *       five: what the fifth absorbs is read (give 0 for it), and its temperature is written.
+ *     - What is given as absorbed in panes that are not there has no influence. Four panes are
+ *       calculated as five: what the fifth absorbs counts (give 0 for it), and it has a
+ *       temperature.
  * Example: WNTEMP(20, 0, 1, 100, 0, 0, 0, 0) -> pane_temperature_1 = 10.67 +- 0.1
  * Source: Heat balance of the panes with fixed resistances: 0.12 m²K/W at the room side, 0.06 m²K/W
  *     outdoors; coefficients rounded to two decimals.
@@ -1676,8 +1683,8 @@ QUORVEL_API void WNDFS3(const float *slat_spacing, const float *slat_width,
  * Given:
  *     fraction     float    1  0 .. 1   cumulative fraction of days
  *     month        int32_t     1 .. 12  month
- *     frequencies  float    1  0 .. 1   cumulative frequencies by month and band, not falling with
- *                                       the band [12, 10]
+ *     frequencies  float    1  0 .. 1   cumulative frequencies of each band in each month, not
+ *                                       falling with the band [12, 10]
  * Returned:
  *     lower_band   int32_t       lower band, 1 to 9
  *     upper_band   int32_t       upper band, 2 to 10
@@ -1769,7 +1776,7 @@ QUORVEL_API void CLBAN2(const int32_t *base_row, const int32_t *lower_band,
 QUORVEL_API void CLBAN3(const int32_t *row, float *values);
 
 /*
- * CLDAY (store_design_day): Design day of a month as a day of the year, into the caller's variable.
+ * CLDAY (store_design_day): Design day of a month as a day of the year, as ICLDAY gives it.
  * Given:
  *     month  int32_t    1 .. 12  month
  * Returned:
@@ -1784,7 +1791,7 @@ QUORVEL_API void CLDAY(const int32_t *month, int32_t *day);
 
 /*
  * CLDAYEX (store_design_day_by_option): Design day of a month as a day of the year or of the month,
- *     into the caller's variable.
+ *     as ICLDAYEX gives it.
  * Given:
  *     month     int32_t    1 .. 12   month
  *     day_kind  int32_t    selector  how the day is counted: 1 day of the month, 2 day of the year
@@ -2709,16 +2716,17 @@ QUORVEL_API void GEHOLE(const float *x_1, const float *y_1, const int32_t *verti
  *     y       float    m  any     y of the vertices [points]
  *     points  int32_t     from 1  number of points
  * Result:
- *     int32_t  1 on one line; otherwise the number, from 2, of the first point whose y differs from
- *         that of point 1
+ *     int32_t  1 on one line; otherwise the number, counted from 1, of the first point whose y
+ *         differs from that of the first of all
  * Notes:
  *     - The points are held against the line through the first two that differ by 1e-5 or more in
  *       both coordinates. A point is off it when the ratios of its offsets to theirs, in x and in
  *       y, differ by more than 1e-5: what is tolerated grows with the distance between the two.
- *     - Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are
- *       fewer than one. Not a number counts as equal to anything.
+ *     - Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a
+ *       number counts as equal to anything.
  *     - Coordinates near one another within 1e-5 can leave no two points to draw the line through;
  *       then the points are not on one line, and finding that out takes n²/2 comparisons.
+ *     - Fewer than one point are on one line.
  * Example: IGELIN((0, 1, 2), (0, 1, 2), 3) -> 1
  * Source: Intercept theorem.
  */
@@ -2734,12 +2742,12 @@ QUORVEL_API int32_t IGELIN(const float *x, const float *y, const int32_t *points
  *     point_x   float    m  any       x of the points [points]
  *     point_y   float    m  any       y of the points [points]
  *     points    int32_t     from 1    number of points
- *     enclosed  int32_t     selector  1 for points that are enclosed; left as given for others: 0
- *                                     not enclosed, 1 enclosed [points]
+ *     enclosed  int32_t     selector  1 for points that are enclosed: 0 not enclosed, 1 enclosed
+ *                                     [points]
  * Returned:
- *     enclosed         int32_t    selector  1 for points that are enclosed; left as given for
- *                                           others: 0 not enclosed, 1 enclosed [points]; left as it
- *                                           was for points that are not enclosed
+ *     enclosed         int32_t    selector  1 for points that are enclosed: 0 not enclosed, 1
+ *                                           enclosed [points]; left as it was for points that are
+ *                                           not enclosed
  *     enclosed_points  int32_t              number of enclosed points
  * Notes:
  *     - A point is enclosed when it is left of no edge, as IGEPNT sees it, or is at a vertex (to
@@ -2762,13 +2770,14 @@ QUORVEL_API void GECLOS(const float *x, const float *y, const int32_t *vertices,
  *     vertices       int32_t     from 3  number of vertices
  * Returned:
  *     crossing_point  float    m    crossing point, or what the notes say [2]; 1e20 for none
- *     crossing_code   int32_t       number of the vertex that ends the crossed edge, or what the
- *                                   notes say
+ *     crossing_code   int32_t       number, counted from 1, of the vertex that ends the crossed
+ *                                   edge, or what the notes say
  * Notes:
- *     - The edges are tried in turn, from vertex 1 to 2 on, as GECROS does; the first one that is
- *       crossed away from the start ends the search. A crossing beyond 100000 is none.
- *     - No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the
- *       point is the last outcome of the search, the start or 1e20.
+ *     - The edges are tried in turn, from that between the first two vertices on, as GECROS does;
+ *       the first one that is crossed away from the start ends the search. A crossing beyond 100000
+ *       is none.
+ *     - No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a
+ *       minus, and the point is the last outcome of the search, the start or 1e20.
  *     - Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the
  *       last of them, and the point that vertex. (The sum is taken modulo 2^32. Of a polygon with
  *       1000 vertices or more, small codes of this kind cannot be told from edges by the code
@@ -2796,7 +2805,8 @@ QUORVEL_API void GESIDE(const float *segment_start, const float *segment_end, co
  *       line with an edge.
  *     - That the point is in the plane is not tested: over the middle of a square it is inside up
  *       to half the length of a side.
- *     - Fewer than one edge, and not a number, give 0.
+ *     - Not a number gives 0.
+ *     - Fewer than one edge give 0.
  * Example: GEINSI((0.5, 0.5, 0), (0, 0, 0, 0, 1, 0, 1, 1, 0, 1, 0, 0, 0, 0, 0), 5) -> inside = 1
  * Source: Sum of the angles under which the point sees the edges.
  */
@@ -2809,7 +2819,7 @@ QUORVEL_API void GEINSI(const float *point, const float *polygon, const int32_t 
  *     triangle_1  double  m  any  corners of one triangle [3, 3]
  *     triangle_2  double  m  any  corners of the other [3, 3]
  * Result:
- *     int32_t  -1 if so, else 0
+ *     int32_t  whether they are parallel; -1 if so, else 0
  * Notes:
  *     - So they are when the cross product of their normals, each as long as twice the triangle's
  *       area, is shorter than 0.001: small triangles are parallel to any.
@@ -2824,14 +2834,15 @@ QUORVEL_API int32_t GEPLEL(const double *triangle_1, const double *triangle_2);
  *     triangle_1  double  m  any  corners of one triangle [3, 3]
  *     triangle_2  double  m  any  corners of the other [3, 3]
  * Returned:
- *     side_1  int32_t      side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none
- *     side_2  int32_t      side of triangle 2, likewise
+ *     side_1  int32_t      side of one triangle: 1 between its first two corners, 2 between its
+ *                          last two; 3 none
+ *     side_2  int32_t      side of the other, likewise
  * Result:
- *     int32_t  -1 if so, else 0
+ *     int32_t  whether there are any; -1 if so, else 0
  * Notes:
  *     - Sides are parallel when their cross product is shorter than 0.001, so that short sides are
  *       parallel to any.
- *     - The sides from corner 3 to 1 are not tested.
+ *     - The sides between last and first corner are not tested.
  * Source: Definition.
  */
 QUORVEL_API int32_t GEPSID(const double *triangle_1, const double *triangle_2, int32_t *side_1,
@@ -2842,10 +2853,10 @@ QUORVEL_API int32_t GEPSID(const double *triangle_1, const double *triangle_2, i
  * Given:
  *     quadrilateral  double  m  any  corners in turn [3, 4]
  * Result:
- *     int32_t  -1 if so, else 0
+ *     int32_t  whether it is rectangular; -1 if so, else 0
  * Notes:
- *     - So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in
- *       magnitude.
+ *     - So it is when at all corners but the first the dot product of the two sides is at most 1e-6
+ *       in magnitude.
  * Example: GERECT((0, 0, 0, 2, 0, 0, 2, 1, 0, 0, 1, 0)) -> -1
  * Source: Definition.
  */
@@ -2880,10 +2891,10 @@ QUORVEL_API void GETILT(const double *triangle, double *azimuth, double *tilt);
  *     local_1  double  m    the first in local coordinates [3, 4]
  *     local_2  double  m    the second in local coordinates [3, 4]
  * Notes:
- *     - The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross
- *       product of the ways from corner 1 to corners 2 and 3.
+ *     - The origin is the first corner of the first; from there x points to the second corner, y to
+ *       the fourth, z along the cross product of the ways to the second and the third.
  *     - Coordinates are dot products with the axes, so that lengths are kept only where that has a
- *       right angle at corner 1.
+ *       right angle at its first corner.
  *     - Coincident corners give what is not a number.
  * Source: Definition.
  */
@@ -2891,7 +2902,7 @@ QUORVEL_API void GELCAL(const double *quadrilateral_1, const double *quadrilater
                         double *local_1, double *local_2);
 
 /*
- * GETRNS (to_local): Replaces each of four points by its components along three axes.
+ * GETRNS (to_local): Components of each of four points along three axes.
  * Given:
  *     corners  double  m  any  points [3, 4]
  *     x_axis   double  1  any  x axis [3]
@@ -2984,7 +2995,7 @@ QUORVEL_API float GEINLN2(const float *first_end, const float *second_end, const
  *     x_2  float  m  any  x of the other
  *     y_2  float  m  any  y of the other
  * Result:
- *     int32_t  -1 if both coordinates differ by less than 1e-5, else 0
+ *     int32_t  whether both coordinates differ by less than 1e-5; -1 if so, else 0
  * Example: GECOIN(1, 2, 1.000001, 2) -> -1
  * Source: Definition.
  */
@@ -3094,10 +3105,10 @@ QUORVEL_API void GERAX2(const float *global_vector, const float *rotation_matrix
  *     vertices  int32_t     from 3  number of vertices
  * Result:
  *     float  m²  area
- * Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+ * Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
  * Notes:
- *     - Fewer than one vertex give 0.
  *     - A polygon far from the origin beside its size loses digits.
+ *     - Fewer than one vertex give 0.
  * Example: GEAPOL((0, 0, 1, 1), (0, 1, 1, 0), 4) -> 1
  * Source: Shoelace formula.
  */
@@ -3111,7 +3122,7 @@ QUORVEL_API float GEAPOL(const float *x, const float *y, const int32_t *vertices
  *     vertices  int32_t     from 3  number of vertices
  * Result:
  *     float  m²  area, negative for anticlockwise vertices
- * Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+ * Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
  * Notes:
  *     - As GEAPOL.
  * Example: GEAPO2((0, 0, 1, 1), (0, 1, 1, 0), 4) -> 1
@@ -3145,24 +3156,25 @@ QUORVEL_API float GEAPO3(const float *x, const float *y, const float *z, const i
  *     vertices  int32_t     from 3  number of vertices
  *     polygon   float    m  any     vertices [3, vertices]
  * Returned:
- *     area          float  m²    area, positive when the vertices run as the corner at vertex 1
- *                                turns
+ *     area          float  m²    area, positive when the vertices run as the corner at the first
+ *                                one turns
  *     tilt          float  °     angle between the normal and the vertical; left as it was with
  *                                fewer than one vertex
  *     back_azimuth  float  °     azimuth opposite to the normal; left as it was with fewer than one
  *                                vertex
  * Notes:
- *     - The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its
- *       opposite is the outward normal of a convex polygon that runs clockwise seen from outside.
- *     - Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin
- *       within a straight side, and for 7 of these rounding alone decides the normal, so that area,
- *       tilt and orientation are wrong: let vertex 1 be a true corner.
+ *     - The normal points to where the corner at the first vertex is seen to turn anticlockwise:
+ *       its opposite is the outward normal of a convex polygon that runs clockwise seen from
+ *       outside.
+ *     - Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings
+ *       141 begin within a straight side, and for 7 of these rounding alone decides the normal, so
+ *       that area, tilt and orientation are wrong: let the first vertex be a true corner.
  *     - The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the
- *       azimuth opposite to its first side, from vertex 1 to 2, if the normal points up, and that
- *       of the side if it points down.
+ *       azimuth opposite to its first side if the normal points up, and that of the side if it
+ *       points down.
  *     - Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and
  *       what faces north may get 0.00003.
- *     - Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
+ *     - With fewer than three vertices the area is 0.
  * Source: Shoelace formula in the plane of the polygon.
  */
 QUORVEL_API void GEASO(const int32_t *vertices, const float *polygon, float *area, float *tilt,

@@ -1226,13 +1226,13 @@ QUORVEL_ARRAYS_API int32_t quorvel_condenses_within_layer(
  * quorvel_element_property (BELDAT): One property of one record of a construction, a list of
  *     elements from face to face.
  * Given:
- *     element_records  float    by field  any      ten fields of each record, the first its type
- *                                                  code [10, record_count]
+ *     element_records  float    by field  any      ten fields of each record, counted from 1; the
+ *                                                  first is its type code [10, record_count]
  *     record_count     int32_t            from 1   number of records
- *     record_number    int32_t            from 1   record asked about
+ *     record_number    int32_t            from 1   record asked about, counted from 1
  *     item             int32_t            1 .. 72  property asked for
  * Result:
- *     by item  the property, 1e20 if it does not exist
+ *     by item  the property; 1e20 for none
  */
 QUORVEL_ARRAYS_API int32_t quorvel_element_property(
     size_t count,
@@ -1569,7 +1569,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_glass_diffuse(
  * quorvel_stacked_layers (WNCOM2): Transmittance, absorptance and reflectance of a stack of layers,
  *     each reflection counted once.
  * Given:
- *     layers                int32_t     from 0  number of layers; the last is met first
+ *     layers                int32_t     from 0  number of layers
  *     layer_transmittances  float    1  0 .. 1  transmittance of each layer [layers]
  *     layer_reflectances    float    1  0 .. 1  reflectance of each layer [layers]
  * Returned:
@@ -1590,7 +1590,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_stacked_layers(
  * quorvel_traced_layers (WNCOMP): Transmittance, absorptance and reflectance of a stack of layers
  *     with the inter-reflections between all of them.
  * Given:
- *     layers                int32_t     0 .. 11  number of layers; the last is met first
+ *     layers                int32_t     0 .. 11  number of layers
  *     layer_transmittances  float    1  0 .. 1   transmittance of each layer, the same from both
  *                                                sides [layers]
  *     layer_absorptances    float    1  0 .. 1   absorptance of each layer [layers]
@@ -1764,14 +1764,14 @@ QUORVEL_ARRAYS_API int32_t quorvel_normal_transmittance(
  *     absorbed_5           float    W/m²  from 0       absorbed in pane 5
  * Returned:
  *     pane_temperature_1  float  °C    temperature of pane 1, nearest the room; left as it was with
- *                                      a count outside 1 to 5
- *     pane_temperature_2  float  °C    temperature of pane 2; left as it was with a count outside 2
+ *                                      panes outside 1 to 5
+ *     pane_temperature_2  float  °C    temperature of pane 2; left as it was with panes outside 2
  *                                      to 5
- *     pane_temperature_3  float  °C    temperature of pane 3; left as it was with a count outside 3
+ *     pane_temperature_3  float  °C    temperature of pane 3; left as it was with panes outside 3
  *                                      to 5
- *     pane_temperature_4  float  °C    temperature of pane 4; left as it was with a count outside 4
+ *     pane_temperature_4  float  °C    temperature of pane 4; left as it was with panes outside 4
  *                                      to 5
- *     pane_temperature_5  float  °C    temperature of pane 5; left as it was with a count outside 4
+ *     pane_temperature_5  float  °C    temperature of pane 5; left as it was with panes outside 4
  *                                      to 5
  */
 QUORVEL_ARRAYS_API int32_t quorvel_pane_temperatures(
@@ -2111,8 +2111,8 @@ QUORVEL_ARRAYS_API int32_t quorvel_open_slat_diffuse(
  * Given:
  *     fraction     float    1  0 .. 1   cumulative fraction of days
  *     month        int32_t     1 .. 12  month
- *     frequencies  float    1  0 .. 1   cumulative frequencies by month and band, not falling with
- *                                       the band [12, 10]
+ *     frequencies  float    1  0 .. 1   cumulative frequencies of each band in each month, not
+ *                                       falling with the band [12, 10]
  * Returned:
  *     lower_band   int32_t       lower band, 1 to 9
  *     upper_band   int32_t       upper band, 2 to 10
@@ -2203,8 +2203,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_band_row(
     float *values, ptrdiff_t values_stride);
 
 /*
- * quorvel_store_design_day (CLDAY): Design day of a month as a day of the year, into the caller's
- *     variable.
+ * quorvel_store_design_day (CLDAY): Design day of a month as a day of the year, as ICLDAY gives it.
  * Given:
  *     month  int32_t    1 .. 12  month
  * Returned:
@@ -2217,7 +2216,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_store_design_day(
 
 /*
  * quorvel_store_design_day_by_option (CLDAYEX): Design day of a month as a day of the year or of
- *     the month, into the caller's variable.
+ *     the month, as ICLDAYEX gives it.
  * Given:
  *     month     int32_t    1 .. 12   month
  *     day_kind  int32_t    selector  how the day is counted: 1 day of the month, 2 day of the year
@@ -2886,8 +2885,8 @@ QUORVEL_ARRAYS_API int32_t quorvel_overlap_alias(
  *     y       float    m  any     y of the vertices [points]
  *     points  int32_t     from 1  number of points
  * Result:
- *   1 on one line; otherwise the number, from 2, of the first point whose y differs from that of
- *         point 1
+ *   1 on one line; otherwise the number, counted from 1, of the first point whose y differs from
+ *         that of the first of all
  */
 QUORVEL_ARRAYS_API int32_t quorvel_collinearity(
     size_t count,
@@ -2906,12 +2905,12 @@ QUORVEL_ARRAYS_API int32_t quorvel_collinearity(
  *     point_x   float    m  any       x of the points [points]
  *     point_y   float    m  any       y of the points [points]
  *     points    int32_t     from 1    number of points
- *     enclosed  int32_t     selector  1 for points that are enclosed; left as given for others: 0
- *                                     not enclosed, 1 enclosed [points]
+ *     enclosed  int32_t     selector  1 for points that are enclosed: 0 not enclosed, 1 enclosed
+ *                                     [points]
  * Returned:
- *     enclosed         int32_t    selector  1 for points that are enclosed; left as given for
- *                                           others: 0 not enclosed, 1 enclosed [points]; left as it
- *                                           was for points that are not enclosed
+ *     enclosed         int32_t    selector  1 for points that are enclosed: 0 not enclosed, 1
+ *                                           enclosed [points]; left as it was for points that are
+ *                                           not enclosed
  *     enclosed_points  int32_t              number of enclosed points
  */
 QUORVEL_ARRAYS_API int32_t quorvel_count_enclosed(
@@ -2936,8 +2935,8 @@ QUORVEL_ARRAYS_API int32_t quorvel_count_enclosed(
  *     vertices       int32_t     from 3  number of vertices
  * Returned:
  *     crossing_point  float    m    crossing point, or what the notes say [2]; 1e20 for none
- *     crossing_code   int32_t       number of the vertex that ends the crossed edge, or what the
- *                                   notes say
+ *     crossing_code   int32_t       number, counted from 1, of the vertex that ends the crossed
+ *                                   edge, or what the notes say
  */
 QUORVEL_ARRAYS_API int32_t quorvel_boundary_crossing(
     size_t count,
@@ -2972,7 +2971,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_inside(
  *     triangle_1  double  m  any  corners of one triangle [3, 3]
  *     triangle_2  double  m  any  corners of the other [3, 3]
  * Result:
- *   -1 if so, else 0
+ *   whether they are parallel; -1 if so, else 0
  */
 QUORVEL_ARRAYS_API int32_t quorvel_parallel_planes(
     size_t count,
@@ -2986,10 +2985,11 @@ QUORVEL_ARRAYS_API int32_t quorvel_parallel_planes(
  *     triangle_1  double  m  any  corners of one triangle [3, 3]
  *     triangle_2  double  m  any  corners of the other [3, 3]
  * Result:
- *   -1 if so, else 0
+ *   whether there are any; -1 if so, else 0
  * Returned:
- *     side_1  int32_t      side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none
- *     side_2  int32_t      side of triangle 2, likewise
+ *     side_1  int32_t      side of one triangle: 1 between its first two corners, 2 between its
+ *                          last two; 3 none
+ *     side_2  int32_t      side of the other, likewise
  */
 QUORVEL_ARRAYS_API int32_t quorvel_parallel_sides(
     size_t count,
@@ -3004,7 +3004,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_parallel_sides(
  * Given:
  *     quadrilateral  double  m  any  corners in turn [3, 4]
  * Result:
- *   -1 if so, else 0
+ *   whether it is rectangular; -1 if so, else 0
  */
 QUORVEL_ARRAYS_API int32_t quorvel_rectangular(
     size_t count,
@@ -3046,7 +3046,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_local_coordinates(
     double *local_2, ptrdiff_t local_2_stride);
 
 /*
- * quorvel_to_local (GETRNS): Replaces each of four points by its components along three axes.
+ * quorvel_to_local (GETRNS): Components of each of four points along three axes.
  * Given:
  *     corners  double  m  any  points [3, 4]
  *     x_axis   double  1  any  x axis [3]
@@ -3140,7 +3140,7 @@ QUORVEL_ARRAYS_API int32_t quorvel_ahead_and_nearer(
  *     x_2  float  m  any  x of the other
  *     y_2  float  m  any  y of the other
  * Result:
- *   -1 if both coordinates differ by less than 1e-5, else 0
+ *   whether both coordinates differ by less than 1e-5; -1 if so, else 0
  */
 QUORVEL_ARRAYS_API int32_t quorvel_coincide(
     size_t count,
@@ -3297,8 +3297,8 @@ QUORVEL_ARRAYS_API int32_t quorvel_area_in_space(
  *     vertices  int32_t     from 3  number of vertices
  *     polygon   float    m  any     vertices [3, vertices]
  * Returned:
- *     area          float  m²    area, positive when the vertices run as the corner at vertex 1
- *                                turns
+ *     area          float  m²    area, positive when the vertices run as the corner at the first
+ *                                one turns
  *     tilt          float  °     angle between the normal and the vertical; left as it was with
  *                                fewer than one vertex
  *     back_azimuth  float  °     azimuth opposite to the normal; left as it was with fewer than one

@@ -1,30 +1,39 @@
 #!/usr/bin/env bash
-# packaging/try.sh NAME OUT: installs package NAME of ./dev package, which lies in folder OUT, as its users would, in a
-# Debian system with nothing in it, and uses it: packaging/trials/NAME runs there, in a folder with the packages. Needs
-# debootstrap and root. Sources and settings of apt, and certificates, are those of this machine.
+# packaging/try.sh NAME OUT SUITE: installs package NAME of ./dev package, which lies in folder OUT, as its users would,
+# in a Debian system of that suite with nothing in it, and uses it: packaging/trials/NAME runs there, in a folder with
+# the packages. Needs debootstrap and root. Debian's mirrors, settings of apt, and certificates are those of this
+# machine.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-name=$1 out=$2
-empty=$PWD/build/userland/empty
-system=$PWD/build/userland/$name
+name=$1 out=$2 suite=$3
+empty=$PWD/build/userland/$suite
+system=$PWD/build/userland/$name-$suite
 
 # What is mounted and started there is of these processes alone, and goes with them.
 if [[ ! ${QUORVEL_APART-} ]]; then
     QUORVEL_APART=1 unshare --mount --pid --fork "$0" "$@"
     rm -rf --one-file-system "$system"
-    echo "package $name: installed and used in an empty system"
+    echo "package $name: installed and used in an empty system, $suite"
     exit
 fi
 
+# mirrors: Debian's of this machine, as apt's sources of that suite
+mirrors() {
+    local own
+    own=$(. /etc/os-release && echo "$VERSION_CODENAME")
+    apt-get indextargets --format 'deb $(REPO_URI) $(CODENAME) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
+        sed "s/ $own/ $suite/"
+}
+
 settle() {
     local mirror
-    mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Codename: bookworm' | head -1)
+    mirror=$(mirrors | awk -v suite="$suite" '$3 == suite { print $2; exit }')
     rm -rf --one-file-system "$empty"
     mkdir -p "$empty"
-    debootstrap --variant=minbase --include=ca-certificates bookworm "$empty" "$mirror" >/dev/null
-    rm "$empty/etc/apt/sources.list"
-    cp -r /etc/apt/sources.list* /etc/apt/apt.conf.d "$empty/etc/apt/"
+    debootstrap --variant=minbase --include=ca-certificates "$suite" "$empty" "$mirror" >/dev/null
+    mirrors >"$empty/etc/apt/sources.list"
+    cp -r /etc/apt/apt.conf.d "$empty/etc/apt/"
     cp -r /usr/local/share/ca-certificates "$empty/usr/local/share/"
     chroot "$empty" update-ca-certificates >/dev/null 2>&1
     touch "$empty/settled"

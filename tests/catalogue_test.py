@@ -11,10 +11,12 @@ ROOT = Path(__file__).parents[1]
 sys.path.insert(0, str(ROOT / "generate"))
 import catalogue  # noqa: E402
 
-QUANTITIES, TOPIC, CLIPPING = "quantities.toml", "psychro/saturation.toml", "geometry/clipping.toml"
+QUANTITIES, TOPIC = "quantities.toml", "psychro/saturation.toml"
+CLIPPING, PROFILE = "geometry/clipping.toml", "fabric/condensation.toml"
 
 GLOSS = "[gloss]\nunit = '1'\nmeaning = 'gloss'\n"
 DONE = "statuses = [{ status = 0, name = 'done', meaning = 'success' }]\n"
+ROOM = 'name = "interface_temperature", dir = "out", shape = [21], filled = { interfaces = "layers + 1" }'
 CHOICE, PRESSURE = '{ is = "psychrometer" }', '{ is = "pressure" }'
 
 # File, a text that stands there once, what stands in its place, and the complaint about that line.
@@ -32,6 +34,9 @@ FAULTS = [
     (TOPIC, CHOICE, '{ is = "psychrometer", name = "unit" }', "unit is a reserved word of Pascal"),
     (TOPIC, CHOICE, '{ is = "psychrometer", name = "pressure" }', "pressure stands twice"),
     (TOPIC, CHOICE, '{ is = "psychrometer", shape = ["count"] }', "extent count is no Integer that is given"),
+    (TOPIC, 'export = "PSVAP"', 'by_reference = ["A count below 1 is none."]', "there is no call by reference"),
+    (PROFILE, ROOM, ROOM.replace("21", "22"), "an output with room for the most interfaces is needed"),
+    (PROFILE, ROOM, ROOM.replace("layers", "panes"), "panes is no count with a highest value"),
     (TOPIC, CHOICE, '{ is = "psychrometer", draw = [0.5, 2] }', "an Integer is drawn from whole ends"),
     (TOPIC, PRESSURE, '{ is = "pressure", range = [1, inf] }', "an input without upper or lower limit needs a draw"),
     (TOPIC, 'psychrometer = "sling" }', 'psychrometer = "hair" }', "hair is no value of the selector"),

@@ -2763,17 +2763,16 @@ End Function
 '   outsideResistance: resistance of the far surface [m2K/W]; valid from 0
 '   harmonic: cycles in 24 hours; valid from 0
 '   elementKind: kind of element: 1 element between two environments, 2 internal partition, the same swing on both sides
-'   -> admittance: admittance Y [W/m2K]; #N/A with more than 20 layers
-'   -> admittanceLead: time lead of the admittance, 0 to 24 / harmonic [h]; #N/A with more than 20 layers
-'   -> decrementFactor: decrement factor f, 0 for a partition; #N/A with more than 20 layers
-'   -> decrementLag: time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]; #N/A with more than 20
-'     layers
-'   -> surfaceFactor: surface factor F; #N/A with more than 20 layers
-'   -> surfaceFactorLag: time lag of the surface factor, 0 to 24 / harmonic [h]; #N/A with more than 20 layers
-'   -> uValue: U-value, as FabricUValue gives it [W/m2K]; #N/A with more than 20 layers
+'   -> admittance: admittance Y [W/m2K]
+'   -> admittanceLead: time lead of the admittance, 0 to 24 / harmonic [h]
+'   -> decrementFactor: decrement factor f, 0 for a partition
+'   -> decrementLag: time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]
+'   -> surfaceFactor: surface factor F
+'   -> surfaceFactorLag: time lag of the surface factor, 0 to 24 / harmonic [h]
+'   -> uValue: U-value, as FabricUValue gives it [W/m2K]
 '   Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (u_value m12); F = 1 -
 '   inside_resistance Y
-'   A count below 1 leaves the two surfaces alone; no array is read.
+'   Without layers the two surfaces are left.
 '   Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U, the time shifts are not
 '   numbers. One below 0 gives no numbers.
 '   A layer without heat capacity acts as its resistance. One with very little is the less accurate the smaller x is,
@@ -2988,11 +2987,11 @@ End Function
 '   thickness: thickness of each layer; below 0: a layer of given thermal resistance, 0: a membrane [m]
 '   vapourResistivity: vapour resistivity of each layer; of a membrane its vapour resistance in GN s/kg [GN s/(kg m)];
 '     valid from 0
-'   -> total vapour resistance [N s/kg]; #N/A with more than 20 layers
+'   -> total vapour resistance [N s/kg]
 '   Formula: sum of 1e9 thickness vapour_resistivity
 '   A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, whatever its
 '   resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
-'   A count below 1 gives 0.
+'   Without layers it is 0.
 '   Results are in N s/kg, resistivities in GN s/(kg m).
 '   Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
 Public Function FabricTotalVapourResistance(ByVal thickness As Variant, ByVal vapourResistivity As Variant) As Variant
@@ -3026,14 +3025,12 @@ End Function
 '   outsideTemperature: outside air temperature [degC]; valid -100 to 200
 '   insideHumidity: inside relative humidity [%]; valid 0 to 100
 '   outsideHumidity: outside relative humidity [%]; valid 0 to 100
-'   -> interfaceTemperature: temperature at the interfaces, from the inside surface to the outside one [degC]; #N/A with
-'     a count outside 0 to 20, and beyond element layers + 1
-'   -> interfaceVapourPressure: vapour pressure at them [Pa]; #N/A with a count outside 0 to 20, and beyond element
-'     layers + 1
-'   -> interfaceSaturationPressure: saturation pressure at them [Pa]; #N/A with a count outside 0 to 20, and beyond
-'     element layers + 1
-'   Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0, write nothing. Without
-'   layers there is one surface, with the temperature and the vapour pressure of its inside.
+'   -> interfaceTemperature: temperature at the interfaces, from the inside surface to the outside one [degC]; #N/A
+'     beyond element layers + 1
+'   -> interfaceVapourPressure: vapour pressure at them [Pa]; #N/A beyond element layers + 1
+'   -> interfaceSaturationPressure: saturation pressure at them [Pa]; #N/A beyond element layers + 1
+'   The first and the last interface are the surfaces. Without layers there is one surface, with the temperature and the
+'   vapour pressure of its inside.
 '   Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
 '   Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to saturation there. Between
 '   two surfaces without any vapour resistance the vapour pressure is no number.
@@ -3137,10 +3134,10 @@ Public Function FabricCondensesWithinLayer(ByVal warmTemperature As Variant, ByV
 End Function
 
 ' One property of one record of a construction, a list of elements from face to face.
-'   elementRecords: ten fields of each record, the first its type code [by field]
-'   recordNumber: record asked about; valid from 1
+'   elementRecords: ten fields of each record, counted from 1; the first is its type code [by field]
+'   recordNumber: record asked about, counted from 1; valid from 1
 '   item: property asked for; valid 1 to 72
-'   -> the property, 1e20 if it does not exist [by item]; 1e20 where there is none
+'   -> the property [by item]; 1e20 where there is none
 '   The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2 another layer, 3 gap (300
 '   of given resistance, 302 filled with gas), 4 translucent layer, 5 boundary, 6 end marker; other classes have no
 '   meaning. It is rounded after the limits are tested: 149.6 is class 1, subtype 50; 49.6 and what is no number are no
@@ -3517,9 +3514,9 @@ End Function
 '     0
 '   surfaceResistance1: resistance of one surface [m2K/W]; valid from 0
 '   surfaceResistance2: resistance of the other [m2K/W]; valid from 0
-'   -> U-value [W/m2K]; #N/A with more than 20 layers
+'   -> U-value [W/m2K]
 '   Formula: 1 / (surface_resistance_1 + surface_resistance_2 + sum of thickness / conductivity)
-'   A count below 1 leaves the two surfaces alone; no array is read.
+'   Without layers the two surfaces are left.
 '   How far below 0 a thickness is makes no difference here; it does in FabricTotalVapourResistance and
 '   FabricCondensationProfile.
 '   A thickness that is no number gives no number.
@@ -3820,7 +3817,7 @@ End Function
 '   A layer's reflection passes the layers above it once each way; there is no further inter-reflection.
 '   Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until they do not. It turns
 '   negative if the transmittance alone is above 0.99.
-'   A count below 1 is an empty stack, which transmits everything; no array is read.
+'   The last layer is met first. No layers are an empty stack, which transmits everything.
 '   Source: First-order combination of the layers.
 Public Function GlazingStackedLayers(ByVal layerTransmittances As Variant, _
     ByVal layerReflectances As Variant) As Variant
@@ -3850,13 +3847,13 @@ End Function
 '   layerTransmittances: transmittance of each layer, the same from both sides; valid 0 to 1
 '   layerAbsorptances: absorptance of each layer; valid 0 to 1
 '   layerReflectances: reflectance of each layer, the same from both sides; valid 0 to 1
-'   -> transmittance: transmittance of the stack; #N/A with more than 11 layers
-'   -> absorptance: absorptance of the stack; #N/A with more than 11 layers
-'   -> reflectance: reflectance of the stack; #N/A with more than 11 layers
+'   -> transmittance: transmittance of the stack
+'   -> absorptance: absorptance of the stack
+'   -> reflectance: reflectance of the stack
 '   In a pass the flux goes forward through all layers and back by one; nine passes are made. What needs more than eight
 '   steps back is missing from all three results: nothing of one layer; of two, the ninth power of the product of their
 '   reflectances as a share of the transmittance; of ten and eleven layers all that the last ones reflect.
-'   A count below 1 is an empty stack, which transmits everything; no array is read.
+'   The last layer is met first. No layers are an empty stack, which transmits everything.
 '   That transmittance, absorptance and reflectance of a layer add up to 1 is left to the caller.
 '   Source: Tracing of one forward and one backward flux, which tends to the adding method.
 Public Function GlazingTracedLayers(ByVal layerTransmittances As Variant, ByVal layerAbsorptances As Variant, _
@@ -4020,7 +4017,6 @@ End Function
 '   Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at normal incidence, ((1
 '   - n) / (1 + n))^2 with the refractive index n. GlazingRefractionAngle tests the sine of the angle instead; the two
 '   limits differ deliberately.
-'   The perpendicular one is written first.
 '   Source: Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter 5.
 Public Function GlazingSurfaceReflectance(ByVal incidence As Variant, ByVal refractionAngle As Variant, _
     ByVal refractiveIndex As Variant) As Variant
@@ -4227,13 +4223,13 @@ End Function
 '   absorbed3: absorbed in pane 3 [W/m2]; valid from 0
 '   absorbed4: absorbed in pane 4 [W/m2]; valid from 0
 '   absorbed5: absorbed in pane 5 [W/m2]; valid from 0
-'   -> paneTemperature1: temperature of pane 1, nearest the room [degC]; #N/A with a count outside 1 to 5
-'   -> paneTemperature2: temperature of pane 2 [degC]; #N/A with a count outside 2 to 5
-'   -> paneTemperature3: temperature of pane 3 [degC]; #N/A with a count outside 3 to 5
-'   -> paneTemperature4: temperature of pane 4 [degC]; #N/A with a count outside 4 to 5
-'   -> paneTemperature5: temperature of pane 5 [degC]; #N/A with a count outside 4 to 5
-'   Only as many absorbed values are read as there are panes. Four panes are calculated as five: what the fifth absorbs
-'   is read (give 0 for it), and its temperature is written.
+'   -> paneTemperature1: temperature of pane 1, nearest the room [degC]; #N/A with panes outside 1 to 5
+'   -> paneTemperature2: temperature of pane 2 [degC]; #N/A with panes outside 2 to 5
+'   -> paneTemperature3: temperature of pane 3 [degC]; #N/A with panes outside 3 to 5
+'   -> paneTemperature4: temperature of pane 4 [degC]; #N/A with panes outside 4 to 5
+'   -> paneTemperature5: temperature of pane 5 [degC]; #N/A with panes outside 4 to 5
+'   What is given as absorbed in panes that are not there has no influence. Four panes are calculated as five: what the
+'   fifth absorbs counts (give 0 for it), and it has a temperature.
 '   Source: Heat balance of the panes with fixed resistances: 0.12 m2K/W at the room side, 0.06 m2K/W outdoors;
 '   coefficients rounded to two decimals.
 Public Function GlazingPaneTemperatures(ByVal insideTemperature As Variant, ByVal outsideTemperature As Variant, _
@@ -4407,10 +4403,9 @@ End Function
 '   incidence: angle of incidence [rad]; valid -1.5708 to 1.5708
 '   panes: number of panes; valid 1 to 5
 '   -> transmittance: transmittance
-'   -> paneShares: share of each pane in 1 - transmittance - absorptance; #N/A with a count outside 1 to 5
+'   -> paneShares: share of each pane in 1 - transmittance - absorptance
 '   -> absorptance: absorptance
 '   What is split is the remainder, not the absorptance.
-'   Transmittance and absorptance are returned whatever the number of panes.
 '   Source: GlazingUnitDirect; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not
 '   recorded.
 Public Function GlazingUnitDirectShares(ByVal shortwaveShadingCoefficient As Variant, _
@@ -4447,7 +4442,7 @@ End Function
 '   longwaveShadingCoefficient: long-wave shading coefficient, 0 if missing; valid 0 to 1
 '   panes: number of panes; valid 1 to 5
 '   -> transmittance: diffuse transmittance
-'   -> paneShares: share of each pane in 1 - transmittance - absorptance; #N/A with a count outside 1 to 5
+'   -> paneShares: share of each pane in 1 - transmittance - absorptance
 '   -> absorptance: diffuse absorptance
 '   The remainder is split as in GlazingUnitDirectShares.
 '   Source: GlazingUnitDiffuse, with the shares of GlazingUnitDirectShares.
@@ -4486,7 +4481,7 @@ End Function
 '   incidence: angle of incidence, read for direct radiation only [rad]; valid -1.5708 to 1.5708
 '   panes: number of panes; valid 1 to 5
 '   -> transmittance: transmittance
-'   -> paneShares: share of each pane in 1 - transmittance - absorptance; #N/A with a count outside 1 to 5
+'   -> paneShares: share of each pane in 1 - transmittance - absorptance
 '   -> absorptance: absorptance
 '   The remainder is split as in GlazingUnitDirectShares.
 '   Source: GlazingUnitDirectShares and GlazingUnitDiffuseShares.
@@ -4894,7 +4889,7 @@ End Function
 ' Where a cumulative fraction of days lies among the ten bands of a month, in frequencies of the caller.
 '   fraction: cumulative fraction of days; valid 0 to 1
 '   month: month; valid 1 to 12
-'   frequencies: cumulative frequencies by month and band, not falling with the band; valid 0 to 1
+'   frequencies: cumulative frequencies of each band in each month, not falling with the band; valid 0 to 1
 '   -> lowerBand: lower band, 1 to 9
 '   -> upperBand: upper band, 2 to 10
 '   -> bandWeight: (fraction - F(lower)) / (F(upper) - F(lower)), limited to -1 to 1
@@ -5073,7 +5068,7 @@ Public Function ClimateBandRow(ByVal row As Variant) As Variant
     ClimateBandRow = TableOf(valuesResult, 1)
 End Function
 
-' Design day of a month as a day of the year, into the caller's variable.
+' Design day of a month as a day of the year, as ClimateDesignDay gives it.
 '   month: month; valid 1 to 12
 '   -> design day of the year
 '   A month outside 1 to 12 gives 0.
@@ -5104,7 +5099,7 @@ Public Function ClimateStoreDesignDay(ByVal month As Variant) As Variant
     ClimateStoreDesignDay = CellOf(dayResult)
 End Function
 
-' Design day of a month as a day of the year or of the month, into the caller's variable.
+' Design day of a month as a day of the year or of the month, as ClimateDesignDayByOption gives it.
 '   month: month; valid 1 to 12
 '   dayKind: how the day is counted: 1 day of the month, 2 day of the year
 '   -> design day
@@ -6681,12 +6676,13 @@ End Function
 ' Whether points in plan lie on one straight line.
 '   x: x of the vertices [m]
 '   y: y of the vertices [m]
-'   -> 1 on one line; otherwise the number, from 2, of the first point whose y differs from that of point 1
+'   -> 1 on one line; otherwise the number, counted from 1, of the first point whose y differs from that of the first of
+'     all
 '   The points are held against the line through the first two that differ by 1e-5 or more in both coordinates. A point
 '   is off it when the ratios of its offsets to theirs, in x and in y, differ by more than 1e-5: what is tolerated grows
 '   with the distance between the two.
-'   Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are fewer than one. Not a number
-'   counts as equal to anything.
+'   Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a number counts as equal to
+'   anything.
 '   Coordinates near one another within 1e-5 can leave no two points to draw the line through; then the points are not
 '   on one line, and finding that out takes n2/2 comparisons.
 '   Source: Intercept theorem.
@@ -6712,13 +6708,12 @@ End Function
 '   y: y of the vertices [m]
 '   pointX: x of the points [m]
 '   pointY: y of the points [m]
-'   enclosed: 1 for points that are enclosed; left as given for others: 0 not enclosed, 1 enclosed
-'   -> enclosed: 1 for points that are enclosed; left as given for others; as given for points that are not enclosed
+'   enclosed: 1 for points that are enclosed: 0 not enclosed, 1 enclosed
+'   -> enclosed: 1 for points that are enclosed; as given for points that are not enclosed
 '   -> enclosedPoints: number of enclosed points
 '   A point is enclosed when it is left of no edge, as GeometrySideOfLine sees it, or is at a vertex (to less than 1e-5
 '   in each coordinate) that comes before any such edge.
 '   Points that are not numbers are left of no edge, and so enclosed.
-'   Without vertices or points the number enclosed is 0.
 '   Source: A convex polygon is the intersection of half-planes.
 Public Function GeometryCountEnclosed(ByVal x As Variant, ByVal y As Variant, ByVal pointX As Variant, _
     ByVal pointY As Variant, ByVal enclosed As Variant) As Variant
@@ -6753,11 +6748,11 @@ End Function
 '   x: x of the vertices [m]
 '   y: y of the vertices [m]
 '   -> crossingPoint: crossing point, or what the notes say [m]; 1e20 where there is none
-'   -> crossingCode: number of the vertex that ends the crossed edge, or what the notes say
-'   The edges are tried in turn, from vertex 1 to 2 on, as GeometryCrossingPoint does; the first one that is crossed
-'   away from the start ends the search. A crossing beyond 100000 is none.
-'   No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is the last outcome of
-'   the search, the start or 1e20.
+'   -> crossingCode: number, counted from 1, of the vertex that ends the crossed edge, or what the notes say
+'   The edges are tried in turn, from that between the first two vertices on, as GeometryCrossingPoint does; the first
+'   one that is crossed away from the start ends the search. A crossing beyond 100000 is none.
+'   No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a minus, and the point is
+'   the last outcome of the search, the start or 1e20.
 '   Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of them, and the point
 '   that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more, small codes of this kind cannot
 '   be told from edges by the code alone.)
@@ -6797,7 +6792,7 @@ End Function
 '   outside a polygon that is not convex because it is in line with an edge.
 '   That the point is in the plane is not tested: over the middle of a square it is inside up to half the length of a
 '   side.
-'   Fewer than one edge, and not a number, give 0.
+'   Not a number gives 0.
 '   Source: Sum of the angles under which the point sees the edges.
 Public Function GeometryInside(ByVal point As Variant, ByVal polygon As Variant) As Variant
     Dim fault As Long
@@ -6819,7 +6814,7 @@ End Function
 ' Whether the planes of two triangles are parallel.
 '   triangle1: corners of one triangle [m]
 '   triangle2: corners of the other [m]
-'   -> -1 if so, else 0
+'   -> whether they are parallel
 '   So they are when the cross product of their normals, each as long as twice the triangle's area, is shorter than
 '   0.001: small triangles are parallel to any.
 '   Source: Definition.
@@ -6841,11 +6836,11 @@ End Function
 ' Whether two triangles have parallel sides, and which.
 '   triangle1: corners of one triangle [m]
 '   triangle2: corners of the other [m]
-'   -> truth: -1 if so, else 0
-'   -> side1: side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none
-'   -> side2: side of triangle 2, likewise
+'   -> truth: whether there are any
+'   -> side1: side of one triangle: 1 between its first two corners, 2 between its last two; 3 none
+'   -> side2: side of the other, likewise
 '   Sides are parallel when their cross product is shorter than 0.001, so that short sides are parallel to any.
-'   The sides from corner 3 to 1 are not tested.
+'   The sides between last and first corner are not tested.
 '   Source: Definition.
 Public Function GeometryParallelSides(ByVal triangle1 As Variant, ByVal triangle2 As Variant) As Variant
     Dim fault As Long
@@ -6866,8 +6861,8 @@ End Function
 
 ' Whether a quadrilateral is rectangular.
 '   quadrilateral: corners in turn [m]
-'   -> -1 if so, else 0
-'   So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in magnitude.
+'   -> whether it is rectangular
+'   So it is when at all corners but the first the dot product of the two sides is at most 1e-6 in magnitude.
 '   Source: Definition.
 Public Function GeometryRectangular(ByVal quadrilateral As Variant) As Variant
     Dim fault As Long
@@ -6913,9 +6908,10 @@ End Function
 '   quadrilateral2: corners of the second [m]
 '   -> local1: the first in local coordinates [m]
 '   -> local2: the second in local coordinates [m]
-'   The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross product of the ways from
-'   corner 1 to corners 2 and 3.
-'   Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at corner 1.
+'   The origin is the first corner of the first; from there x points to the second corner, y to the fourth, z along the
+'   cross product of the ways to the second and the third.
+'   Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at its first
+'   corner.
 '   Coincident corners give what is not a number.
 '   Source: Definition.
 Public Function GeometryLocalCoordinates(ByVal quadrilateral1 As Variant, ByVal quadrilateral2 As Variant) As Variant
@@ -6936,7 +6932,7 @@ Public Function GeometryLocalCoordinates(ByVal quadrilateral1 As Variant, ByVal 
     GeometryLocalCoordinates = Beside(Array(TableOf(local1Result, 3), TableOf(local2Result, 3)))
 End Function
 
-' Replaces each of four points by its components along three axes.
+' Components of each of four points along three axes.
 '   corners: points [m]
 '   xAxis: x axis
 '   yAxis: y axis
@@ -7081,7 +7077,7 @@ End Function
 '   y1: y of one point [m]
 '   x2: x of the other [m]
 '   y2: y of the other [m]
-'   -> -1 if both coordinates differ by less than 1e-5, else 0
+'   -> whether both coordinates differ by less than 1e-5
 '   Source: Definition.
 Public Function GeometryCoincide(ByVal x1 As Variant, ByVal y1 As Variant, ByVal x2 As Variant, _
     ByVal y2 As Variant) As Variant
@@ -7271,8 +7267,7 @@ End Function
 '   x: x of the vertices [m]
 '   y: y of the vertices [m]
 '   -> area [m2]
-'   Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
-'   Fewer than one vertex give 0.
+'   Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
 '   A polygon far from the origin beside its size loses digits.
 '   Source: Shoelace formula.
 Public Function GeometryPlanArea(ByVal x As Variant, ByVal y As Variant) As Variant
@@ -7296,7 +7291,7 @@ End Function
 '   x: x of the vertices [m]
 '   y: y of the vertices [m]
 '   -> area, negative for anticlockwise vertices [m2]
-'   Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+'   Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
 '   As GeometryPlanArea.
 '   Source: Shoelace formula.
 Public Function GeometrySignedPlanArea(ByVal x As Variant, ByVal y As Variant) As Variant
@@ -7324,7 +7319,6 @@ End Function
 '   It is the sum of the triangles over the edges with the mean of the vertices as apex, all counted as positive: too
 '   large for a polygon that is not seen whole from there. Of the surfaces of real buildings 3.3 % come out too large by
 '   more than 0.1 %, half of these by more than 7 %.
-'   Fewer than one vertex give 0.
 '   Source: Elementary geometry.
 Public Function GeometryAreaInSpace(ByVal x As Variant, ByVal y As Variant, ByVal z As Variant) As Variant
     Dim fault As Long
@@ -7347,19 +7341,18 @@ End Function
 
 ' Area, tilt and orientation of a plane polygon in space.
 '   polygon: vertices [m]
-'   -> area: area, positive when the vertices run as the corner at vertex 1 turns [m2]
-'   -> tilt: angle between the normal and the vertical [deg]; #N/A with fewer than one vertex
-'   -> backAzimuth: azimuth opposite to the normal [deg]; #N/A with fewer than one vertex
-'   The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its opposite is the outward normal
-'   of a convex polygon that runs clockwise seen from outside.
-'   Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin within a straight side,
-'   and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are wrong: let vertex 1 be
-'   a true corner.
+'   -> area: area, positive when the vertices run as the corner at the first one turns [m2]
+'   -> tilt: angle between the normal and the vertical [deg]
+'   -> backAzimuth: azimuth opposite to the normal [deg]
+'   The normal points to where the corner at the first vertex is seen to turn anticlockwise: its opposite is the outward
+'   normal of a convex polygon that runs clockwise seen from outside.
+'   Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings 141 begin within a straight
+'   side, and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are wrong: let the
+'   first vertex be a true corner.
 '   The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the azimuth opposite to its first
-'   side, from vertex 1 to 2, if the normal points up, and that of the side if it points down.
+'   side if the normal points up, and that of the side if it points down.
 '   Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and what faces north may get
 '   0.00003.
-'   Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
 '   Source: Shoelace formula in the plane of the polygon.
 Public Function GeometryPolygonOrientation(ByVal polygon As Variant) As Variant
     Dim fault As Long

@@ -43,7 +43,7 @@ def _imports(args):
 
 
 def _intent(arg):
-    return "inout" if arg.dir == "inout" or arg.unwritten else arg.dir
+    return "inout" if arg.dir == "inout" or arg.left else arg.dir
 
 
 def _interface(routine):

@@ -16,8 +16,19 @@ TYPES = {"Real": "float32", "DoubleReal": "float64", "Integer": "int32", "Logica
 def in_python(routine, names):
     """Its texts, with the functions of the package in place of exported names."""
     quoted = {exported: f"`{name}`" for exported, name in names.items()}
-    texts = {key: in_clear_names(getattr(routine, key), quoted) for key in ("summary", "formula", "source")}
-    return replace(routine, notes=tuple(in_clear_names(note, quoted) for note in routine.notes), **texts)
+
+    def clear(text):
+        return in_clear_names(text, quoted)
+
+    def described(thing):
+        values = {key: (number, clear(what)) for key, (number, what) in thing.values.items()}
+        return replace(thing, meaning=clear(thing.meaning), values=values)
+
+    return replace(
+        routine, summary=clear(routine.summary), formula=clear(routine.formula), source=clear(routine.source),
+        notes=tuple(map(clear, routine.notes)), args=tuple(map(described, routine.args)),
+        result=described(routine.result) if routine.result else None,
+        examples=tuple(replace(example, source=clear(example.source)) for example in routine.examples))
 
 
 def wrapped(text, indent=""):
@@ -26,12 +37,16 @@ def wrapped(text, indent=""):
 
 
 def _shape(operand):
-    return f", shape (..., {', '.join(map(str, operand.axes))})" if operand.axes else ""
+    if not operand.axes:
+        return ""
+    _, count, more = operand.filled or ("", "", 0)
+    extents = [f"{count} + {more}"] if operand.filled else map(str, operand.axes)
+    return f", shape (..., {', '.join(extents)})"
 
 
 def _type(operand):
     if operand.of.selector:
-        return f"{operand.of.selector} or array_like of int"
+        return f"{operand.of.selector}, or array_like of its names or numbers"
     return f"array_like of {'int' if operand.kind == 'Integer' else 'float'}"
 
 
@@ -62,22 +77,26 @@ def _returns(routine, outputs):
 
 
 def _raises(routine):
-    """Of lists that must have so many numbers."""
-    for name, (count, lists) in counts(routine).items():
+    """Of counts, and of lists that must have so many numbers."""
+    for count, _ in counts(routine).values():
         low, high = bounds(count)
-        if lists and (low > 0 or high < 2**31 - 1):
-            limits = f"{low} to {high}" if high < 2**31 - 1 else f"at least {low}"
-            yield from wrapped(f"Unless there are {limits} {name}.", "    ")
+        limits = f"at least {low}" if high == 2**31 - 1 else f"{low} to {high}" if low else f"at most {high}"
+        if limits != "at least 0":
+            number = f"{count.meaning}," if "," in count.meaning else count.meaning
+            yield from wrapped(f"Unless the {number} is {limits}.", "    ")
     told = [name for name, (_, lists) in counts(routine).items() if len(lists) > 1]
     for name in told:
         yield from wrapped(f"Unless all arguments have as many {name}.", "    ")
 
 
+def _counted_by(name, routine):
+    return " and ".join(f"`{arg.name}`" for arg in routine.args if name in arg.shape)
+
+
 def _notes(routine):
     formula = [f"Formula: {routine.formula}"] if routine.formula else []
-    room = [
-        f"Beyond the count `{name}`, what it counts is not a number." for name in given_counts(routine)
-    ]
+    room = [f"Elements of {_counted_by(name, routine)} beyond `{name}` are not numbers."
+            for name in given_counts(routine)]
     same = [f"Each element has the bits of {routine.export} in quorvel.h."] if routine.export else []
     for text in [*formula, *routine.notes, *room, *same]:
         yield from wrapped(text)
@@ -137,8 +156,7 @@ def example_lines(routine, family):
     yield from wrapped(f"({example.source})")
 
 
-def docstring(routine, family, names):
-    routine = in_python(routine, names)
+def docstring(routine, family):
     inputs, outputs = operands(routine)
     lines = [*wrapped(routine.summary), "", "Parameters", "----------",
              *_parameters(routine, inputs, len(outputs) > 1), "", "Returns", "-------", *_returns(routine, outputs), ""]

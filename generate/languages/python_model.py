@@ -4,7 +4,7 @@ A list tells its own length, so the counts of lists are no operands. A count tha
 counts has then room for the most, and is not a number beyond the count.
 """
 
-from dataclasses import dataclass
+from dataclasses import dataclass, replace
 
 from array_kernels import has_kernel
 from binding_model import Parameter, Result, parameters, results
@@ -18,7 +18,13 @@ WITHOUT_UFUNC = {"clip"}
 @dataclass(frozen=True)
 class Operand:
     of: Parameter | Result
-    axes: tuple  # the core dimensions, numbers or names of counts; the last one varies fastest
+    axes: tuple  # the ufunc's core dimensions, numbers or names of counts; the last one varies fastest
+    filled: tuple = ()  # of an output that the ufunc has room for the most of: what is counted, by which count and more
+
+    @property
+    def extents(self):
+        """The dimensions that a caller sees: as `axes`, or the name of what is filled."""
+        return self.filled[:1] or self.axes
 
     @property
     def field(self):
@@ -61,20 +67,38 @@ def _axes(arg, given):
     return tuple(reversed(room))
 
 
+def _output(result, given):
+    filled = getattr(result.arg, "filled", ())
+    of = replace(result, arg=replace(result.arg, filled=())) if filled else result  # a caller sees no room
+    return Operand(of, _axes(result.arg, given), filled)
+
+
 def operands(routine):
     """The inputs and the outputs."""
     given = given_counts(routine)
-    return tuple([Operand(each, _axes(each.arg, given)) for each in side] for side in (
-        parameters(routine), results(routine)))
+    inputs = [Operand(each, _axes(each.arg, given)) for each in parameters(routine)]
+    return inputs, [_output(each, given) for each in results(routine)]
+
+
+def is_filled(routine):
+    """Whether an output is as long as a list says, where the ufunc has room for the most."""
+    return any(operand.filled for operand in operands(routine)[1])
+
+
+def _written(inputs, outputs, axes):
+    if not any(map(axes, inputs + outputs)):
+        return ""
+    return "->".join(",".join(f"({','.join(map(str, axes(each)))})" for each in side) for side in (inputs, outputs))
 
 
 def signature(routine):
-    """As NumPy writes core dimensions; empty for a function of numbers."""
-    inputs, outputs = operands(routine)
-    if not any(operand.axes for operand in inputs + outputs):
-        return ""
-    sides = (",".join(f"({','.join(map(str, operand.axes))})" for operand in side) for side in (inputs, outputs))
-    return "->".join(sides)
+    """Of the ufunc, as NumPy writes core dimensions; empty for a function of numbers."""
+    return _written(*operands(routine), lambda operand: operand.axes)
+
+
+def seen_signature(routine):
+    """Of the function."""
+    return _written(*operands(routine), lambda operand: operand.extents)
 
 
 def class_name(routine):

@@ -2,9 +2,10 @@
 all of them, and what is known of each routine at run time."""
 
 import textwrap
+from dataclasses import replace
 
-from languages.python_docs import TYPES, docstring, wrapped
-from languages.python_model import class_name, is_documented, is_offered, operands, signature
+from languages.python_docs import TYPES, docstring, in_python, wrapped
+from languages.python_model import class_name, is_documented, is_filled, is_offered, operands, seen_signature, signature
 
 EDIT = "# Produced from the catalogue of routines (catalogue/); do not edit."
 
@@ -40,18 +41,22 @@ def _class(routine):
             f'{class_name(routine)}.__doc__ = """What {routine.name} returns.\n\n{about}\n"""')
 
 
-def _function(family, routine, names):
+def _function(family, routine):
     inputs, outputs = operands(routine)
     given = ", ".join([operand.field for operand in inputs] + ["out", "True" if signature(routine) else "where"])
     call = f"_{routine.name}({given})"
     if len(outputs) > 1:
         call = f"_new({class_name(routine)}, {call})"
-    text = textwrap.indent(_quoted(docstring(routine, family.family, names)), "    ")
+    text = textwrap.indent(_quoted(docstring(routine, family.family)), "    ")
     return (f"\n\ndef {routine.name}({_parameters(routine)}):\n"
             f'    """{text.lstrip()}\n    """\n    return {call}\n')
 
 
-def _module(family, names):
+def _core_function(routine):
+    return f'filled("{routine.name}")' if is_filled(routine) else f'functions["{routine.name}"]'
+
+
+def _module(family):
     routines = _kept(family)
     several = [routine for routine in routines if len(operands(routine)[1]) > 1]
     selectors = _selectors_of(routines)
@@ -59,15 +64,18 @@ def _module(family, names):
     lines = [f'"""{family.title}: the routines of the library, element by element."""', "", EDIT, ""]
     lines += ["from collections import namedtuple", ""] if several else []
     lines += ["from .._core import functions"]
+    lines += ["from .._dispatch import filled"] if any(map(is_filled, routines)) else []
     lines += [f"from ..selectors import {', '.join(selectors)}"] if selectors else []
     lines += ["", "_new = tuple.__new__  # a third of the time of _make"] if several else []
     lines += ["", "__all__ = [", *(f'    "{name}",' for name in public), "]", ""]
-    lines += [f'_{routine.name} = functions["{routine.name}"]' for routine in routines]
+    lines += [f'_{routine.name} = {_core_function(routine)}' for routine in routines]
     lines += ["".join(map(_class, several))]
-    return "\n".join(lines) + "".join(_function(family, routine, names) for routine in routines)
+    return "\n".join(lines) + "".join(_function(family, routine) for routine in routines)
 
 
 def _scalar_type(operand):
+    if operand.of.selector:
+        return f"int | Literal[{', '.join(map(repr, operand.arg.values))}]"
     return {"Real": "float", "DoubleReal": "float", "Integer": "int"}[operand.kind]
 
 
@@ -130,17 +138,22 @@ def _selectors(families):
     return text
 
 
+def _extents(operand):
+    return f"(Filled({', '.join(map(repr, operand.filled))}),)" if operand.filled else repr(operand.axes)
+
+
 def _argument(operand):
     arg = operand.arg
     interval = operand.of.limits if operand.of.is_limited else ()
     text = ", ".join(map(repr, (
-        operand.of.clear_name, TYPES[operand.kind], arg.unit, arg.meaning, interval, operand.of.selector, operand.axes)))
+        operand.of.clear_name, TYPES[operand.kind], arg.unit, arg.meaning, interval, operand.of.selector)))
+    text += f", {_extents(operand)}"
     return f"A({text.replace('inf', 'INF')})" if "inf" in repr(interval) else f"A({text})"
 
 
 def _described(family, routine):
     inputs, outputs = ("".join(f"\n         {_argument(o)}," for o in side) for side in operands(routine))
-    return (f'    "{routine.name}": R(\n        "{family.family}", {routine.export!r}, {signature(routine)!r},\n'
+    return (f'    "{routine.name}": R(\n        "{family.family}", {routine.export!r}, {seen_signature(routine)!r},\n'
             f"        ({inputs}\n        ),\n        ({outputs}\n        ),\n    ),\n")
 
 
@@ -149,6 +162,7 @@ def _catalogue(families):
                        if is_offered(routine))
     return (f'"""What is known of each routine at run time."""\n\n{EDIT}\n\n'
             "from collections import namedtuple\n\nINF = float(\"inf\")\n\n"
+            'Filled = namedtuple("Filled", "name count more")  # an extent: so many more than that count\n'
             'A = Argument = namedtuple("Argument", "name dtype unit meaning range selector axes")\n'
             'R = Routine = namedtuple("Routine", "family exported_name signature inputs outputs")\n\n'
             f"ROUTINES = {{\n{routines}}}\n")
@@ -157,8 +171,10 @@ def _catalogue(families):
 def files(families):
     """The texts by their names."""
     names = {routine.export: routine.name for family in families for routine in _kept(family) if routine.export}
+    families = [replace(family, routines=tuple(in_python(routine, names) for routine in family.routines))
+                for family in families]
     texts = {"selectors.py": _selectors(families), "catalogue.py": _catalogue(families)}
     for family in families:
-        texts[f"{family.family}/routines.py"] = _module(family, names)
+        texts[f"{family.family}/routines.py"] = _module(family)
         texts[f"{family.family}/routines.pyi"] = _stubs(family)
     return texts

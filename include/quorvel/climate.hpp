@@ -49,8 +49,8 @@ struct LocateBandArrays {
 ///
 /// @param fraction  0 .. 1: cumulative fraction of days
 /// @param month  1 .. 12: month
-/// @param frequencies  0 .. 1: cumulative frequencies by month and band, not falling with the band
-///     [12, 10]
+/// @param frequencies  0 .. 1: cumulative frequencies of each band in each month, not falling with
+///     the band [12, 10]
 /// Source: Search for linear interpolation.
 /// (CLBAN1 of quorvel.h)
 inline LocateBand locate_band(float fraction, std::int32_t month,
@@ -225,7 +225,7 @@ inline void band_row(const Input<std::int32_t>& row, std::span<std::array<float,
         detail::returned("values", values));
 }
 
-/// Design day of a month as a day of the year, into the caller's variable.
+/// Design day of a month as a day of the year, as ICLDAY gives it.
 ///
 /// @note A month outside 1 to 12 gives 0.
 ///
@@ -248,7 +248,7 @@ inline void store_design_day(const Input<std::int32_t>& month, std::span<std::in
         detail::returned("day", day));
 }
 
-/// Design day of a month as a day of the year or of the month, into the caller's variable.
+/// Design day of a month as a day of the year or of the month, as ICLDAYEX gives it.
 ///
 /// @note The two counts are separate sets and not the same date: in February day 52 of the year
 /// (the 21st) stands beside the 20th.

@@ -20,20 +20,19 @@ inline namespace v0 {
 
 /// What cyclic_response returns.
 struct CyclicResponse {
-    /// W/m²K: admittance Y; not a number with more than 20 layers
+    /// W/m²K: admittance Y
     float admittance = detail::none<float>;
-    /// h: time lead of the admittance, 0 to 24 / harmonic; not a number with more than 20 layers
+    /// h: time lead of the admittance, 0 to 24 / harmonic
     float admittance_lead = detail::none<float>;
-    /// decrement factor f, 0 for a partition; not a number with more than 20 layers
+    /// decrement factor f, 0 for a partition
     float decrement_factor = detail::none<float>;
-    /// h: time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition; not a number
-    /// with more than 20 layers
+    /// h: time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition
     float decrement_lag = detail::none<float>;
-    /// surface factor F; not a number with more than 20 layers
+    /// surface factor F
     float surface_factor = detail::none<float>;
-    /// h: time lag of the surface factor, 0 to 24 / harmonic; not a number with more than 20 layers
+    /// h: time lag of the surface factor, 0 to 24 / harmonic
     float surface_factor_lag = detail::none<float>;
-    /// W/m²K: U-value, as TPUVAL gives it; not a number with more than 20 layers
+    /// W/m²K: U-value, as TPUVAL gives it
     float u_value = detail::none<float>;
 };
 
@@ -54,7 +53,7 @@ struct CyclicResponseArrays {
 /// Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (u_value
 /// m12); F = 1 - inside_resistance Y
 ///
-/// @note A count below 1 leaves the two surfaces alone; no array is read.
+/// @note Without layers the two surfaces are left.
 ///
 /// @note Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U,
 /// the time shifts are not numbers. One below 0 gives no numbers.
@@ -257,7 +256,7 @@ inline void gas_cavity_resistance(const Input<float>& tilt, const Input<float>& 
 /// @note A layer of given thermal resistance has 5 GN s/kg for each metre of its negative
 /// thickness, whatever its resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
 ///
-/// @note A count below 1 gives 0.
+/// @note Without layers it is 0.
 ///
 /// @note Results are in N s/kg, resistivities in GN s/(kg m).
 ///
@@ -265,7 +264,7 @@ inline void gas_cavity_resistance(const Input<float>& tilt, const Input<float>& 
 ///     membrane [layers]
 /// @param vapour_resistivity  GN s/(kg m), from 0: vapour resistivity of each layer; of a membrane
 ///     its vapour resistance in GN s/kg [layers]
-/// @return N s/kg: total vapour resistance; not a number with more than 20 layers
+/// @return N s/kg: total vapour resistance
 /// @throws std::out_of_range unless thickness and vapour_resistivity have 0 .. 20 (layers: number
 ///     of layers)
 /// Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
@@ -294,13 +293,11 @@ inline void total_vapour_resistance(Table<const float> thickness,
 /// What condensation_profile returns.
 struct CondensationProfile {
     /// °C: temperature at the interfaces, from the inside surface to the outside one [21]; not a
-    /// number with a count outside 0 to 20, and beyond element layers + 1
+    /// number beyond element layers + 1
     std::array<float, 21> interface_temperature = detail::none<std::array<float, 21>>;
-    /// Pa: vapour pressure at them [21]; not a number with a count outside 0 to 20, and beyond
-    /// element layers + 1
+    /// Pa: vapour pressure at them [21]; not a number beyond element layers + 1
     std::array<float, 21> interface_vapour_pressure = detail::none<std::array<float, 21>>;
-    /// Pa: saturation pressure at them [21]; not a number with a count outside 0 to 20, and beyond
-    /// element layers + 1
+    /// Pa: saturation pressure at them [21]; not a number beyond element layers + 1
     std::array<float, 21> interface_saturation_pressure = detail::none<std::array<float, 21>>;
 };
 
@@ -314,9 +311,8 @@ struct CondensationProfileArrays {
 /// Steady temperature, vapour pressure and saturation pressure at the interfaces of a construction;
 /// the vapour pressure is held down to saturation where it would exceed it.
 ///
-/// @note Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than
-/// 0, write nothing. Without layers there is one surface, with the temperature and the vapour
-/// pressure of its inside.
+/// @note The first and the last interface are the surfaces. Without layers there is one surface,
+/// with the temperature and the vapour pressure of its inside.
 ///
 /// @note Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
 ///
@@ -453,11 +449,11 @@ inline void condenses_within_layer(const Input<float>& warm_temperature,
 /// @note The complements of an undefined packed field, items 34, 35, 44, 45, 52 and 53, are -1e20
 /// or -2e20, not 1e20: deliberate.
 ///
-/// @param element_records  by field: ten fields of each record, the first its type code [10,
-///     record_count]
-/// @param record_number  from 1: record asked about
+/// @param element_records  by field: ten fields of each record, counted from 1; the first is its
+///     type code [10, record_count]
+/// @param record_number  from 1: record asked about, counted from 1
 /// @param item  1 .. 72: property asked for
-/// @return by item: the property, 1e20 if it does not exist; 1e20 for none
+/// @return by item: the property; 1e20 for none
 /// @throws std::out_of_range unless element_records has from 1 (record_count: number of records)
 /// Source: Layout of the element records.
 /// (BELDAT of quorvel.h)
@@ -843,7 +839,7 @@ inline void surface_resistance_at_emissivity(const Input<std::int32_t>& surface,
 ///
 /// Formula: 1 / (surface_resistance_1 + surface_resistance_2 + sum of thickness / conductivity)
 ///
-/// @note A count below 1 leaves the two surfaces alone; no array is read.
+/// @note Without layers the two surfaces are left.
 ///
 /// @note How far below 0 a thickness is makes no difference here; it does in TPDAMP and TPGRAD.
 ///
@@ -855,7 +851,7 @@ inline void surface_resistance_at_emissivity(const Input<std::int32_t>& surface,
 ///     thickness is below 0 [layers]
 /// @param surface_resistance_1  m²K/W, from 0: resistance of one surface
 /// @param surface_resistance_2  m²K/W, from 0: resistance of the other
-/// @return W/m²K: U-value; not a number with more than 20 layers
+/// @return W/m²K: U-value
 /// @throws std::out_of_range unless thickness and conductivity have 0 .. 20 (layers: number of
 ///     layers)
 /// Source: Resistances in series; ISO 6946.

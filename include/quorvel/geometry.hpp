@@ -172,16 +172,16 @@ inline void overlap_alias(Table<const float> x_1, Table<const float> y_1,
 /// both coordinates. A point is off it when the ratios of its offsets to theirs, in x and in y,
 /// differ by more than 1e-5: what is tolerated grows with the distance between the two.
 ///
-/// @note Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are
-/// fewer than one. Not a number counts as equal to anything.
+/// @note Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a
+/// number counts as equal to anything.
 ///
 /// @note Coordinates near one another within 1e-5 can leave no two points to draw the line through;
 /// then the points are not on one line, and finding that out takes n²/2 comparisons.
 ///
 /// @param x  m: x of the vertices [points]
 /// @param y  m: y of the vertices [points]
-/// @return 1 on one line; otherwise the number, from 2, of the first point whose y differs from
-///     that of point 1
+/// @return 1 on one line; otherwise the number, counted from 1, of the first point whose y differs
+///     from that of the first of all
 /// @throws std::out_of_range unless x and y have from 1 (points: number of points)
 /// Source: Intercept theorem.
 /// (IGELIN of quorvel.h)
@@ -204,8 +204,8 @@ inline void collinearity(Table<const float> x, Table<const float> y,
 
 /// What count_enclosed returns.
 struct CountEnclosed {
-    /// 1 for points that are enclosed; left as given for others: 0 not enclosed, 1 enclosed
-    /// [points]; as given for points that are not enclosed
+    /// 1 for points that are enclosed: 0 not enclosed, 1 enclosed [points]; as given for points
+    /// that are not enclosed
     std::vector<std::int32_t> enclosed;
     /// number of enclosed points
     std::int32_t enclosed_points = detail::none<std::int32_t>;
@@ -224,14 +224,11 @@ struct CountEnclosedArrays {
 ///
 /// @note Points that are not numbers are left of no edge, and so enclosed.
 ///
-/// @note Without vertices or points the number enclosed is 0.
-///
 /// @param x  m: x of the vertices [vertices]
 /// @param y  m: y of the vertices [vertices]
 /// @param point_x  m: x of the points [points]
 /// @param point_y  m: y of the points [points]
-/// @param enclosed  1 for points that are enclosed; left as given for others: 0 not enclosed, 1
-///     enclosed [points]
+/// @param enclosed  1 for points that are enclosed: 0 not enclosed, 1 enclosed [points]
 /// @throws std::out_of_range unless x and y have from 3 (vertices: number of vertices)
 /// @throws std::out_of_range unless point_x and point_y and enclosed have from 1 (points: number of
 ///     points)
@@ -274,7 +271,7 @@ inline void count_enclosed(Table<const float> x, Table<const float> y,
 struct BoundaryCrossing {
     /// m: crossing point, or what the notes say [2]; 1e20 for none
     std::array<float, 2> crossing_point = detail::none<std::array<float, 2>>;
-    /// number of the vertex that ends the crossed edge, or what the notes say
+    /// number, counted from 1, of the vertex that ends the crossed edge, or what the notes say
     std::int32_t crossing_code = detail::none<std::int32_t>;
 };
 
@@ -286,11 +283,12 @@ struct BoundaryCrossingArrays {
 
 /// Where a segment crosses the boundary of a polygon in plan.
 ///
-/// @note The edges are tried in turn, from vertex 1 to 2 on, as GECROS does; the first one that is
-/// crossed away from the start ends the search. A crossing beyond 100000 is none.
+/// @note The edges are tried in turn, from that between the first two vertices on, as GECROS does;
+/// the first one that is crossed away from the start ends the search. A crossing beyond 100000 is
+/// none.
 ///
-/// @note No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the
-/// point is the last outcome of the search, the start or 1e20.
+/// @note No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a
+/// minus, and the point is the last outcome of the search, the start or 1e20.
 ///
 /// @note Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the
 /// last of them, and the point that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000
@@ -341,7 +339,7 @@ inline void boundary_crossing(const Input<std::array<float, 2>>& segment_start,
 /// @note That the point is in the plane is not tested: over the middle of a square it is inside up
 /// to half the length of a side.
 ///
-/// @note Fewer than one edge, and not a number, give 0.
+/// @note Not a number gives 0.
 ///
 /// @param point  m: point [3]
 /// @param polygon  m: vertices, the last of which repeats the first [3, vertices]
@@ -378,7 +376,7 @@ inline void inside(const Input<std::array<float, 3>>& point,
 ///
 /// @param triangle_1  m: corners of one triangle [3, 3]
 /// @param triangle_2  m: corners of the other [3, 3]
-/// @return -1 if so, else 0
+/// @return whether they are parallel
 /// Source: Definition.
 /// (GEPLEL of quorvel.h)
 inline bool parallel_planes(const std::array<std::array<double, 3>, 3>& triangle_1,
@@ -399,11 +397,11 @@ inline void parallel_planes(const Input<std::array<std::array<double, 3>, 3>>& t
 
 /// What parallel_sides returns.
 struct ParallelSides {
-    /// -1 if so, else 0
+    /// whether there are any
     bool result = detail::none<bool>;
-    /// side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none
+    /// side of one triangle: 1 between its first two corners, 2 between its last two; 3 none
     std::int32_t side_1 = detail::none<std::int32_t>;
-    /// side of triangle 2, likewise
+    /// side of the other, likewise
     std::int32_t side_2 = detail::none<std::int32_t>;
 };
 
@@ -419,7 +417,7 @@ struct ParallelSidesArrays {
 /// @note Sides are parallel when their cross product is shorter than 0.001, so that short sides are
 /// parallel to any.
 ///
-/// @note The sides from corner 3 to 1 are not tested.
+/// @note The sides between last and first corner are not tested.
 ///
 /// @param triangle_1  m: corners of one triangle [3, 3]
 /// @param triangle_2  m: corners of the other [3, 3]
@@ -448,11 +446,11 @@ inline void parallel_sides(const Input<std::array<std::array<double, 3>, 3>>& tr
 
 /// Whether a quadrilateral is rectangular.
 ///
-/// @note So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in
-/// magnitude.
+/// @note So it is when at all corners but the first the dot product of the two sides is at most
+/// 1e-6 in magnitude.
 ///
 /// @param quadrilateral  m: corners in turn [3, 4]
-/// @return -1 if so, else 0
+/// @return whether it is rectangular
 /// Source: Definition.
 /// (GERECT of quorvel.h)
 inline bool rectangular(const std::array<std::array<double, 3>, 4>& quadrilateral) {
@@ -531,11 +529,11 @@ struct LocalCoordinatesArrays {
 
 /// Two quadrilaterals in local coordinates of the first.
 ///
-/// @note The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the
-/// cross product of the ways from corner 1 to corners 2 and 3.
+/// @note The origin is the first corner of the first; from there x points to the second corner, y
+/// to the fourth, z along the cross product of the ways to the second and the third.
 ///
 /// @note Coordinates are dot products with the axes, so that lengths are kept only where that has a
-/// right angle at corner 1.
+/// right angle at its first corner.
 ///
 /// @note Coincident corners give what is not a number.
 ///
@@ -562,7 +560,7 @@ inline void local_coordinates(const Input<std::array<std::array<double, 3>, 4>>&
         detail::returned("local_2", out.local_2));
 }
 
-/// Replaces each of four points by its components along three axes.
+/// Components of each of four points along three axes.
 ///
 /// @param corners  m: points [3, 4]
 /// @param x_axis  x axis [3]
@@ -731,7 +729,7 @@ inline void ahead_and_nearer(const Input<std::array<float, 3>>& first_end,
 /// @param y_1  m: y of one point
 /// @param x_2  m: x of the other
 /// @param y_2  m: y of the other
-/// @return -1 if both coordinates differ by less than 1e-5, else 0
+/// @return whether both coordinates differ by less than 1e-5
 /// Source: Definition.
 /// (GECOIN of quorvel.h)
 inline bool coincide(float x_1, float y_1, float x_2, float y_2) {
@@ -924,9 +922,8 @@ inline void global_to_local(const Input<std::array<float, 3>>& global_vector,
 
 /// Area of a polygon in plan.
 ///
-/// Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
-///
-/// @note Fewer than one vertex give 0.
+/// Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the
+/// first
 ///
 /// @note A polygon far from the origin beside its size loses digits.
 ///
@@ -955,7 +952,7 @@ inline void plan_area(Table<const float> x, Table<const float> y,
 
 /// Area of a polygon in plan, positive for clockwise vertices.
 ///
-/// Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+/// Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
 ///
 /// @note As GEAPOL.
 ///
@@ -988,8 +985,6 @@ inline void signed_plan_area(Table<const float> x, Table<const float> y,
 /// counted as positive: too large for a polygon that is not seen whole from there. Of the surfaces
 /// of real buildings 3.3 % come out too large by more than 0.1 %, half of these by more than 7 %.
 ///
-/// @note Fewer than one vertex give 0.
-///
 /// @param x  m: x of the vertices [vertices]
 /// @param y  m: y of the vertices [vertices]
 /// @param z  m: z of the vertices [vertices]
@@ -1018,11 +1013,11 @@ inline void area_in_space(Table<const float> x, Table<const float> y, Table<cons
 
 /// What polygon_orientation returns.
 struct PolygonOrientation {
-    /// m²: area, positive when the vertices run as the corner at vertex 1 turns
+    /// m²: area, positive when the vertices run as the corner at the first one turns
     float area = detail::none<float>;
-    /// °: angle between the normal and the vertical; not a number with fewer than one vertex
+    /// °: angle between the normal and the vertical
     float tilt = detail::none<float>;
-    /// °: azimuth opposite to the normal; not a number with fewer than one vertex
+    /// °: azimuth opposite to the normal
     float back_azimuth = detail::none<float>;
 };
 
@@ -1035,21 +1030,19 @@ struct PolygonOrientationArrays {
 
 /// Area, tilt and orientation of a plane polygon in space.
 ///
-/// @note The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its
-/// opposite is the outward normal of a convex polygon that runs clockwise seen from outside.
+/// @note The normal points to where the corner at the first vertex is seen to turn anticlockwise:
+/// its opposite is the outward normal of a convex polygon that runs clockwise seen from outside.
 ///
-/// @note Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin
-/// within a straight side, and for 7 of these rounding alone decides the normal, so that area, tilt
-/// and orientation are wrong: let vertex 1 be a true corner.
+/// @note Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings
+/// 141 begin within a straight side, and for 7 of these rounding alone decides the normal, so that
+/// area, tilt and orientation are wrong: let the first vertex be a true corner.
 ///
 /// @note The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the
-/// azimuth opposite to its first side, from vertex 1 to 2, if the normal points up, and that of the
-/// side if it points down.
+/// azimuth opposite to its first side if the normal points up, and that of the side if it points
+/// down.
 ///
 /// @note Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and
 /// what faces north may get 0.00003.
-///
-/// @note Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
 ///
 /// @param polygon  m: vertices [3, vertices]
 /// @throws std::out_of_range unless polygon has from 3 (vertices: number of vertices)

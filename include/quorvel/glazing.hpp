@@ -166,12 +166,12 @@ struct StackedLayersArrays {
 /// @note Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until
 /// they do not. It turns negative if the transmittance alone is above 0.99.
 ///
-/// @note A count below 1 is an empty stack, which transmits everything; no array is read.
+/// @note The last layer is met first. No layers are an empty stack, which transmits everything.
 ///
 /// @param layer_transmittances  0 .. 1: transmittance of each layer [layers]
 /// @param layer_reflectances  0 .. 1: reflectance of each layer [layers]
 /// @throws std::out_of_range unless layer_transmittances and layer_reflectances have from 0
-///     (layers: number of layers; the last is met first)
+///     (layers: number of layers)
 /// Source: First-order combination of the layers.
 /// (WNCOM2 of quorvel.h)
 inline StackedLayers stacked_layers(std::span<const float> layer_transmittances,
@@ -202,11 +202,11 @@ inline void stacked_layers(const Input<std::int32_t>& layers,
 
 /// What traced_layers returns.
 struct TracedLayers {
-    /// transmittance of the stack; not a number with more than 11 layers
+    /// transmittance of the stack
     float transmittance = detail::none<float>;
-    /// absorptance of the stack; not a number with more than 11 layers
+    /// absorptance of the stack
     float absorptance = detail::none<float>;
-    /// reflectance of the stack; not a number with more than 11 layers
+    /// reflectance of the stack
     float reflectance = detail::none<float>;
 };
 
@@ -225,7 +225,7 @@ struct TracedLayersArrays {
 /// of two, the ninth power of the product of their reflectances as a share of the transmittance; of
 /// ten and eleven layers all that the last ones reflect.
 ///
-/// @note A count below 1 is an empty stack, which transmits everything; no array is read.
+/// @note The last layer is met first. No layers are an empty stack, which transmits everything.
 ///
 /// @note That transmittance, absorptance and reflectance of a layer add up to 1 is left to the
 /// caller.
@@ -235,7 +235,7 @@ struct TracedLayersArrays {
 /// @param layer_absorptances  0 .. 1: absorptance of each layer [layers]
 /// @param layer_reflectances  0 .. 1: reflectance of each layer, the same from both sides [layers]
 /// @throws std::out_of_range unless layer_transmittances and layer_absorptances and
-///     layer_reflectances have 0 .. 11 (layers: number of layers; the last is met first)
+///     layer_reflectances have 0 .. 11 (layers: number of layers)
 /// Source: Tracing of one forward and one backward flux, which tends to the adding method.
 /// (WNCOMP of quorvel.h)
 inline TracedLayers traced_layers(std::span<const float> layer_transmittances,
@@ -409,8 +409,6 @@ struct SurfaceReflectanceArrays {
 /// at normal incidence, ((1 - n) / (1 + n))^2 with the refractive index n. WNRANG tests the sine of
 /// the angle instead; the two limits differ deliberately.
 ///
-/// @note The perpendicular one is written first.
-///
 /// @param incidence  rad, -1.5708 .. 1.5708: angle of incidence
 /// @param refraction_angle  rad, -1.5708 .. 1.5708: refraction angle, of the sign of the incidence
 /// @param refractive_index  1 .. 4: refractive index, used at normal incidence only
@@ -570,15 +568,15 @@ inline void normal_transmittance(const Input<float>& absorption_product,
 
 /// What pane_temperatures returns.
 struct PaneTemperatures {
-    /// °C: temperature of pane 1, nearest the room; not a number with a count outside 1 to 5
+    /// °C: temperature of pane 1, nearest the room; not a number with panes outside 1 to 5
     float pane_temperature_1 = detail::none<float>;
-    /// °C: temperature of pane 2; not a number with a count outside 2 to 5
+    /// °C: temperature of pane 2; not a number with panes outside 2 to 5
     float pane_temperature_2 = detail::none<float>;
-    /// °C: temperature of pane 3; not a number with a count outside 3 to 5
+    /// °C: temperature of pane 3; not a number with panes outside 3 to 5
     float pane_temperature_3 = detail::none<float>;
-    /// °C: temperature of pane 4; not a number with a count outside 4 to 5
+    /// °C: temperature of pane 4; not a number with panes outside 4 to 5
     float pane_temperature_4 = detail::none<float>;
-    /// °C: temperature of pane 5; not a number with a count outside 4 to 5
+    /// °C: temperature of pane 5; not a number with panes outside 4 to 5
     float pane_temperature_5 = detail::none<float>;
 };
 
@@ -594,8 +592,8 @@ struct PaneTemperaturesArrays {
 /// Steady temperatures of the panes of a glazing from the air temperatures on both sides and the
 /// solar radiation that each pane absorbs.
 ///
-/// @note Only as many absorbed values are read as there are panes. Four panes are calculated as
-/// five: what the fifth absorbs is read (give 0 for it), and its temperature is written.
+/// @note What is given as absorbed in panes that are not there has no influence. Four panes are
+/// calculated as five: what the fifth absorbs counts (give 0 for it), and it has a temperature.
 ///
 /// @param inside_temperature  °C, -100 .. 200: air temperature in the room
 /// @param outside_temperature  °C, -100 .. 200: air temperature outdoors
@@ -758,8 +756,7 @@ inline void unit_diffuse(const Input<float>& shortwave_shading_coefficient,
 struct UnitDirectShares {
     /// transmittance
     float transmittance = detail::none<float>;
-    /// share of each pane in 1 - transmittance - absorptance [panes]; not a number with a count
-    /// outside 1 to 5
+    /// share of each pane in 1 - transmittance - absorptance [panes]
     std::vector<float> pane_shares;
     /// absorptance
     float absorptance = detail::none<float>;
@@ -776,8 +773,6 @@ struct UnitDirectSharesArrays {
 /// unit.
 ///
 /// @note What is split is the remainder, not the absorptance.
-///
-/// @note Transmittance and absorptance are returned whatever the number of panes.
 ///
 /// @param shortwave_shading_coefficient  0 .. 1.05: short-wave shading coefficient; the total one
 ///     if the long-wave one is missing
@@ -816,8 +811,7 @@ inline void unit_direct_shares(const Input<float>& shortwave_shading_coefficient
 struct UnitDiffuseShares {
     /// diffuse transmittance
     float transmittance = detail::none<float>;
-    /// share of each pane in 1 - transmittance - absorptance [panes]; not a number with a count
-    /// outside 1 to 5
+    /// share of each pane in 1 - transmittance - absorptance [panes]
     std::vector<float> pane_shares;
     /// diffuse absorptance
     float absorptance = detail::none<float>;
@@ -869,8 +863,7 @@ inline void unit_diffuse_shares(const Input<float>& shortwave_shading_coefficien
 struct UnitShares {
     /// transmittance
     float transmittance = detail::none<float>;
-    /// share of each pane in 1 - transmittance - absorptance [panes]; not a number with a count
-    /// outside 1 to 5
+    /// share of each pane in 1 - transmittance - absorptance [panes]
     std::vector<float> pane_shares;
     /// absorptance
     float absorptance = detail::none<float>;

@@ -82,6 +82,20 @@ def test_results():
     np.testing.assert_array_equal(np.isnan(shares).sum(axis=1), [4, 2])
 
 
+def test_outputs_as_long_as_lists_say():
+    for layers in (0, 1, 20):
+        given = [[0.1] * layers] * 3, 0.13, 0.04, [[20], [22]], [0, 5, 10], 50, 80
+        profile = fabric.condensation_profile(*given[0], *given[1:])
+        room = (np.empty((2, 3, layers + 1)), None, None)
+        again = fabric.condensation_profile(*given[0], *given[1:], out=room)
+        assert again.interface_temperature is room[0]
+        for kept, other, full in zip(profile, again, ufuncs.condensation_profile(*given[0], *given[1:])):
+            assert kept.shape == (2, 3, layers + 1) and kept.dtype == np.float32
+            np.testing.assert_array_equal(kept, other)
+            np.testing.assert_array_equal(kept, full[..., :layers + 1])
+            assert np.isnan(full[..., layers + 1:]).all() and not np.isnan(kept).any()
+
+
 @pytest.mark.parametrize("call, error, words", [
     (lambda: psychro.vapour_pressure("warm", 50), TypeError, "dry_bulb: a number is needed"),
     (lambda: psychro.vapour_pressure(20, None), TypeError, "relative_humidity: numbers are needed, not object"),
@@ -91,10 +105,13 @@ def test_results():
     (lambda: psychro.vapour_pressure([1, 2], [1, 2, 3]), ValueError, "broadcast"),
     (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, 1.5), TypeError, "psychrometer: integers are needed"),
     (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, "slung"), ValueError, "psychrometer: 'slung' is none of 'sling', 'screen'"),
-    (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, ["sling", "slung"]), ValueError, "'slung' is none of"),
-    (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, ["sling", None]), TypeError, "integers are needed"),
+    (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, ["sling", "slung"]), ValueError, "psychrometer: 'slung' is none of 'sling'"),
+    (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, ["sling", None]), ValueError, "psychrometer: None is none of 'sling', 'screen'"),
+    (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, [2**70, 1]), ValueError, "psychrometer"),
     (lambda: psychro.vapour_pressure_from_psychrometer(25, 20, 101325, 2**70), ValueError, "psychrometer"),
     (lambda: fabric.u_value([1, 2], [1, 2, 3], 0.1, 0.1), ValueError, "conductivity has 3 layers where thickness has 2"),
+    (lambda: fabric.condensation_profile([1, 2], [1], [1, 2], 0.1, 0, 20, 0, 50, 80), ValueError, "conductivity has 1 layers where"),
+    (lambda: fabric.condensation_profile([1] * 2, [1] * 2, [1] * 2, 0, 0, 20, 0, 50, 80, out=(np.empty(21),) * 3), ValueError, "shape"),
     (lambda: fabric.u_value(1, [1], 0.1, 0.1), ValueError, r"thickness: an array of shape \(..., layers\) is needed"),
     (lambda: fabric.u_value([1] * 21, [1] * 21, 0.1, 0.1), ValueError, "layers must be from 0 to 20"),
     (lambda: geometry.plan_area([0, 1], [0, 1]), ValueError, "vertices must be at least 3"),

@@ -46,8 +46,28 @@ def test_names_of_selectors_keep_their_labels():
         same(result, numbers)
         assert isinstance(result, np.ndarray if given is kinds else type(given))
     assert result.coords["kind"].values.tolist() == kinds
-    table = pandas.DataFrame([kinds], columns=["x", "y"])
+    table = pandas.DataFrame([["sling", 2]], columns=["x", "y"])
     assert psychro.vapour_pressure_from_psychrometer(25, 20, 101325, table).columns.tolist() == ["x", "y"]
+
+
+def test_names_of_selectors_in_any_array():
+    def pressure(kind):
+        return psychro.vapour_pressure_from_psychrometer(25, 20, 101325, kind)
+
+    kinds, numbers = ["sling", "screen"], pressure([1, 2])
+    for given in (np.array(kinds, object), ["sling", psychro.Psychrometer.screen], np.array(["sling", 2], object),
+                  pandas.Categorical(kinds), pandas.CategoricalIndex(kinds), pandas.array(kinds, dtype="string"),
+                  pandas.Series([1, 2], dtype="Int64"), xarray.Dataset({"kind": ("k", kinds)}).kind):
+        same(pressure(given), numbers)
+    same(pressure([["sling"], ["screen"]]), numbers[:, None])
+    assert pressure([]).shape == (0,)
+    lazy = dask.from_array(np.array(kinds), chunks=1)
+    assert pressure(xarray.DataArray(lazy, dims="k")).chunks and not isinstance(pressure(lazy), np.ndarray)
+    same(pressure(lazy).compute(scheduler="threads"), numbers)
+    same(pressure(xarray.Dataset({"a": ("k", kinds)})).a, numbers)
+    for missing in (pandas.Series(["sling", None], dtype="category"), pandas.Series(["sling", None], dtype="string")):
+        with pytest.raises(ValueError, match="psychrometer: (nan|<NA>) is none of 'sling', 'screen'"):
+            pressure(missing)
 
 
 def test_pandas_lists_go_together_by_their_labels():
@@ -112,8 +132,23 @@ def test_what_goes_with_xarray():
         fabric.u_value(layers, xarray.DataArray([1.0, 1, 1], dims="l"), 0.13, 0.04)
     with pytest.raises(ValueError, match=r"thickness: an array of shape \(..., layers\) is needed"):
         fabric.u_value(xarray.DataArray(0.1), [1.0], 0.13, 0.04)
-    profile = fabric.condensation_profile([0.1, 0.1], [0.77, 0.04], [50, 5], 0.13, 0.04, 20.0, t.chunk(time=5), 50.0, 80.0)
-    assert profile.interface_temperature.shape == (12, 21)
+
+
+def test_outputs_as_long_as_lists_say():
+    def profile(thickness, outside):
+        return fabric.condensation_profile(thickness, [0.77, 0.04], [50, 5], 0.13, 0.04, 20, outside, 50, 80)
+
+    plain, index = profile([0.1, 0.1], T).interface_temperature, pandas.Index(T, name="time")
+    assert plain.shape == (12, 3) and np.isfinite(plain).all()
+    series = profile([0.1, 0.1], pandas.Series(T, index=index)).interface_temperature
+    assert isinstance(series, pandas.DataFrame) and series.index.equals(index)
+    lazy = profile(dask.from_array([0.1, 0.1], chunks=1), dask.from_array(T, chunks=5)).interface_temperature
+    assert lazy.shape == (12, 3)  # before anything is worked out
+    labelled = xarray.DataArray(T, dims="time")
+    chunked = profile([0.1, 0.1], labelled.chunk(time=5)).interface_temperature
+    assert chunked.dims == ("time", "interfaces") and chunked.sizes["interfaces"] == 3
+    for each in (series, lazy.compute(), profile([0.1, 0.1], labelled).interface_temperature, chunked):
+        same(each, plain)
 
 
 def test_data_set():

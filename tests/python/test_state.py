@@ -66,6 +66,19 @@ def test_tables_stay_tables():
     assert all(each.index.tolist() == ["a", "b"] for each in air[:-1])
 
 
+def test_as_a_table():
+    pandas, xarray = pytest.importorskip("pandas"), pytest.importorskip("xarray")
+    hours = pandas.date_range("2005-01-01", periods=3, freq="h", name="time")
+    t = pandas.Series([20.0, 25.0, 30.0], index=hours)
+    table = pandas.DataFrame(psychro.state(t=t, rh=50)._asdict())
+    assert table.index.equals(hours) and tuple(table.columns) == psychro.State._fields and not table.isna().any(axis=None)
+    for known in (dict(t=t.to_xarray(), rh=50), dict(g=t.to_xarray() / 5000, h=50), dict(pv=t.to_xarray() * 50, rh=60)):
+        pressure = xarray.full_like(t.to_xarray(), 100000)
+        data = xarray.Dataset(psychro.state(**known, p=pressure)._asdict())
+        assert all(each.attrs["units"] and each.attrs["long_name"] for each in data.values())
+        assert data.sizes == {"time": 3} and not pressure.attrs  # what was given stays as it was
+
+
 def test_mixing_keeps_mass_and_energy(air):
     other, flow = psychro.state(t=18, rh=50, p=air.pressure), np.float32(3)
     mixture = psychro.mixed(air, other, flow, 1)

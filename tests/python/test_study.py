@@ -159,6 +159,34 @@ def test_chunks_of_any_size_have_the_same_bits(cube, tmp_path):
     assert same_bits(cube, tmp_path / "facade.zarr")
 
 
+def test_result_in_an_object_store(cube, tmp_path, capsys):
+    """On a real file system of fsspec; what is known of chunks is only that their objects are there."""
+    files, url = pytest.importorskip("fsspec").filesystem("memory"), f"memory://{tmp_path.name}/facade.zarr"
+    path = written(tmp_path)
+    assert main([str(path), "--threads", "2", "--result", url]) == 0
+    assert same_bits(cube, url)
+    lost = [name for name in files.ls(url + "/transmitted_peak", detail=False) if "/c." in name][3:6]
+    files.rm(lost)
+    assert len(study.run(study.open_result(study.read_study(path), url))) == len(lost) and same_bits(cube, url)
+    other = written(tmp_path, TEXT.replace("azimuths = 8", "azimuths = 9"))
+    assert main([str(other), "--result", url]) == 2
+    assert "another study, with different azimuths" in capsys.readouterr().err
+    path = written(tmp_path)
+    files.pipe(f"{url}/zarr.json", b'{"zarr_format": 3, "node_type": "group", "attributes": {}}')  # not finished
+    assert main([str(path), "--result", url]) == 2 and "not the result of a study" in capsys.readouterr().err
+    assert main([str(path), "--result", f"file://{tmp_path}/facade%20two.zarr"]) == 0
+    assert same_bits(cube, tmp_path / "facade two.zarr")
+
+
+@pytest.mark.parametrize("place, complaint", [
+    (["--result", "https://a/b.zarr"], "https://a/b.zarr: a result is a folder, or in one of the stores s3://"),
+    (["--result", "memory://b.zarr", "--scheduler", "tcp://127.0.0.1:1"], "memory://b.zarr is in the memory of this process"),
+])
+def test_stores_that_do_not_serve_are_refused(tmp_path, capsys, place, complaint):
+    assert main([str(written(tmp_path)), *place]) == 2
+    assert complaint in capsys.readouterr().err
+
+
 class Counted(Result):
     """Writes down each chunk that it has written; a child process finds it by its name."""
 

@@ -378,8 +378,8 @@ namespace Quorvel
         /// caller.</summary>
         /// <param name="fraction">Cumulative fraction of days; valid 0 to 1.</param>
         /// <param name="month">Month; valid 1 to 12.</param>
-        /// <param name="frequencies">Cumulative frequencies by month and band, not falling with the band; valid 0 to
-        /// 1.</param>
+        /// <param name="frequencies">Cumulative frequencies of each band in each month, not falling with the band;
+        /// valid 0 to 1.</param>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>Fractions, where <c>Climate.BandClimate</c> takes a percentage.</para>
@@ -492,7 +492,7 @@ namespace Quorvel
             return Unchecked.Climate.BandRow(row);
         }
 
-        /// <summary>Design day of a month as a day of the year, into the caller's variable.</summary>
+        /// <summary>Design day of a month as a day of the year, as <c>Climate.DesignDay</c> gives it.</summary>
         /// <param name="month">Month; valid 1 to 12.</param>
         /// <returns>Design day of the year.</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
@@ -515,7 +515,8 @@ namespace Quorvel
             return Unchecked.Climate.StoreDesignDay(month);
         }
 
-        /// <summary>Design day of a month as a day of the year or of the month, into the caller's variable.</summary>
+        /// <summary>Design day of a month as a day of the year or of the month, as <c>Climate.DesignDayByOption</c>
+        /// gives it.</summary>
         /// <param name="month">Month; valid 1 to 12.</param>
         /// <param name="dayKind">How the day is counted.</param>
         /// <returns>Design day.</returns>

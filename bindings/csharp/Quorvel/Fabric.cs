@@ -6,28 +6,25 @@ namespace Quorvel
     /// <summary>What <c>Fabric.CyclicResponse</c> returns.</summary>
     public struct CyclicResponse
     {
-        /// <summary>Admittance Y [W/m²K]; not a number with more than 20 layers.</summary>
+        /// <summary>Admittance Y [W/m²K].</summary>
         public float Admittance;
 
-        /// <summary>Time lead of the admittance, 0 to 24 / harmonic [h]; not a number with more than 20
-        /// layers.</summary>
+        /// <summary>Time lead of the admittance, 0 to 24 / harmonic [h].</summary>
         public float AdmittanceLead;
 
-        /// <summary>Decrement factor f, 0 for a partition; not a number with more than 20 layers.</summary>
+        /// <summary>Decrement factor f, 0 for a partition.</summary>
         public float DecrementFactor;
 
-        /// <summary>Time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]; not a number with more
-        /// than 20 layers.</summary>
+        /// <summary>Time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h].</summary>
         public float DecrementLag;
 
-        /// <summary>Surface factor F; not a number with more than 20 layers.</summary>
+        /// <summary>Surface factor F.</summary>
         public float SurfaceFactor;
 
-        /// <summary>Time lag of the surface factor, 0 to 24 / harmonic [h]; not a number with more than 20
-        /// layers.</summary>
+        /// <summary>Time lag of the surface factor, 0 to 24 / harmonic [h].</summary>
         public float SurfaceFactorLag;
 
-        /// <summary>U-value, as <c>Fabric.UValue</c> gives it [W/m²K]; not a number with more than 20 layers.</summary>
+        /// <summary>U-value, as <c>Fabric.UValue</c> gives it [W/m²K].</summary>
         public float UValue;
 
         /// <summary>Into variables, in the order of the fields.</summary>
@@ -47,16 +44,14 @@ namespace Quorvel
     /// <summary>What <c>Fabric.CondensationProfile</c> returns.</summary>
     public struct CondensationProfile
     {
-        /// <summary>Temperature at the interfaces, from the inside surface to the outside one [°C]; not a number with a
-        /// count outside 0 to 20, and beyond element layers + 1.</summary>
+        /// <summary>Temperature at the interfaces, from the inside surface to the outside one [°C]; not a number beyond
+        /// element layers + 1.</summary>
         public float[] InterfaceTemperature;
 
-        /// <summary>Vapour pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond element layers
-        /// + 1.</summary>
+        /// <summary>Vapour pressure at them [Pa]; not a number beyond element layers + 1.</summary>
         public float[] InterfaceVapourPressure;
 
-        /// <summary>Saturation pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond element
-        /// layers + 1.</summary>
+        /// <summary>Saturation pressure at them [Pa]; not a number beyond element layers + 1.</summary>
         public float[] InterfaceSaturationPressure;
 
         /// <summary>Into variables, in the order of the fields.</summary>
@@ -223,7 +218,7 @@ namespace Quorvel
         /// <remarks>
         /// <para>Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (UValue m12); F
         /// = 1 - insideResistance Y</para>
-        /// <para>A count below 1 leaves the two surfaces alone; no array is read.</para>
+        /// <para>Without layers the two surfaces are left.</para>
         /// <para>Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U, the time
         /// shifts are not numbers. One below 0 gives no numbers.</para>
         /// <para>A layer without heat capacity acts as its resistance. One with very little is the less accurate the
@@ -398,13 +393,13 @@ namespace Quorvel
         /// [m].</param>
         /// <param name="vapourResistivity">Vapour resistivity of each layer; of a membrane its vapour resistance in GN
         /// s/kg [GN s/(kg m)]; valid from 0.</param>
-        /// <returns>Total vapour resistance [N s/kg]; not a number with more than 20 layers.</returns>
+        /// <returns>Total vapour resistance [N s/kg].</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>Formula: sum of 1e9 thickness vapourResistivity</para>
         /// <para>A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, whatever
         /// its resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.</para>
-        /// <para>A count below 1 gives 0.</para>
+        /// <para>Without layers it is 0.</para>
         /// <para>Results are in N s/kg, resistivities in GN s/(kg m).</para>
         /// <para>Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.</para>
         /// <para>The bits of TPDAMP in quorvel.h.</para>
@@ -435,9 +430,8 @@ namespace Quorvel
         /// <param name="outsideHumidity">Outside relative humidity [%]; valid 0 to 100.</param>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
-        /// <para>Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0, write
-        /// nothing. Without layers there is one surface, with the temperature and the vapour pressure of its
-        /// inside.</para>
+        /// <para>The first and the last interface are the surfaces. Without layers there is one surface, with the
+        /// temperature and the vapour pressure of its inside.</para>
         /// <para>Vapour condenses at an interface where the vapour pressure equals the saturation pressure.</para>
         /// <para>Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to saturation
         /// there. Between two surfaces without any vapour resistance the vapour pressure is no number.</para>
@@ -518,10 +512,11 @@ namespace Quorvel
         }
 
         /// <summary>One property of one record of a construction, a list of elements from face to face.</summary>
-        /// <param name="elementRecords">Ten fields of each record, the first its type code [by field].</param>
-        /// <param name="recordNumber">Record asked about; valid from 1.</param>
+        /// <param name="elementRecords">Ten fields of each record, counted from 1; the first is its type code [by
+        /// field].</param>
+        /// <param name="recordNumber">Record asked about, counted from 1; valid from 1.</param>
         /// <param name="item">Property asked for; valid 1 to 72.</param>
-        /// <returns>The property, 1e20 if it does not exist [by item]; 1e20 where there is none.</returns>
+        /// <returns>The property [by item]; 1e20 where there is none.</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2 another
@@ -837,11 +832,11 @@ namespace Quorvel
         /// 0 [W/mK]; valid from 0.</param>
         /// <param name="surfaceResistance1">Resistance of one surface [m²K/W]; valid from 0.</param>
         /// <param name="surfaceResistance2">Resistance of the other [m²K/W]; valid from 0.</param>
-        /// <returns>U-value [W/m²K]; not a number with more than 20 layers.</returns>
+        /// <returns>U-value [W/m²K].</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>Formula: 1 / (surfaceResistance1 + surfaceResistance2 + sum of thickness / conductivity)</para>
-        /// <para>A count below 1 leaves the two surfaces alone; no array is read.</para>
+        /// <para>Without layers the two surfaces are left.</para>
         /// <para>How far below 0 a thickness is makes no difference here; it does in
         /// <c>Fabric.TotalVapourResistance</c> and <c>Fabric.CondensationProfile</c>.</para>
         /// <para>A thickness that is no number gives no number.</para>

@@ -90,8 +90,7 @@ namespace Quorvel
     /// <summary>What <c>Geometry.CountEnclosed</c> returns.</summary>
     public struct CountEnclosed
     {
-        /// <summary>1 for points that are enclosed; left as given for others; as given for points that are not
-        /// enclosed.</summary>
+        /// <summary>1 for points that are enclosed; as given for points that are not enclosed.</summary>
         public Enclosed[] Enclosed;
 
         /// <summary>Number of enclosed points.</summary>
@@ -111,7 +110,7 @@ namespace Quorvel
         /// <summary>Crossing point, or what the notes say [m]; 1e20 where there is none.</summary>
         public float[] CrossingPoint;
 
-        /// <summary>Number of the vertex that ends the crossed edge, or what the notes say.</summary>
+        /// <summary>Number, counted from 1, of the vertex that ends the crossed edge, or what the notes say.</summary>
         public int CrossingCode;
 
         /// <summary>Into variables, in the order of the fields.</summary>
@@ -125,13 +124,13 @@ namespace Quorvel
     /// <summary>What <c>Geometry.ParallelSides</c> returns.</summary>
     public struct ParallelSides
     {
-        /// <summary>-1 if so, else 0.</summary>
+        /// <summary>Whether there are any.</summary>
         public bool Truth;
 
-        /// <summary>Side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none.</summary>
+        /// <summary>Side of one triangle: 1 between its first two corners, 2 between its last two; 3 none.</summary>
         public int Side1;
 
-        /// <summary>Side of triangle 2, likewise.</summary>
+        /// <summary>Side of the other, likewise.</summary>
         public int Side2;
 
         /// <summary>Into variables, in the order of the fields.</summary>
@@ -197,13 +196,13 @@ namespace Quorvel
     /// <summary>What <c>Geometry.PolygonOrientation</c> returns.</summary>
     public struct PolygonOrientation
     {
-        /// <summary>Area, positive when the vertices run as the corner at vertex 1 turns [m²].</summary>
+        /// <summary>Area, positive when the vertices run as the corner at the first one turns [m²].</summary>
         public float Area;
 
-        /// <summary>Angle between the normal and the vertical [°]; not a number with fewer than one vertex.</summary>
+        /// <summary>Angle between the normal and the vertical [°].</summary>
         public float Tilt;
 
-        /// <summary>Azimuth opposite to the normal [°]; not a number with fewer than one vertex.</summary>
+        /// <summary>Azimuth opposite to the normal [°].</summary>
         public float BackAzimuth;
 
         /// <summary>Into variables, in the order of the fields.</summary>
@@ -274,15 +273,15 @@ namespace Quorvel
         /// <summary>Whether points in plan lie on one straight line.</summary>
         /// <param name="x">X of the vertices [m].</param>
         /// <param name="y">Y of the vertices [m].</param>
-        /// <returns>1 on one line; otherwise the number, from 2, of the first point whose y differs from that of point
-        /// 1.</returns>
+        /// <returns>1 on one line; otherwise the number, counted from 1, of the first point whose y differs from that
+        /// of the first of all.</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>The points are held against the line through the first two that differ by 1e-5 or more in both
         /// coordinates. A point is off it when the ratios of its offsets to theirs, in x and in y, differ by more than
         /// 1e-5: what is tolerated grows with the distance between the two.</para>
-        /// <para>Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are fewer than
-        /// one. Not a number counts as equal to anything.</para>
+        /// <para>Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a number counts
+        /// as equal to anything.</para>
         /// <para>Coordinates near one another within 1e-5 can leave no two points to draw the line through; then the
         /// points are not on one line, and finding that out takes n²/2 comparisons.</para>
         /// <para>Source: Intercept theorem.</para>
@@ -302,13 +301,12 @@ namespace Quorvel
         /// <param name="y">Y of the vertices [m].</param>
         /// <param name="pointX">X of the points [m].</param>
         /// <param name="pointY">Y of the points [m].</param>
-        /// <param name="enclosed">1 for points that are enclosed; left as given for others.</param>
+        /// <param name="enclosed">1 for points that are enclosed.</param>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>A point is enclosed when it is left of no edge, as <c>Geometry.SideOfLine</c> sees it, or is at a
         /// vertex (to less than 1e-5 in each coordinate) that comes before any such edge.</para>
         /// <para>Points that are not numbers are left of no edge, and so enclosed.</para>
-        /// <para>Without vertices or points the number enclosed is 0.</para>
         /// <para>Source: A convex polygon is the intersection of half-planes.</para>
         /// <para>The bits of GECLOS in quorvel.h.</para>
         /// </remarks>
@@ -334,10 +332,11 @@ namespace Quorvel
         /// <param name="y">Y of the vertices [m].</param>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
-        /// <para>The edges are tried in turn, from vertex 1 to 2 on, as <c>Geometry.CrossingPoint</c> does; the first
-        /// one that is crossed away from the start ends the search. A crossing beyond 100000 is none.</para>
-        /// <para>No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is the
-        /// last outcome of the search, the start or 1e20.</para>
+        /// <para>The edges are tried in turn, from that between the first two vertices on, as
+        /// <c>Geometry.CrossingPoint</c> does; the first one that is crossed away from the start ends the search. A
+        /// crossing beyond 100000 is none.</para>
+        /// <para>No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a minus, and
+        /// the point is the last outcome of the search, the start or 1e20.</para>
         /// <para>Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of them,
         /// and the point that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more, small
         /// codes of this kind cannot be told from edges by the code alone.)</para>
@@ -368,7 +367,7 @@ namespace Quorvel
         /// 0. So a point may be found outside a polygon that is not convex because it is in line with an edge.</para>
         /// <para>That the point is in the plane is not tested: over the middle of a square it is inside up to half the
         /// length of a side.</para>
-        /// <para>Fewer than one edge, and not a number, give 0.</para>
+        /// <para>Not a number gives 0.</para>
         /// <para>Source: Sum of the angles under which the point sees the edges.</para>
         /// <para>The bits of GEINSI in quorvel.h.</para>
         /// </remarks>
@@ -383,7 +382,7 @@ namespace Quorvel
         /// <summary>Whether the planes of two triangles are parallel.</summary>
         /// <param name="triangle1">Corners of one triangle [m].</param>
         /// <param name="triangle2">Corners of the other [m].</param>
-        /// <returns>-1 if so, else 0.</returns>
+        /// <returns>Whether they are parallel.</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>So they are when the cross product of their normals, each as long as twice the triangle's area, is
@@ -407,7 +406,7 @@ namespace Quorvel
         /// <remarks>
         /// <para>Sides are parallel when their cross product is shorter than 0.001, so that short sides are parallel to
         /// any.</para>
-        /// <para>The sides from corner 3 to 1 are not tested.</para>
+        /// <para>The sides between last and first corner are not tested.</para>
         /// <para>Source: Definition.</para>
         /// <para>The bits of GEPSID in quorvel.h.</para>
         /// </remarks>
@@ -422,10 +421,10 @@ namespace Quorvel
 
         /// <summary>Whether a quadrilateral is rectangular.</summary>
         /// <param name="quadrilateral">Corners in turn [m].</param>
-        /// <returns>-1 if so, else 0.</returns>
+        /// <returns>Whether it is rectangular.</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
-        /// <para>So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in
+        /// <para>So it is when at all corners but the first the dot product of the two sides is at most 1e-6 in
         /// magnitude.</para>
         /// <para>Source: Definition.</para>
         /// <para>The bits of GERECT in quorvel.h.</para>
@@ -463,10 +462,10 @@ namespace Quorvel
         /// <param name="quadrilateral2">Corners of the second [m].</param>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
-        /// <para>The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross product of
-        /// the ways from corner 1 to corners 2 and 3.</para>
+        /// <para>The origin is the first corner of the first; from there x points to the second corner, y to the
+        /// fourth, z along the cross product of the ways to the second and the third.</para>
         /// <para>Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle
-        /// at corner 1.</para>
+        /// at its first corner.</para>
         /// <para>Coincident corners give what is not a number.</para>
         /// <para>Source: Definition.</para>
         /// <para>The bits of GELCAL in quorvel.h.</para>
@@ -480,7 +479,7 @@ namespace Quorvel
             return Unchecked.Geometry.LocalCoordinates(quadrilateral1, quadrilateral2);
         }
 
-        /// <summary>Replaces each of four points by its components along three axes.</summary>
+        /// <summary>Components of each of four points along three axes.</summary>
         /// <param name="corners">Points [m].</param>
         /// <param name="xAxis">X axis.</param>
         /// <param name="yAxis">Y axis.</param>
@@ -606,7 +605,7 @@ namespace Quorvel
         /// <param name="y1">Y of one point [m].</param>
         /// <param name="x2">X of the other [m].</param>
         /// <param name="y2">Y of the other [m].</param>
-        /// <returns>-1 if both coordinates differ by less than 1e-5, else 0.</returns>
+        /// <returns>Whether both coordinates differ by less than 1e-5.</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>Source: Definition.</para>
@@ -757,8 +756,8 @@ namespace Quorvel
         /// <returns>Area [m²].</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
-        /// <para>Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last</para>
-        /// <para>Fewer than one vertex give 0.</para>
+        /// <para>Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the
+        /// first</para>
         /// <para>A polygon far from the origin beside its size loses digits.</para>
         /// <para>Source: Shoelace formula.</para>
         /// <para>The bits of GEAPOL in quorvel.h.</para>
@@ -777,7 +776,7 @@ namespace Quorvel
         /// <returns>Area, negative for anticlockwise vertices [m²].</returns>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
-        /// <para>Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last</para>
+        /// <para>Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first</para>
         /// <para>As <c>Geometry.PlanArea</c>.</para>
         /// <para>Source: Shoelace formula.</para>
         /// <para>The bits of GEAPO2 in quorvel.h.</para>
@@ -800,7 +799,6 @@ namespace Quorvel
         /// <para>It is the sum of the triangles over the edges with the mean of the vertices as apex, all counted as
         /// positive: too large for a polygon that is not seen whole from there. Of the surfaces of real buildings 3.3 %
         /// come out too large by more than 0.1 %, half of these by more than 7 %.</para>
-        /// <para>Fewer than one vertex give 0.</para>
         /// <para>Source: Elementary geometry.</para>
         /// <para>The bits of GEAPO3 in quorvel.h.</para>
         /// </remarks>
@@ -817,17 +815,15 @@ namespace Quorvel
         /// <param name="polygon">Vertices [m].</param>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
-        /// <para>The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its opposite is the
-        /// outward normal of a convex polygon that runs clockwise seen from outside.</para>
-        /// <para>Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin within a
-        /// straight side, and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are
-        /// wrong: let vertex 1 be a true corner.</para>
+        /// <para>The normal points to where the corner at the first vertex is seen to turn anticlockwise: its opposite
+        /// is the outward normal of a convex polygon that runs clockwise seen from outside.</para>
+        /// <para>Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings 141 begin
+        /// within a straight side, and for 7 of these rounding alone decides the normal, so that area, tilt and
+        /// orientation are wrong: let the first vertex be a true corner.</para>
         /// <para>The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the azimuth
-        /// opposite to its first side, from vertex 1 to 2, if the normal points up, and that of the side if it points
-        /// down.</para>
+        /// opposite to its first side if the normal points up, and that of the side if it points down.</para>
         /// <para>Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and what faces
         /// north may get 0.00003.</para>
-        /// <para>Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.</para>
         /// <para>Source: Shoelace formula in the plane of the polygon.</para>
         /// <para>The bits of GEASO in quorvel.h.</para>
         /// </remarks>

@@ -79,13 +79,13 @@ namespace Quorvel
     /// <summary>What <c>Glazing.TracedLayers</c> returns.</summary>
     public struct TracedLayers
     {
-        /// <summary>Transmittance of the stack; not a number with more than 11 layers.</summary>
+        /// <summary>Transmittance of the stack.</summary>
         public float Transmittance;
 
-        /// <summary>Absorptance of the stack; not a number with more than 11 layers.</summary>
+        /// <summary>Absorptance of the stack.</summary>
         public float Absorptance;
 
-        /// <summary>Reflectance of the stack; not a number with more than 11 layers.</summary>
+        /// <summary>Reflectance of the stack.</summary>
         public float Reflectance;
 
         /// <summary>Into variables, in the order of the fields.</summary>
@@ -180,19 +180,19 @@ namespace Quorvel
     /// <summary>What <c>Glazing.PaneTemperatures</c> returns.</summary>
     public struct PaneTemperatures
     {
-        /// <summary>Temperature of pane 1, nearest the room [°C]; not a number with a count outside 1 to 5.</summary>
+        /// <summary>Temperature of pane 1, nearest the room [°C]; not a number with panes outside 1 to 5.</summary>
         public float PaneTemperature1;
 
-        /// <summary>Temperature of pane 2 [°C]; not a number with a count outside 2 to 5.</summary>
+        /// <summary>Temperature of pane 2 [°C]; not a number with panes outside 2 to 5.</summary>
         public float PaneTemperature2;
 
-        /// <summary>Temperature of pane 3 [°C]; not a number with a count outside 3 to 5.</summary>
+        /// <summary>Temperature of pane 3 [°C]; not a number with panes outside 3 to 5.</summary>
         public float PaneTemperature3;
 
-        /// <summary>Temperature of pane 4 [°C]; not a number with a count outside 4 to 5.</summary>
+        /// <summary>Temperature of pane 4 [°C]; not a number with panes outside 4 to 5.</summary>
         public float PaneTemperature4;
 
-        /// <summary>Temperature of pane 5 [°C]; not a number with a count outside 4 to 5.</summary>
+        /// <summary>Temperature of pane 5 [°C]; not a number with panes outside 4 to 5.</summary>
         public float PaneTemperature5;
 
         /// <summary>Into variables, in the order of the fields.</summary>
@@ -255,8 +255,7 @@ namespace Quorvel
         /// <summary>Transmittance.</summary>
         public float Transmittance;
 
-        /// <summary>Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to
-        /// 5.</summary>
+        /// <summary>Share of each pane in 1 - transmittance - absorptance.</summary>
         public float[] PaneShares;
 
         /// <summary>Absorptance.</summary>
@@ -277,8 +276,7 @@ namespace Quorvel
         /// <summary>Diffuse transmittance.</summary>
         public float Transmittance;
 
-        /// <summary>Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to
-        /// 5.</summary>
+        /// <summary>Share of each pane in 1 - transmittance - absorptance.</summary>
         public float[] PaneShares;
 
         /// <summary>Diffuse absorptance.</summary>
@@ -299,8 +297,7 @@ namespace Quorvel
         /// <summary>Transmittance.</summary>
         public float Transmittance;
 
-        /// <summary>Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to
-        /// 5.</summary>
+        /// <summary>Share of each pane in 1 - transmittance - absorptance.</summary>
         public float[] PaneShares;
 
         /// <summary>Absorptance.</summary>
@@ -540,7 +537,7 @@ namespace Quorvel
         /// inter-reflection.</para>
         /// <para>Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until they do
         /// not. It turns negative if the transmittance alone is above 0.99.</para>
-        /// <para>A count below 1 is an empty stack, which transmits everything; no array is read.</para>
+        /// <para>The last layer is met first. No layers are an empty stack, which transmits everything.</para>
         /// <para>Source: First-order combination of the layers.</para>
         /// <para>The bits of WNCOM2 in quorvel.h.</para>
         /// </remarks>
@@ -563,7 +560,7 @@ namespace Quorvel
         /// more than eight steps back is missing from all three results: nothing of one layer; of two, the ninth power
         /// of the product of their reflectances as a share of the transmittance; of ten and eleven layers all that the
         /// last ones reflect.</para>
-        /// <para>A count below 1 is an empty stack, which transmits everything; no array is read.</para>
+        /// <para>The last layer is met first. No layers are an empty stack, which transmits everything.</para>
         /// <para>That transmittance, absorptance and reflectance of a layer add up to 1 is left to the caller.</para>
         /// <para>Source: Tracing of one forward and one backward flux, which tends to the adding method.</para>
         /// <para>The bits of WNCOMP in quorvel.h.</para>
@@ -672,7 +669,6 @@ namespace Quorvel
         /// <para>Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at normal
         /// incidence, ((1 - n) / (1 + n))^2 with the refractive index n. <c>Glazing.RefractionAngle</c> tests the sine
         /// of the angle instead; the two limits differ deliberately.</para>
-        /// <para>The perpendicular one is written first.</para>
         /// <para>Source: Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter
         /// 5.</para>
         /// <para>The bits of WNREFL in quorvel.h.</para>
@@ -826,8 +822,8 @@ namespace Quorvel
         /// <param name="absorbed5">Absorbed in pane 5 [W/m²]; valid from 0.</param>
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
-        /// <para>Only as many absorbed values are read as there are panes. Four panes are calculated as five: what the
-        /// fifth absorbs is read (give 0 for it), and its temperature is written.</para>
+        /// <para>What is given as absorbed in panes that are not there has no influence. Four panes are calculated as
+        /// five: what the fifth absorbs counts (give 0 for it), and it has a temperature.</para>
         /// <para>Source: Heat balance of the panes with fixed resistances: 0.12 m²K/W at the room side, 0.06 m²K/W
         /// outdoors; coefficients rounded to two decimals.</para>
         /// <para>The bits of WNTEMP in quorvel.h.</para>
@@ -951,7 +947,6 @@ namespace Quorvel
         /// <exception cref="System.ArgumentException">Bad input: see the valid ranges.</exception>
         /// <remarks>
         /// <para>What is split is the remainder, not the absorptance.</para>
-        /// <para>Transmittance and absorptance are returned whatever the number of panes.</para>
         /// <para>Source: <c>Glazing.UnitDirect</c>; the shares by number of panes are fixed, 0.4 and 0.6 for two, their
         /// origin is not recorded.</para>
         /// <para>The bits of WNDRSM in quorvel.h.</para>

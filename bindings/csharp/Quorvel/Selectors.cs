@@ -135,7 +135,7 @@ namespace Quorvel
         DatedSolar = 3,
     }
 
-    /// <summary>1 for points that are enclosed; left as given for others.</summary>
+    /// <summary>1 for points that are enclosed.</summary>
     public enum Enclosed
     {
         /// <summary>Not enclosed.</summary>

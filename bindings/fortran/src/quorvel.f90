@@ -1047,7 +1047,7 @@ contains
    !> Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (u_value m12); F = 1 -
    !> inside_resistance Y
    !>
-   !> A count below 1 leaves the two surfaces alone; no array is read.
+   !> Without layers the two surfaces are left.
    !>
    !> Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U, the time shifts are not
    !> numbers. One below 0 gives no numbers.
@@ -1090,18 +1090,14 @@ contains
       integer(i4), intent(in) :: harmonic !! cycles in 24 hours; valid from 0
       integer(i4), intent(in) :: element_kind !! kind of element: 1 element between two environments, 2 internal
       !! partition, the same swing on both sides
-      real(sp), intent(out), optional :: admittance !! admittance Y [W/m2K]; not a number with more than 20 layers
-      real(sp), intent(out), optional :: admittance_lead !! time lead of the admittance, 0 to 24 / harmonic [h]; not a
-      !! number with more than 20 layers
-      real(sp), intent(out), optional :: decrement_factor !! decrement factor f, 0 for a partition; not a number with
-      !! more than 20 layers
+      real(sp), intent(out), optional :: admittance !! admittance Y [W/m2K]
+      real(sp), intent(out), optional :: admittance_lead !! time lead of the admittance, 0 to 24 / harmonic [h]
+      real(sp), intent(out), optional :: decrement_factor !! decrement factor f, 0 for a partition
       real(sp), intent(out), optional :: decrement_lag !! time lag of the decrement factor, 0 to 24 / harmonic, 0 for a
-      !! partition [h]; not a number with more than 20 layers
-      real(sp), intent(out), optional :: surface_factor !! surface factor F; not a number with more than 20 layers
-      real(sp), intent(out), optional :: surface_factor_lag !! time lag of the surface factor, 0 to 24 / harmonic [h];
-      !! not a number with more than 20 layers
-      real(sp), intent(out), optional :: u_value !! U-value, as u_value gives it [W/m2K]; not a number with more than 20
-      !! layers
+      !! partition [h]
+      real(sp), intent(out), optional :: surface_factor !! surface factor F
+      real(sp), intent(out), optional :: surface_factor_lag !! time lag of the surface factor, 0 to 24 / harmonic [h]
+      real(sp), intent(out), optional :: u_value !! U-value, as u_value gives it [W/m2K]
       type(quorvel_fault) :: fault
       call check_cyclic_response(thickness, conductivity, density, specific_heat, inside_resistance, &
          outside_resistance, harmonic, element_kind, fault)
@@ -1204,7 +1200,7 @@ contains
    !> A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, whatever its
    !> resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
    !>
-   !> A count below 1 gives 0.
+   !> Without layers it is 0.
    !>
    !> Results are in N s/kg, resistivities in GN s/(kg m).
    !>
@@ -1216,7 +1212,7 @@ contains
       !! a membrane [m]
       real(sp), intent(in) :: vapour_resistivity(:) !! vapour resistivity of each layer; of a membrane its vapour
       !! resistance in GN s/kg [GN s/(kg m)]; valid from 0
-      real(sp) :: answer !! total vapour resistance [N s/kg]; not a number with more than 20 layers
+      real(sp) :: answer !! total vapour resistance [N s/kg]
       type(quorvel_fault) :: fault
       call check_total_vapour_resistance(thickness, vapour_resistivity, fault)
       if (fault%found) error stop fault%message()
@@ -1226,8 +1222,8 @@ contains
    !> Steady temperature, vapour pressure and saturation pressure at the interfaces of a construction; the vapour
    !> pressure is held down to saturation where it would exceed it.
    !>
-   !> Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0, write nothing. Without
-   !> layers there is one surface, with the temperature and the vapour pressure of its inside.
+   !> The first and the last interface are the surfaces. Without layers there is one surface, with the temperature and
+   !> the vapour pressure of its inside.
    !>
    !> Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
    !>
@@ -1259,11 +1255,11 @@ contains
       real(sp), intent(in) :: inside_humidity !! inside relative humidity [%]; valid 0 to 100
       real(sp), intent(in) :: outside_humidity !! outside relative humidity [%]; valid 0 to 100
       real(sp), intent(out), optional :: interface_temperature(:) !! temperature at the interfaces, from the inside
-      !! surface to the outside one [degC]; not a number with a count outside 0 to 20, and beyond element layers + 1
-      real(sp), intent(out), optional :: interface_vapour_pressure(:) !! vapour pressure at them [Pa]; not a number with
-      !! a count outside 0 to 20, and beyond element layers + 1
+      !! surface to the outside one [degC]; not a number beyond element layers + 1
+      real(sp), intent(out), optional :: interface_vapour_pressure(:) !! vapour pressure at them [Pa]; not a number
+      !! beyond element layers + 1
       real(sp), intent(out), optional :: interface_saturation_pressure(:) !! saturation pressure at them [Pa]; not a
-      !! number with a count outside 0 to 20, and beyond element layers + 1
+      !! number beyond element layers + 1
       type(quorvel_fault) :: fault
       call check_condensation_profile(thickness, conductivity, vapour_resistivity, inside_resistance, &
          outside_resistance, inside_temperature, outside_temperature, inside_humidity, outside_humidity, fault)
@@ -1339,10 +1335,11 @@ contains
    !> (BELDAT of quorvel_by_reference)
    pure function element_property(element_records, record_number, item) result(answer)
       use quorvel_unchecked, only: unchecked => element_property
-      real(sp), intent(in) :: element_records(:, :) !! ten fields of each record, the first its type code [by field]
-      integer(i4), intent(in) :: record_number !! record asked about; valid from 1
+      real(sp), intent(in) :: element_records(:, :) !! ten fields of each record, counted from 1; the first is its type
+      !! code [by field]
+      integer(i4), intent(in) :: record_number !! record asked about, counted from 1; valid from 1
       integer(i4), intent(in) :: item !! property asked for; valid 1 to 72
-      real(sp) :: answer !! the property, 1e20 if it does not exist [by item]; 1e20 where there is none
+      real(sp) :: answer !! the property [by item]; 1e20 where there is none
       type(quorvel_fault) :: fault
       call check_element_property(element_records, record_number, item, fault)
       if (fault%found) error stop fault%message()
@@ -1532,7 +1529,7 @@ contains
    !>
    !> Formula: 1 / (surface_resistance_1 + surface_resistance_2 + sum of thickness / conductivity)
    !>
-   !> A count below 1 leaves the two surfaces alone; no array is read.
+   !> Without layers the two surfaces are left.
    !>
    !> How far below 0 a thickness is makes no difference here; it does in total_vapour_resistance and
    !> condensation_profile.
@@ -1549,7 +1546,7 @@ contains
       !! is below 0 [W/mK]; valid from 0
       real(sp), intent(in) :: surface_resistance_1 !! resistance of one surface [m2K/W]; valid from 0
       real(sp), intent(in) :: surface_resistance_2 !! resistance of the other [m2K/W]; valid from 0
-      real(sp) :: answer !! U-value [W/m2K]; not a number with more than 20 layers
+      real(sp) :: answer !! U-value [W/m2K]
       type(quorvel_fault) :: fault
       call check_u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2, fault)
       if (fault%found) error stop fault%message()
@@ -1711,7 +1708,7 @@ contains
    !> Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until they do not. It turns
    !> negative if the transmittance alone is above 0.99.
    !>
-   !> A count below 1 is an empty stack, which transmits everything; no array is read.
+   !> The last layer is met first. No layers are an empty stack, which transmits everything.
    !>
    !> Source: First-order combination of the layers.
    !> (WNCOM2 of quorvel_by_reference)
@@ -1734,7 +1731,7 @@ contains
    !> eight steps back is missing from all three results: nothing of one layer; of two, the ninth power of the product
    !> of their reflectances as a share of the transmittance; of ten and eleven layers all that the last ones reflect.
    !>
-   !> A count below 1 is an empty stack, which transmits everything; no array is read.
+   !> The last layer is met first. No layers are an empty stack, which transmits everything.
    !>
    !> That transmittance, absorptance and reflectance of a layer add up to 1 is left to the caller.
    !>
@@ -1747,10 +1744,9 @@ contains
       !! to 1
       real(sp), intent(in) :: layer_absorptances(:) !! absorptance of each layer; valid 0 to 1
       real(sp), intent(in) :: layer_reflectances(:) !! reflectance of each layer, the same from both sides; valid 0 to 1
-      real(sp), intent(out), optional :: transmittance !! transmittance of the stack; not a number with more than 11
-      !! layers
-      real(sp), intent(out), optional :: absorptance !! absorptance of the stack; not a number with more than 11 layers
-      real(sp), intent(out), optional :: reflectance !! reflectance of the stack; not a number with more than 11 layers
+      real(sp), intent(out), optional :: transmittance !! transmittance of the stack
+      real(sp), intent(out), optional :: absorptance !! absorptance of the stack
+      real(sp), intent(out), optional :: reflectance !! reflectance of the stack
       type(quorvel_fault) :: fault
       call check_traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, fault)
       if (fault%found) error stop fault%message()
@@ -1831,8 +1827,6 @@ contains
    !> Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at normal incidence,
    !> ((1 - n) / (1 + n))^2 with the refractive index n. refraction_angle tests the sine of the angle instead; the two
    !> limits differ deliberately.
-   !>
-   !> The perpendicular one is written first.
    !>
    !> Source: Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter 5.
    !> (WNREFL of quorvel_by_reference)
@@ -1944,8 +1938,8 @@ contains
    !> Steady temperatures of the panes of a glazing from the air temperatures on both sides and the solar radiation that
    !> each pane absorbs.
    !>
-   !> Only as many absorbed values are read as there are panes. Four panes are calculated as five: what the fifth
-   !> absorbs is read (give 0 for it), and its temperature is written.
+   !> What is given as absorbed in panes that are not there has no influence. Four panes are calculated as five: what
+   !> the fifth absorbs counts (give 0 for it), and it has a temperature.
    !>
    !> Source: Heat balance of the panes with fixed resistances: 0.12 m2K/W at the room side, 0.06 m2K/W outdoors;
    !> coefficients rounded to two decimals.
@@ -1963,14 +1957,14 @@ contains
       real(sp), intent(in) :: absorbed_4 !! absorbed in pane 4 [W/m2]; valid from 0
       real(sp), intent(in) :: absorbed_5 !! absorbed in pane 5 [W/m2]; valid from 0
       real(sp), intent(out), optional :: pane_temperature_1 !! temperature of pane 1, nearest the room [degC]; not a
-      !! number with a count outside 1 to 5
-      real(sp), intent(out), optional :: pane_temperature_2 !! temperature of pane 2 [degC]; not a number with a count
+      !! number with panes outside 1 to 5
+      real(sp), intent(out), optional :: pane_temperature_2 !! temperature of pane 2 [degC]; not a number with panes
       !! outside 2 to 5
-      real(sp), intent(out), optional :: pane_temperature_3 !! temperature of pane 3 [degC]; not a number with a count
+      real(sp), intent(out), optional :: pane_temperature_3 !! temperature of pane 3 [degC]; not a number with panes
       !! outside 3 to 5
-      real(sp), intent(out), optional :: pane_temperature_4 !! temperature of pane 4 [degC]; not a number with a count
+      real(sp), intent(out), optional :: pane_temperature_4 !! temperature of pane 4 [degC]; not a number with panes
       !! outside 4 to 5
-      real(sp), intent(out), optional :: pane_temperature_5 !! temperature of pane 5 [degC]; not a number with a count
+      real(sp), intent(out), optional :: pane_temperature_5 !! temperature of pane 5 [degC]; not a number with panes
       !! outside 4 to 5
       type(quorvel_fault) :: fault
       call check_pane_temperatures(inside_temperature, outside_temperature, panes, absorbed_1, absorbed_2, absorbed_3, &
@@ -2051,8 +2045,6 @@ contains
    !>
    !> What is split is the remainder, not the absorptance.
    !>
-   !> Transmittance and absorptance are returned whatever the number of panes.
-   !>
    !> Source: unit_direct; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not recorded.
    !> (WNDRSM of quorvel_by_reference)
    pure subroutine unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
@@ -2064,8 +2056,7 @@ contains
       real(sp), intent(in) :: incidence !! angle of incidence [rad]; valid -1.5708 to 1.5708
       integer(i4), intent(in) :: panes !! number of panes; valid 1 to 5
       real(sp), intent(out), optional :: transmittance !! transmittance
-      real(sp), intent(out), optional :: pane_shares(:) !! share of each pane in 1 - transmittance - absorptance; not a
-      !! number with a count outside 1 to 5
+      real(sp), intent(out), optional :: pane_shares(:) !! share of each pane in 1 - transmittance - absorptance
       real(sp), intent(out), optional :: absorptance !! absorptance
       type(quorvel_fault) :: fault
       call check_unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
@@ -2091,8 +2082,7 @@ contains
       real(sp), intent(in) :: longwave_shading_coefficient !! long-wave shading coefficient, 0 if missing; valid 0 to 1
       integer(i4), intent(in) :: panes !! number of panes; valid 1 to 5
       real(sp), intent(out), optional :: transmittance !! diffuse transmittance
-      real(sp), intent(out), optional :: pane_shares(:) !! share of each pane in 1 - transmittance - absorptance; not a
-      !! number with a count outside 1 to 5
+      real(sp), intent(out), optional :: pane_shares(:) !! share of each pane in 1 - transmittance - absorptance
       real(sp), intent(out), optional :: absorptance !! diffuse absorptance
       type(quorvel_fault) :: fault
       call check_unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coefficient, panes, fault)
@@ -2121,8 +2111,7 @@ contains
       !! 1.5708
       integer(i4), intent(in) :: panes !! number of panes; valid 1 to 5
       real(sp), intent(out), optional :: transmittance !! transmittance
-      real(sp), intent(out), optional :: pane_shares(:) !! share of each pane in 1 - transmittance - absorptance; not a
-      !! number with a count outside 1 to 5
+      real(sp), intent(out), optional :: pane_shares(:) !! share of each pane in 1 - transmittance - absorptance
       real(sp), intent(out), optional :: absorptance !! absorptance
       type(quorvel_fault) :: fault
       call check_unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coefficient, incidence, panes, &
@@ -2351,8 +2340,8 @@ contains
       use quorvel_unchecked, only: unchecked => locate_band
       real(sp), intent(in) :: fraction !! cumulative fraction of days; valid 0 to 1
       integer(i4), intent(in) :: month !! month; valid 1 to 12
-      real(sp), intent(in) :: frequencies(:, :) !! cumulative frequencies by month and band, not falling with the band;
-      !! valid 0 to 1
+      real(sp), intent(in) :: frequencies(:, :) !! cumulative frequencies of each band in each month, not falling with
+      !! the band; valid 0 to 1
       integer(i4), intent(out), optional :: lower_band !! lower band, 1 to 9
       integer(i4), intent(out), optional :: upper_band !! upper band, 2 to 10
       real(sp), intent(out), optional :: band_weight !! (fraction - F(lower)) / (F(upper) - F(lower)), limited to -1 to
@@ -2442,7 +2431,7 @@ contains
       answer = unchecked(row)
    end function
 
-   !> Design day of a month as a day of the year, into the caller's variable.
+   !> Design day of a month as a day of the year, as design_day gives it.
    !>
    !> A month outside 1 to 12 gives 0.
    !>
@@ -2460,7 +2449,7 @@ contains
       answer = unchecked(month)
    end function
 
-   !> Design day of a month as a day of the year or of the month, into the caller's variable.
+   !> Design day of a month as a day of the year or of the month, as design_day_by_option gives it.
    !>
    !> The two counts are separate sets and not the same date: in February day 52 of the year (the 21st) stands beside
    !> the 20th.
@@ -3245,8 +3234,8 @@ contains
    !> point is off it when the ratios of its offsets to theirs, in x and in y, differ by more than 1e-5: what is
    !> tolerated grows with the distance between the two.
    !>
-   !> Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are fewer than one. Not a
-   !> number counts as equal to anything.
+   !> Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a number counts as equal to
+   !> anything.
    !>
    !> Coordinates near one another within 1e-5 can leave no two points to draw the line through; then the points are not
    !> on one line, and finding that out takes n2/2 comparisons.
@@ -3257,8 +3246,8 @@ contains
       use quorvel_unchecked, only: unchecked => collinearity
       real(sp), intent(in) :: x(:) !! x of the vertices [m]
       real(sp), intent(in) :: y(:) !! y of the vertices [m]
-      integer(i4) :: answer !! 1 on one line; otherwise the number, from 2, of the first point whose y differs from that
-      !! of point 1
+      integer(i4) :: answer !! 1 on one line; otherwise the number, counted from 1, of the first point whose y differs
+      !! from that of the first of all
       type(quorvel_fault) :: fault
       call check_collinearity(x, y, fault)
       if (fault%found) error stop fault%message()
@@ -3272,8 +3261,6 @@ contains
    !>
    !> Points that are not numbers are left of no edge, and so enclosed.
    !>
-   !> Without vertices or points the number enclosed is 0.
-   !>
    !> Source: A convex polygon is the intersection of half-planes.
    !> (GECLOS of quorvel_by_reference)
    pure subroutine count_enclosed(x, y, point_x, point_y, enclosed, enclosed_points)
@@ -3282,8 +3269,7 @@ contains
       real(sp), intent(in) :: y(:) !! y of the vertices [m]
       real(sp), intent(in) :: point_x(:) !! x of the points [m]
       real(sp), intent(in) :: point_y(:) !! y of the points [m]
-      integer(i4), intent(inout) :: enclosed(:) !! 1 for points that are enclosed; left as given for others: 0 not
-      !! enclosed, 1 enclosed
+      integer(i4), intent(inout) :: enclosed(:) !! 1 for points that are enclosed: 0 not enclosed, 1 enclosed
       integer(i4), intent(out), optional :: enclosed_points !! number of enclosed points
       type(quorvel_fault) :: fault
       call check_count_enclosed(x, y, point_x, point_y, enclosed, fault)
@@ -3293,11 +3279,11 @@ contains
 
    !> Where a segment crosses the boundary of a polygon in plan.
    !>
-   !> The edges are tried in turn, from vertex 1 to 2 on, as crossing_point does; the first one that is crossed away
-   !> from the start ends the search. A crossing beyond 100000 is none.
+   !> The edges are tried in turn, from that between the first two vertices on, as crossing_point does; the first one
+   !> that is crossed away from the start ends the search. A crossing beyond 100000 is none.
    !>
-   !> No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is the last outcome
-   !> of the search, the start or 1e20.
+   !> No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a minus, and the point is
+   !> the last outcome of the search, the start or 1e20.
    !>
    !> Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of them, and the
    !> point that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more, small codes of this
@@ -3315,8 +3301,8 @@ contains
       real(sp), intent(in) :: y(:) !! y of the vertices [m]
       real(sp), intent(out), optional :: crossing_point(:) !! crossing point, or what the notes say [m]; 1e20 where
       !! there is none
-      integer(i4), intent(out), optional :: crossing_code !! number of the vertex that ends the crossed edge, or what
-      !! the notes say
+      integer(i4), intent(out), optional :: crossing_code !! number, counted from 1, of the vertex that ends the crossed
+      !! edge, or what the notes say
       type(quorvel_fault) :: fault
       call check_boundary_crossing(segment_start, segment_end, x, y, fault)
       if (present(crossing_point)) call expect_extent(fault, 'boundary_crossing', 'crossing_point', &
@@ -3334,7 +3320,7 @@ contains
    !> That the point is in the plane is not tested: over the middle of a square it is inside up to half the length of a
    !> side.
    !>
-   !> Fewer than one edge, and not a number, give 0.
+   !> Not a number gives 0.
    !>
    !> Source: Sum of the angles under which the point sees the edges.
    !> (GEINSI of quorvel_by_reference)
@@ -3360,7 +3346,7 @@ contains
       use quorvel_unchecked, only: unchecked => parallel_planes
       real(dp), intent(in) :: triangle_1(:, :) !! corners of one triangle [m]
       real(dp), intent(in) :: triangle_2(:, :) !! corners of the other [m]
-      logical :: answer !! -1 if so, else 0
+      logical :: answer !! whether they are parallel
       type(quorvel_fault) :: fault
       call check_parallel_planes(triangle_1, triangle_2, fault)
       if (fault%found) error stop fault%message()
@@ -3371,7 +3357,7 @@ contains
    !>
    !> Sides are parallel when their cross product is shorter than 0.001, so that short sides are parallel to any.
    !>
-   !> The sides from corner 3 to 1 are not tested.
+   !> The sides between last and first corner are not tested.
    !>
    !> Source: Definition.
    !> (GEPSID of quorvel_by_reference)
@@ -3379,10 +3365,10 @@ contains
       use quorvel_unchecked, only: unchecked => parallel_sides
       real(dp), intent(in) :: triangle_1(:, :) !! corners of one triangle [m]
       real(dp), intent(in) :: triangle_2(:, :) !! corners of the other [m]
-      logical, intent(out), optional :: truth !! -1 if so, else 0
-      integer(i4), intent(out), optional :: side_1 !! side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3
-      !! none
-      integer(i4), intent(out), optional :: side_2 !! side of triangle 2, likewise
+      logical, intent(out), optional :: truth !! whether there are any
+      integer(i4), intent(out), optional :: side_1 !! side of one triangle: 1 between its first two corners, 2 between
+      !! its last two; 3 none
+      integer(i4), intent(out), optional :: side_2 !! side of the other, likewise
       type(quorvel_fault) :: fault
       call check_parallel_sides(triangle_1, triangle_2, fault)
       if (fault%found) error stop fault%message()
@@ -3391,14 +3377,14 @@ contains
 
    !> Whether a quadrilateral is rectangular.
    !>
-   !> So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in magnitude.
+   !> So it is when at all corners but the first the dot product of the two sides is at most 1e-6 in magnitude.
    !>
    !> Source: Definition.
    !> (GERECT of quorvel_by_reference)
    pure function rectangular(quadrilateral) result(answer)
       use quorvel_unchecked, only: unchecked => rectangular
       real(dp), intent(in) :: quadrilateral(:, :) !! corners in turn [m]
-      logical :: answer !! -1 if so, else 0
+      logical :: answer !! whether it is rectangular
       type(quorvel_fault) :: fault
       call check_rectangular(quadrilateral, fault)
       if (fault%found) error stop fault%message()
@@ -3430,11 +3416,11 @@ contains
 
    !> Two quadrilaterals in local coordinates of the first.
    !>
-   !> The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross product of the ways
-   !> from corner 1 to corners 2 and 3.
+   !> The origin is the first corner of the first; from there x points to the second corner, y to the fourth, z along
+   !> the cross product of the ways to the second and the third.
    !>
-   !> Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at corner
-   !> 1.
+   !> Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at its
+   !> first corner.
    !>
    !> Coincident corners give what is not a number.
    !>
@@ -3456,7 +3442,7 @@ contains
       call unchecked(quadrilateral_1, quadrilateral_2, local_1, local_2)
    end subroutine
 
-   !> Replaces each of four points by its components along three axes.
+   !> Components of each of four points along three axes.
    !>
    !> Source: Definition.
    !> (GETRNS of quorvel_by_reference)
@@ -3567,7 +3553,7 @@ contains
       real(sp), intent(in) :: y_1 !! y of one point [m]
       real(sp), intent(in) :: x_2 !! x of the other [m]
       real(sp), intent(in) :: y_2 !! y of the other [m]
-      logical :: answer !! -1 if both coordinates differ by less than 1e-5, else 0
+      logical :: answer !! whether both coordinates differ by less than 1e-5
       type(quorvel_fault) :: fault
       call check_coincide(x_1, y_1, x_2, y_2, fault)
       if (fault%found) error stop fault%message()
@@ -3695,9 +3681,7 @@ contains
 
    !> Area of a polygon in plan.
    !>
-   !> Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
-   !>
-   !> Fewer than one vertex give 0.
+   !> Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
    !>
    !> A polygon far from the origin beside its size loses digits.
    !>
@@ -3716,7 +3700,7 @@ contains
 
    !> Area of a polygon in plan, positive for clockwise vertices.
    !>
-   !> Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+   !> Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
    !>
    !> As plan_area.
    !>
@@ -3739,8 +3723,6 @@ contains
    !> large for a polygon that is not seen whole from there. Of the surfaces of real buildings 3.3 % come out too large
    !> by more than 0.1 %, half of these by more than 7 %.
    !>
-   !> Fewer than one vertex give 0.
-   !>
    !> Source: Elementary geometry.
    !> (GEAPO3 of quorvel_by_reference)
    pure function area_in_space(x, y, z) result(answer)
@@ -3757,32 +3739,28 @@ contains
 
    !> Area, tilt and orientation of a plane polygon in space.
    !>
-   !> The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its opposite is the outward
-   !> normal of a convex polygon that runs clockwise seen from outside.
+   !> The normal points to where the corner at the first vertex is seen to turn anticlockwise: its opposite is the
+   !> outward normal of a convex polygon that runs clockwise seen from outside.
    !>
-   !> Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin within a straight side,
-   !> and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are wrong: let vertex 1
-   !> be a true corner.
+   !> Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings 141 begin within a
+   !> straight side, and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are wrong:
+   !> let the first vertex be a true corner.
    !>
    !> The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the azimuth opposite to its
-   !> first side, from vertex 1 to 2, if the normal points up, and that of the side if it points down.
+   !> first side if the normal points up, and that of the side if it points down.
    !>
    !> Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and what faces north may get
    !> 0.00003.
-   !>
-   !> Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
    !>
    !> Source: Shoelace formula in the plane of the polygon.
    !> (GEASO of quorvel_by_reference)
    pure subroutine polygon_orientation(polygon, area, tilt, back_azimuth)
       use quorvel_unchecked, only: unchecked => polygon_orientation
       real(sp), intent(in) :: polygon(:, :) !! vertices [m]
-      real(sp), intent(out), optional :: area !! area, positive when the vertices run as the corner at vertex 1 turns
-      !! [m2]
-      real(sp), intent(out), optional :: tilt !! angle between the normal and the vertical [deg]; not a number with
-      !! fewer than one vertex
-      real(sp), intent(out), optional :: back_azimuth !! azimuth opposite to the normal [deg]; not a number with fewer
-      !! than one vertex
+      real(sp), intent(out), optional :: area !! area, positive when the vertices run as the corner at the first one
+      !! turns [m2]
+      real(sp), intent(out), optional :: tilt !! angle between the normal and the vertical [deg]
+      real(sp), intent(out), optional :: back_azimuth !! azimuth opposite to the normal [deg]
       type(quorvel_fault) :: fault
       call check_polygon_orientation(polygon, fault)
       if (fault%found) error stop fault%message()

@@ -792,15 +792,14 @@ module quorvel_by_reference
          real(c_float), intent(out) :: values(12)
       end subroutine
 
-      !> store_design_day: Design day of a month as a day of the year, into the caller's variable.
+      !> store_design_day: Design day of a month as a day of the year, as ICLDAY gives it.
       pure subroutine CLDAY(month, day) bind(C, name='CLDAY')
          import :: c_int32_t
          integer(c_int32_t), intent(in) :: month
          integer(c_int32_t), intent(out) :: day
       end subroutine
 
-      !> store_design_day_by_option: Design day of a month as a day of the year or of the month, into the caller's
-      !> variable.
+      !> store_design_day_by_option: Design day of a month as a day of the year or of the month, as ICLDAYEX gives it.
       pure subroutine CLDAYEX(month, day, day_kind) bind(C, name='CLDAYEX')
          import :: c_int32_t
          integer(c_int32_t), intent(in) :: month
@@ -1299,7 +1298,7 @@ module quorvel_by_reference
          real(c_double), intent(out) :: local_2(3, 4)
       end subroutine
 
-      !> to_local: Replaces each of four points by its components along three axes.
+      !> to_local: Components of each of four points along three axes.
       pure subroutine GETRNS(corners, x_axis, y_axis, z_axis) bind(C, name='GETRNS')
          import :: c_double
          real(c_double), intent(inout) :: corners(3, 4)

@@ -64,7 +64,7 @@ module quorvel_selectors
    integer(i4), parameter :: time_kind_zone = 2 !! clock of the zone, at the longitude
    integer(i4), parameter :: time_kind_dated_solar = 3 !! solar time; the zone meridian only dates the declination
 
-   ! 1 for points that are enclosed; left as given for others
+   ! 1 for points that are enclosed
    integer(i4), parameter :: enclosed_outside = 0 !! not enclosed
    integer(i4), parameter :: enclosed_inside = 1 !! enclosed
 

@@ -147,12 +147,12 @@ export declare const TimeKind: {
 /** What the time is: a name or its value. */
 export type TimeKind = NameOrValue<typeof TimeKind>;
 
-/** 1 for points that are enclosed; left as given for others: its values by their names. */
+/** 1 for points that are enclosed: its values by their names. */
 export declare const Enclosed: {
   /** not enclosed */
   readonly outside: 0;
   /** enclosed */
   readonly inside: 1;
 };
-/** 1 for points that are enclosed; left as given for others: a name or its value. */
+/** 1 for points that are enclosed: a name or its value. */
 export type Enclosed = NameOrValue<typeof Enclosed>;

@@ -600,18 +600,16 @@ function WetBulb(DryBulb: Single; VapourPressure: Single; Pressure: Single; Psyc
   OutsideResistance: resistance of the far surface [m2K/W]; valid from 0
   Harmonic: cycles in 24 hours; valid from 0
   ElementKind: kind of element: 1 element between two environments, 2 internal partition, the same swing on both sides
-  Result.Admittance: admittance Y [W/m2K]; not a number with more than 20 layers
-  Result.AdmittanceLead: time lead of the admittance, 0 to 24 / harmonic [h]; not a number with more than 20 layers
-  Result.DecrementFactor: decrement factor f, 0 for a partition; not a number with more than 20 layers
-  Result.DecrementLag: time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]; not a number with
-    more than 20 layers
-  Result.SurfaceFactor: surface factor F; not a number with more than 20 layers
-  Result.SurfaceFactorLag: time lag of the surface factor, 0 to 24 / harmonic [h]; not a number with more than 20
-    layers
-  Result.UValue: U-value, as UValue gives it [W/m2K]; not a number with more than 20 layers
+  Result.Admittance: admittance Y [W/m2K]
+  Result.AdmittanceLead: time lead of the admittance, 0 to 24 / harmonic [h]
+  Result.DecrementFactor: decrement factor f, 0 for a partition
+  Result.DecrementLag: time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]
+  Result.SurfaceFactor: surface factor F
+  Result.SurfaceFactorLag: time lag of the surface factor, 0 to 24 / harmonic [h]
+  Result.UValue: U-value, as UValue gives it [W/m2K]
   Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (u_value m12); F = 1 -
     inside_resistance Y
-  A count below 1 leaves the two surfaces alone; no array is read.
+  Without layers the two surfaces are left.
   Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U, the time shifts are not
     numbers. One below 0 gives no numbers.
   A layer without heat capacity acts as its resistance. One with very little is the less accurate the smaller x is,
@@ -689,11 +687,11 @@ function GasCavityResistance(Tilt: Single; CavityWidth: Single; Emissivity1: Sin
   Thickness: thickness of each layer; below 0: a layer of given thermal resistance, 0: a membrane [m]
   VapourResistivity: vapour resistivity of each layer; of a membrane its vapour resistance in GN s/kg [GN s/(kg m)];
     valid from 0
-  Result: total vapour resistance [N s/kg]; not a number with more than 20 layers
+  Result: total vapour resistance [N s/kg]
   Formula: sum of 1e9 thickness vapour_resistivity
   A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, whatever its
     resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
-  A count below 1 gives 0.
+  Without layers it is 0.
   Results are in N s/kg, resistivities in GN s/(kg m).
   Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
   (TotalVapourResistance of QuorvelByReference) }
@@ -713,13 +711,11 @@ function TotalVapourResistance(const Thickness: array of Single; const VapourRes
   InsideHumidity: inside relative humidity [%]; valid 0 to 100
   OutsideHumidity: outside relative humidity [%]; valid 0 to 100
   Result.InterfaceTemperature: temperature at the interfaces, from the inside surface to the outside one [degC]; not a
-    number with a count outside 0 to 20, and beyond element layers + 1
-  Result.InterfaceVapourPressure: vapour pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond
-    element layers + 1
-  Result.InterfaceSaturationPressure: saturation pressure at them [Pa]; not a number with a count outside 0 to 20, and
-    beyond element layers + 1
-  Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0, write nothing. Without
-    layers there is one surface, with the temperature and the vapour pressure of its inside.
+    number beyond element layers + 1
+  Result.InterfaceVapourPressure: vapour pressure at them [Pa]; not a number beyond element layers + 1
+  Result.InterfaceSaturationPressure: saturation pressure at them [Pa]; not a number beyond element layers + 1
+  The first and the last interface are the surfaces. Without layers there is one surface, with the temperature and the
+    vapour pressure of its inside.
   Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
   Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to saturation there. Between
     two surfaces without any vapour resistance the vapour pressure is no number.
@@ -751,10 +747,10 @@ function CondensesWithinLayer(WarmTemperature: Single; ColdTemperature: Single; 
   ColdVapourPressure: Single): LongInt;
 
 { One property of one record of a construction, a list of elements from face to face.
-  ElementRecords: ten fields of each record, the first its type code [by field]
-  RecordNumber: record asked about; valid from 1
+  ElementRecords: ten fields of each record, counted from 1; the first is its type code [by field]
+  RecordNumber: record asked about, counted from 1; valid from 1
   Item: property asked for; valid 1 to 72
-  Result: the property, 1e20 if it does not exist [by item]; 1e20 where there is none
+  Result: the property [by item]; 1e20 where there is none
   The type code, 50 to 999, is 100 times the class plus the subtype: class 1 solid layer, 2 another layer, 3 gap (300
     of given resistance, 302 filled with gas), 4 translucent layer, 5 boundary, 6 end marker; other classes have no
     meaning. It is rounded after the limits are tested: 149.6 is class 1, subtype 50; 49.6 and what is no number are
@@ -903,9 +899,9 @@ function SurfaceResistanceAtEmissivity(Surface: TSurface; Tilt: Single; Exposure
     0
   SurfaceResistance1: resistance of one surface [m2K/W]; valid from 0
   SurfaceResistance2: resistance of the other [m2K/W]; valid from 0
-  Result: U-value [W/m2K]; not a number with more than 20 layers
+  Result: U-value [W/m2K]
   Formula: 1 / (surface_resistance_1 + surface_resistance_2 + sum of thickness / conductivity)
-  A count below 1 leaves the two surfaces alone; no array is read.
+  Without layers the two surfaces are left.
   How far below 0 a thickness is makes no difference here; it does in TotalVapourResistance and CondensationProfile.
   A thickness that is no number gives no number.
   Source: Resistances in series; ISO 6946.
@@ -1011,7 +1007,7 @@ function GlassDiffuse(NormalTransmittance: Single; NormalReflectance: Single): T
   A layer's reflection passes the layers above it once each way; there is no further inter-reflection.
   Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until they do not. It turns
     negative if the transmittance alone is above 0.99.
-  A count below 1 is an empty stack, which transmits everything; no array is read.
+  The last layer is met first. No layers are an empty stack, which transmits everything.
   Source: First-order combination of the layers.
   (StackedLayers of QuorvelByReference) }
 function StackedLayers(const LayerTransmittances: array of Single; const LayerReflectances: array of Single):
@@ -1021,13 +1017,13 @@ function StackedLayers(const LayerTransmittances: array of Single; const LayerRe
   LayerTransmittances: transmittance of each layer, the same from both sides; valid 0 to 1
   LayerAbsorptances: absorptance of each layer; valid 0 to 1
   LayerReflectances: reflectance of each layer, the same from both sides; valid 0 to 1
-  Result.Transmittance: transmittance of the stack; not a number with more than 11 layers
-  Result.Absorptance: absorptance of the stack; not a number with more than 11 layers
-  Result.Reflectance: reflectance of the stack; not a number with more than 11 layers
+  Result.Transmittance: transmittance of the stack
+  Result.Absorptance: absorptance of the stack
+  Result.Reflectance: reflectance of the stack
   In a pass the flux goes forward through all layers and back by one; nine passes are made. What needs more than eight
     steps back is missing from all three results: nothing of one layer; of two, the ninth power of the product of
     their reflectances as a share of the transmittance; of ten and eleven layers all that the last ones reflect.
-  A count below 1 is an empty stack, which transmits everything; no array is read.
+  The last layer is met first. No layers are an empty stack, which transmits everything.
   That transmittance, absorptance and reflectance of a layer add up to 1 is left to the caller.
   Source: Tracing of one forward and one backward flux, which tends to the adding method.
   (TracedLayers of QuorvelByReference) }
@@ -1081,7 +1077,6 @@ function RefractionAngle(Incidence: Single; RefractiveIndex: Single): Single;
   Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at normal incidence, ((1
     - n) / (1 + n))^2 with the refractive index n. RefractionAngle tests the sine of the angle instead; the two limits
     differ deliberately.
-  The perpendicular one is written first.
   Source: Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter 5.
   (SurfaceReflectance of QuorvelByReference) }
 function SurfaceReflectance(Incidence: Single; RefractionAngle: Single; RefractiveIndex: Single): TSurfaceReflectance;
@@ -1146,13 +1141,13 @@ function NormalTransmittance(AbsorptionProduct: Single; NormalReflectance: Singl
   Absorbed3: absorbed in pane 3 [W/m2]; valid from 0
   Absorbed4: absorbed in pane 4 [W/m2]; valid from 0
   Absorbed5: absorbed in pane 5 [W/m2]; valid from 0
-  Result.PaneTemperature1: temperature of pane 1, nearest the room [degC]; not a number with a count outside 1 to 5
-  Result.PaneTemperature2: temperature of pane 2 [degC]; not a number with a count outside 2 to 5
-  Result.PaneTemperature3: temperature of pane 3 [degC]; not a number with a count outside 3 to 5
-  Result.PaneTemperature4: temperature of pane 4 [degC]; not a number with a count outside 4 to 5
-  Result.PaneTemperature5: temperature of pane 5 [degC]; not a number with a count outside 4 to 5
-  Only as many absorbed values are read as there are panes. Four panes are calculated as five: what the fifth absorbs
-    is read (give 0 for it), and its temperature is written.
+  Result.PaneTemperature1: temperature of pane 1, nearest the room [degC]; not a number with panes outside 1 to 5
+  Result.PaneTemperature2: temperature of pane 2 [degC]; not a number with panes outside 2 to 5
+  Result.PaneTemperature3: temperature of pane 3 [degC]; not a number with panes outside 3 to 5
+  Result.PaneTemperature4: temperature of pane 4 [degC]; not a number with panes outside 4 to 5
+  Result.PaneTemperature5: temperature of pane 5 [degC]; not a number with panes outside 4 to 5
+  What is given as absorbed in panes that are not there has no influence. Four panes are calculated as five: what the
+    fifth absorbs counts (give 0 for it), and it has a temperature.
   Source: Heat balance of the panes with fixed resistances: 0.12 m2K/W at the room side, 0.06 m2K/W outdoors;
     coefficients rounded to two decimals.
   (PaneTemperatures of QuorvelByReference) }
@@ -1207,10 +1202,9 @@ function UnitDiffuse(ShortwaveShadingCoefficient: Single; LongwaveShadingCoeffic
   Incidence: angle of incidence [rad]; valid -1.5708 to 1.5708
   Panes: number of panes; valid 1 to 5
   Result.Transmittance: transmittance
-  Result.PaneShares: share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5
+  Result.PaneShares: share of each pane in 1 - transmittance - absorptance
   Result.Absorptance: absorptance
   What is split is the remainder, not the absorptance.
-  Transmittance and absorptance are returned whatever the number of panes.
   Source: UnitDirect; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not recorded.
   (UnitDirectShares of QuorvelByReference) }
 function UnitDirectShares(ShortwaveShadingCoefficient: Single; LongwaveShadingCoefficient: Single; Incidence: Single;
@@ -1222,7 +1216,7 @@ function UnitDirectShares(ShortwaveShadingCoefficient: Single; LongwaveShadingCo
   LongwaveShadingCoefficient: long-wave shading coefficient, 0 if missing; valid 0 to 1
   Panes: number of panes; valid 1 to 5
   Result.Transmittance: diffuse transmittance
-  Result.PaneShares: share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5
+  Result.PaneShares: share of each pane in 1 - transmittance - absorptance
   Result.Absorptance: diffuse absorptance
   The remainder is split as in UnitDirectShares.
   Source: UnitDiffuse, with the shares of UnitDirectShares.
@@ -1239,7 +1233,7 @@ function UnitDiffuseShares(ShortwaveShadingCoefficient: Single; LongwaveShadingC
   Incidence: angle of incidence, read for direct radiation only [rad]; valid -1.5708 to 1.5708
   Panes: number of panes; valid 1 to 5
   Result.Transmittance: transmittance
-  Result.PaneShares: share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5
+  Result.PaneShares: share of each pane in 1 - transmittance - absorptance
   Result.Absorptance: absorptance
   The remainder is split as in UnitDirectShares.
   Source: UnitDirectShares and UnitDiffuseShares.
@@ -1367,7 +1361,7 @@ function OpenSlatDiffuse(SlatSpacing: Single; SlatWidth: Single; SlatAngle: Sing
 { Where a cumulative fraction of days lies among the ten bands of a month, in frequencies of the caller.
   Fraction: cumulative fraction of days; valid 0 to 1
   Month: month; valid 1 to 12
-  Frequencies: cumulative frequencies by month and band, not falling with the band; valid 0 to 1
+  Frequencies: cumulative frequencies of each band in each month, not falling with the band; valid 0 to 1
   Result.LowerBand: lower band, 1 to 9
   Result.UpperBand: upper band, 2 to 10
   Result.BandWeight: (fraction - F(lower)) / (F(upper) - F(lower)), limited to -1 to 1
@@ -1431,7 +1425,7 @@ function InterpolateBandRows(BaseRow: LongInt; LowerBand: LongInt; UpperBand: Lo
   (BandRow of QuorvelByReference) }
 function BandRow(Row: LongInt): TSingle12;
 
-{ Design day of a month as a day of the year, into the caller's variable.
+{ Design day of a month as a day of the year, as DesignDay gives it.
   Month: month; valid 1 to 12
   Result: design day of the year
   A month outside 1 to 12 gives 0.
@@ -1440,7 +1434,7 @@ function BandRow(Row: LongInt): TSingle12;
   (StoreDesignDay of QuorvelByReference) }
 function StoreDesignDay(Month: LongInt): LongInt;
 
-{ Design day of a month as a day of the year or of the month, into the caller's variable.
+{ Design day of a month as a day of the year or of the month, as DesignDayByOption gives it.
   Month: month; valid 1 to 12
   DayKind: how the day is counted: 1 day of the month, 2 day of the year
   Result: design day
@@ -1913,12 +1907,13 @@ function OverlapAlias(const X1: array of Single; const Y1: array of Single; cons
 { Whether points in plan lie on one straight line.
   X: x of the vertices [m]
   Y: y of the vertices [m]
-  Result: 1 on one line; otherwise the number, from 2, of the first point whose y differs from that of point 1
+  Result: 1 on one line; otherwise the number, counted from 1, of the first point whose y differs from that of the
+    first of all
   The points are held against the line through the first two that differ by 1e-5 or more in both coordinates. A point
     is off it when the ratios of its offsets to theirs, in x and in y, differ by more than 1e-5: what is tolerated
     grows with the distance between the two.
-  Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are fewer than one. Not a number
-    counts as equal to anything.
+  Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a number counts as equal to
+    anything.
   Coordinates near one another within 1e-5 can leave no two points to draw the line through; then the points are not
     on one line, and finding that out takes n2/2 comparisons.
   Source: Intercept theorem.
@@ -1930,13 +1925,12 @@ function Collinearity(const X: array of Single; const Y: array of Single): LongI
   Y: y of the vertices [m]
   PointX: x of the points [m]
   PointY: y of the points [m]
-  Enclosed: 1 for points that are enclosed; left as given for others: 0 not enclosed, 1 enclosed
-  Result.Enclosed: 1 for points that are enclosed; left as given for others; as given for points that are not enclosed
+  Enclosed: 1 for points that are enclosed: 0 not enclosed, 1 enclosed
+  Result.Enclosed: 1 for points that are enclosed; as given for points that are not enclosed
   Result.EnclosedPoints: number of enclosed points
   A point is enclosed when it is left of no edge, as SideOfLine sees it, or is at a vertex (to less than 1e-5 in each
     coordinate) that comes before any such edge.
   Points that are not numbers are left of no edge, and so enclosed.
-  Without vertices or points the number enclosed is 0.
   Source: A convex polygon is the intersection of half-planes.
   (CountEnclosed of QuorvelByReference) }
 function CountEnclosed(const X: array of Single; const Y: array of Single; const PointX: array of Single; const PointY:
@@ -1948,11 +1942,11 @@ function CountEnclosed(const X: array of Single; const Y: array of Single; const
   X: x of the vertices [m]
   Y: y of the vertices [m]
   Result.CrossingPoint: crossing point, or what the notes say [m]; 1e20 where there is none
-  Result.CrossingCode: number of the vertex that ends the crossed edge, or what the notes say
-  The edges are tried in turn, from vertex 1 to 2 on, as CrossingPoint does; the first one that is crossed away from
-    the start ends the search. A crossing beyond 100000 is none.
-  No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is the last outcome of
-    the search, the start or 1e20.
+  Result.CrossingCode: number, counted from 1, of the vertex that ends the crossed edge, or what the notes say
+  The edges are tried in turn, from that between the first two vertices on, as CrossingPoint does; the first one that
+    is crossed away from the start ends the search. A crossing beyond 100000 is none.
+  No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a minus, and the point is
+    the last outcome of the search, the start or 1e20.
   Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of them, and the point
     that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more, small codes of this kind
     cannot be told from edges by the code alone.)
@@ -1971,7 +1965,7 @@ function BoundaryCrossing(const SegmentStart: array of Single; const SegmentEnd:
     outside a polygon that is not convex because it is in line with an edge.
   That the point is in the plane is not tested: over the middle of a square it is inside up to half the length of a
     side.
-  Fewer than one edge, and not a number, give 0.
+  Not a number gives 0.
   Source: Sum of the angles under which the point sees the edges.
   (Inside of QuorvelByReference) }
 function Inside(const Point: array of Single; const Polygon: array of TSingle3): LongInt;
@@ -1979,7 +1973,7 @@ function Inside(const Point: array of Single; const Polygon: array of TSingle3):
 { Whether the planes of two triangles are parallel.
   Triangle1: corners of one triangle [m]
   Triangle2: corners of the other [m]
-  Result: -1 if so, else 0
+  Result: whether they are parallel
   So they are when the cross product of their normals, each as long as twice the triangle's area, is shorter than
     0.001: small triangles are parallel to any.
   Source: Definition.
@@ -1989,19 +1983,19 @@ function ParallelPlanes(const Triangle1: TDouble3x3; const Triangle2: TDouble3x3
 { Whether two triangles have parallel sides, and which.
   Triangle1: corners of one triangle [m]
   Triangle2: corners of the other [m]
-  Result.Truth: -1 if so, else 0
-  Result.Side1: side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none
-  Result.Side2: side of triangle 2, likewise
+  Result.Truth: whether there are any
+  Result.Side1: side of one triangle: 1 between its first two corners, 2 between its last two; 3 none
+  Result.Side2: side of the other, likewise
   Sides are parallel when their cross product is shorter than 0.001, so that short sides are parallel to any.
-  The sides from corner 3 to 1 are not tested.
+  The sides between last and first corner are not tested.
   Source: Definition.
   (ParallelSides of QuorvelByReference) }
 function ParallelSides(const Triangle1: TDouble3x3; const Triangle2: TDouble3x3): TParallelSides;
 
 { Whether a quadrilateral is rectangular.
   Quadrilateral: corners in turn [m]
-  Result: -1 if so, else 0
-  So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in magnitude.
+  Result: whether it is rectangular
+  So it is when at all corners but the first the dot product of the two sides is at most 1e-6 in magnitude.
   Source: Definition.
   (Rectangular of QuorvelByReference) }
 function Rectangular(const Quadrilateral: TDouble4x3): Boolean;
@@ -2024,15 +2018,16 @@ function Facing(const Triangle: TDouble3x3; Azimuth: Double): TFacing;
   Quadrilateral2: corners of the second [m]
   Result.Local1: the first in local coordinates [m]
   Result.Local2: the second in local coordinates [m]
-  The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross product of the ways from
-    corner 1 to corners 2 and 3.
-  Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at corner 1.
+  The origin is the first corner of the first; from there x points to the second corner, y to the fourth, z along the
+    cross product of the ways to the second and the third.
+  Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at its first
+    corner.
   Coincident corners give what is not a number.
   Source: Definition.
   (LocalCoordinates of QuorvelByReference) }
 function LocalCoordinates(const Quadrilateral1: TDouble4x3; const Quadrilateral2: TDouble4x3): TLocalCoordinates;
 
-{ Replaces each of four points by its components along three axes.
+{ Components of each of four points along three axes.
   Corners: points [m]
   XAxis: x axis
   YAxis: y axis
@@ -2100,7 +2095,7 @@ function AheadAndNearer(const FirstEnd: array of Single; const SecondEnd: array 
   Y1: y of one point [m]
   X2: x of the other [m]
   Y2: y of the other [m]
-  Result: -1 if both coordinates differ by less than 1e-5, else 0
+  Result: whether both coordinates differ by less than 1e-5
   Source: Definition.
   (Coincide of QuorvelByReference) }
 function Coincide(X1: Single; Y1: Single; X2: Single; Y2: Single): Boolean;
@@ -2170,8 +2165,7 @@ function GlobalToLocal(const GlobalVector: array of Single; const RotationMatrix
   X: x of the vertices [m]
   Y: y of the vertices [m]
   Result: area [m2]
-  Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
-  Fewer than one vertex give 0.
+  Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
   A polygon far from the origin beside its size loses digits.
   Source: Shoelace formula.
   (PlanArea of QuorvelByReference) }
@@ -2181,7 +2175,7 @@ function PlanArea(const X: array of Single; const Y: array of Single): Single;
   X: x of the vertices [m]
   Y: y of the vertices [m]
   Result: area, negative for anticlockwise vertices [m2]
-  Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+  Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
   As PlanArea.
   Source: Shoelace formula.
   (SignedPlanArea of QuorvelByReference) }
@@ -2195,26 +2189,24 @@ function SignedPlanArea(const X: array of Single; const Y: array of Single): Sin
   It is the sum of the triangles over the edges with the mean of the vertices as apex, all counted as positive: too
     large for a polygon that is not seen whole from there. Of the surfaces of real buildings 3.3 % come out too large
     by more than 0.1 %, half of these by more than 7 %.
-  Fewer than one vertex give 0.
   Source: Elementary geometry.
   (AreaInSpace of QuorvelByReference) }
 function AreaInSpace(const X: array of Single; const Y: array of Single; const Z: array of Single): Single;
 
 { Area, tilt and orientation of a plane polygon in space.
   Polygon: vertices [m]
-  Result.Area: area, positive when the vertices run as the corner at vertex 1 turns [m2]
-  Result.Tilt: angle between the normal and the vertical [deg]; not a number with fewer than one vertex
-  Result.BackAzimuth: azimuth opposite to the normal [deg]; not a number with fewer than one vertex
-  The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its opposite is the outward normal
-    of a convex polygon that runs clockwise seen from outside.
-  Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin within a straight side,
-    and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are wrong: let vertex 1
-    be a true corner.
+  Result.Area: area, positive when the vertices run as the corner at the first one turns [m2]
+  Result.Tilt: angle between the normal and the vertical [deg]
+  Result.BackAzimuth: azimuth opposite to the normal [deg]
+  The normal points to where the corner at the first vertex is seen to turn anticlockwise: its opposite is the outward
+    normal of a convex polygon that runs clockwise seen from outside.
+  Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings 141 begin within a straight
+    side, and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are wrong: let the
+    first vertex be a true corner.
   The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the azimuth opposite to its first
-    side, from vertex 1 to 2, if the normal points up, and that of the side if it points down.
+    side if the normal points up, and that of the side if it points down.
   Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and what faces north may get
     0.00003.
-  Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
   Source: Shoelace formula in the plane of the polygon.
   (PolygonOrientation of QuorvelByReference) }
 function PolygonOrientation(const Polygon: array of TSingle3): TPolygonOrientation;

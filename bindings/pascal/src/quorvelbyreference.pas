@@ -314,10 +314,10 @@ procedure CLBAN2(constref BaseRow: LongInt; constref LowerBand: LongInt; constre
 { BandRow: One row of the band table, a value per month. }
 procedure CLBAN3(constref Row: LongInt; Values: PSingle); cdecl; external Library_;
 
-{ StoreDesignDay: Design day of a month as a day of the year, into the caller's variable. }
+{ StoreDesignDay: Design day of a month as a day of the year, as ICLDAY gives it. }
 procedure CLDAY(constref Month: LongInt; var Day: LongInt); cdecl; external Library_;
 
-{ StoreDesignDayByOption: Design day of a month as a day of the year or of the month, into the caller's variable. }
+{ StoreDesignDayByOption: Design day of a month as a day of the year or of the month, as ICLDAYEX gives it. }
 procedure CLDAYEX(constref Month: LongInt; var Day: LongInt; constref DayKind: LongInt); cdecl; external Library_;
 
 { DesignDay: Design day of a month as a day of the year. }
@@ -493,7 +493,7 @@ procedure GETILT(Triangle: PDouble; var Azimuth: Double; var Tilt: Double); cdec
 procedure GELCAL(Quadrilateral1: PDouble; Quadrilateral2: PDouble; Local1: PDouble; Local2: PDouble); cdecl; external
   Library_;
 
-{ ToLocal: Replaces each of four points by its components along three axes. }
+{ ToLocal: Components of each of four points along three axes. }
 procedure GETRNS(Corners: PDouble; XAxis: PDouble; YAxis: PDouble; ZAxis: PDouble); cdecl; external Library_;
 
 { MeetingPoint: Where two infinite lines in plan meet. }

@@ -98,7 +98,7 @@ type
     DatedSolar: solar time; the zone meridian only dates the declination }
   TTimeKind = (Solar = 1, Zone = 2, DatedSolar = 3);
 
-  { 1 for points that are enclosed; left as given for others
+  { 1 for points that are enclosed
     Outside: not enclosed
     Inside: enclosed }
   TEnclosed = (Outside = 0, Inside = 1);

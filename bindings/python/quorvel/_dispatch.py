@@ -5,7 +5,8 @@ No library of tables or labelled arrays is imported: one whose objects are given
 
 import numpy as np
 
-from . import _labelled
+from . import _labelled, _names
+from ._filled import Filled
 from .errors import RangeError
 
 
@@ -35,6 +36,18 @@ def dispatch(name, ufunc, args, out, where):
         raise _explained(name, routine, args, error) from None
 
 
+def filled(name):
+    """The function whose outputs are as long as a list says; as those of `_core.functions` it takes the inputs, `out`
+    and `where`."""
+    ufunc = Filled(name)
+
+    def call(*given):
+        *args, out, where = given
+        return dispatch(name, ufunc, args, out, where)
+
+    return call
+
+
 def _options(out, where):
     return {**({} if out is None else {"out": out}), **({} if where is True else {"where": where})}
 
@@ -52,37 +65,13 @@ def _root(value):
 
 def _number_of(value, argument):
     """Names of a selector as their numbers; an index of pandas as an array; all else as it is."""
-    if isinstance(value, str):
-        return _selected(value, argument)
+    if isinstance(value, str) and not argument.selector:
+        raise TypeError(f"{argument.name}: a number is needed, not the text {value!r}")
     is_index = _root(value) == "pandas" and hasattr(value, "to_numpy") and not hasattr(value, "index")
     value = value.to_numpy() if is_index else value
-    return _numbers_of(value, argument) if argument.selector else value
-
-
-def _numbers_of(value, argument):
-    """A list, an array or a labelled one of names as one of their numbers, labelled as it was."""
-    kind = _kind(value)
-    if kind == "dask" or getattr(value, "dtype", None) == np.int32:
-        return value  # Dask knows its numbers only on the workers
-    names = np.asarray(value)
-    if not names.size or not all(isinstance(name, str) for name in names.flat):
-        return value
-    numbers = np.array([_selected(str(name), argument) for name in names.flat], np.int32).reshape(names.shape)
-    if kind == "pandas":
-        rest = {"columns": value.columns} if hasattr(value, "columns") else {"name": value.name}
-        return type(value)(numbers, index=value.index, **rest)
-    return value.copy(data=numbers) if kind == "xarray" else numbers
-
-
-def _selected(value, argument):
-    from . import selectors
-
     if not argument.selector:
-        raise TypeError(f"{argument.name}: a number is needed, not the text {value!r}")
-    values = getattr(selectors, argument.selector)
-    if value not in values.__members__:
-        raise ValueError(f"{argument.name}: {value!r} is none of {', '.join(map(repr, values.__members__))}")
-    return int(values[value])
+        return value
+    return _names.number_of(value, argument) if isinstance(value, str) else _names.numbers_of(value, argument)
 
 
 def _explained(name, routine, args, error):

@@ -5,19 +5,22 @@ import sys
 import numpy as np
 
 from . import _core
+from ._filled import Filled, extents, is_filled
 from .errors import current, errstate
 
 
 class Applied:
     """A ufunc by its name, with the policy of the context that it was applied in; it can be sent to a worker."""
 
-    def __init__(self, name):
+    def __init__(self, name, routine):
         self.name, self.policy = name, current()
+        self.filled = any(map(is_filled, (axis for output in routine.outputs for axis in output.axes)))
         self.__name__ = name
 
     def __call__(self, *args):
+        ufunc = Filled(self.name) if self.filled else _core.ufuncs[self.name]
         with errstate(range=self.policy):
-            return _core.ufuncs[self.name](*args)
+            return ufunc(*args)
 
     def __dask_tokenize__(self):
         return ("quorvel", _core.version(), self.name, self.policy)
@@ -25,7 +28,8 @@ class Applied:
 
 def _signature(routine):
     """With a pair of brackets for each operand, also of functions of numbers."""
-    return routine.signature or "->".join(",".join(["()"] * len(side)) for side in (routine.inputs, routine.outputs))
+    return "->".join(",".join(f"({','.join(_names(operand, {}))})" for operand in side)
+                     for side in (routine.inputs, routine.outputs))
 
 
 def _dtypes(routine):
@@ -42,11 +46,9 @@ def of_dask(name, routine, args):
 
     dtypes = _dtypes(routine)
     if not routine.signature and len(dtypes) == 1:  # goes with chunks of unknown size too
-        return elemwise(Applied(name), *args, dtype=dtypes[0])
-    fixed = {str(axis): axis for output in routine.outputs for axis in output.axes if isinstance(axis, int)}
-    given = {str(axis) for argument in routine.inputs for axis in argument.axes}
-    results = apply_gufunc(Applied(name), _signature(routine), *args, allow_rechunk=True,
-                           output_sizes={axis: extent for axis, extent in fixed.items() if axis not in given},
+        return elemwise(Applied(name, routine), *args, dtype=dtypes[0])
+    results = apply_gufunc(Applied(name, routine), _signature(routine), *args, allow_rechunk=True,
+                           output_sizes=_sizes(routine, {}, args),
                            output_dtypes=dtypes if len(dtypes) > 1 else dtypes[0])
     return _returned(results, routine)
 
@@ -80,11 +82,19 @@ def is_table(value):
     return hasattr(value, "index") and hasattr(value, "reindex") and hasattr(value, "to_numpy")
 
 
+def like(table, values):
+    """A Series or table of those values with the labels of another."""
+    rest = {"columns": table.columns} if hasattr(table, "columns") else {"name": table.name}
+    return type(table)(values, index=table.index, **rest)
+
+
 def _plain_numbers(value):
     """Without the types of pandas' own that stand for numbers or nothing; missing is not a number."""
     if is_table(value) and hasattr(value, "dtype") and not isinstance(value.dtype, np.dtype):
         if value.dtype.kind in "iufb":
-            return type(value)(value.to_numpy(dtype=float, na_value=np.nan), index=value.index, name=value.name)
+            if value.dtype.kind in "iu" and not value.hasnans:
+                return like(value, value.to_numpy(dtype=np.int64))
+            return like(value, value.to_numpy(dtype=float, na_value=np.nan))
     return value
 
 
@@ -124,15 +134,15 @@ def of_xarray(name, routine, args):
     lists = _core_dimensions(routine, args)
     chunked = any(hasattr(getattr(value, "data", None), "dask") or isinstance(value, xarray.Dataset) for value in args)
     results = xarray.apply_ufunc(
-        Applied(name), *args,
+        Applied(name, routine), *args,
         input_core_dims=[_names(argument, lists) for argument in routine.inputs],
         output_core_dims=[_names(output, lists) for output in routine.outputs],
         dask="parallelized" if chunked else "forbidden", output_dtypes=_dtypes(routine),
-        dask_gufunc_kwargs={"allow_rechunk": True, "output_sizes": _sizes(routine, lists)} if chunked else None,
+        dask_gufunc_kwargs={"allow_rechunk": True, "output_sizes": _sizes(routine, lists, args)} if chunked else None,
     )
     several = results if isinstance(results, tuple) else (results,)
     for result, output in zip(several, routine.outputs):
-        _describe(result, output)
+        describe(result, output)
     return _returned(several, routine)
 
 
@@ -151,7 +161,7 @@ def _for_xarray(value, args, argument, xarray):
     return value.to_xarray()
 
 
-def _describe(result, output):
+def describe(result, output):
     attributes = {"units": output.unit} if output.unit else {}
     attributes["long_name"] = output.meaning
     if hasattr(result, "data_vars"):
@@ -183,14 +193,20 @@ def _core_dimensions(routine, args):
 
 def _name(axis, found):
     extent, again = axis
-    return found.get(axis, f"{extent}" if isinstance(extent, str) else f"numbers_{extent}" + f"_{again}" * bool(again))
+    if axis in found:
+        return found[axis]
+    if isinstance(extent, int):
+        return f"numbers_{extent}" + f"_{again}" * bool(again)
+    return extent.name if is_filled(extent) else extent
 
 
 def _names(operand, found):
     return [_name(axis, found) for axis in _axes(operand)]
 
 
-def _sizes(routine, found):
+def _sizes(routine, found, args):
+    """Of the dimensions of outputs that no input has."""
     given = {_name(axis, found) for argument in routine.inputs for axis in _axes(argument)}
-    return {_name(axis, found): axis[0] for output in routine.outputs for axis in _axes(output)
+    filled = extents(routine, args)
+    return {_name(axis, found): filled.get(axis[0], axis[0]) for output in routine.outputs for axis in _axes(output)
             if _name(axis, found) not in given}

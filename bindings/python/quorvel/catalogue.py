@@ -6,6 +6,7 @@ from collections import namedtuple
 
 INF = float("inf")
 
+Filled = namedtuple("Filled", "name count more")  # an extent: so many more than that count
 A = Argument = namedtuple("Argument", "name dtype unit meaning range selector axes")
 R = Routine = namedtuple("Routine", "family exported_name signature inputs outputs")
 
@@ -504,7 +505,7 @@ ROUTINES = {
          A('decrement_lag', 'float32', 'h', 'time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition', (), '', ()),
          A('surface_factor', 'float32', '1', 'surface factor F', (), '', ()),
          A('surface_factor_lag', 'float32', 'h', 'time lag of the surface factor, 0 to 24 / harmonic', (), '', ()),
-         A('u_value', 'float32', 'W/m²K', 'U-value, as TPUVAL gives it', (0, INF), '', ()),
+         A('u_value', 'float32', 'W/m²K', 'U-value, as `u_value` gives it', (0, INF), '', ()),
         ),
     ),
     "vertical_cavity_resistance": R(
@@ -555,7 +556,7 @@ ROUTINES = {
         ),
     ),
     "condensation_profile": R(
-        "fabric", 'TPGRAD', '(layers),(layers),(layers),(),(),(),(),(),()->(21),(21),(21)',
+        "fabric", 'TPGRAD', '(layers),(layers),(layers),(),(),(),(),(),()->(interfaces),(interfaces),(interfaces)',
         (
          A('thickness', 'float32', 'm', 'thickness of each layer from the inside; below 0: a layer of given thermal resistance, 0: a membrane', (), '', ('layers',)),
          A('conductivity', 'float32', 'W/mK', 'conductivity of each layer; its resistance in m²K/W where the thickness is below 0', (0, INF), '', ('layers',)),
@@ -568,9 +569,9 @@ ROUTINES = {
          A('outside_humidity', 'float32', '%', 'outside relative humidity', (0, 100), '', ()),
         ),
         (
-         A('interface_temperature', 'float32', '°C', 'temperature at the interfaces, from the inside surface to the outside one', (-100, 200), '', (21,)),
-         A('interface_vapour_pressure', 'float32', 'Pa', 'vapour pressure at them', (0, INF), '', (21,)),
-         A('interface_saturation_pressure', 'float32', 'Pa', 'saturation pressure at them', (), '', (21,)),
+         A('interface_temperature', 'float32', '°C', 'temperature at the interfaces, from the inside surface to the outside one', (-100, 200), '', (Filled('interfaces', 'layers', 1),)),
+         A('interface_vapour_pressure', 'float32', 'Pa', 'vapour pressure at them', (0, INF), '', (Filled('interfaces', 'layers', 1),)),
+         A('interface_saturation_pressure', 'float32', 'Pa', 'saturation pressure at them', (), '', (Filled('interfaces', 'layers', 1),)),
         ),
     ),
     "condenses_within_layer": R(
@@ -588,12 +589,12 @@ ROUTINES = {
     "element_property": R(
         "fabric", 'BELDAT', '(record_count,10),(),()->()',
         (
-         A('element_records', 'float32', 'by field', 'ten fields of each record, the first its type code', (), '', ('record_count', 10)),
-         A('record_number', 'int32', '', 'record asked about', (1, INF), '', ()),
+         A('element_records', 'float32', 'by field', 'ten fields of each record, counted from 1; the first is its type code', (), '', ('record_count', 10)),
+         A('record_number', 'int32', '', 'record asked about, counted from 1', (1, INF), '', ()),
          A('item', 'int32', '', 'property asked for', (1, 72), '', ()),
         ),
         (
-         A('property_value', 'float32', 'by item', 'the property, 1e20 if it does not exist', (), '', ()),
+         A('property_value', 'float32', 'by item', 'the property', (), '', ()),
         ),
     ),
     "natural_convection_coefficient": R(
@@ -1069,7 +1070,7 @@ ROUTINES = {
         (
          A('fraction', 'float32', '1', 'cumulative fraction of days', (0, 1), '', ()),
          A('month', 'int32', '', 'month', (1, 12), '', ()),
-         A('frequencies', 'float32', '1', 'cumulative frequencies by month and band, not falling with the band', (0, 1), '', (10, 12)),
+         A('frequencies', 'float32', '1', 'cumulative frequencies of each band in each month, not falling with the band', (0, 1), '', (10, 12)),
         ),
         (
          A('lower_band', 'int32', '', 'lower band, 1 to 9', (1, 10), '', ()),
@@ -1495,7 +1496,7 @@ ROUTINES = {
          A('y', 'float32', 'm', 'y of the vertices', (), '', ('points',)),
         ),
         (
-         A('code', 'int32', '', '1 on one line; otherwise the number, from 2, of the first point whose y differs from that of point 1', (), '', ()),
+         A('code', 'int32', '', '1 on one line; otherwise the number, counted from 1, of the first point whose y differs from that of the first of all', (), '', ()),
         ),
     ),
     "count_enclosed": R(
@@ -1505,10 +1506,10 @@ ROUTINES = {
          A('y', 'float32', 'm', 'y of the vertices', (), '', ('vertices',)),
          A('point_x', 'float32', 'm', 'x of the points', (), '', ('points',)),
          A('point_y', 'float32', 'm', 'y of the points', (), '', ('points',)),
-         A('enclosed', 'int32', '', '1 for points that are enclosed; left as given for others', (0, 1), 'Enclosed', ('points',)),
+         A('enclosed', 'int32', '', '1 for points that are enclosed', (0, 1), 'Enclosed', ('points',)),
         ),
         (
-         A('enclosed', 'int32', '', '1 for points that are enclosed; left as given for others', (0, 1), 'Enclosed', ('points',)),
+         A('enclosed', 'int32', '', '1 for points that are enclosed', (0, 1), 'Enclosed', ('points',)),
          A('enclosed_points', 'int32', '', 'number of enclosed points', (1, INF), '', ()),
         ),
     ),
@@ -1522,7 +1523,7 @@ ROUTINES = {
         ),
         (
          A('crossing_point', 'float32', 'm', 'crossing point, or what the notes say', (), '', (2,)),
-         A('crossing_code', 'int32', '', 'number of the vertex that ends the crossed edge, or what the notes say', (), '', ()),
+         A('crossing_code', 'int32', '', 'number, counted from 1, of the vertex that ends the crossed edge, or what the notes say', (), '', ()),
         ),
     ),
     "inside": R(
@@ -1542,7 +1543,7 @@ ROUTINES = {
          A('triangle_2', 'float64', 'm', 'corners of the other', (), '', (3, 3)),
         ),
         (
-         A('truth', 'bool', '', '-1 if so, else 0', (), '', ()),
+         A('truth', 'bool', '', 'whether they are parallel', (), '', ()),
         ),
     ),
     "parallel_sides": R(
@@ -1552,9 +1553,9 @@ ROUTINES = {
          A('triangle_2', 'float64', 'm', 'corners of the other', (), '', (3, 3)),
         ),
         (
-         A('truth', 'bool', '', '-1 if so, else 0', (), '', ()),
-         A('side_1', 'int32', '', 'side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none', (), '', ()),
-         A('side_2', 'int32', '', 'side of triangle 2, likewise', (), '', ()),
+         A('truth', 'bool', '', 'whether there are any', (), '', ()),
+         A('side_1', 'int32', '', 'side of one triangle: 1 between its first two corners, 2 between its last two; 3 none', (), '', ()),
+         A('side_2', 'int32', '', 'side of the other, likewise', (), '', ()),
         ),
     ),
     "rectangular": R(
@@ -1563,7 +1564,7 @@ ROUTINES = {
          A('quadrilateral', 'float64', 'm', 'corners in turn', (), '', (4, 3)),
         ),
         (
-         A('truth', 'bool', '', '-1 if so, else 0', (), '', ()),
+         A('truth', 'bool', '', 'whether it is rectangular', (), '', ()),
         ),
     ),
     "facing": R(
@@ -1655,7 +1656,7 @@ ROUTINES = {
          A('y_2', 'float32', 'm', 'y of the other', (), '', ()),
         ),
         (
-         A('truth', 'bool', '', '-1 if both coordinates differ by less than 1e-5, else 0', (), '', ()),
+         A('truth', 'bool', '', 'whether both coordinates differ by less than 1e-5', (), '', ()),
         ),
     ),
     "side_of_line": R(
@@ -1756,7 +1757,7 @@ ROUTINES = {
          A('polygon', 'float32', 'm', 'vertices', (), '', ('vertices', 3)),
         ),
         (
-         A('area', 'float32', 'm²', 'area, positive when the vertices run as the corner at vertex 1 turns', (0, INF), '', ()),
+         A('area', 'float32', 'm²', 'area, positive when the vertices run as the corner at the first one turns', (0, INF), '', ()),
          A('tilt', 'float32', '°', 'angle between the normal and the vertical', (0, 180), '', ()),
          A('back_azimuth', 'float32', '°', 'azimuth opposite to the normal', (0, 360), '', ()),
         ),

@@ -76,9 +76,9 @@ class Radiation(IntEnum):
     """Kind of radiation."""
 
     direct = 1
-    """direct radiation (WNDRSM)"""
+    """direct radiation (`unit_direct_shares`)"""
     diffuse = 2
-    """diffuse radiation (WNDFSM), as any other value"""
+    """diffuse radiation (`unit_diffuse_shares`), as any other value"""
 
 
 class BandSet(IntEnum):
@@ -131,7 +131,7 @@ class TimeKind(IntEnum):
 
 
 class Enclosed(IntEnum):
-    """1 for points that are enclosed; left as given for others."""
+    """1 for points that are enclosed."""
 
     outside = 0
     """not enclosed"""

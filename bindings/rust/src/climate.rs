@@ -205,7 +205,7 @@ pub struct SurfaceIrradianceAndIncidence {
 /// # Arguments
 /// * `fraction`: cumulative fraction of days; valid 0 to 1
 /// * `month`: month; valid 1 to 12
-/// * `frequencies`: cumulative frequencies by month and band, not falling with the band; valid 0 to 1
+/// * `frequencies`: cumulative frequencies of each band in each month, not falling with the band; valid 0 to 1
 ///
 /// # Errors
 /// Where an argument is not valid.
@@ -320,7 +320,7 @@ pub fn band_row(row: i32) -> Result<[f32; 12], Error> {
     Ok(unchecked::climate::band_row(row))
 }
 
-/// Design day of a month as a day of the year, into the caller's variable.
+/// Design day of a month as a day of the year, as [`design_day`] gives it.
 ///
 /// # Arguments
 /// * `month`: month; valid 1 to 12
@@ -344,7 +344,7 @@ pub fn store_design_day(month: i32) -> Result<i32, Error> {
     Ok(unchecked::climate::store_design_day(month))
 }
 
-/// Design day of a month as a day of the year or of the month, into the caller's variable.
+/// Design day of a month as a day of the year or of the month, as [`design_day_by_option`] gives it.
 ///
 /// # Arguments
 /// * `month`: month; valid 1 to 12

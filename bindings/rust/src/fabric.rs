@@ -7,32 +7,31 @@ use crate::{check, unchecked, ElementKind, Error, Exposure, HeatFlowDirection, I
 /// What [`cyclic_response`] returns.
 #[derive(Clone, Copy, Debug, PartialEq)]
 pub struct CyclicResponse {
-    /// Admittance Y (W/m²K); not a number with more than 20 layers.
+    /// Admittance Y (W/m²K)
     pub admittance: f32,
-    /// Time lead of the admittance, 0 to 24 / harmonic (h); not a number with more than 20 layers.
+    /// Time lead of the admittance, 0 to 24 / harmonic (h)
     pub admittance_lead: f32,
-    /// Decrement factor f, 0 for a partition; not a number with more than 20 layers.
+    /// Decrement factor f, 0 for a partition.
     pub decrement_factor: f32,
-    /// Time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition (h); not a number with more than 20
-    /// layers.
+    /// Time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition (h)
     pub decrement_lag: f32,
-    /// Surface factor F; not a number with more than 20 layers.
+    /// Surface factor F.
     pub surface_factor: f32,
-    /// Time lag of the surface factor, 0 to 24 / harmonic (h); not a number with more than 20 layers.
+    /// Time lag of the surface factor, 0 to 24 / harmonic (h)
     pub surface_factor_lag: f32,
-    /// U-value, as [`u_value`] gives it (W/m²K); not a number with more than 20 layers.
+    /// U-value, as [`u_value`] gives it (W/m²K)
     pub u_value: f32,
 }
 
 /// What [`condensation_profile`] returns.
 #[derive(Clone, Copy, Debug, PartialEq)]
 pub struct CondensationProfile {
-    /// Temperature at the interfaces, from the inside surface to the outside one (°C); not a number with a count
-    /// outside 0 to 20, and beyond element layers + 1.
+    /// Temperature at the interfaces, from the inside surface to the outside one (°C); not a number beyond element
+    /// layers + 1.
     pub interface_temperature: [f32; 21],
-    /// Vapour pressure at them (Pa); not a number with a count outside 0 to 20, and beyond element layers + 1.
+    /// Vapour pressure at them (Pa); not a number beyond element layers + 1.
     pub interface_vapour_pressure: [f32; 21],
-    /// Saturation pressure at them (Pa); not a number with a count outside 0 to 20, and beyond element layers + 1.
+    /// Saturation pressure at them (Pa); not a number beyond element layers + 1.
     pub interface_saturation_pressure: [f32; 21],
 }
 
@@ -130,7 +129,7 @@ pub struct WindowParameters {
 /// # Notes
 /// * Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (`u_value` m12); F
 ///   = 1 - `inside_resistance` Y
-/// * A count below 1 leaves the two surfaces alone; no array is read.
+/// * Without layers the two surfaces are left.
 /// * Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U, the time shifts
 ///   are not numbers. One below 0 gives no numbers.
 /// * A layer without heat capacity acts as its resistance. One with very little is the less accurate the
@@ -300,7 +299,7 @@ pub fn gas_cavity_resistance(
 ///   s/(kg m)); valid from 0
 ///
 /// # Returns
-/// Total vapour resistance (N s/kg); not a number with more than 20 layers.
+/// Total vapour resistance (N s/kg)
 ///
 /// # Errors
 /// Where an argument is not valid.
@@ -309,7 +308,7 @@ pub fn gas_cavity_resistance(
 /// * Formula: sum of 1e9 thickness `vapour_resistivity`
 /// * A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, whatever its
 ///   resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
-/// * A count below 1 gives 0.
+/// * Without layers it is 0.
 /// * Results are in N s/kg, resistivities in GN s/(kg m).
 ///
 /// # Source
@@ -349,8 +348,8 @@ pub fn total_vapour_resistance(thickness: &[f32], vapour_resistivity: &[f32]) ->
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0, write nothing.
-///   Without layers there is one surface, with the temperature and the vapour pressure of its inside.
+/// * The first and the last interface are the surfaces. Without layers there is one surface, with the
+///   temperature and the vapour pressure of its inside.
 /// * Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
 /// * Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to saturation
 ///   there. Between two surfaces without any vapour resistance the vapour pressure is no number.
@@ -448,12 +447,12 @@ pub fn condenses_within_layer(
 /// One property of one record of a construction, a list of elements from face to face.
 ///
 /// # Arguments
-/// * `element_records`: ten fields of each record, the first its type code (by field)
-/// * `record_number`: record asked about; valid from 1
+/// * `element_records`: ten fields of each record, counted from 1; the first is its type code (by field)
+/// * `record_number`: record asked about, counted from 1; valid from 1
 /// * `item`: property asked for; valid 1 to 72
 ///
 /// # Returns
-/// The property, 1e20 if it does not exist (by item); 1e20 where there is none.
+/// The property (by item); 1e20 where there is none.
 ///
 /// # Errors
 /// Where an argument is not valid.
@@ -738,14 +737,14 @@ pub fn surface_resistance_at_emissivity(
 /// * `surface_resistance_2`: resistance of the other (m²K/W); valid from 0
 ///
 /// # Returns
-/// U-value (W/m²K); not a number with more than 20 layers.
+/// U-value (W/m²K)
 ///
 /// # Errors
 /// Where an argument is not valid.
 ///
 /// # Notes
 /// * Formula: 1 / (`surface_resistance_1` + `surface_resistance_2` + sum of thickness / conductivity)
-/// * A count below 1 leaves the two surfaces alone; no array is read.
+/// * Without layers the two surfaces are left.
 /// * How far below 0 a thickness is makes no difference here; it does in [`total_vapour_resistance`] and
 ///   [`condensation_profile`].
 /// * A thickness that is no number gives no number.

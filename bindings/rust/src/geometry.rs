@@ -50,7 +50,7 @@ pub struct OverlapAlias {
 /// What [`count_enclosed`] returns.
 #[derive(Clone, Debug, PartialEq)]
 pub struct CountEnclosed {
-    /// 1 for points that are enclosed; left as given for others; as given for points that are not enclosed.
+    /// 1 for points that are enclosed; as given for points that are not enclosed.
     pub enclosed: Vec<i32>,
     /// Number of enclosed points.
     pub enclosed_points: i32,
@@ -61,18 +61,18 @@ pub struct CountEnclosed {
 pub struct BoundaryCrossing {
     /// Crossing point, or what the notes say (m); 1e20 where there is none.
     pub crossing_point: [f32; 2],
-    /// Number of the vertex that ends the crossed edge, or what the notes say.
+    /// Number, counted from 1, of the vertex that ends the crossed edge, or what the notes say.
     pub crossing_code: i32,
 }
 
 /// What [`parallel_sides`] returns.
 #[derive(Clone, Copy, Debug, PartialEq)]
 pub struct ParallelSides {
-    /// -1 if so, else 0.
+    /// Whether there are any.
     pub truth: bool,
-    /// Side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none.
+    /// Side of one triangle: 1 between its first two corners, 2 between its last two; 3 none.
     pub side_1: i32,
-    /// Side of triangle 2, likewise.
+    /// Side of the other, likewise.
     pub side_2: i32,
 }
 
@@ -109,11 +109,11 @@ pub struct SurfaceAxes {
 /// What [`polygon_orientation`] returns.
 #[derive(Clone, Copy, Debug, PartialEq)]
 pub struct PolygonOrientation {
-    /// Area, positive when the vertices run as the corner at vertex 1 turns (m²)
+    /// Area, positive when the vertices run as the corner at the first one turns (m²)
     pub area: f32,
-    /// Angle between the normal and the vertical (°); not a number with fewer than one vertex.
+    /// Angle between the normal and the vertical (°)
     pub tilt: f32,
-    /// Azimuth opposite to the normal (°); not a number with fewer than one vertex.
+    /// Azimuth opposite to the normal (°)
     pub back_azimuth: f32,
 }
 
@@ -189,7 +189,8 @@ pub fn overlap_alias(x_1: &[f32], y_1: &[f32], x_2: &[f32], y_2: &[f32]) -> Resu
 /// * `y`: y of the vertices (m)
 ///
 /// # Returns
-/// 1 on one line; otherwise the number, from 2, of the first point whose y differs from that of point 1.
+/// 1 on one line; otherwise the number, counted from 1, of the first point whose y differs from that of the
+/// first of all.
 ///
 /// # Errors
 /// Where an argument is not valid.
@@ -198,8 +199,8 @@ pub fn overlap_alias(x_1: &[f32], y_1: &[f32], x_2: &[f32], y_2: &[f32]) -> Resu
 /// * The points are held against the line through the first two that differ by 1e-5 or more in both
 ///   coordinates. A point is off it when the ratios of its offsets to theirs, in x and in y, differ by more
 ///   than 1e-5: what is tolerated grows with the distance between the two.
-/// * Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are fewer than one.
-///   Not a number counts as equal to anything.
+/// * Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a number counts as
+///   equal to anything.
 /// * Coordinates near one another within 1e-5 can leave no two points to draw the line through; then the points
 ///   are not on one line, and finding that out takes n²/2 comparisons.
 ///
@@ -221,7 +222,7 @@ pub fn collinearity(x: &[f32], y: &[f32]) -> Result<i32, Error> {
 /// * `y`: y of the vertices (m)
 /// * `point_x`: x of the points (m)
 /// * `point_y`: y of the points (m)
-/// * `enclosed`: 1 for points that are enclosed; left as given for others: 0 not enclosed, 1 enclosed
+/// * `enclosed`: 1 for points that are enclosed: 0 not enclosed, 1 enclosed
 ///
 /// # Errors
 /// Where an argument is not valid.
@@ -230,7 +231,6 @@ pub fn collinearity(x: &[f32], y: &[f32]) -> Result<i32, Error> {
 /// * A point is enclosed when it is left of no edge, as [`side_of_line`] sees it, or is at a vertex (to less
 ///   than 1e-5 in each coordinate) that comes before any such edge.
 /// * Points that are not numbers are left of no edge, and so enclosed.
-/// * Without vertices or points the number enclosed is 0.
 ///
 /// # Source
 /// A convex polygon is the intersection of half-planes.
@@ -261,10 +261,10 @@ pub fn count_enclosed(
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * The edges are tried in turn, from vertex 1 to 2 on, as [`crossing_point`] does; the first one that is
-///   crossed away from the start ends the search. A crossing beyond 100000 is none.
-/// * No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is the last
-///   outcome of the search, the start or 1e20.
+/// * The edges are tried in turn, from that between the first two vertices on, as [`crossing_point`] does; the
+///   first one that is crossed away from the start ends the search. A crossing beyond 100000 is none.
+/// * No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a minus, and the
+///   point is the last outcome of the search, the start or 1e20.
 /// * Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of them, and
 ///   the point that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more, small codes
 ///   of this kind cannot be told from edges by the code alone.)
@@ -307,7 +307,7 @@ pub fn boundary_crossing(
 ///   may be found outside a polygon that is not convex because it is in line with an edge.
 /// * That the point is in the plane is not tested: over the middle of a square it is inside up to half the
 ///   length of a side.
-/// * Fewer than one edge, and not a number, give 0.
+/// * Not a number gives 0.
 ///
 /// # Source
 /// Sum of the angles under which the point sees the edges.
@@ -327,7 +327,7 @@ pub fn inside(point: &[f32; 3], polygon: &[[f32; 3]]) -> Result<i32, Error> {
 /// * `triangle_2`: corners of the other (m)
 ///
 /// # Returns
-/// -1 if so, else 0.
+/// Whether they are parallel.
 ///
 /// # Errors
 /// Where an argument is not valid.
@@ -362,7 +362,7 @@ pub fn parallel_planes(triangle_1: &[[f64; 3]; 3], triangle_2: &[[f64; 3]; 3]) -
 /// # Notes
 /// * Sides are parallel when their cross product is shorter than 0.001, so that short sides are parallel to
 ///   any.
-/// * The sides from corner 3 to 1 are not tested.
+/// * The sides between last and first corner are not tested.
 ///
 /// # Source
 /// Definition.
@@ -382,13 +382,13 @@ pub fn parallel_sides(
 /// * `quadrilateral`: corners in turn (m)
 ///
 /// # Returns
-/// -1 if so, else 0.
+/// Whether it is rectangular.
 ///
 /// # Errors
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in magnitude.
+/// * So it is when at all corners but the first the dot product of the two sides is at most 1e-6 in magnitude.
 ///
 /// # Source
 /// Definition.
@@ -437,10 +437,10 @@ pub fn facing(triangle: &[[f64; 3]; 3], azimuth: f64) -> Result<Facing, Error> {
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross product of the
-///   ways from corner 1 to corners 2 and 3.
+/// * The origin is the first corner of the first; from there x points to the second corner, y to the fourth, z
+///   along the cross product of the ways to the second and the third.
 /// * Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at
-///   corner 1.
+///   its first corner.
 /// * Coincident corners give what is not a number.
 ///
 /// # Source
@@ -461,7 +461,7 @@ pub fn local_coordinates(
     Ok(unchecked::geometry::local_coordinates(quadrilateral_1, quadrilateral_2))
 }
 
-/// Replaces each of four points by its components along three axes.
+/// Components of each of four points along three axes.
 ///
 /// # Arguments
 /// * `corners`: points (m)
@@ -636,7 +636,7 @@ pub fn ahead_and_nearer(first_end: &[f32; 3], second_end: &[f32; 3], point: &[f3
 /// * `y_2`: y of the other (m)
 ///
 /// # Returns
-/// -1 if both coordinates differ by less than 1e-5, else 0.
+/// Whether both coordinates differ by less than 1e-5.
 ///
 /// # Errors
 /// Where an argument is not valid.
@@ -821,8 +821,7 @@ pub fn global_to_local(global_vector: &[f32; 3], rotation_matrix: &[[f32; 3]; 3]
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
-/// * Fewer than one vertex give 0.
+/// * Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
 /// * A polygon far from the origin beside its size loses digits.
 ///
 /// # Source
@@ -849,7 +848,7 @@ pub fn plan_area(x: &[f32], y: &[f32]) -> Result<f32, Error> {
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+/// * Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
 /// * As [`plan_area`].
 ///
 /// # Source
@@ -880,7 +879,6 @@ pub fn signed_plan_area(x: &[f32], y: &[f32]) -> Result<f32, Error> {
 /// * It is the sum of the triangles over the edges with the mean of the vertices as apex, all counted as
 ///   positive: too large for a polygon that is not seen whole from there. Of the surfaces of real buildings 3.3
 ///   % come out too large by more than 0.1 %, half of these by more than 7 %.
-/// * Fewer than one vertex give 0.
 ///
 /// # Source
 /// Elementary geometry.
@@ -903,16 +901,15 @@ pub fn area_in_space(x: &[f32], y: &[f32], z: &[f32]) -> Result<f32, Error> {
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its opposite is the
-///   outward normal of a convex polygon that runs clockwise seen from outside.
-/// * Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin within a
-///   straight side, and for 7 of these rounding alone decides the normal, so that area, tilt and orientation
-///   are wrong: let vertex 1 be a true corner.
+/// * The normal points to where the corner at the first vertex is seen to turn anticlockwise: its opposite is
+///   the outward normal of a convex polygon that runs clockwise seen from outside.
+/// * Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings 141 begin within
+///   a straight side, and for 7 of these rounding alone decides the normal, so that area, tilt and orientation
+///   are wrong: let the first vertex be a true corner.
 /// * The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the azimuth opposite to
-///   its first side, from vertex 1 to 2, if the normal points up, and that of the side if it points down.
+///   its first side if the normal points up, and that of the side if it points down.
 /// * Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and what faces north
 ///   may get 0.00003.
-/// * Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
 ///
 /// # Source
 /// Shoelace formula in the plane of the polygon.

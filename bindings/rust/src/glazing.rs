@@ -46,11 +46,11 @@ pub struct StackedLayers {
 /// What [`traced_layers`] returns.
 #[derive(Clone, Copy, Debug, PartialEq)]
 pub struct TracedLayers {
-    /// Transmittance of the stack; not a number with more than 11 layers.
+    /// Transmittance of the stack.
     pub transmittance: f32,
-    /// Absorptance of the stack; not a number with more than 11 layers.
+    /// Absorptance of the stack.
     pub absorptance: f32,
-    /// Reflectance of the stack; not a number with more than 11 layers.
+    /// Reflectance of the stack.
     pub reflectance: f32,
 }
 
@@ -104,15 +104,15 @@ pub struct SlabOptics {
 #[repr(C)]
 #[derive(Clone, Copy, Debug, PartialEq, Default)]
 pub struct PaneTemperatures {
-    /// Temperature of pane 1, nearest the room (°C); not a number with a count outside 1 to 5.
+    /// Temperature of pane 1, nearest the room (°C); not a number with panes outside 1 to 5.
     pub pane_temperature_1: f32,
-    /// Temperature of pane 2 (°C); not a number with a count outside 2 to 5.
+    /// Temperature of pane 2 (°C); not a number with panes outside 2 to 5.
     pub pane_temperature_2: f32,
-    /// Temperature of pane 3 (°C); not a number with a count outside 3 to 5.
+    /// Temperature of pane 3 (°C); not a number with panes outside 3 to 5.
     pub pane_temperature_3: f32,
-    /// Temperature of pane 4 (°C); not a number with a count outside 4 to 5.
+    /// Temperature of pane 4 (°C); not a number with panes outside 4 to 5.
     pub pane_temperature_4: f32,
-    /// Temperature of pane 5 (°C); not a number with a count outside 4 to 5.
+    /// Temperature of pane 5 (°C); not a number with panes outside 4 to 5.
     pub pane_temperature_5: f32,
 }
 
@@ -145,7 +145,7 @@ pub struct UnitDiffuse {
 pub struct UnitDirectShares {
     /// Transmittance.
     pub transmittance: f32,
-    /// Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5.
+    /// Share of each pane in 1 - transmittance - absorptance.
     pub pane_shares: Vec<f32>,
     /// Absorptance.
     pub absorptance: f32,
@@ -156,7 +156,7 @@ pub struct UnitDirectShares {
 pub struct UnitDiffuseShares {
     /// Diffuse transmittance.
     pub transmittance: f32,
-    /// Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5.
+    /// Share of each pane in 1 - transmittance - absorptance.
     pub pane_shares: Vec<f32>,
     /// Diffuse absorptance.
     pub absorptance: f32,
@@ -167,7 +167,7 @@ pub struct UnitDiffuseShares {
 pub struct UnitShares {
     /// Transmittance.
     pub transmittance: f32,
-    /// Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5.
+    /// Share of each pane in 1 - transmittance - absorptance.
     pub pane_shares: Vec<f32>,
     /// Absorptance.
     pub absorptance: f32,
@@ -330,7 +330,7 @@ pub fn glass_diffuse(normal_transmittance: f32, normal_reflectance: f32) -> Resu
 /// * A layer's reflection passes the layers above it once each way; there is no further inter-reflection.
 /// * Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until they do not. It
 ///   turns negative if the transmittance alone is above 0.99.
-/// * A count below 1 is an empty stack, which transmits everything; no array is read.
+/// * The last layer is met first. No layers are an empty stack, which transmits everything.
 ///
 /// # Source
 /// First-order combination of the layers.
@@ -360,7 +360,7 @@ pub fn stacked_layers(
 ///   than eight steps back is missing from all three results: nothing of one layer; of two, the ninth power of
 ///   the product of their reflectances as a share of the transmittance; of ten and eleven layers all that the
 ///   last ones reflect.
-/// * A count below 1 is an empty stack, which transmits everything; no array is read.
+/// * The last layer is met first. No layers are an empty stack, which transmits everything.
 /// * That transmittance, absorptance and reflectance of a layer add up to 1 is left to the caller.
 ///
 /// # Source
@@ -469,7 +469,6 @@ pub fn refraction_angle(incidence: f32, refractive_index: f32) -> Result<f32, Er
 /// * Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at normal
 ///   incidence, ((1 - n) / (1 + n))^2 with the refractive index n. [`refraction_angle`] tests the sine of the
 ///   angle instead; the two limits differ deliberately.
-/// * The perpendicular one is written first.
 ///
 /// # Source
 /// Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter 5.
@@ -616,8 +615,8 @@ pub fn normal_transmittance(absorption_product: f32, normal_reflectance: f32) ->
 /// Where an argument is not valid.
 ///
 /// # Notes
-/// * Only as many absorbed values are read as there are panes. Four panes are calculated as five: what the
-///   fifth absorbs is read (give 0 for it), and its temperature is written.
+/// * What is given as absorbed in panes that are not there has no influence. Four panes are calculated as five:
+///   what the fifth absorbs counts (give 0 for it), and it has a temperature.
 ///
 /// # Source
 /// Heat balance of the panes with fixed resistances: 0.12 m²K/W at the room side, 0.06 m²K/W outdoors;
@@ -738,7 +737,6 @@ pub fn unit_diffuse(
 ///
 /// # Notes
 /// * What is split is the remainder, not the absorptance.
-/// * Transmittance and absorptance are returned whatever the number of panes.
 ///
 /// # Source
 /// [`unit_direct`]; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not recorded.

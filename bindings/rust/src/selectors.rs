@@ -150,7 +150,7 @@ selector! {
 }
 
 selector! {
-    /// 1 for points that are enclosed; left as given for others.
+    /// 1 for points that are enclosed.
     Enclosed {
         /// Not enclosed.
         Outside = 0,

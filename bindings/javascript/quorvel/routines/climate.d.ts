@@ -26,7 +26,7 @@ export interface LocateBand<Integer = number, Real = number> {
  *
  * @param fraction cumulative fraction of days; valid 0 to 1
  * @param month month; valid 1 to 12
- * @param frequencies cumulative frequencies by month and band, not falling with the band; valid 0 to 1
+ * @param frequencies cumulative frequencies of each band in each month, not falling with the band; valid 0 to 1
  * @see CLBAN1 of quorvel.h
  */
 export function locateBand(fraction: number, month: number, frequencies: List): LocateBand;
@@ -138,7 +138,7 @@ export function bandRow(row: number): Float32Array;
 export function bandRow(row: Each<number>): Float32Array;
 
 /**
- * Design day of a month as a day of the year, into the caller's variable.
+ * Design day of a month as a day of the year, as designDay gives it.
  *
  * - A month outside 1 to 12 gives 0.
  * - The year has 365 days.
@@ -153,7 +153,7 @@ export function storeDesignDay(month: number): number;
 export function storeDesignDay(month: Each<number>): Int32Array;
 
 /**
- * Design day of a month as a day of the year or of the month, into the caller's variable.
+ * Design day of a month as a day of the year or of the month, as designDayByOption gives it.
  *
  * - The two counts are separate sets and not the same date: in February day 52 of the year (the 21st) stands beside
  *   the 20th.

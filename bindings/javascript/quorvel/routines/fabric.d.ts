@@ -4,20 +4,19 @@ import type { ElementKind, Exposure, HeatFlowDirection, Packing, PaneKind, Surfa
 
 /** What cyclicResponse returns. */
 export interface CyclicResponse<Real = number> {
-  /** admittance Y [W/m²K]; not a number with more than 20 layers */
+  /** admittance Y [W/m²K] */
   readonly admittance: Real;
-  /** time lead of the admittance, 0 to 24 / harmonic [h]; not a number with more than 20 layers */
+  /** time lead of the admittance, 0 to 24 / harmonic [h] */
   readonly admittanceLead: Real;
-  /** decrement factor f, 0 for a partition; not a number with more than 20 layers */
+  /** decrement factor f, 0 for a partition */
   readonly decrementFactor: Real;
-  /** time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]; not a number with more than 20 layers
-   * */
+  /** time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h] */
   readonly decrementLag: Real;
-  /** surface factor F; not a number with more than 20 layers */
+  /** surface factor F */
   readonly surfaceFactor: Real;
-  /** time lag of the surface factor, 0 to 24 / harmonic [h]; not a number with more than 20 layers */
+  /** time lag of the surface factor, 0 to 24 / harmonic [h] */
   readonly surfaceFactorLag: Real;
-  /** U-value, as uValue gives it [W/m²K]; not a number with more than 20 layers */
+  /** U-value, as uValue gives it [W/m²K] */
   readonly uValue: Real;
 }
 
@@ -27,7 +26,7 @@ export interface CyclicResponse<Real = number> {
  * Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (uValue m12); F = 1 -
  *   insideResistance Y
  *
- * - A count below 1 leaves the two surfaces alone; no array is read.
+ * - Without layers the two surfaces are left.
  * - Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U, the time shifts are
  *   not numbers. One below 0 gives no numbers.
  * - A layer without heat capacity acts as its resistance. One with very little is the less accurate the smaller x
@@ -187,7 +186,7 @@ export function gasCavityResistance(
  *
  * - A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness, whatever its
  *   resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
- * - A count below 1 gives 0.
+ * - Without layers it is 0.
  * - Results are in N s/kg, resistivities in GN s/(kg m).
  *
  * Source: Vapour resistances in series; 5 GN s/(kg m) is the customary resistivity of still air.
@@ -195,19 +194,19 @@ export function gasCavityResistance(
  * @param thickness thickness of each layer; below 0: a layer of given thermal resistance, 0: a membrane [m]
  * @param vapourResistivity vapour resistivity of each layer; of a membrane its vapour resistance in GN s/kg [GN
  *   s/(kg m)]; valid from 0
- * @returns total vapour resistance [N s/kg]; not a number with more than 20 layers
+ * @returns total vapour resistance [N s/kg]
  * @see TPDAMP of quorvel.h
  */
 export function totalVapourResistance(thickness: List, vapourResistivity: List): number;
 
 /** What condensationProfile returns. */
 export interface CondensationProfile {
-  /** temperature at the interfaces, from the inside surface to the outside one [°C]; not a number with a count outside
-   * 0 to 20, and beyond element layers + 1 */
+  /** temperature at the interfaces, from the inside surface to the outside one [°C]; not a number beyond element layers
+   * + 1 */
   readonly interfaceTemperature: Float32Array;
-  /** vapour pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond element layers + 1 */
+  /** vapour pressure at them [Pa]; not a number beyond element layers + 1 */
   readonly interfaceVapourPressure: Float32Array;
-  /** saturation pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond element layers + 1 */
+  /** saturation pressure at them [Pa]; not a number beyond element layers + 1 */
   readonly interfaceSaturationPressure: Float32Array;
 }
 
@@ -215,8 +214,8 @@ export interface CondensationProfile {
  * Steady temperature, vapour pressure and saturation pressure at the interfaces of a construction; the vapour
  *   pressure is held down to saturation where it would exceed it.
  *
- * - Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0, write nothing.
- *   Without layers there is one surface, with the temperature and the vapour pressure of its inside.
+ * - The first and the last interface are the surfaces. Without layers there is one surface, with the temperature
+ *   and the vapour pressure of its inside.
  * - Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
  * - Relative humidities are limited to 0 to 100 %, the vapour pressures at the two surfaces to saturation there.
  *   Between two surfaces without any vapour resistance the vapour pressure is no number.
@@ -320,10 +319,10 @@ export function condensesWithinLayer(
  *
  * Source: Layout of the element records.
  *
- * @param elementRecords ten fields of each record, the first its type code [by field]
- * @param recordNumber record asked about; valid from 1
+ * @param elementRecords ten fields of each record, counted from 1; the first is its type code [by field]
+ * @param recordNumber record asked about, counted from 1; valid from 1
  * @param item property asked for; valid 1 to 72
- * @returns the property, 1e20 if it does not exist [by item]; 1e20 where there is none
+ * @returns the property [by item]; 1e20 where there is none
  * @see BELDAT of quorvel.h
  */
 export function elementProperty(elementRecords: List, recordNumber: number, item: number): number;
@@ -590,7 +589,7 @@ export function surfaceResistanceAtEmissivity(
  *
  * Formula: 1 / (surfaceResistance1 + surfaceResistance2 + sum of thickness / conductivity)
  *
- * - A count below 1 leaves the two surfaces alone; no array is read.
+ * - Without layers the two surfaces are left.
  * - How far below 0 a thickness is makes no difference here; it does in totalVapourResistance and
  *   condensationProfile.
  * - A thickness that is no number gives no number.
@@ -602,7 +601,7 @@ export function surfaceResistanceAtEmissivity(
  *   valid from 0
  * @param surfaceResistance1 resistance of one surface [m²K/W]; valid from 0
  * @param surfaceResistance2 resistance of the other [m²K/W]; valid from 0
- * @returns U-value [W/m²K]; not a number with more than 20 layers
+ * @returns U-value [W/m²K]
  * @see TPUVAL of quorvel.h
  */
 export function uValue(

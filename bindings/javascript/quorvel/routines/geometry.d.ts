@@ -143,8 +143,8 @@ export function overlapAlias(x1: List, y1: List, x2: List, y2: List): OverlapAli
  * - The points are held against the line through the first two that differ by 1e-5 or more in both coordinates. A
  *   point is off it when the ratios of its offsets to theirs, in x and in y, differ by more than 1e-5: what is
  *   tolerated grows with the distance between the two.
- * - Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are fewer than one. Not a
- *   number counts as equal to anything.
+ * - Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a number counts as equal
+ *   to anything.
  * - Coordinates near one another within 1e-5 can leave no two points to draw the line through; then the points are
  *   not on one line, and finding that out takes n²/2 comparisons.
  *
@@ -152,14 +152,15 @@ export function overlapAlias(x1: List, y1: List, x2: List, y2: List): OverlapAli
  *
  * @param x x of the vertices [m]
  * @param y y of the vertices [m]
- * @returns 1 on one line; otherwise the number, from 2, of the first point whose y differs from that of point 1
+ * @returns 1 on one line; otherwise the number, counted from 1, of the first point whose y differs from that of the
+ *   first of all
  * @see IGELIN of quorvel.h
  */
 export function collinearity(x: List, y: List): number;
 
 /** What countEnclosed returns. */
 export interface CountEnclosed<Integer = number> {
-  /** 1 for points that are enclosed; left as given for others; as given for points that are not enclosed */
+  /** 1 for points that are enclosed; as given for points that are not enclosed */
   readonly enclosed: Int32Array;
   /** number of enclosed points */
   readonly enclosedPoints: Integer;
@@ -171,7 +172,6 @@ export interface CountEnclosed<Integer = number> {
  * - A point is enclosed when it is left of no edge, as sideOfLine sees it, or is at a vertex (to less than 1e-5 in
  *   each coordinate) that comes before any such edge.
  * - Points that are not numbers are left of no edge, and so enclosed.
- * - Without vertices or points the number enclosed is 0.
  *
  * Source: A convex polygon is the intersection of half-planes.
  *
@@ -179,7 +179,7 @@ export interface CountEnclosed<Integer = number> {
  * @param y y of the vertices [m]
  * @param pointX x of the points [m]
  * @param pointY y of the points [m]
- * @param enclosed 1 for points that are enclosed; left as given for others: 0 not enclosed, 1 enclosed
+ * @param enclosed 1 for points that are enclosed: 0 not enclosed, 1 enclosed
  * @see GECLOS of quorvel.h
  */
 export function countEnclosed(
@@ -194,17 +194,17 @@ export function countEnclosed(
 export interface BoundaryCrossing<Integer = number> {
   /** crossing point, or what the notes say [m]; 1e20 where there is none */
   readonly crossingPoint: Float32Array;
-  /** number of the vertex that ends the crossed edge, or what the notes say */
+  /** number, counted from 1, of the vertex that ends the crossed edge, or what the notes say */
   readonly crossingCode: Integer;
 }
 
 /**
  * Where a segment crosses the boundary of a polygon in plan.
  *
- * - The edges are tried in turn, from vertex 1 to 2 on, as crossingPoint does; the first one that is crossed away
- *   from the start ends the search. A crossing beyond 100000 is none.
- * - No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is the last
- *   outcome of the search, the start or 1e20.
+ * - The edges are tried in turn, from that between the first two vertices on, as crossingPoint does; the first one
+ *   that is crossed away from the start ends the search. A crossing beyond 100000 is none.
+ * - No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a minus, and the point
+ *   is the last outcome of the search, the start or 1e20.
  * - Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of them, and the
  *   point that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices or more, small codes of this
  *   kind cannot be told from edges by the code alone.)
@@ -228,7 +228,7 @@ export function boundaryCrossing(segmentStart: List, segmentEnd: List, x: List, 
  *   outside a polygon that is not convex because it is in line with an edge.
  * - That the point is in the plane is not tested: over the middle of a square it is inside up to half the length of
  *   a side.
- * - Fewer than one edge, and not a number, give 0.
+ * - Not a number gives 0.
  *
  * Source: Sum of the angles under which the point sees the edges.
  *
@@ -249,18 +249,18 @@ export function inside(point: List, polygon: List): number;
  *
  * @param triangle1 corners of one triangle [m]
  * @param triangle2 corners of the other [m]
- * @returns -1 if so, else 0
+ * @returns whether they are parallel
  * @see GEPLEL of quorvel.h
  */
 export function parallelPlanes(triangle1: List, triangle2: List): boolean;
 
 /** What parallelSides returns. */
 export interface ParallelSides<Logical = boolean, Integer = number> {
-  /** -1 if so, else 0 */
+  /** whether there are any */
   readonly truth: Logical;
-  /** side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none */
+  /** side of one triangle: 1 between its first two corners, 2 between its last two; 3 none */
   readonly side1: Integer;
-  /** side of triangle 2, likewise */
+  /** side of the other, likewise */
   readonly side2: Integer;
 }
 
@@ -268,7 +268,7 @@ export interface ParallelSides<Logical = boolean, Integer = number> {
  * Whether two triangles have parallel sides, and which.
  *
  * - Sides are parallel when their cross product is shorter than 0.001, so that short sides are parallel to any.
- * - The sides from corner 3 to 1 are not tested.
+ * - The sides between last and first corner are not tested.
  *
  * Source: Definition.
  *
@@ -281,12 +281,12 @@ export function parallelSides(triangle1: List, triangle2: List): ParallelSides;
 /**
  * Whether a quadrilateral is rectangular.
  *
- * - So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in magnitude.
+ * - So it is when at all corners but the first the dot product of the two sides is at most 1e-6 in magnitude.
  *
  * Source: Definition.
  *
  * @param quadrilateral corners in turn [m]
- * @returns -1 if so, else 0
+ * @returns whether it is rectangular
  * @see GERECT of quorvel.h
  */
 export function rectangular(quadrilateral: List): boolean;
@@ -328,10 +328,10 @@ export interface LocalCoordinates {
 /**
  * Two quadrilaterals in local coordinates of the first.
  *
- * - The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross product of the ways
- *   from corner 1 to corners 2 and 3.
- * - Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at
- *   corner 1.
+ * - The origin is the first corner of the first; from there x points to the second corner, y to the fourth, z along
+ *   the cross product of the ways to the second and the third.
+ * - Coordinates are dot products with the axes, so that lengths are kept only where that has a right angle at its
+ *   first corner.
  * - Coincident corners give what is not a number.
  *
  * Source: Definition.
@@ -343,7 +343,7 @@ export interface LocalCoordinates {
 export function localCoordinates(quadrilateral1: List, quadrilateral2: List): LocalCoordinates;
 
 /**
- * Replaces each of four points by its components along three axes.
+ * Components of each of four points along three axes.
  *
  * Source: Definition.
  *
@@ -439,7 +439,7 @@ export function aheadAndNearer(firstEnd: List, secondEnd: List, point: List): nu
  * @param y1 y of one point [m]
  * @param x2 x of the other [m]
  * @param y2 y of the other [m]
- * @returns -1 if both coordinates differ by less than 1e-5, else 0
+ * @returns whether both coordinates differ by less than 1e-5
  * @see GECOIN of quorvel.h
  */
 export function coincide(x1: number, y1: number, x2: number, y2: number): boolean;
@@ -548,9 +548,8 @@ export function globalToLocal(globalVector: List, rotationMatrix: List): Float32
 /**
  * Area of a polygon in plan.
  *
- * Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+ * Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
  *
- * - Fewer than one vertex give 0.
  * - A polygon far from the origin beside its size loses digits.
  *
  * Source: Shoelace formula.
@@ -565,7 +564,7 @@ export function planArea(x: List, y: List): number;
 /**
  * Area of a polygon in plan, positive for clockwise vertices.
  *
- * Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+ * Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
  *
  * - As planArea.
  *
@@ -584,7 +583,6 @@ export function signedPlanArea(x: List, y: List): number;
  * - It is the sum of the triangles over the edges with the mean of the vertices as apex, all counted as positive:
  *   too large for a polygon that is not seen whole from there. Of the surfaces of real buildings 3.3 % come out too
  *   large by more than 0.1 %, half of these by more than 7 %.
- * - Fewer than one vertex give 0.
  *
  * Source: Elementary geometry.
  *
@@ -598,27 +596,26 @@ export function areaInSpace(x: List, y: List, z: List): number;
 
 /** What polygonOrientation returns. */
 export interface PolygonOrientation<Real = number> {
-  /** area, positive when the vertices run as the corner at vertex 1 turns [m²] */
+  /** area, positive when the vertices run as the corner at the first one turns [m²] */
   readonly area: Real;
-  /** angle between the normal and the vertical [°]; not a number with fewer than one vertex */
+  /** angle between the normal and the vertical [°] */
   readonly tilt: Real;
-  /** azimuth opposite to the normal [°]; not a number with fewer than one vertex */
+  /** azimuth opposite to the normal [°] */
   readonly backAzimuth: Real;
 }
 
 /**
  * Area, tilt and orientation of a plane polygon in space.
  *
- * - The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its opposite is the outward
- *   normal of a convex polygon that runs clockwise seen from outside.
- * - Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin within a straight
- *   side, and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are wrong: let
- *   vertex 1 be a true corner.
+ * - The normal points to where the corner at the first vertex is seen to turn anticlockwise: its opposite is the
+ *   outward normal of a convex polygon that runs clockwise seen from outside.
+ * - Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings 141 begin within a
+ *   straight side, and for 7 of these rounding alone decides the normal, so that area, tilt and orientation are
+ *   wrong: let the first vertex be a true corner.
  * - The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the azimuth opposite to its
- *   first side, from vertex 1 to 2, if the normal points up, and that of the side if it points down.
+ *   first side if the normal points up, and that of the side if it points down.
  * - Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and what faces north may
  *   get 0.00003.
- * - Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
  *
  * Source: Shoelace formula in the plane of the polygon.
  *

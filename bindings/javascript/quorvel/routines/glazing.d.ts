@@ -95,7 +95,7 @@ export interface StackedLayers<Real = number> {
  * - A layer's reflection passes the layers above it once each way; there is no further inter-reflection.
  * - Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until they do not. It
  *   turns negative if the transmittance alone is above 0.99.
- * - A count below 1 is an empty stack, which transmits everything; no array is read.
+ * - The last layer is met first. No layers are an empty stack, which transmits everything.
  *
  * Source: First-order combination of the layers.
  *
@@ -107,11 +107,11 @@ export function stackedLayers(layerTransmittances: List, layerReflectances: List
 
 /** What tracedLayers returns. */
 export interface TracedLayers<Real = number> {
-  /** transmittance of the stack; not a number with more than 11 layers */
+  /** transmittance of the stack */
   readonly transmittance: Real;
-  /** absorptance of the stack; not a number with more than 11 layers */
+  /** absorptance of the stack */
   readonly absorptance: Real;
-  /** reflectance of the stack; not a number with more than 11 layers */
+  /** reflectance of the stack */
   readonly reflectance: Real;
 }
 
@@ -122,7 +122,7 @@ export interface TracedLayers<Real = number> {
  *   eight steps back is missing from all three results: nothing of one layer; of two, the ninth power of the
  *   product of their reflectances as a share of the transmittance; of ten and eleven layers all that the last ones
  *   reflect.
- * - A count below 1 is an empty stack, which transmits everything; no array is read.
+ * - The last layer is met first. No layers are an empty stack, which transmits everything.
  * - That transmittance, absorptance and reflectance of a layer add up to 1 is left to the caller.
  *
  * Source: Tracing of one forward and one backward flux, which tends to the adding method.
@@ -231,7 +231,6 @@ export interface SurfaceReflectance<Real = number> {
  * - Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at normal incidence,
  *   ((1 - n) / (1 + n))^2 with the refractive index n. refractionAngle tests the sine of the angle instead; the two
  *   limits differ deliberately.
- * - The perpendicular one is written first.
  *
  * Source: Fresnel's equations; Duffie and Beckman, Solar Engineering of Thermal Processes, chapter 5.
  *
@@ -341,15 +340,15 @@ export function normalTransmittance(absorptionProduct: Each<number>, normalRefle
 
 /** What paneTemperatures returns. */
 export interface PaneTemperatures<Real = number> {
-  /** temperature of pane 1, nearest the room [°C]; not a number with a count outside 1 to 5 */
+  /** temperature of pane 1, nearest the room [°C]; not a number with panes outside 1 to 5 */
   readonly paneTemperature1: Real;
-  /** temperature of pane 2 [°C]; not a number with a count outside 2 to 5 */
+  /** temperature of pane 2 [°C]; not a number with panes outside 2 to 5 */
   readonly paneTemperature2: Real;
-  /** temperature of pane 3 [°C]; not a number with a count outside 3 to 5 */
+  /** temperature of pane 3 [°C]; not a number with panes outside 3 to 5 */
   readonly paneTemperature3: Real;
-  /** temperature of pane 4 [°C]; not a number with a count outside 4 to 5 */
+  /** temperature of pane 4 [°C]; not a number with panes outside 4 to 5 */
   readonly paneTemperature4: Real;
-  /** temperature of pane 5 [°C]; not a number with a count outside 4 to 5 */
+  /** temperature of pane 5 [°C]; not a number with panes outside 4 to 5 */
   readonly paneTemperature5: Real;
 }
 
@@ -357,8 +356,8 @@ export interface PaneTemperatures<Real = number> {
  * Steady temperatures of the panes of a glazing from the air temperatures on both sides and the solar radiation
  *   that each pane absorbs.
  *
- * - Only as many absorbed values are read as there are panes. Four panes are calculated as five: what the fifth
- *   absorbs is read (give 0 for it), and its temperature is written.
+ * - What is given as absorbed in panes that are not there has no influence. Four panes are calculated as five: what
+ *   the fifth absorbs counts (give 0 for it), and it has a temperature.
  *
  * Source: Heat balance of the panes with fixed resistances: 0.12 m²K/W at the room side, 0.06 m²K/W outdoors;
  *   coefficients rounded to two decimals.
@@ -475,7 +474,7 @@ export function unitDiffuse(
 export interface UnitDirectShares<Real = number> {
   /** transmittance */
   readonly transmittance: Real;
-  /** share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5 */
+  /** share of each pane in 1 - transmittance - absorptance */
   readonly paneShares: Float32Array;
   /** absorptance */
   readonly absorptance: Real;
@@ -485,7 +484,6 @@ export interface UnitDirectShares<Real = number> {
  * unitDirect, with the remainder that is neither transmitted nor absorbed split among the panes of the unit.
  *
  * - What is split is the remainder, not the absorptance.
- * - Transmittance and absorptance are returned whatever the number of panes.
  *
  * Source: unitDirect; the shares by number of panes are fixed, 0.4 and 0.6 for two, their origin is not recorded.
  *
@@ -513,7 +511,7 @@ export function unitDirectShares(
 export interface UnitDiffuseShares<Real = number> {
   /** diffuse transmittance */
   readonly transmittance: Real;
-  /** share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5 */
+  /** share of each pane in 1 - transmittance - absorptance */
   readonly paneShares: Float32Array;
   /** diffuse absorptance */
   readonly absorptance: Real;
@@ -547,7 +545,7 @@ export function unitDiffuseShares(
 export interface UnitShares<Real = number> {
   /** transmittance */
   readonly transmittance: Real;
-  /** share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1 to 5 */
+  /** share of each pane in 1 - transmittance - absorptance */
   readonly paneShares: Float32Array;
   /** absorptance */
   readonly absorptance: Real;

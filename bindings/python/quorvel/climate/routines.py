@@ -204,7 +204,7 @@ def locate_band(fraction, month, frequencies, *, out=None):
     month : array_like of int
         Month; valid 1 to 12.
     frequencies : array_like of float, shape (..., 10, 12)
-        Cumulative frequencies by month and band, not falling with the band; valid 0 to 1.
+        Cumulative frequencies of each band in each month, not falling with the band; valid 0 to 1.
     out : tuple of ndarray, optional
         Where to put the results, as for any NumPy ufunc.
 
@@ -269,7 +269,7 @@ def band_climate(band, month, band_set, percentage, *, out=None, where=True):
         Band, or 0 to interpolate at the percentage; valid 0 to 10.
     month : array_like of int
         Month; valid 1 to 12.
-    band_set : BandSet or array_like of int
+    band_set : BandSet, or array_like of its names or numbers
         Set of bands: 1 bands from the warmest to the coldest days, 2 bands from the highest to the
         lowest Q1.
     percentage : array_like of float
@@ -429,7 +429,7 @@ def band_row(row, *, out=None):
 
 
 def store_design_day(month, *, out=None, where=True):
-    """Design day of a month as a day of the year, into the caller's variable.
+    """Design day of a month as a day of the year, as `design_day` gives it.
 
     Parameters
     ----------
@@ -470,13 +470,13 @@ def store_design_day(month, *, out=None, where=True):
 
 
 def store_design_day_by_option(month, day_kind, *, out=None, where=True):
-    """Design day of a month as a day of the year or of the month, into the caller's variable.
+    """Design day of a month as a day of the year or of the month, as `design_day_by_option` gives it.
 
     Parameters
     ----------
     month : array_like of int
         Month; valid 1 to 12.
-    day_kind : DayKind or array_like of int
+    day_kind : DayKind, or array_like of its names or numbers
         How the day is counted: 1 day of the month, 2 day of the year.
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -561,7 +561,7 @@ def design_day_by_option(month, day_kind, *, out=None, where=True):
     ----------
     month : array_like of int
         Month; valid 1 to 12.
-    day_kind : DayKind or array_like of int
+    day_kind : DayKind, or array_like of its names or numbers
         How the day is counted: 1 day of the month, 2 day of the year.
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -646,7 +646,7 @@ def second_design_day_by_option(month, day_kind, *, out=None, where=True):
     ----------
     month : array_like of int
         Month; valid 1 to 12.
-    day_kind : DayKind or array_like of int
+    day_kind : DayKind, or array_like of its names or numbers
         How the day is counted: 1 day of the month, 2 day of the year.
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -806,7 +806,7 @@ def design_irradiance(solar_altitude, site_height, sky_kind, *, out=None, where=
         Solar altitude [rad]; valid 0 to 1.5707964.
     site_height : array_like of float
         Height of the site above sea level [m]; valid 0 to 4000.
-    sky_kind : SkyKind or array_like of int
+    sky_kind : SkyKind, or array_like of its names or numbers
         Kind of sky: 0 clear, 1 cloudy: the larger diffuse irradiance.
     out : tuple of ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -1221,7 +1221,7 @@ def diffuse_tilt_factor(day, solar_altitude, beam_horizontal, tilt, sky_model, *
         Beam irradiance on the horizontal [W/m²]; valid from 0.
     tilt : array_like of float
         Tilt from the horizontal [rad]; valid 0 to 3.1416.
-    sky_model : SkyModel or array_like of int
+    sky_model : SkyModel, or array_like of its names or numbers
         Model of the sky: 0 radiance index by the kind of sky, 1 clearness, northern Europe, 2
         clearness, southern Europe, as any other value.
     out : ndarray, optional
@@ -1285,7 +1285,7 @@ def slope_diffuse(day, solar_altitude, solar_azimuth, surface_azimuth, tilt, bea
         Beam irradiance on the horizontal [W/m²]; valid from 0.
     diffuse_horizontal : array_like of float
         Diffuse irradiance on the horizontal [W/m²]; valid from 0.
-    sky_model : SkyModel or array_like of int
+    sky_model : SkyModel, or array_like of its names or numbers
         Model of the sky: 0 radiance index by the kind of sky, 1 clearness, northern Europe, 2
         clearness, southern Europe, as any other value.
     out : ndarray, optional
@@ -1492,7 +1492,7 @@ def almanac_position(time_kind, year, month, day_of_month, clock_time, latitude,
 
     Parameters
     ----------
-    time_kind : TimeKind or array_like of int
+    time_kind : TimeKind, or array_like of its names or numbers
         What the time is: 1 solar time; longitude and zone meridian are set to 0, 2 clock of the
         zone, at the longitude, 3 solar time; the zone meridian only dates the declination.
     year : array_like of int

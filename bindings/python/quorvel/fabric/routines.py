@@ -5,6 +5,7 @@
 from collections import namedtuple
 
 from .._core import functions
+from .._dispatch import filled
 from ..selectors import ElementKind, Exposure, HeatFlowDirection, Packing, PaneKind, Surface
 
 _new = tuple.__new__  # a third of the time of _make
@@ -48,7 +49,7 @@ _vertical_cavity_resistance = functions["vertical_cavity_resistance"]
 _air_cavity_resistance = functions["air_cavity_resistance"]
 _gas_cavity_resistance = functions["gas_cavity_resistance"]
 _total_vapour_resistance = functions["total_vapour_resistance"]
-_condensation_profile = functions["condensation_profile"]
+_condensation_profile = filled("condensation_profile")
 _condenses_within_layer = functions["condenses_within_layer"]
 _element_property = functions["element_property"]
 _natural_convection_coefficient = functions["natural_convection_coefficient"]
@@ -72,7 +73,7 @@ CyclicResponse.__doc__ = """What cyclic_response returns.
     decrement_lag: time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]
     surface_factor: surface factor F
     surface_factor_lag: time lag of the surface factor, 0 to 24 / harmonic [h]
-    u_value: U-value, as TPUVAL gives it [W/m²K]
+    u_value: U-value, as `u_value` gives it [W/m²K]
 """
 
 CondensationProfile = namedtuple("CondensationProfile", "interface_temperature interface_vapour_pressure interface_saturation_pressure")
@@ -153,7 +154,7 @@ def cyclic_response(thickness, conductivity, density, specific_heat, inside_resi
         Resistance of the far surface [m²K/W]; valid from 0.
     harmonic : array_like of int
         Cycles in 24 hours; valid from 0.
-    element_kind : ElementKind or array_like of int
+    element_kind : ElementKind, or array_like of its names or numbers
         Kind of element: 1 element between two environments, 2 internal partition, the same swing on
         both sides.
     out : tuple of ndarray, optional
@@ -165,26 +166,24 @@ def cyclic_response(thickness, conductivity, density, specific_heat, inside_resi
         A named tuple of:
 
     admittance : float32
-        Admittance Y [W/m²K]; not a number with more than 20 layers.
+        Admittance Y [W/m²K].
     admittance_lead : float32
-        Time lead of the admittance, 0 to 24 / harmonic [h]; not a number with more than 20 layers.
+        Time lead of the admittance, 0 to 24 / harmonic [h].
     decrement_factor : float32
-        Decrement factor f, 0 for a partition; not a number with more than 20 layers.
+        Decrement factor f, 0 for a partition.
     decrement_lag : float32
-        Time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h]; not a number
-        with more than 20 layers.
+        Time lag of the decrement factor, 0 to 24 / harmonic, 0 for a partition [h].
     surface_factor : float32
-        Surface factor F; not a number with more than 20 layers.
+        Surface factor F.
     surface_factor_lag : float32
-        Time lag of the surface factor, 0 to 24 / harmonic [h]; not a number with more than 20
-        layers.
+        Time lag of the surface factor, 0 to 24 / harmonic [h].
     u_value : float32
-        U-value, as TPUVAL gives it [W/m²K]; not a number with more than 20 layers.
+        U-value, as `u_value` gives it [W/m²K].
 
     Raises
     ------
     ValueError
-        Unless there are 0 to 20 layers.
+        Unless the number of layers is at most 20.
         Unless all arguments have as many layers.
 
     Notes
@@ -192,7 +191,7 @@ def cyclic_response(thickness, conductivity, density, specific_heat, inside_resi
     Formula: M = Msi M1 ... Mn Mso; Y = m22 / m12, of a partition (m22 - 1) / m12; f = 1 / (u_value
     m12); F = 1 - inside_resistance Y
 
-    A count below 1 leaves the two surfaces alone; no array is read.
+    Without layers the two surfaces are left.
 
     Any kind but 2 counts as 1. A harmonic of 0 is a steady temperature: the admittance is U, the
     time shifts are not numbers. One below 0 gives no numbers.
@@ -433,12 +432,12 @@ def total_vapour_resistance(thickness, vapour_resistivity, *, out=None):
     Returns
     -------
     vapour_resistance : float32
-        Total vapour resistance [N s/kg]; not a number with more than 20 layers.
+        Total vapour resistance [N s/kg].
 
     Raises
     ------
     ValueError
-        Unless there are 0 to 20 layers.
+        Unless the number of layers is at most 20.
         Unless all arguments have as many layers.
 
     Notes
@@ -448,7 +447,7 @@ def total_vapour_resistance(thickness, vapour_resistivity, *, out=None):
     A layer of given thermal resistance has 5 GN s/kg for each metre of its negative thickness,
     whatever its resistivity: an air gap 0.05 m wide is entered as -0.05, not as -1.
 
-    A count below 1 gives 0.
+    Without layers it is 0.
 
     Results are in N s/kg, resistivities in GN s/(kg m).
 
@@ -505,27 +504,23 @@ def condensation_profile(thickness, conductivity, vapour_resistivity, inside_res
     CondensationProfile
         A named tuple of:
 
-    interface_temperature : float32, shape (..., 21)
-        Temperature at the interfaces, from the inside surface to the outside one [°C]; not a number
-        with a count outside 0 to 20, and beyond element layers + 1.
-    interface_vapour_pressure : float32, shape (..., 21)
-        Vapour pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond element
-        layers + 1.
-    interface_saturation_pressure : float32, shape (..., 21)
-        Saturation pressure at them [Pa]; not a number with a count outside 0 to 20, and beyond
-        element layers + 1.
+    interface_temperature : float32, shape (..., layers + 1)
+        Temperature at the interfaces, from the inside surface to the outside one [°C].
+    interface_vapour_pressure : float32, shape (..., layers + 1)
+        Vapour pressure at them [Pa].
+    interface_saturation_pressure : float32, shape (..., layers + 1)
+        Saturation pressure at them [Pa].
 
     Raises
     ------
     ValueError
-        Unless there are 0 to 20 layers.
+        Unless the number of layers is at most 20.
         Unless all arguments have as many layers.
 
     Notes
     -----
-    Only layers + 1 elements of each profile are written. More than 20 layers, or fewer than 0,
-    write nothing. Without layers there is one surface, with the temperature and the vapour pressure
-    of its inside.
+    The first and the last interface are the surfaces. Without layers there is one surface, with the
+    temperature and the vapour pressure of its inside.
 
     Vapour condenses at an interface where the vapour pressure equals the saturation pressure.
 
@@ -623,9 +618,9 @@ def element_property(element_records, record_number, item, *, out=None):
     Parameters
     ----------
     element_records : array_like of float, shape (..., record_count, 10)
-        Ten fields of each record, the first its type code [by field].
+        Ten fields of each record, counted from 1; the first is its type code [by field].
     record_number : array_like of int
-        Record asked about; valid from 1.
+        Record asked about, counted from 1; valid from 1.
     item : array_like of int
         Property asked for; valid 1 to 72.
     out : ndarray, optional
@@ -634,12 +629,12 @@ def element_property(element_records, record_number, item, *, out=None):
     Returns
     -------
     property_value : float32
-        The property, 1e20 if it does not exist [by item]; 1e20 where there is none.
+        The property [by item]; 1e20 where there is none.
 
     Raises
     ------
     ValueError
-        Unless there are at least 1 record_count.
+        Unless the number of records is at least 1.
 
     Notes
     -----
@@ -699,7 +694,7 @@ def natural_convection_coefficient(temperature_difference, characteristic_length
     characteristic_length : array_like of float
         Characteristic length: height of a vertical surface, four times the area over the perimeter
         of a horizontal one [m]; valid from 0.
-    heat_flow_direction : HeatFlowDirection or array_like of int
+    heat_flow_direction : HeatFlowDirection, or array_like of its names or numbers
         Direction of the heat flow: 1 heat flow upwards, 2 vertical surface, 3 heat flow downwards.
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -749,7 +744,7 @@ def pack_two_fractions(packing, packed_number, fraction_1, fraction_2, *, out=No
 
     Parameters
     ----------
-    packing : Packing or array_like of int
+    packing : Packing, or array_like of its names or numbers
         Direction: 1 pack, 2 unpack, as any other value.
     packed_number : array_like of float
         Packed number; valid 0 to 9999.99.
@@ -803,7 +798,7 @@ def pack_three_fractions(packing, packed_number, fraction_1, fraction_2, fractio
 
     Parameters
     ----------
-    packing : Packing or array_like of int
+    packing : Packing, or array_like of its names or numbers
         Direction: 1 pack, 2 unpack, as any other value.
     packed_number : array_like of float
         Packed number; valid 0 to 9999.99.
@@ -871,7 +866,7 @@ def pack_three_fractions_third_first(packing, packed_number, fraction_3, fractio
 
     Parameters
     ----------
-    packing : Packing or array_like of int
+    packing : Packing, or array_like of its names or numbers
         Direction: 1 pack, 2 unpack, as any other value.
     packed_number : array_like of float
         Packed number; valid 0 to 9999.99.
@@ -931,7 +926,7 @@ def pack_pane(packing, packed_number, absorptance, reflectance_1, reflectance_2,
 
     Parameters
     ----------
-    packing : Packing or array_like of int
+    packing : Packing, or array_like of its names or numbers
         Direction: 1 pack, 2 unpack, as any other value.
     packed_number : array_like of float
         Packed number; valid 0 to 9999.99.
@@ -994,11 +989,11 @@ def surface_resistance(surface, tilt, exposure, *, out=None, where=True):
 
     Parameters
     ----------
-    surface : Surface or array_like of int
+    surface : Surface, or array_like of its names or numbers
         Surface: 1 outside, 2 inside.
     tilt : array_like of float
         Tilt: 0 heat flowing up, pi/2 vertical, pi heat flowing down [rad]; valid 0 to 3.1416.
-    exposure : Exposure or array_like of int
+    exposure : Exposure, or array_like of its names or numbers
         Exposure of an outside surface to the wind: 1 sheltered, 2 normal, 3 severe.
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -1049,11 +1044,11 @@ def surface_resistance_at_emissivity(surface, tilt, exposure, emissivity, *, out
 
     Parameters
     ----------
-    surface : Surface or array_like of int
+    surface : Surface, or array_like of its names or numbers
         Surface: 1 outside, 2 inside.
     tilt : array_like of float
         Tilt: 0 heat flowing up, pi/2 vertical, pi heat flowing down [rad]; valid 0 to 3.1416.
-    exposure : Exposure or array_like of int
+    exposure : Exposure, or array_like of its names or numbers
         Exposure of an outside surface to the wind: 1 sheltered, 2 normal, 3 severe.
     emissivity : array_like of float
         Long-wave emissivity of the surface; valid 0 to 1.
@@ -1119,19 +1114,19 @@ def u_value(thickness, conductivity, surface_resistance_1, surface_resistance_2,
     Returns
     -------
     u_value : float32
-        U-value [W/m²K]; not a number with more than 20 layers.
+        U-value [W/m²K].
 
     Raises
     ------
     ValueError
-        Unless there are 0 to 20 layers.
+        Unless the number of layers is at most 20.
         Unless all arguments have as many layers.
 
     Notes
     -----
     Formula: 1 / (surface_resistance_1 + surface_resistance_2 + sum of thickness / conductivity)
 
-    A count below 1 leaves the two surfaces alone; no array is read.
+    Without layers the two surfaces are left.
 
     How far below 0 a thickness is makes no difference here; it does in `total_vapour_resistance`
     and `condensation_profile`.
@@ -1167,7 +1162,7 @@ def u_value_at_tilt_and_exposure(u_value, tilt, exposure, *, out=None, where=Tru
         U-value with the surface resistances of a vertical wall at exposure 2 [W/m²K]; valid from 0.
     tilt : array_like of float
         Tilt: 0 heat flowing up, pi/2 vertical, pi heat flowing down [rad]; valid 0 to 3.1416.
-    exposure : Exposure or array_like of int
+    exposure : Exposure, or array_like of its names or numbers
         Wind exposure of the outside surface: 1 sheltered, 2 normal, 3 severe.
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -1216,15 +1211,15 @@ def window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_
     ----------
     panes : array_like of int
         Number of panes, pane 1 nearest the room; valid 1 to 3.
-    pane_kind_1 : PaneKind or array_like of int
+    pane_kind_1 : PaneKind, or array_like of its names or numbers
         Kind of pane 1: 1 closes the cavities on both sides, 2 closes none.
     emissivity_1 : array_like of float
         Long-wave emissivity of pane 1; valid 0 to 1.
-    pane_kind_2 : PaneKind or array_like of int
+    pane_kind_2 : PaneKind, or array_like of its names or numbers
         Kind of pane 2: 1 closes the cavities on both sides, 2 closes none.
     emissivity_2 : array_like of float
         Long-wave emissivity of pane 2; valid 0 to 1.
-    pane_kind_3 : PaneKind or array_like of int
+    pane_kind_3 : PaneKind, or array_like of its names or numbers
         Kind of pane 3: 1 closes the cavities on both sides, 2 closes none.
     emissivity_3 : array_like of float
         Long-wave emissivity of pane 3; valid 0 to 1.
@@ -1232,9 +1227,9 @@ def window_parameters(panes, pane_kind_1, emissivity_1, pane_kind_2, emissivity_
         Width of the cavity between panes 1 and 2 [m]; valid from 0.001.
     cavity_width_2 : array_like of float
         Width of the cavity between panes 2 and 3 [m]; valid from 0.001.
-    outer_surface : Surface or array_like of int
+    outer_surface : Surface, or array_like of its names or numbers
         Surface type of the outer face, normally 1: 1 outside, 2 inside.
-    exposure : Exposure or array_like of int
+    exposure : Exposure, or array_like of its names or numbers
         Exposure of the outer face to the wind: 1 sheltered, 2 normal, 3 severe.
     tilt : array_like of float
         Tilt: 0 heat flowing up, pi/2 vertical, pi heat flowing down [rad]; valid 0 to 3.1416.

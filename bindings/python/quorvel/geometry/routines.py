@@ -93,7 +93,7 @@ _length_in_double = functions["length_in_double"]
 CountEnclosed = namedtuple("CountEnclosed", "enclosed enclosed_points")
 CountEnclosed.__doc__ = """What count_enclosed returns.
 
-    enclosed: 1 for points that are enclosed; left as given for others
+    enclosed: 1 for points that are enclosed
     enclosed_points: number of enclosed points
 """
 
@@ -101,15 +101,17 @@ BoundaryCrossing = namedtuple("BoundaryCrossing", "crossing_point crossing_code"
 BoundaryCrossing.__doc__ = """What boundary_crossing returns.
 
     crossing_point: crossing point, or what the notes say [m]
-    crossing_code: number of the vertex that ends the crossed edge, or what the notes say
+    crossing_code: number, counted from 1, of the vertex that ends the crossed edge, or what the
+    notes say
 """
 
 ParallelSides = namedtuple("ParallelSides", "result side_1 side_2")
 ParallelSides.__doc__ = """What parallel_sides returns.
 
-    result: -1 if so, else 0
-    side_1: side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none
-    side_2: side of triangle 2, likewise
+    result: whether there are any
+    side_1: side of one triangle: 1 between its first two corners, 2 between its last two; 3
+    none
+    side_2: side of the other, likewise
 """
 
 Facing = namedtuple("Facing", "azimuth tilt")
@@ -136,7 +138,7 @@ SurfaceAxes.__doc__ = """What surface_axes returns.
 PolygonOrientation = namedtuple("PolygonOrientation", "area tilt back_azimuth")
 PolygonOrientation.__doc__ = """What polygon_orientation returns.
 
-    area: area, positive when the vertices run as the corner at vertex 1 turns [m²]
+    area: area, positive when the vertices run as the corner at the first one turns [m²]
     tilt: angle between the normal and the vertical [°]
     back_azimuth: azimuth opposite to the normal [°]
 """
@@ -156,13 +158,13 @@ def collinearity(x, y, *, out=None):
     Returns
     -------
     code : int32
-        1 on one line; otherwise the number, from 2, of the first point whose y differs from that of
-        point 1.
+        1 on one line; otherwise the number, counted from 1, of the first point whose y differs from
+        that of the first of all.
 
     Raises
     ------
     ValueError
-        Unless there are at least 1 points.
+        Unless the number of points is at least 1.
         Unless all arguments have as many points.
 
     Notes
@@ -171,8 +173,8 @@ def collinearity(x, y, *, out=None):
     coordinates. A point is off it when the ratios of its offsets to theirs, in x and in y, differ
     by more than 1e-5: what is tolerated grows with the distance between the two.
 
-    Points that all have the x or the y of point 1, to within 1e-5, are on one line, as are fewer
-    than one. Not a number counts as equal to anything.
+    Points that all have the x or the y of the first, to within 1e-5, are on one line. Not a number
+    counts as equal to anything.
 
     Coordinates near one another within 1e-5 can leave no two points to draw the line through; then
     the points are not on one line, and finding that out takes n²/2 comparisons.
@@ -208,8 +210,8 @@ def count_enclosed(x, y, point_x, point_y, enclosed, *, out=None):
         X of the points [m].
     point_y : array_like of float, shape (..., points)
         Y of the points [m].
-    enclosed : Enclosed or array_like of int, shape (..., points)
-        1 for points that are enclosed; left as given for others: 0 not enclosed, 1 enclosed.
+    enclosed : Enclosed, or array_like of its names or numbers, shape (..., points)
+        1 for points that are enclosed: 0 not enclosed, 1 enclosed.
     out : tuple of ndarray, optional
         Where to put the results, as for any NumPy ufunc.
 
@@ -219,16 +221,15 @@ def count_enclosed(x, y, point_x, point_y, enclosed, *, out=None):
         A named tuple of:
 
     enclosed : int32, shape (..., points)
-        1 for points that are enclosed; left as given for others; as given for points that are not
-        enclosed.
+        1 for points that are enclosed; as given for points that are not enclosed.
     enclosed_points : int32
         Number of enclosed points.
 
     Raises
     ------
     ValueError
-        Unless there are at least 3 vertices.
-        Unless there are at least 1 points.
+        Unless the number of vertices is at least 3.
+        Unless the number of points is at least 1.
         Unless all arguments have as many vertices.
         Unless all arguments have as many points.
 
@@ -238,8 +239,6 @@ def count_enclosed(x, y, point_x, point_y, enclosed, *, out=None):
     less than 1e-5 in each coordinate) that comes before any such edge.
 
     Points that are not numbers are left of no edge, and so enclosed.
-
-    Without vertices or points the number enclosed is 0.
 
     Each element has the bits of GECLOS in quorvel.h.
 
@@ -286,21 +285,22 @@ def boundary_crossing(segment_start, segment_end, x, y, *, out=None):
     crossing_point : float32, shape (..., 2)
         Crossing point, or what the notes say [m]; 1e20 where there is none.
     crossing_code : int32
-        Number of the vertex that ends the crossed edge, or what the notes say.
+        Number, counted from 1, of the vertex that ends the crossed edge, or what the notes say.
 
     Raises
     ------
     ValueError
-        Unless there are at least 3 vertices.
+        Unless the number of vertices is at least 3.
         Unless all arguments have as many vertices.
 
     Notes
     -----
-    The edges are tried in turn, from vertex 1 to 2 on, as `crossing_point` does; the first one that
-    is crossed away from the start ends the search. A crossing beyond 100000 is none.
+    The edges are tried in turn, from that between the first two vertices on, as `crossing_point`
+    does; the first one that is crossed away from the start ends the search. A crossing beyond
+    100000 is none.
 
-    No such edge, but the start at a vertex j (to less than 1e-5): the code is -j, and the point is
-    the last outcome of the search, the start or 1e20.
+    No such edge, but the start at a vertex (to less than 1e-5): the code is its number with a
+    minus, and the point is the last outcome of the search, the start or 1e20.
 
     Otherwise, the start on edges: the code is 999 + the number of the vertex that ends the last of
     them, and the point that vertex. (The sum is taken modulo 2^32. Of a polygon with 1000 vertices
@@ -349,7 +349,7 @@ def inside(point, polygon, *, out=None):
     Raises
     ------
     ValueError
-        Unless there are at least 4 vertices.
+        Unless the number of vertices, the repeated one included, is at least 4.
 
     Notes
     -----
@@ -361,7 +361,7 @@ def inside(point, polygon, *, out=None):
     That the point is in the plane is not tested: over the middle of a square it is inside up to
     half the length of a side.
 
-    Fewer than one edge, and not a number, give 0.
+    Not a number gives 0.
 
     Each element has the bits of GEINSI in quorvel.h.
 
@@ -397,7 +397,7 @@ def parallel_planes(triangle_1, triangle_2, *, out=None):
     Returns
     -------
     truth : bool
-        -1 if so, else 0.
+        Whether they are parallel.
 
     Notes
     -----
@@ -441,18 +441,18 @@ def parallel_sides(triangle_1, triangle_2, *, out=None):
         A named tuple of:
 
     truth : bool
-        -1 if so, else 0.
+        Whether there are any.
     side_1 : int32
-        Side of triangle 1: 1 from corner 1 to 2, 2 from corner 2 to 3; 3 none.
+        Side of one triangle: 1 between its first two corners, 2 between its last two; 3 none.
     side_2 : int32
-        Side of triangle 2, likewise.
+        Side of the other, likewise.
 
     Notes
     -----
     Sides are parallel when their cross product is shorter than 0.001, so that short sides are
     parallel to any.
 
-    The sides from corner 3 to 1 are not tested.
+    The sides between last and first corner are not tested.
 
     Each element has the bits of GEPSID in quorvel.h.
 
@@ -490,11 +490,11 @@ def rectangular(quadrilateral, *, out=None):
     Returns
     -------
     truth : bool
-        -1 if so, else 0.
+        Whether it is rectangular.
 
     Notes
     -----
-    So it is when at corners 2, 3 and 4 the dot product of the two sides is at most 1e-6 in
+    So it is when at all corners but the first the dot product of the two sides is at most 1e-6 in
     magnitude.
 
     Each element has the bits of GERECT in quorvel.h.
@@ -591,11 +591,11 @@ def local_coordinates(quadrilateral_1, quadrilateral_2, *, out=None):
 
     Notes
     -----
-    The origin is corner 1 of the first; x points to corner 2, y to corner 4, z along the cross
-    product of the ways from corner 1 to corners 2 and 3.
+    The origin is the first corner of the first; from there x points to the second corner, y to the
+    fourth, z along the cross product of the ways to the second and the third.
 
     Coordinates are dot products with the axes, so that lengths are kept only where that has a right
-    angle at corner 1.
+    angle at its first corner.
 
     Coincident corners give what is not a number.
 
@@ -623,7 +623,7 @@ def local_coordinates(quadrilateral_1, quadrilateral_2, *, out=None):
 
 
 def to_local(corners, x_axis, y_axis, z_axis, *, out=None):
-    """Replaces each of four points by its components along three axes.
+    """Components of each of four points along three axes.
 
     Parameters
     ----------
@@ -866,7 +866,7 @@ def coincide(x_1, y_1, x_2, y_2, *, out=None, where=True):
     Returns
     -------
     truth : bool
-        -1 if both coordinates differ by less than 1e-5, else 0.
+        Whether both coordinates differ by less than 1e-5.
 
     Notes
     -----
@@ -1162,14 +1162,13 @@ def plan_area(x, y, *, out=None):
     Raises
     ------
     ValueError
-        Unless there are at least 3 vertices.
+        Unless the number of vertices is at least 3.
         Unless all arguments have as many vertices.
 
     Notes
     -----
-    Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
-
-    Fewer than one vertex give 0.
+    Formula: half the size of the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the
+    first
 
     A polygon far from the origin beside its size loses digits.
 
@@ -1211,12 +1210,12 @@ def signed_plan_area(x, y, *, out=None):
     Raises
     ------
     ValueError
-        Unless there are at least 3 vertices.
+        Unless the number of vertices is at least 3.
         Unless all arguments have as many vertices.
 
     Notes
     -----
-    Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), before vertex 1 the last
+    Formula: half the sum of x(i) y(i - 1) - y(i) x(i - 1), the last one before the first
 
     As `plan_area`.
 
@@ -1260,7 +1259,7 @@ def area_in_space(x, y, z, *, out=None):
     Raises
     ------
     ValueError
-        Unless there are at least 3 vertices.
+        Unless the number of vertices is at least 3.
         Unless all arguments have as many vertices.
 
     Notes
@@ -1268,8 +1267,6 @@ def area_in_space(x, y, z, *, out=None):
     It is the sum of the triangles over the edges with the mean of the vertices as apex, all counted
     as positive: too large for a polygon that is not seen whole from there. Of the surfaces of real
     buildings 3.3 % come out too large by more than 0.1 %, half of these by more than 7 %.
-
-    Fewer than one vertex give 0.
 
     Each element has the bits of GEAPO3 in quorvel.h.
 
@@ -1305,34 +1302,31 @@ def polygon_orientation(polygon, *, out=None):
         A named tuple of:
 
     area : float32
-        Area, positive when the vertices run as the corner at vertex 1 turns [m²].
+        Area, positive when the vertices run as the corner at the first one turns [m²].
     tilt : float32
-        Angle between the normal and the vertical [°]; not a number with fewer than one vertex.
+        Angle between the normal and the vertical [°].
     back_azimuth : float32
-        Azimuth opposite to the normal [°]; not a number with fewer than one vertex.
+        Azimuth opposite to the normal [°].
 
     Raises
     ------
     ValueError
-        Unless there are at least 3 vertices.
+        Unless the number of vertices is at least 3.
 
     Notes
     -----
-    The normal points to where the corner at vertex 1 is seen to turn anticlockwise: its opposite is
-    the outward normal of a convex polygon that runs clockwise seen from outside.
+    The normal points to where the corner at the first vertex is seen to turn anticlockwise: its
+    opposite is the outward normal of a convex polygon that runs clockwise seen from outside.
 
-    Only the corner at vertex 1 gives the plane. Of 31605 surfaces of real buildings 141 begin
-    within a straight side, and for 7 of these rounding alone decides the normal, so that area, tilt
-    and orientation are wrong: let vertex 1 be a true corner.
+    Only the corner at the first vertex gives the plane. Of 31605 surfaces of real buildings 141
+    begin within a straight side, and for 7 of these rounding alone decides the normal, so that
+    area, tilt and orientation are wrong: let the first vertex be a true corner.
 
     The orientation of a nearly level polygon (the cosine of its tilt beyond 0.999) is the azimuth
-    opposite to its first side, from vertex 1 to 2, if the normal points up, and that of the side if
-    it points down.
+    opposite to its first side if the normal points up, and that of the side if it points down.
 
     Degrees are radians times 180 by 3.141593, so that right angles can be one step off, and what
     faces north may get 0.00003.
-
-    Of one vertex or two the area is 0. Fewer than one vertex give an area of 0.
 
     Each element has the bits of GEASO in quorvel.h.
 

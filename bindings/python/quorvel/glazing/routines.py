@@ -424,7 +424,7 @@ def stacked_layers(layer_transmittances, layer_reflectances, *, out=None):
     Where transmittance and reflectance exceed 0.99 together, the reflectance is reduced until they
     do not. It turns negative if the transmittance alone is above 0.99.
 
-    A count below 1 is an empty stack, which transmits everything; no array is read.
+    The last layer is met first. No layers are an empty stack, which transmits everything.
 
     Each element has the bits of WNCOM2 in quorvel.h.
 
@@ -469,16 +469,16 @@ def traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, 
         A named tuple of:
 
     transmittance : float32
-        Transmittance of the stack; not a number with more than 11 layers.
+        Transmittance of the stack.
     absorptance : float32
-        Absorptance of the stack; not a number with more than 11 layers.
+        Absorptance of the stack.
     reflectance : float32
-        Reflectance of the stack; not a number with more than 11 layers.
+        Reflectance of the stack.
 
     Raises
     ------
     ValueError
-        Unless there are 0 to 11 layers.
+        Unless the number of layers is at most 11.
         Unless all arguments have as many layers.
 
     Notes
@@ -488,7 +488,7 @@ def traced_layers(layer_transmittances, layer_absorptances, layer_reflectances, 
     two, the ninth power of the product of their reflectances as a share of the transmittance; of
     ten and eleven layers all that the last ones reflect.
 
-    A count below 1 is an empty stack, which transmits everything; no array is read.
+    The last layer is met first. No layers are an empty stack, which transmits everything.
 
     That transmittance, absorptance and reflectance of a layer add up to 1 is left to the caller.
 
@@ -704,8 +704,6 @@ def surface_reflectance(incidence, refraction_angle, refractive_index, *, out=No
     Up to an angle of 0.01 in size, and for an incidence that is no number, both are the value at
     normal incidence, ((1 - n) / (1 + n))^2 with the refractive index n. `refraction_angle` tests
     the sine of the angle instead; the two limits differ deliberately.
-
-    The perpendicular one is written first.
 
     Each element has the bits of WNREFL in quorvel.h.
 
@@ -960,20 +958,20 @@ def pane_temperatures(inside_temperature, outside_temperature, panes, absorbed_1
         A named tuple of:
 
     pane_temperature_1 : float32
-        Temperature of pane 1, nearest the room [°C]; not a number with a count outside 1 to 5.
+        Temperature of pane 1, nearest the room [°C]; not a number with panes outside 1 to 5.
     pane_temperature_2 : float32
-        Temperature of pane 2 [°C]; not a number with a count outside 2 to 5.
+        Temperature of pane 2 [°C]; not a number with panes outside 2 to 5.
     pane_temperature_3 : float32
-        Temperature of pane 3 [°C]; not a number with a count outside 3 to 5.
+        Temperature of pane 3 [°C]; not a number with panes outside 3 to 5.
     pane_temperature_4 : float32
-        Temperature of pane 4 [°C]; not a number with a count outside 4 to 5.
+        Temperature of pane 4 [°C]; not a number with panes outside 4 to 5.
     pane_temperature_5 : float32
-        Temperature of pane 5 [°C]; not a number with a count outside 4 to 5.
+        Temperature of pane 5 [°C]; not a number with panes outside 4 to 5.
 
     Notes
     -----
-    Only as many absorbed values are read as there are panes. Four panes are calculated as five:
-    what the fifth absorbs is read (give 0 for it), and its temperature is written.
+    What is given as absorbed in panes that are not there has no influence. Four panes are
+    calculated as five: what the fifth absorbs counts (give 0 for it), and it has a temperature.
 
     Each element has the bits of WNTEMP in quorvel.h.
 
@@ -1151,18 +1149,20 @@ def unit_direct_shares(shortwave_shading_coefficient, longwave_shading_coefficie
     transmittance : float32
         Transmittance.
     pane_shares : float32, shape (..., 5)
-        Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1
-        to 5.
+        Share of each pane in 1 - transmittance - absorptance.
     absorptance : float32
         Absorptance.
+
+    Raises
+    ------
+    ValueError
+        Unless the number of panes is 1 to 5.
 
     Notes
     -----
     What is split is the remainder, not the absorptance.
 
-    Transmittance and absorptance are returned whatever the number of panes.
-
-    Beyond the count `panes`, what it counts is not a number.
+    Elements of `pane_shares` beyond `panes` are not numbers.
 
     Each element has the bits of WNDRSM in quorvel.h.
 
@@ -1212,16 +1212,20 @@ def unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coeffici
     transmittance : float32
         Diffuse transmittance.
     pane_shares : float32, shape (..., 5)
-        Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1
-        to 5.
+        Share of each pane in 1 - transmittance - absorptance.
     absorptance : float32
         Diffuse absorptance.
+
+    Raises
+    ------
+    ValueError
+        Unless the number of panes is 1 to 5.
 
     Notes
     -----
     The remainder is split as in `unit_direct_shares`.
 
-    Beyond the count `panes`, what it counts is not a number.
+    Elements of `pane_shares` beyond `panes` are not numbers.
 
     Each element has the bits of WNDFSM in quorvel.h.
 
@@ -1241,7 +1245,7 @@ def unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coeffici
     >>> bool(abs(result.absorptance - 0.261) <= 0.0006)
     True
 
-    (0.4 and 0.6 of the remainder of WNDFSC)
+    (0.4 and 0.6 of the remainder of `unit_diffuse`)
     """
     return _new(UnitDiffuseShares, _unit_diffuse_shares(shortwave_shading_coefficient, longwave_shading_coefficient, panes, out, True))
 
@@ -1251,9 +1255,9 @@ def unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coeff
 
     Parameters
     ----------
-    radiation : Radiation or array_like of int
-        Kind of radiation: 1 direct radiation (WNDRSM), 2 diffuse radiation (WNDFSM), as any other
-        value.
+    radiation : Radiation, or array_like of its names or numbers
+        Kind of radiation: 1 direct radiation (`unit_direct_shares`), 2 diffuse radiation
+        (`unit_diffuse_shares`), as any other value.
     shortwave_shading_coefficient : array_like of float
         Short-wave shading coefficient; the total one if the long-wave one is missing; valid 0 to
         1.05.
@@ -1274,16 +1278,20 @@ def unit_shares(radiation, shortwave_shading_coefficient, longwave_shading_coeff
     transmittance : float32
         Transmittance.
     pane_shares : float32, shape (..., 5)
-        Share of each pane in 1 - transmittance - absorptance; not a number with a count outside 1
-        to 5.
+        Share of each pane in 1 - transmittance - absorptance.
     absorptance : float32
         Absorptance.
+
+    Raises
+    ------
+    ValueError
+        Unless the number of panes is 1 to 5.
 
     Notes
     -----
     The remainder is split as in `unit_direct_shares`.
 
-    Beyond the count `panes`, what it counts is not a number.
+    Elements of `pane_shares` beyond `panes` are not numbers.
 
     Each element has the bits of WNDRS0 in quorvel.h.
 
@@ -1727,6 +1735,6 @@ def open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_a
     >>> bool(abs(result.ground_absorptance - 0.469) <= 0.006)
     True
 
-    (0.2 + 0.8 (sqrt(2) - 1), as in WNDFSL)
+    (0.2 + 0.8 (sqrt(2) - 1), as in `slat_diffuse`)
     """
     return _new(OpenSlatDiffuse, _open_slat_diffuse(slat_spacing, slat_width, slat_angle, open_share, struck_absorptance, opposite_absorptance, out, where))

@@ -4,14 +4,33 @@ from typing import Any, NamedTuple
 
 import numpy as np
 
+from .._labelled import describe
 from . import routines as r
 
 __all__ = ["State", "cooled", "heated", "humidified", "mixed", "state"]
 
 
 class State(NamedTuple):
-    """Moist air; single numbers, arrays, or tables and labelled arrays, as they were given. As a table, with a column
-    for each quantity: `pandas.DataFrame(state._asdict())`.
+    """Moist air; single numbers, arrays, or tables and labelled arrays, as they were given.
+
+    As all that has several results it is a named tuple, of which tables are made without more ado. A table of pandas
+    has a column for each quantity and the index of the Series given, a data set of xarray dimensions, units and long
+    names; single numbers are a row.
+
+    >>> import pandas, xarray
+    >>> from quorvel import psychro
+    >>> table = pandas.DataFrame({"t": [20.0, 30.0]}, index=["room", "roof"])
+    >>> air = psychro.state(t=table.t, rh=50)
+    >>> pandas.DataFrame(air._asdict())[["dry_bulb", "dew_point", "pressure"]].round(1)
+          dry_bulb  dew_point  pressure
+    room      20.0        9.3  101325.0
+    roof      30.0       18.4  101325.0
+    >>> pandas.DataFrame([psychro.state(t=20, rh=50)])[["dry_bulb", "dew_point"]].round(1)
+       dry_bulb  dew_point
+    0      20.0        9.3
+    >>> air = psychro.state(t=xarray.DataArray([20.0, 30.0], dims="time"), rh=50)
+    >>> xarray.Dataset(air._asdict()).enthalpy.attrs["units"]
+    'kJ/kg'
     """
 
     dry_bulb: Any
@@ -228,8 +247,19 @@ def _single(value):
     return value.astype(np.float32) if hasattr(value, "astype") else np.asarray(value, np.float32)[()]
 
 
+def _described(value, name):
+    """An array of xarray with the unit of that quantity, of which there may be none yet where it was given."""
+    if hasattr(value, "dims"):
+        from ..catalogue import ROUTINES
+
+        arguments = (*ROUTINES["percentage_saturation"].inputs, *ROUTINES["relative_humidity"].inputs)
+        describe(value, next(argument for argument in arguments if argument.name == name))
+    return value
+
+
 def _complete(t, humidity, p, psychrometer):
     """All quantities from dry bulb, and vapour pressure or moisture content."""
+    t, p = _described(t, "dry_bulb"), _described(p, "pressure")
     g = humidity["g"] if "g" in humidity else r.moisture_content(t, humidity["pv"], p)
     pv = humidity["pv"] if "pv" in humidity else r.vapour_pressure_from_moisture_content(t, g, p)
     return State(
@@ -238,9 +268,9 @@ def _complete(t, humidity, p, psychrometer):
         relative_humidity=r.relative_humidity(t, pv),
         percentage_saturation=r.percentage_saturation(t, g, p),
         dew_point=r.dew_point(pv),
-        moisture_content=g,
+        moisture_content=_described(g, "moisture_content"),
         enthalpy=r.specific_enthalpy(t, g),
-        vapour_pressure=pv,
+        vapour_pressure=_described(pv, "vapour_pressure"),
         specific_volume=r.specific_volume(t, g, p),
         density=r.moist_air_density(t, g, p),
         pressure=p,

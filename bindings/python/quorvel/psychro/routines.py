@@ -732,7 +732,7 @@ def dry_bulb_from_wet_bulb_and_vapour_pressure(wet_bulb, vapour_pressure, pressu
         Vapour pressure [Pa]; valid from 0.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -781,7 +781,7 @@ def dry_bulb_from_wet_bulb_and_moisture_content(wet_bulb, moisture_content, pres
         Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -834,7 +834,7 @@ def dry_bulb_from_wet_bulb_and_relative_humidity(wet_bulb, relative_humidity, pr
         Relative humidity [%]; valid 0 to 100.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -888,7 +888,7 @@ def dry_bulb_from_wet_bulb_and_percentage_saturation(wet_bulb, percentage_satura
         Percentage saturation [%]; valid 0 to 100.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -942,7 +942,7 @@ def dry_bulb_from_wet_bulb_and_enthalpy(wet_bulb, enthalpy, pressure, psychromet
         Specific enthalpy, by mass of dry air [kJ/kg]; valid -10 to 460.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -1061,7 +1061,7 @@ def moisture_content_from_psychrometer(dry_bulb, wet_bulb, pressure, psychromete
         Wet-bulb temperature [°C]; valid -100 to 200.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -1431,7 +1431,7 @@ def specific_enthalpy_from_psychrometer(dry_bulb, wet_bulb, pressure, psychromet
         Wet-bulb temperature [°C]; valid -100 to 200.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -1657,7 +1657,7 @@ def pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moist
     True
 
     ((-0.059 + 0.000079 (3783 - 1915)) / 3600; 1915 Pa is that moisture content; heat flows as in
-    TPPOOL2)
+    `pool_evaporation_from_wet_bulb`)
     """
     return _new(PoolEvaporation, _pool_evaporation(water_area, wetted_area, water_temperature, dry_bulb, moisture_content, reference_temperature, bathers, reference_coefficient, pressure, out, where))
 
@@ -1932,7 +1932,7 @@ def vapour_pressure_from_psychrometer(dry_bulb, wet_bulb, pressure, psychrometer
         Wet-bulb temperature [°C]; valid -100 to 200.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -2033,7 +2033,7 @@ def psychrometer_wet_bulb(dry_bulb, relative_humidity, pressure, psychrometer, *
         Relative humidity [%]; valid 0 to 100.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -2089,7 +2089,7 @@ def wet_bulb_from_percentage_saturation(dry_bulb, percentage_saturation, pressur
         Percentage saturation [%]; valid 0 to 100.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -2148,7 +2148,7 @@ def wet_bulb_from_moisture_content(dry_bulb, moisture_content, pressure, psychro
         Moisture content, water vapour per dry air [kg/kg]; valid 0 to 0.1.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.
@@ -2204,7 +2204,7 @@ def wet_bulb(dry_bulb, vapour_pressure, pressure, psychrometer, *, out=None, whe
         Vapour pressure [Pa]; valid from 0.
     pressure : array_like of float
         Atmospheric pressure [Pa]; valid 50000 to 110000.
-    psychrometer : Psychrometer or array_like of int
+    psychrometer : Psychrometer, or array_like of its names or numbers
         Psychrometer type: 1 sling (aspirated), 2 screen (naturally ventilated).
     out : ndarray, optional
         Where to put the results, as for any NumPy ufunc.

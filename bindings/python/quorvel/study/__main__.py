@@ -31,7 +31,8 @@ def main(args=None):
 def _options(args):
     parser = argparse.ArgumentParser(prog="python -m quorvel.study", description="Run a parametric study of a facade.")
     parser.add_argument("study", help="TOML file; quorvel.study.definition describes it")
-    parser.add_argument("--result", help="Zarr group to make or to go on with (default: the file's name with .zarr)")
+    parser.add_argument("--result", help="Zarr group to make or to go on with, a folder or the URL of a store "
+                        "(default: the file's name with .zarr)")
     parser.add_argument("--plan", "--check", action="store_true", help="say how much and how long, without running")
     where = parser.add_mutually_exclusive_group()
     where.add_argument("--threads", type=int, default=processors(), help="threads of this machine")
@@ -60,8 +61,11 @@ def _plan(study, options):
 
 
 def _run(study, options):
+    from .places import place_of
     from .store import open_result
 
+    if options.scheduler:
+        place_of(options.result).expect_shared()
     result = open_result(study, options.result)
     all_chunks, there = len(chunks(study)), len(result.done())
     with _executor(options) as (executor, workers):

@@ -5,13 +5,9 @@ The group also holds the study itself and the weather of its stations, so that a
 
 import hashlib
 import json
-import os
-import shutil
-import tempfile
 import warnings
 from dataclasses import replace
 from functools import lru_cache
-from pathlib import Path
 
 import numpy as np
 
@@ -20,6 +16,7 @@ from . import model
 from ._extra import needed
 from .chunks import chunk_shape, chunks, extent
 from .definition import HOURS, Study
+from .places import place_of
 from .sun import YEAR, Place
 from .table import StudyError
 from .weather import Weather, weather_of
@@ -42,7 +39,7 @@ _WEATHER = {"direct_normal": "direct normal irradiance, mean of the hour",
 
 
 def open_result(study, path):
-    """The result of a study at a path, made where there is none.
+    """The result of a study at a path or URL, made where there is none.
 
     Raises
     ------
@@ -51,18 +48,20 @@ def open_result(study, path):
     """
     weather = [weather_of(station) for station in study.stations]
     identity = _identity(study, weather)
-    if not os.path.lexists(path):
-        _create(Path(path), study, weather, identity)
+    place = place_of(path)
+    if not place.exists():
+        _create(place, study, weather, identity)
     result = Result(path)
     _same_study(path, result.identity, identity)
     return result
 
 
 class Result:
-    """A result that exists. It may be sent to another process, which must see the same file system."""
+    """A result that exists. It may be sent to another process, which must see the same file system or store."""
 
     def __init__(self, path):
-        self.path = os.path.abspath(path)
+        self.where = place_of(path)
+        self.path = self.where.path
         try:
             self.group = zarr.open_group(self.path, mode="r+")
             self.identity = json.loads(self.group.attrs["quorvel_study"])
@@ -71,6 +70,7 @@ class Result:
         self.study = Study(**self.identity["study"])
 
     def __reduce__(self):
+        self.where.expect_shared()
         return _reopened, (self.path, self.stamp)
 
     @property
@@ -85,15 +85,14 @@ class Result:
 
     def done(self):
         """The places of the chunks that are there: files of the variable that is written last."""
-        last = os.path.join(self.path, _variable(self.study.keep[-1]))
-        names = {entry.name for entry in os.scandir(last)}
+        names = self.where.names(_variable(self.study.keep[-1]))
         return [place for place in chunks(self.study) if _file(self.study, place) in names]
 
     def has(self, place):
-        return os.path.exists(os.path.join(self.path, _variable(self.study.keep[-1]), _file(self.study, place)))
+        return self.where.has(_variable(self.study.keep[-1]), _file(self.study, place))
 
     def write(self, place, arrays):
-        """Write a chunk: each variable's file appears whole, by renaming, and the last one says that all are there."""
+        """Write a chunk: each variable's file appears whole, and the last one says that all are there."""
         for name in self.study.keep:
             self.group[_variable(name)][extent(self.study, place)] = arrays[name]
 
@@ -135,13 +134,11 @@ def _same_study(path, found, wanted):
                          "remove it or choose another path with --result")
 
 
-def _create(path, study, weather, identity):
-    """All but the chunks, under another name first: what has the path is complete."""
-    path.parent.mkdir(parents=True, exist_ok=True)
-    unfinished = tempfile.mkdtemp(prefix=f".{path.name}.", dir=path.parent)
-    try:
-        group = zarr.open_group(unfinished, mode="w", attributes={
-            "title": "Parametric study of a facade", "source": "quorvel.study", "quorvel_study": json.dumps(identity)})
+def _create(place, study, weather, identity):
+    """All but the chunks. What says whose result it is comes last: what has it is complete."""
+    with place.made() as location:
+        group = zarr.open_group(location, mode="w-", attributes={
+            "title": "Parametric study of a facade", "source": "quorvel.study"})
         _label(group, study)
         _store_weather(group, weather)
         for name in study.keep:
@@ -152,13 +149,10 @@ def _create(path, study, weather, identity):
                 dtype="float32", fill_value=np.nan, dimension_names=AXES + ((axis,) if axis else ()),
                 chunk_key_encoding={"name": "default", "separator": "."},
                 attributes={"units": unit, "long_name": meaning, "coordinates": "latitude longitude time_zone"})
+        group.attrs["quorvel_study"] = json.dumps(identity)
         with warnings.catch_warnings():  # of readers that do not know consolidated metadata
             warnings.simplefilter("ignore")
-            zarr.consolidate_metadata(group.store)
-        os.chmod(unfinished, 0o755)
-        os.rename(unfinished, path)
-    finally:
-        shutil.rmtree(unfinished, ignore_errors=True)
+            zarr.consolidate_metadata(group.store, path=group.path)
 
 
 def _label(group, study):
