@@ -71,6 +71,8 @@ class Routine<Result(Pointers...)> {
     // Of a library that is not the one loaded above.
     explicit Routine(void* address)
         : name_(nullptr), function_(reinterpret_cast<Function>(address)) {}
+    Routine(const Routine& other)
+        : name_(other.name_), function_(other.function_.load(std::memory_order_relaxed)) {}
 
     Result operator()(const Argument<Pointers>&... arguments) const {
         return address()(arguments.address()...);
