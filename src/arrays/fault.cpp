@@ -28,10 +28,10 @@ struct Span {
 };
 
 // Whether elements are so many, or so far apart, that they would go round all addresses.
-bool wraps(std::int64_t step, std::size_t count) noexcept {
+bool wraps(std::int64_t step, std::uint64_t count) noexcept {
     constexpr std::int64_t most = INT64_MAX / 2;
     std::int64_t reach = 0;
-    return count > std::uint64_t{most} ||
+    return count > static_cast<std::uint64_t>(most) ||
            __builtin_mul_overflow(step, static_cast<std::int64_t>(count - 1), &reach) ||
            reach > most || reach < -most;
 }
