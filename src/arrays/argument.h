@@ -7,6 +7,8 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 
 #include "arrays/number.h"
 #include "arrays/numbers_in.h"
@@ -15,6 +17,12 @@ namespace quorvel::arrays {
 
 inline constexpr std::size_t block = 256;  // elements
 
+// No arithmetic of pointers, since a step beyond the last element may lead out of all memory.
+inline char* moved(char* at, std::ptrdiff_t by) noexcept {
+    return reinterpret_cast<char*>(reinterpret_cast<std::uintptr_t>(at) +
+                                   static_cast<std::uintptr_t>(by));
+}
+
 // Where the elements are that a caller passes: at a distance in bytes, which is 0 where one serves
 // all.
 struct Place {
@@ -22,7 +30,7 @@ struct Place {
     std::ptrdiff_t step;
 
     Place from(std::size_t element) const noexcept {
-        return {at + static_cast<std::ptrdiff_t>(element) * step, step};
+        return {moved(at, static_cast<std::ptrdiff_t>(element) * step), step};
     }
 };
 
@@ -74,7 +82,7 @@ class Argument {
     T* number(std::size_t k) const noexcept {
         return reinterpret_cast<T*>(next_ + k * to_next_number_);
     }
-    void advance() noexcept { next_ += to_next_pack_; }
+    void advance() noexcept { next_ = moved(next_, to_next_pack_); }
 
     Place place_;
     char* next_ = nullptr;
