@@ -2,7 +2,9 @@
 //     quorvel_compare OTHER_LIBRARY [ROUTINE...]
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <vector>
 
 #include "conformance/climate_file.h"
 #include "conformance/random_arguments.h"
@@ -24,7 +26,7 @@ class Calls {
         Random random(1);
         for (int i = 0; i < 256; ++i) sets_.emplace_back(routine).draw_valid(random);
     }
-    void make(void* function, int count) const {
+    void make(void* function, int count) {
         std::uint64_t result;
         for (int i = 0; i < count; ++i)
             routine_.call(reinterpret_cast<Address>(function), sets_[i % 256].addresses(), &result);
@@ -32,11 +34,11 @@ class Calls {
 
   private:
     const Routine& routine_;
-    mutable std::vector<ArgumentSet> sets_;
+    std::vector<ArgumentSet> sets_;
 };
 
 void compare(const Routine& routine, void* here, void* other) {
-    const Calls calls(routine);
+    Calls calls(routine);
     constexpr int trial = 256;
     const double each = bench::elapsed(trial, [&] { calls.make(here, trial); });
     const int count = std::max(16, static_cast<int>(round_time / each));

@@ -63,7 +63,7 @@ class Call {
         for (int k = 0; k < arguments(); ++k)
             if (at_[k] == nullptr) return status(QUORVEL_NO_ARRAY, k);
         for (int k = 0; k < arguments(); ++k)
-            if (wraps(step_[k], static_cast<std::size_t>(count_)))
+            if (wraps(step_[k], static_cast<std::uint64_t>(count_)))
                 return status(QUORVEL_OVERLAP, k);
         for (int k = 0; k < routine_.inputs; ++k)
             if (counts_outside(k)) return status(QUORVEL_OUTSIDE_RANGE, k);

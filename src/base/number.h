@@ -4,10 +4,10 @@
 //     MaskOf<R>, IntegerOf<R>     what comparisons give; selectors, days and counts
 //     DoubleOf<R>                 what formulas compute in that need more than single precision
 //     select(mask, a, b)          one of two values at hand
-//     either(mask, f, g)          one of two calculations; only what is needed is evaluated. The
-//     first either(rarely(mask), f, g)  is the usual one, and compiled as such, or else the
-//     exception piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where
-//     none does both(mask, f)               mask & f(), where f is evaluated only if needed
+//     either(mask, f, g)          one of two calculations; only what is needed is evaluated
+//     rarely(mask)                the mask, for an either whose first calculation is the exception
+//     piecewise(mask, f, ..., g)  the first calculation whose mask holds, the last where none does
+//     both(mask, f)               mask & f(), where f is evaluated only if needed
 //     any(mask)                   whether the mask holds anywhere
 //     lookup(table, index)        an element of a table, counted from 0; the index must be in it
 //     replaced(mask, y, f, x...)  y, but f(x...) of single numbers where the mask holds, which is
@@ -17,6 +17,8 @@
 //
 // Masks are combined by & | and !, since && and || cannot be had for more than one number. A
 // formula that takes no R from its arguments is called as f<R>(...).
+// Either takes its first calculation for the usual one, which decides how a single number is
+// compiled and no result.
 #pragma once
 
 #include <cmath>

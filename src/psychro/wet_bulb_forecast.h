@@ -3,12 +3,12 @@
 // Every search compares the vapour pressure that the psychrometer equation implies at a trial wet
 // bulb with that of the air, pv: it asks for the sign of
 //     excess(twb) = ps(twb) - Ap (t - twb) - pv.
-// ps rises with temperature, and ever faster but for a twelfth at 0 °C, from ice to water. So one
-// known ps(x0) and four fifths of its slope there bound ps from below for every twb above x0, and
-// from above for those less than half a kelvin below it; without the slope, for all below it. What
-// is left is linear in twb to either side of 0 °C, and steeper above: it comes to a margin at one
-// temperature, and two comparisons decide. x0 is taken close to the root, so only trials next to it
-// remain in doubt.
+// ps rises with temperature, and ever faster but at 0 °C, where it rises a ninth slower over water
+// than over ice. So one known ps(x0) and four fifths of its slope there bound ps from below for
+// every twb above x0, and from above for those less than half a kelvin below it; without the slope,
+// for all below it. What is left is linear in twb to either side of 0 °C, and steeper above: it
+// comes to a margin at one temperature, and two comparisons decide. x0 is taken close to the root,
+// so only trials next to it remain in doubt.
 //
 // Rounding: the exponent of ps, some 34 before cancellation, is good to 7e-6, so ps to 2e-5 of
 // itself. Callers choose a margin of more than twice what this and their own comparison err by, and
@@ -78,8 +78,8 @@ class WetBulbForecast {
         return select(x0_ < 0.0f, R(6134.0f), 5422.0f - 4.5f * x0_) / (T * T);
     }
 
-    // Where, as ps rises from that at x0, the excess comes to 0 if it lacks slope (t - x0) of `gap`
-    // there; with room for the rounding on the side of `towards`.
+    // The twb at which gap + rise (twb - x0) - slope (t - twb) comes to 0, gap being what ps(x0)
+    // exceeds pv by; with room for the rounding on the side of `towards`.
     R bound(R gap, R rise, R slope, Real towards) const noexcept {
         const R depression = (gap + rise * (t_ - x0_)) / (slope + rise);
         return (t_ - depression) + towards * (1e-3f + 1e-6f * absolute(depression));
